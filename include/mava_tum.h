@@ -1,0 +1,16 @@
+/* The whole library: codec records and codec functions, application records and adapters.
+ * Start at mava_tum/codec_contract.h and tum_nal/adapter_contract.h. */
+#ifndef MAVA_TUM_H
+#define MAVA_TUM_H
+
+#include "mava_tum/codec_contract.h"
+#include "mava_tum/feature_records.h"
+#include "mava_tum/routes.h"
+#include "mava_tum/session_messages.h"
+#include "mava_tum/subscriber_records.h"
+
+#include "tum_nal/adapter_contract.h"
+#include "tum_nal/nal_routes.h"
+#include "tum_nal/nal_session_context.h"
+
+#endif

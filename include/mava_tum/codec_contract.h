@@ -1,0 +1,110 @@
+/* What the codec functions of all messages share. Read this once; the other headers give only what differs.
+ *
+ * Every message has a codec record, a plain structure `mava_tum_<message>`, and four functions:
+ *
+ *     mava_tum_<message>_decode_ext   wire bytes -> record        returns a result code (below)
+ *     mava_tum_<message>_encode_ext   record -> wire bytes        returns the size needed, in bytes
+ *     mava_tum_<message>_duplicate    deep copy                   returns MAVA_TUM_OK or MAVA_TUM_NO_MEMORY
+ *     mava_tum_<message>_free_ext     gives back what the record owns; never the record itself
+ *
+ * The wire is the protobuf binary format (https://protobuf.dev/programming-guides/encoding/): varint, fixed32 and
+ * length-delimited fields; no groups, no zigzag, no packed fields. All functions are pure: they keep no state, log
+ * nothing, start no thread, and touch only their arguments, so any number of threads may call them on distinct
+ * records. None of them throws.
+ *
+ * Records
+ *   Value fields stand in field-number order; `presence_mask` is the last member. Field number n owns bit n-1 of the
+ *   mask. A decode sets the bit of each field that it stores; an encode writes a scalar, a bytes field, a text or an
+ *   array only when its bit is set. Bits that belong to no field ("spare") are kept as they are by every function.
+ *     varint, fixed32   an unsigned integer in host byte order.
+ *     bytes             a `mava_tum_bytes`: pointer and length in bytes. Length 0 is a value like any other.
+ *     text              a `char *` to a NUL-terminated copy; null when absent. Neither length nor character set is
+ *                       limited; a NUL inside the wire bytes ends the text early for whoever reads it.
+ *     record            another message's record, held inline. It is written when its bit is set or when it has
+ *                       content of its own.
+ *     array of ...      a pointer to `<name>_count` contiguous elements, in wire order. No maximum.
+ *   Before an encode or a duplicate, zero the record (`= {0}`) and then set fields and their bits.
+ *
+ * Decoding
+ *   The record is reset first: all fields zero, all own bits clear, at every depth. What it pointed to before is
+ *   dropped, so call `_free_ext` first on a record that owns memory. `data` may be null when `length` is 0.
+ *   Scalars and records: the last occurrence wins; records are not merged. A second occurrence of a bytes field, of a
+ *   text, or of an array after another field has come in between, is an error. When a record occurs twice, the memory
+ *   that its first occurrence obtained is dropped. Unknown fields are skipped. On failure the record keeps all fields
+ *   decoded before it, with their memory: call `_free_ext` all the same.
+ *   The codec puts no limit on counts and lengths: a list of empty elements asks for many times its size on the wire
+ *   (at most 328 times, for session contexts inside a replay). Bound the input, or give an `alloc_fn` with a budget.
+ *
+ * Encoding
+ *   Call with buffer null and length 0 to learn the size. When `length` is too small, single bytes are written up to
+ *   it, a text or bytes field that does not fit whole is left out whole, and the full size is still returned. Nothing
+ *   is written beyond the returned size.
+ *   `segments` and `segment_count`, both optional, receive the output as pieces: on entry `*segment_count` is the
+ *   capacity of `segments` in elements, on return the number of pieces, which may be larger. Without the alias bit
+ *   that is one piece, the whole output (none if it is empty). With it, each bytes field that is not empty is a piece
+ *   of its own that points at the record's memory; the result counts only the bytes in `buffer`, and lengths written
+ *   in front of nested records count only those too. That mode is for callers who lay out the pieces themselves.
+ *
+ * Ownership
+ *   A record owns its texts and arrays always, its bytes fields unless it was decoded with the alias bit. After
+ *   `_free_ext` released a bytes field, the field's length and bit remain: decode into the record anew or zero it
+ *   before using it again. */
+#ifndef MAVA_TUM_CODEC_CONTRACT_H
+#define MAVA_TUM_CODEC_CONTRACT_H
+
+#include <stdint.h>
+
+#if defined(__GNUC__)
+#define MAVA_TUM_API __attribute__((visibility("default")))
+#else
+#define MAVA_TUM_API
+#endif
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+/* Results of `_decode_ext` and `_duplicate`. The values are part of the ABI. */
+enum {
+    MAVA_TUM_OK = 0,
+    /* The input ends inside a tag or a value, a length runs past its end, or a bytes field, a text or an array occurs
+     * a second time. */
+    MAVA_TUM_TRUNCATED = -1,
+    /* An unknown field has wire type 3, 4, 6 or 7, which cannot be skipped. */
+    MAVA_TUM_UNSUPPORTED_WIRE_TYPE = -2,
+    /* A known field arrives with another wire type than its own. */
+    MAVA_TUM_WRONG_WIRE_TYPE = -3,
+    /* `alloc_fn` returned null, or is null where a block is needed. */
+    MAVA_TUM_NO_MEMORY = -4
+};
+
+/* The alias bit of `flags`; all other bits are ignored.
+ * decode: bytes fields point into the input, which must outlive the record, and are not copied.
+ * encode: bytes fields become segments of their own. free: bytes fields are not released. */
+enum { MAVA_TUM_ALIAS = 1 };
+
+/* Returns a block of at least `size` bytes, aligned for any record, or null. `alloc_ctx` comes from the caller,
+ * unchanged. `size` may be 0 (an empty bytes field); null then counts as a failure too. */
+typedef void *(*mava_tum_alloc_fn)(uint64_t size, void *alloc_ctx);
+
+/* Gives back one block that the allocator callback returned. Never called with null. */
+typedef void (*mava_tum_release_fn)(void *pointer, void *release_ctx);
+
+/* A bytes field. `length` is in bytes. */
+typedef struct mava_tum_bytes {
+    uint8_t *data;
+    uint64_t length;
+} mava_tum_bytes;
+
+/* One piece of an encoder's output. `length` is in bytes. `data` is null for a piece that lies in the buffer when the
+ * call had no buffer there. */
+typedef struct mava_tum_segment {
+    const uint8_t *data;
+    uint64_t length;
+} mava_tum_segment;
+
+#ifdef __cplusplus
+}
+#endif
+
+#endif

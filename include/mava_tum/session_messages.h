@@ -1,0 +1,79 @@
+/* The session as a whole, and the messages that delete it or answer an operation on it.
+ *
+ * Result codes, the alias bit, callbacks, ownership and what all messages share: codec_contract.h. */
+#ifndef MAVA_TUM_SESSION_MESSAGES_H
+#define MAVA_TUM_SESSION_MESSAGES_H
+
+#include "mava_tum/codec_contract.h"
+#include "mava_tum/feature_records.h"
+#include "mava_tum/subscriber_records.h"
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+/* ---- session_context ------------------------------------------------------------------------------------- */
+
+/* One subscriber session as a whole: identity, access and features. */
+typedef struct mava_tum_session_context {
+    uint32_t field_1;                            /* 1: varint, bit 0 */
+    uint32_t field_2;                            /* 2: varint, bit 1 */
+    uint32_t field_3;                            /* 3: varint, bit 2 */
+    uint32_t field_4;                            /* 4: varint, bit 3 */
+    uint32_t feature_mask;                       /* 5: varint, bit 4 */
+    mava_tum_bytes field_6;                      /* 6: bytes, bit 5 */
+    uint32_t field_7;                            /* 7: varint, bit 6 */
+    mava_tum_subscriber_v4 subscriber_v4;        /* 8: record, bit 7 */
+    mava_tum_subscriber_v6 subscriber_v6;        /* 9: record, bit 8 */
+    mava_tum_session_data session_data;          /* 10: record, bit 9 */
+    mava_tum_subscriber_qos *qos;                /* 11: array of records, bit 10 */
+    uint32_t qos_count;                          /*    records in the array */
+    mava_tum_subscriber_acl acl;                 /* 12: record, bit 11 */
+    mava_tum_subscriber_httpr httpr;             /* 13: record, bit 12 */
+    mava_tum_subscriber_li li;                   /* 14: record, bit 13 */
+    mava_tum_subscriber_urpf urpf_1;             /* 15: record, bit 14 */
+    mava_tum_subscriber_urpf urpf_2;             /* 16: record, bit 15 */
+    mava_tum_subscriber_icmp icmp_1;             /* 17: record, bit 16 */
+    mava_tum_subscriber_icmp icmp_2;             /* 18: record, bit 17 */
+    mava_tum_subscriber_mtu mtu_1;               /* 19: record, bit 18 */
+    mava_tum_subscriber_mtu mtu_2;               /* 20: record, bit 19 */
+    mava_tum_subscriber_mtu mtu_3;               /* 21: record, bit 20 */
+    mava_tum_subscriber_acct acct;               /* 22: record, bit 21 */
+    mava_tum_subscriber_route_ipv4 *route_ipv4;  /* 23: array of records, bit 22 */
+    uint32_t route_ipv4_count;                   /*    records in the array */
+    mava_tum_subscriber_route_ipv6 *route_ipv6;  /* 24: array of records, bit 23 */
+    uint32_t route_ipv6_count;                   /*    records in the array */
+    uint32_t presence_mask;                      /* bits 24-31 spare */
+} mava_tum_session_context;
+
+/* Decodes `length` bytes of wire at `data` into `record`, which is reset first. Calls `alloc_fn` for bytes fields
+ * when the alias bit of `flags` is clear, texts and arrays; the record owns those blocks, also after a failure. With
+ * the alias bit set, bytes fields point into `data`, which must outlive them. Returns MAVA_TUM_OK,
+ * MAVA_TUM_TRUNCATED, MAVA_TUM_UNSUPPORTED_WIRE_TYPE, MAVA_TUM_WRONG_WIRE_TYPE or MAVA_TUM_NO_MEMORY. */
+MAVA_TUM_API int32_t mava_tum_session_context_decode_ext(mava_tum_session_context *record, const uint8_t *data,
+    uint64_t length, mava_tum_alloc_fn alloc_fn, void *alloc_ctx, uint32_t flags);
+
+/* Encodes `record` into `buffer` (capacity `length` bytes; may be null if 0). Allocates nothing. `segments` and
+ * `segment_count` may be null. With the alias bit of `flags` set, bytes fields become segments of their own instead
+ * of being copied. Returns the size needed in bytes; above `length`, the output was cut: do not send it. */
+MAVA_TUM_API uint64_t mava_tum_session_context_encode_ext(const mava_tum_session_context *record, uint8_t *buffer,
+    uint64_t length, mava_tum_segment *segments, uint32_t *segment_count, uint32_t flags);
+
+/* Copies `source` into `destination`, whose earlier pointers are overwritten without being released. Every owned
+ * block is copied through `alloc_fn`, also those that `source` aliases: free the copy with the alias bit clear.
+ * Returns MAVA_TUM_OK, or MAVA_TUM_NO_MEMORY when some block could not be copied: that field is then empty and
+ * absent, all others are copied. */
+MAVA_TUM_API int32_t mava_tum_session_context_duplicate(mava_tum_session_context *destination,
+    const mava_tum_session_context *source, mava_tum_alloc_fn alloc_fn, void *alloc_ctx);
+
+/* Hands the texts and arrays of `record` to `release_fn`, its bytes fields too when the alias bit of `flags` is
+ * clear, and nulls their pointers. `flags` must be what the decode used. The record itself, its scalars and its
+ * presence bits stay. Calling it twice is harmless. */
+MAVA_TUM_API void mava_tum_session_context_free_ext(mava_tum_session_context *record, mava_tum_release_fn release_fn,
+    void *release_ctx, uint32_t flags);
+
+#ifdef __cplusplus
+}
+#endif
+
+#endif

@@ -1,0 +1,40 @@
+/* What all adapters share. An adapter converts between an application record and wire bytes in one call:
+ *
+ *     uint64_t tum_nal_data_gpb_encode_tum_<name>(const <record> *record, uint8_t *buffer, uint32_t capacity);
+ *     void     tum_nal_data_gpb_decode_tum_<name>(const uint8_t *data, uint32_t length, <record> *record);
+ *
+ * Application record
+ *   A flat structure of fixed size without pointers, owned by the caller. Integers are in host byte order, IPv4
+ *   addresses too (192.0.2.1 is 0xC0000201); IPv6 addresses and identifiers are byte arrays as they stand on the wire.
+ *   A text is a NUL-terminated char array; an empty one is absent. A repeated part is a count and a fixed array, of
+ *   which the first `count` elements are used. Members called `reserved_...` are neither read nor set to anything but
+ *   zero. The layout is natural alignment; it is part of the ABI.
+ *
+ * Encode
+ *   Returns the size of the message in bytes, also when `capacity` (bytes) is smaller: the output was then cut and
+ *   must not be sent. `buffer` may be null when `capacity` is 0. Nothing is written beyond the returned size, nothing
+ *   is allocated, and `record` is only read. A count above the number of slots is taken as the number of slots. Every
+ *   char array must contain a NUL: an array without one is read beyond its end.
+ *
+ * Decode
+ *   `record` is always overwritten as a whole: absent fields are zero. Nothing is reported: of a malformed message the
+ *   fields before the fault arrive, the rest is zero. Texts longer than their array are cut to it, with a NUL; values
+ *   wider than their member keep their low bits; of a list longer than its array (a count in 8 bits is first taken
+ *   modulo 256) the first elements arrive and the count says how many; of a bytes value longer than its array the
+ *   first bytes arrive, a shorter one is followed by zeros. `data` may be null when `length` is 0; it must not overlap
+ *   `record`.
+ *   Memory for texts and arrays is obtained from calloc and given back through free before the call returns; when it
+ *   runs out, the message counts as malformed at that field. The amount is bounded by the message, not by the record:
+ *   bound `length`.
+ *
+ * Stack
+ *   An encode adapter needs at most 12 KiB and the codec records of its slots (session context: 2 KiB more, routes:
+ *   8 KiB more), a decode adapter at most 4 KiB.
+ *
+ * Threads may call adapters at the same time on distinct records and buffers. */
+#ifndef TUM_NAL_ADAPTER_CONTRACT_H
+#define TUM_NAL_ADAPTER_CONTRACT_H
+
+#include "mava_tum/codec_contract.h"
+
+#endif

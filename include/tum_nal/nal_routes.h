@@ -1,0 +1,73 @@
+/* Application records and adapters of subscriber routes.
+ *
+ * What all adapters do with counts, texts, short buffers and bad input: adapter_contract.h. */
+#ifndef TUM_NAL_NAL_ROUTES_H
+#define TUM_NAL_NAL_ROUTES_H
+
+#include "tum_nal/adapter_contract.h"
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+/* Slots of a route batch. */
+enum {
+    TUM_NAL_SUB_ROUTE_IPV4_ROUTES = 50,
+    TUM_NAL_SUB_ROUTE_IPV6_ROUTES = 50
+};
+
+/* One IPv4 route. Sent: `field_1` always, all others when not zero or empty.
+ * Texts are received up to 32, 32 and 64 characters, although their arrays hold 35, 35 and 67.
+ * Not symmetric: a non-zero `field_8` is sent in the place of `field_7`; a received field 8 arrives in `field_8`. */
+typedef struct tum_nal_data_ipv4_route {
+    uint32_t field_1;
+    char field_2[36];
+    uint32_t field_3; /* IPv4 address, host byte order */
+    uint8_t field_4;
+    uint32_t field_5; /* IPv4 address, host byte order */
+    char field_6[36];
+    uint32_t field_7;
+    uint32_t field_8;
+    char field_9[68];
+} tum_nal_data_ipv4_route;
+
+/* One IPv6 route. As the IPv4 route, but `field_8` is sent as itself. */
+typedef struct tum_nal_data_ipv6_route {
+    uint32_t field_1;
+    char field_2[36];
+    uint8_t field_3[16]; /* IPv6 address */
+    uint8_t field_4;
+    uint8_t field_5[16]; /* IPv6 address */
+    char field_6[36];
+    uint32_t field_7;
+    uint32_t field_8;
+    char field_9[68];
+} tum_nal_data_ipv6_route;
+
+/* A batch of routes. `field_1`, `field_2`, `field_3` and `field_6` are always sent, also when zero. */
+typedef struct tum_nal_data_sub_route {
+    uint32_t field_1;
+    uint16_t field_2;
+    uint32_t field_3;
+    uint8_t ipv4_route_count;
+    uint8_t ipv6_route_count;
+    tum_nal_data_ipv4_route ipv4_routes[TUM_NAL_SUB_ROUTE_IPV4_ROUTES];
+    tum_nal_data_ipv6_route ipv6_routes[TUM_NAL_SUB_ROUTE_IPV6_ROUTES];
+    uint32_t field_6;
+} tum_nal_data_sub_route;
+
+/* Encodes a batch of routes as one sub_route message into `buffer` (`capacity` bytes; may be null if 0).
+ * Returns the size needed in bytes; above `capacity`, the output was cut: do not send it. */
+MAVA_TUM_API uint64_t tum_nal_data_gpb_encode_tum_sub_route(const tum_nal_data_sub_route *record, uint8_t *buffer,
+    uint32_t capacity);
+
+/* Decodes the sub_route message in the `length` bytes at `data` into `record`, all of which is overwritten. Reports
+ * nothing; of a malformed message the part before the fault arrives. */
+MAVA_TUM_API void tum_nal_data_gpb_decode_tum_sub_route(const uint8_t *data, uint32_t length,
+    tum_nal_data_sub_route *record);
+
+#ifdef __cplusplus
+}
+#endif
+
+#endif
