@@ -14,26 +14,26 @@ extern "C" {
 
 /* One quality-of-service entry. An element of session_context. */
 typedef struct mava_tum_subscriber_qos {
-    uint32_t field_1;        /* 1: varint, bit 0 */
-    uint32_t field_2;        /* 2: varint, bit 1 */
-    char *field_3;           /* 3: text, bit 2 */
-    char *field_4;           /* 4: text, bit 3 */
-    char *field_5;           /* 5: text, bit 4 */
-    uint32_t field_6;        /* 6: varint, bit 5 */
-    uint32_t field_7;        /* 7: varint, bit 6 */
-    uint32_t field_8;        /* 8: varint, bit 7 */
-    char *field_9;           /* 9: text, bit 8 */
-    char *field_10;          /* 10: text, bit 9 */
-    char *field_11;          /* 11: text, bit 10 */
-    char *field_12;          /* 12: text, bit 11 */
-    uint16_t presence_mask;  /* bits 12-15 spare */
+    uint32_t field_1;       /* 1: varint, bit 0 */
+    uint32_t field_2;       /* 2: varint, bit 1 */
+    char *field_3;          /* 3: text, bit 2 */
+    char *field_4;          /* 4: text, bit 3 */
+    char *field_5;          /* 5: text, bit 4 */
+    uint32_t field_6;       /* 6: varint, bit 5 */
+    uint32_t field_7;       /* 7: varint, bit 6 */
+    uint32_t field_8;       /* 8: varint, bit 7 */
+    char *field_9;          /* 9: text, bit 8 */
+    char *field_10;         /* 10: text, bit 9 */
+    char *field_11;         /* 11: text, bit 10 */
+    char *field_12;         /* 12: text, bit 11 */
+    uint16_t presence_mask; /* bits 12-15 spare */
 } mava_tum_subscriber_qos;
 
 /* Decodes `length` bytes of wire at `data` into `record`, which is reset first. Calls `alloc_fn` for texts; the
  * record owns those blocks, also after a failure. Returns MAVA_TUM_OK, MAVA_TUM_TRUNCATED,
  * MAVA_TUM_UNSUPPORTED_WIRE_TYPE, MAVA_TUM_WRONG_WIRE_TYPE or MAVA_TUM_NO_MEMORY. */
-MAVA_TUM_API int32_t mava_tum_subscriber_qos_decode_ext(mava_tum_subscriber_qos *record, const uint8_t *data,
-    uint64_t length, mava_tum_alloc_fn alloc_fn, void *alloc_ctx);
+MAVA_TUM_API int32_t mava_tum_subscriber_qos_decode_ext(
+    mava_tum_subscriber_qos *record, const uint8_t *data, uint64_t length, mava_tum_alloc_fn alloc_fn, void *alloc_ctx);
 
 /* Encodes `record` into `buffer` (capacity `length` bytes; may be null if 0). Allocates nothing. `segments` and
  * `segment_count` may be null. Returns the size needed in bytes; above `length`, the output was cut: do not send it. */
@@ -48,26 +48,26 @@ MAVA_TUM_API int32_t mava_tum_subscriber_qos_duplicate(mava_tum_subscriber_qos *
 
 /* Hands the texts of `record` to `release_fn` and nulls their pointers. The record itself, its scalars and its
  * presence bits stay. Calling it twice is harmless. */
-MAVA_TUM_API void mava_tum_subscriber_qos_free_ext(mava_tum_subscriber_qos *record, mava_tum_release_fn release_fn,
-    void *release_ctx);
+MAVA_TUM_API void mava_tum_subscriber_qos_free_ext(
+    mava_tum_subscriber_qos *record, mava_tum_release_fn release_fn, void *release_ctx);
 
 /* ---- subscriber_acl -------------------------------------------------------------------------------------- */
 
 /* Access lists. Nested in session_context. */
 typedef struct mava_tum_subscriber_acl {
-    uint32_t field_1;       /* 1: varint, bit 0 */
-    char *field_2;          /* 2: text, bit 1 */
-    char *field_3;          /* 3: text, bit 2 */
-    char *field_4;          /* 4: text, bit 3 */
-    char *field_5;          /* 5: text, bit 4 */
-    uint8_t presence_mask;  /* bits 5-7 spare */
+    uint32_t field_1;      /* 1: varint, bit 0 */
+    char *field_2;         /* 2: text, bit 1 */
+    char *field_3;         /* 3: text, bit 2 */
+    char *field_4;         /* 4: text, bit 3 */
+    char *field_5;         /* 5: text, bit 4 */
+    uint8_t presence_mask; /* bits 5-7 spare */
 } mava_tum_subscriber_acl;
 
 /* Decodes `length` bytes of wire at `data` into `record`, which is reset first. Calls `alloc_fn` for texts; the
  * record owns those blocks, also after a failure. Returns MAVA_TUM_OK, MAVA_TUM_TRUNCATED,
  * MAVA_TUM_UNSUPPORTED_WIRE_TYPE, MAVA_TUM_WRONG_WIRE_TYPE or MAVA_TUM_NO_MEMORY. */
-MAVA_TUM_API int32_t mava_tum_subscriber_acl_decode_ext(mava_tum_subscriber_acl *record, const uint8_t *data,
-    uint64_t length, mava_tum_alloc_fn alloc_fn, void *alloc_ctx);
+MAVA_TUM_API int32_t mava_tum_subscriber_acl_decode_ext(
+    mava_tum_subscriber_acl *record, const uint8_t *data, uint64_t length, mava_tum_alloc_fn alloc_fn, void *alloc_ctx);
 
 /* Encodes `record` into `buffer` (capacity `length` bytes; may be null if 0). Allocates nothing. `segments` and
  * `segment_count` may be null. Returns the size needed in bytes; above `length`, the output was cut: do not send it. */
@@ -82,16 +82,16 @@ MAVA_TUM_API int32_t mava_tum_subscriber_acl_duplicate(mava_tum_subscriber_acl *
 
 /* Hands the texts of `record` to `release_fn` and nulls their pointers. The record itself, its scalars and its
  * presence bits stay. Calling it twice is harmless. */
-MAVA_TUM_API void mava_tum_subscriber_acl_free_ext(mava_tum_subscriber_acl *record, mava_tum_release_fn release_fn,
-    void *release_ctx);
+MAVA_TUM_API void mava_tum_subscriber_acl_free_ext(
+    mava_tum_subscriber_acl *record, mava_tum_release_fn release_fn, void *release_ctx);
 
 /* ---- subscriber_httpr ------------------------------------------------------------------------------------ */
 
 /* HTTP redirect. Nested in session_context. */
 typedef struct mava_tum_subscriber_httpr {
-    uint32_t field_1;       /* 1: varint, bit 0 */
-    char *field_2;          /* 2: text, bit 1 */
-    uint8_t presence_mask;  /* bits 2-7 spare */
+    uint32_t field_1;      /* 1: varint, bit 0 */
+    char *field_2;         /* 2: text, bit 1 */
+    uint8_t presence_mask; /* bits 2-7 spare */
 } mava_tum_subscriber_httpr;
 
 /* Decodes `length` bytes of wire at `data` into `record`, which is reset first. Calls `alloc_fn` for texts; the
@@ -113,22 +113,22 @@ MAVA_TUM_API int32_t mava_tum_subscriber_httpr_duplicate(mava_tum_subscriber_htt
 
 /* Hands the texts of `record` to `release_fn` and nulls their pointers. The record itself, its scalars and its
  * presence bits stay. Calling it twice is harmless. */
-MAVA_TUM_API void mava_tum_subscriber_httpr_free_ext(mava_tum_subscriber_httpr *record,
-    mava_tum_release_fn release_fn, void *release_ctx);
+MAVA_TUM_API void mava_tum_subscriber_httpr_free_ext(
+    mava_tum_subscriber_httpr *record, mava_tum_release_fn release_fn, void *release_ctx);
 
 /* ---- subscriber_li --------------------------------------------------------------------------------------- */
 
 /* Lawful intercept. Nested in session_context. */
 typedef struct mava_tum_subscriber_li {
-    uint32_t field_1;        /* 1: varint, bit 0 */
-    uint32_t field_2;        /* 2: varint, bit 1 */
-    uint32_t field_3;        /* 3: varint, bit 2 */
-    mava_tum_bytes field_4;  /* 4: bytes, bit 3 */
-    uint32_t field_5;        /* 5: varint, bit 4 */
-    uint32_t field_6;        /* 6: varint, bit 5 */
-    uint32_t field_7;        /* 7: fixed32, bit 6; IPv4 address, network byte order */
-    mava_tum_bytes field_8;  /* 8: bytes, bit 7 */
-    uint8_t presence_mask;   /* no spare bits */
+    uint32_t field_1;       /* 1: varint, bit 0 */
+    uint32_t field_2;       /* 2: varint, bit 1 */
+    uint32_t field_3;       /* 3: varint, bit 2 */
+    mava_tum_bytes field_4; /* 4: bytes, bit 3 */
+    uint32_t field_5;       /* 5: varint, bit 4 */
+    uint32_t field_6;       /* 6: varint, bit 5 */
+    uint32_t field_7;       /* 7: fixed32, bit 6; IPv4 address, network byte order */
+    mava_tum_bytes field_8; /* 8: bytes, bit 7 */
+    uint8_t presence_mask;  /* no spare bits */
 } mava_tum_subscriber_li;
 
 /* Decodes `length` bytes of wire at `data` into `record`, which is reset first. Calls `alloc_fn` for bytes fields
@@ -154,22 +154,22 @@ MAVA_TUM_API int32_t mava_tum_subscriber_li_duplicate(mava_tum_subscriber_li *de
 /* Hands the bytes fields of `record` to `release_fn` and nulls their pointers; with the alias bit of `flags` set,
  * releases nothing. `flags` must be what the decode used. The record itself, its scalars and its presence bits stay.
  * Calling it twice is harmless. */
-MAVA_TUM_API void mava_tum_subscriber_li_free_ext(mava_tum_subscriber_li *record, mava_tum_release_fn release_fn,
-    void *release_ctx, uint32_t flags);
+MAVA_TUM_API void mava_tum_subscriber_li_free_ext(
+    mava_tum_subscriber_li *record, mava_tum_release_fn release_fn, void *release_ctx, uint32_t flags);
 
 /* ---- subscriber_urpf ------------------------------------------------------------------------------------- */
 
 /* A unicast reverse-path-forwarding check. Nested in session_context. */
 typedef struct mava_tum_subscriber_urpf {
-    uint32_t field_1;       /* 1: varint, bit 0 */
-    uint32_t field_2;       /* 2: varint, bit 1 */
-    uint8_t presence_mask;  /* bits 2-7 spare */
+    uint32_t field_1;      /* 1: varint, bit 0 */
+    uint32_t field_2;      /* 2: varint, bit 1 */
+    uint8_t presence_mask; /* bits 2-7 spare */
 } mava_tum_subscriber_urpf;
 
 /* Decodes `length` bytes of wire at `data` into `record`, which is reset first. Allocates nothing. Returns
  * MAVA_TUM_OK, MAVA_TUM_TRUNCATED, MAVA_TUM_UNSUPPORTED_WIRE_TYPE or MAVA_TUM_WRONG_WIRE_TYPE. */
-MAVA_TUM_API int32_t mava_tum_subscriber_urpf_decode_ext(mava_tum_subscriber_urpf *record, const uint8_t *data,
-    uint64_t length);
+MAVA_TUM_API int32_t mava_tum_subscriber_urpf_decode_ext(
+    mava_tum_subscriber_urpf *record, const uint8_t *data, uint64_t length);
 
 /* Encodes `record` into `buffer` (capacity `length` bytes; may be null if 0). Allocates nothing. `segments` and
  * `segment_count` may be null. Returns the size needed in bytes; above `length`, the output was cut: do not send it. */
@@ -178,8 +178,8 @@ MAVA_TUM_API uint64_t mava_tum_subscriber_urpf_encode_ext(const mava_tum_subscri
 
 /* Copies every field of `source` and its presence bit into `destination`; the spare bits of `destination` stay.
  * Returns MAVA_TUM_OK. */
-MAVA_TUM_API int32_t mava_tum_subscriber_urpf_duplicate(mava_tum_subscriber_urpf *destination,
-    const mava_tum_subscriber_urpf *source);
+MAVA_TUM_API int32_t mava_tum_subscriber_urpf_duplicate(
+    mava_tum_subscriber_urpf *destination, const mava_tum_subscriber_urpf *source);
 
 /* Does nothing: the record owns no memory. `record` may be null. */
 MAVA_TUM_API void mava_tum_subscriber_urpf_free_ext(mava_tum_subscriber_urpf *record);
@@ -188,14 +188,14 @@ MAVA_TUM_API void mava_tum_subscriber_urpf_free_ext(mava_tum_subscriber_urpf *re
 
 /* An ICMP setting. Nested in session_context. */
 typedef struct mava_tum_subscriber_icmp {
-    uint32_t field_1;       /* 1: varint, bit 0 */
-    uint8_t presence_mask;  /* bits 1-7 spare */
+    uint32_t field_1;      /* 1: varint, bit 0 */
+    uint8_t presence_mask; /* bits 1-7 spare */
 } mava_tum_subscriber_icmp;
 
 /* Decodes `length` bytes of wire at `data` into `record`, which is reset first. Allocates nothing. Returns
  * MAVA_TUM_OK, MAVA_TUM_TRUNCATED, MAVA_TUM_UNSUPPORTED_WIRE_TYPE or MAVA_TUM_WRONG_WIRE_TYPE. */
-MAVA_TUM_API int32_t mava_tum_subscriber_icmp_decode_ext(mava_tum_subscriber_icmp *record, const uint8_t *data,
-    uint64_t length);
+MAVA_TUM_API int32_t mava_tum_subscriber_icmp_decode_ext(
+    mava_tum_subscriber_icmp *record, const uint8_t *data, uint64_t length);
 
 /* Encodes `record` into `buffer` (capacity `length` bytes; may be null if 0). Allocates nothing. `segments` and
  * `segment_count` may be null. Returns the size needed in bytes; above `length`, the output was cut: do not send it. */
@@ -204,8 +204,8 @@ MAVA_TUM_API uint64_t mava_tum_subscriber_icmp_encode_ext(const mava_tum_subscri
 
 /* Copies every field of `source` and its presence bit into `destination`; the spare bits of `destination` stay.
  * Returns MAVA_TUM_OK. */
-MAVA_TUM_API int32_t mava_tum_subscriber_icmp_duplicate(mava_tum_subscriber_icmp *destination,
-    const mava_tum_subscriber_icmp *source);
+MAVA_TUM_API int32_t mava_tum_subscriber_icmp_duplicate(
+    mava_tum_subscriber_icmp *destination, const mava_tum_subscriber_icmp *source);
 
 /* Does nothing: the record owns no memory. `record` may be null. */
 MAVA_TUM_API void mava_tum_subscriber_icmp_free_ext(mava_tum_subscriber_icmp *record);
@@ -214,14 +214,14 @@ MAVA_TUM_API void mava_tum_subscriber_icmp_free_ext(mava_tum_subscriber_icmp *re
 
 /* An MTU setting. Nested in session_context. */
 typedef struct mava_tum_subscriber_mtu {
-    uint32_t field_1;       /* 1: varint, bit 0 */
-    uint8_t presence_mask;  /* bits 1-7 spare */
+    uint32_t field_1;      /* 1: varint, bit 0 */
+    uint8_t presence_mask; /* bits 1-7 spare */
 } mava_tum_subscriber_mtu;
 
 /* Decodes `length` bytes of wire at `data` into `record`, which is reset first. Allocates nothing. Returns
  * MAVA_TUM_OK, MAVA_TUM_TRUNCATED, MAVA_TUM_UNSUPPORTED_WIRE_TYPE or MAVA_TUM_WRONG_WIRE_TYPE. */
-MAVA_TUM_API int32_t mava_tum_subscriber_mtu_decode_ext(mava_tum_subscriber_mtu *record, const uint8_t *data,
-    uint64_t length);
+MAVA_TUM_API int32_t mava_tum_subscriber_mtu_decode_ext(
+    mava_tum_subscriber_mtu *record, const uint8_t *data, uint64_t length);
 
 /* Encodes `record` into `buffer` (capacity `length` bytes; may be null if 0). Allocates nothing. `segments` and
  * `segment_count` may be null. Returns the size needed in bytes; above `length`, the output was cut: do not send it. */
@@ -230,8 +230,8 @@ MAVA_TUM_API uint64_t mava_tum_subscriber_mtu_encode_ext(const mava_tum_subscrib
 
 /* Copies every field of `source` and its presence bit into `destination`; the spare bits of `destination` stay.
  * Returns MAVA_TUM_OK. */
-MAVA_TUM_API int32_t mava_tum_subscriber_mtu_duplicate(mava_tum_subscriber_mtu *destination,
-    const mava_tum_subscriber_mtu *source);
+MAVA_TUM_API int32_t mava_tum_subscriber_mtu_duplicate(
+    mava_tum_subscriber_mtu *destination, const mava_tum_subscriber_mtu *source);
 
 /* Does nothing: the record owns no memory. `record` may be null. */
 MAVA_TUM_API void mava_tum_subscriber_mtu_free_ext(mava_tum_subscriber_mtu *record);
@@ -240,16 +240,16 @@ MAVA_TUM_API void mava_tum_subscriber_mtu_free_ext(mava_tum_subscriber_mtu *reco
 
 /* Accounting settings. Nested in session_context. */
 typedef struct mava_tum_subscriber_acct {
-    uint32_t field_1;       /* 1: varint, bit 0 */
-    uint32_t field_2;       /* 2: varint, bit 1 */
-    uint32_t field_3;       /* 3: varint, bit 2 */
-    uint8_t presence_mask;  /* bits 3-7 spare */
+    uint32_t field_1;      /* 1: varint, bit 0 */
+    uint32_t field_2;      /* 2: varint, bit 1 */
+    uint32_t field_3;      /* 3: varint, bit 2 */
+    uint8_t presence_mask; /* bits 3-7 spare */
 } mava_tum_subscriber_acct;
 
 /* Decodes `length` bytes of wire at `data` into `record`, which is reset first. Allocates nothing. Returns
  * MAVA_TUM_OK, MAVA_TUM_TRUNCATED, MAVA_TUM_UNSUPPORTED_WIRE_TYPE or MAVA_TUM_WRONG_WIRE_TYPE. */
-MAVA_TUM_API int32_t mava_tum_subscriber_acct_decode_ext(mava_tum_subscriber_acct *record, const uint8_t *data,
-    uint64_t length);
+MAVA_TUM_API int32_t mava_tum_subscriber_acct_decode_ext(
+    mava_tum_subscriber_acct *record, const uint8_t *data, uint64_t length);
 
 /* Encodes `record` into `buffer` (capacity `length` bytes; may be null if 0). Allocates nothing. `segments` and
  * `segment_count` may be null. Returns the size needed in bytes; above `length`, the output was cut: do not send it. */
@@ -258,8 +258,8 @@ MAVA_TUM_API uint64_t mava_tum_subscriber_acct_encode_ext(const mava_tum_subscri
 
 /* Copies every field of `source` and its presence bit into `destination`; the spare bits of `destination` stay.
  * Returns MAVA_TUM_OK. */
-MAVA_TUM_API int32_t mava_tum_subscriber_acct_duplicate(mava_tum_subscriber_acct *destination,
-    const mava_tum_subscriber_acct *source);
+MAVA_TUM_API int32_t mava_tum_subscriber_acct_duplicate(
+    mava_tum_subscriber_acct *destination, const mava_tum_subscriber_acct *source);
 
 /* Does nothing: the record owns no memory. `record` may be null. */
 MAVA_TUM_API void mava_tum_subscriber_acct_free_ext(mava_tum_subscriber_acct *record);
@@ -268,16 +268,16 @@ MAVA_TUM_API void mava_tum_subscriber_acct_free_ext(mava_tum_subscriber_acct *re
 
 /* One IPv4 route. An element of session_context and of sub_route. */
 typedef struct mava_tum_subscriber_route_ipv4 {
-    uint32_t field_1;        /* 1: varint, bit 0 */
-    char *field_2;           /* 2: text, bit 1 */
-    uint32_t field_3;        /* 3: fixed32, bit 2; IPv4 address, network byte order */
-    uint32_t field_4;        /* 4: varint, bit 3 */
-    uint32_t field_5;        /* 5: fixed32, bit 4; IPv4 address, network byte order */
-    char *field_6;           /* 6: text, bit 5 */
-    uint32_t field_7;        /* 7: varint, bit 6 */
-    uint32_t field_8;        /* 8: varint, bit 7 */
-    char *field_9;           /* 9: text, bit 8 */
-    uint16_t presence_mask;  /* bits 9-15 spare */
+    uint32_t field_1;       /* 1: varint, bit 0 */
+    char *field_2;          /* 2: text, bit 1 */
+    uint32_t field_3;       /* 3: fixed32, bit 2; IPv4 address, network byte order */
+    uint32_t field_4;       /* 4: varint, bit 3 */
+    uint32_t field_5;       /* 5: fixed32, bit 4; IPv4 address, network byte order */
+    char *field_6;          /* 6: text, bit 5 */
+    uint32_t field_7;       /* 7: varint, bit 6 */
+    uint32_t field_8;       /* 8: varint, bit 7 */
+    char *field_9;          /* 9: text, bit 8 */
+    uint16_t presence_mask; /* bits 9-15 spare */
 } mava_tum_subscriber_route_ipv4;
 
 /* Decodes `length` bytes of wire at `data` into `record`, which is reset first. Calls `alloc_fn` for texts; the
@@ -299,23 +299,23 @@ MAVA_TUM_API int32_t mava_tum_subscriber_route_ipv4_duplicate(mava_tum_subscribe
 
 /* Hands the texts of `record` to `release_fn` and nulls their pointers. The record itself, its scalars and its
  * presence bits stay. Calling it twice is harmless. */
-MAVA_TUM_API void mava_tum_subscriber_route_ipv4_free_ext(mava_tum_subscriber_route_ipv4 *record,
-    mava_tum_release_fn release_fn, void *release_ctx);
+MAVA_TUM_API void mava_tum_subscriber_route_ipv4_free_ext(
+    mava_tum_subscriber_route_ipv4 *record, mava_tum_release_fn release_fn, void *release_ctx);
 
 /* ---- subscriber_route_ipv6 ------------------------------------------------------------------------------- */
 
 /* One IPv6 route. An element of session_context and of sub_route. */
 typedef struct mava_tum_subscriber_route_ipv6 {
-    uint32_t field_1;        /* 1: varint, bit 0 */
-    char *field_2;           /* 2: text, bit 1 */
-    mava_tum_bytes field_3;  /* 3: bytes, bit 2 */
-    uint32_t field_4;        /* 4: varint, bit 3 */
-    mava_tum_bytes field_5;  /* 5: bytes, bit 4 */
-    char *field_6;           /* 6: text, bit 5 */
-    uint32_t field_7;        /* 7: varint, bit 6 */
-    uint32_t field_8;        /* 8: varint, bit 7 */
-    char *field_9;           /* 9: text, bit 8 */
-    uint16_t presence_mask;  /* bits 9-15 spare */
+    uint32_t field_1;       /* 1: varint, bit 0 */
+    char *field_2;          /* 2: text, bit 1 */
+    mava_tum_bytes field_3; /* 3: bytes, bit 2 */
+    uint32_t field_4;       /* 4: varint, bit 3 */
+    mava_tum_bytes field_5; /* 5: bytes, bit 4 */
+    char *field_6;          /* 6: text, bit 5 */
+    uint32_t field_7;       /* 7: varint, bit 6 */
+    uint32_t field_8;       /* 8: varint, bit 7 */
+    char *field_9;          /* 9: text, bit 8 */
+    uint16_t presence_mask; /* bits 9-15 spare */
 } mava_tum_subscriber_route_ipv6;
 
 /* Decodes `length` bytes of wire at `data` into `record`, which is reset first. Calls `alloc_fn` for bytes fields
@@ -341,8 +341,8 @@ MAVA_TUM_API int32_t mava_tum_subscriber_route_ipv6_duplicate(mava_tum_subscribe
 /* Hands the texts of `record` to `release_fn`, its bytes fields too when the alias bit of `flags` is clear, and nulls
  * their pointers. `flags` must be what the decode used. The record itself, its scalars and its presence bits stay.
  * Calling it twice is harmless. */
-MAVA_TUM_API void mava_tum_subscriber_route_ipv6_free_ext(mava_tum_subscriber_route_ipv6 *record,
-    mava_tum_release_fn release_fn, void *release_ctx, uint32_t flags);
+MAVA_TUM_API void mava_tum_subscriber_route_ipv6_free_ext(
+    mava_tum_subscriber_route_ipv6 *record, mava_tum_release_fn release_fn, void *release_ctx, uint32_t flags);
 
 #ifdef __cplusplus
 }

@@ -15,15 +15,15 @@ extern "C" {
 
 /* A batch of subscriber routes. */
 typedef struct mava_tum_sub_route {
-    uint32_t field_1;                             /* 1: varint, bit 0 */
-    uint32_t field_2;                             /* 2: varint, bit 1 */
-    uint32_t field_3;                             /* 3: varint, bit 2 */
-    mava_tum_subscriber_route_ipv4 *ipv4_routes;  /* 4: array of records, bit 3 */
-    uint32_t ipv4_route_count;                    /*    records in the array */
-    mava_tum_subscriber_route_ipv6 *ipv6_routes;  /* 5: array of records, bit 4 */
-    uint32_t ipv6_route_count;                    /*    records in the array */
-    uint32_t field_6;                             /* 6: varint, bit 5 */
-    uint8_t presence_mask;                        /* bits 6-7 spare */
+    uint32_t field_1;                            /* 1: varint, bit 0 */
+    uint32_t field_2;                            /* 2: varint, bit 1 */
+    uint32_t field_3;                            /* 3: varint, bit 2 */
+    mava_tum_subscriber_route_ipv4 *ipv4_routes; /* 4: array of records, bit 3 */
+    uint32_t ipv4_route_count;                   /* records in the array */
+    mava_tum_subscriber_route_ipv6 *ipv6_routes; /* 5: array of records, bit 4 */
+    uint32_t ipv6_route_count;                   /* records in the array */
+    uint32_t field_6;                            /* 6: varint, bit 5 */
+    uint8_t presence_mask;                       /* bits 6-7 spare */
 } mava_tum_sub_route;
 
 /* Decodes `length` bytes of wire at `data` into `record`, which is reset first. Calls `alloc_fn` for bytes fields
@@ -36,21 +36,21 @@ MAVA_TUM_API int32_t mava_tum_sub_route_decode_ext(mava_tum_sub_route *record, c
 /* Encodes `record` into `buffer` (capacity `length` bytes; may be null if 0). Allocates nothing. `segments` and
  * `segment_count` may be null. With the alias bit of `flags` set, bytes fields become segments of their own instead
  * of being copied. Returns the size needed in bytes; above `length`, the output was cut: do not send it. */
-MAVA_TUM_API uint64_t mava_tum_sub_route_encode_ext(const mava_tum_sub_route *record, uint8_t *buffer,
-    uint64_t length, mava_tum_segment *segments, uint32_t *segment_count, uint32_t flags);
+MAVA_TUM_API uint64_t mava_tum_sub_route_encode_ext(const mava_tum_sub_route *record, uint8_t *buffer, uint64_t length,
+    mava_tum_segment *segments, uint32_t *segment_count, uint32_t flags);
 
 /* Copies `source` into `destination`, whose earlier pointers are overwritten without being released. Every owned
  * block is copied through `alloc_fn`, also those that `source` aliases: free the copy with the alias bit clear.
  * Returns MAVA_TUM_OK, or MAVA_TUM_NO_MEMORY when some block could not be copied: that field is then empty and
  * absent, all others are copied. */
-MAVA_TUM_API int32_t mava_tum_sub_route_duplicate(mava_tum_sub_route *destination, const mava_tum_sub_route *source,
-    mava_tum_alloc_fn alloc_fn, void *alloc_ctx);
+MAVA_TUM_API int32_t mava_tum_sub_route_duplicate(
+    mava_tum_sub_route *destination, const mava_tum_sub_route *source, mava_tum_alloc_fn alloc_fn, void *alloc_ctx);
 
 /* Hands the texts and arrays of `record` to `release_fn`, its bytes fields too when the alias bit of `flags` is
  * clear, and nulls their pointers. `flags` must be what the decode used. The record itself, its scalars and its
  * presence bits stay. Calling it twice is harmless. */
-MAVA_TUM_API void mava_tum_sub_route_free_ext(mava_tum_sub_route *record, mava_tum_release_fn release_fn,
-    void *release_ctx, uint32_t flags);
+MAVA_TUM_API void mava_tum_sub_route_free_ext(
+    mava_tum_sub_route *record, mava_tum_release_fn release_fn, void *release_ctx, uint32_t flags);
 
 #ifdef __cplusplus
 }

@@ -16,34 +16,34 @@ extern "C" {
 
 /* One subscriber session as a whole: identity, access and features. */
 typedef struct mava_tum_session_context {
-    uint32_t field_1;                            /* 1: varint, bit 0 */
-    uint32_t field_2;                            /* 2: varint, bit 1 */
-    uint32_t field_3;                            /* 3: varint, bit 2 */
-    uint32_t field_4;                            /* 4: varint, bit 3 */
-    uint32_t feature_mask;                       /* 5: varint, bit 4 */
-    mava_tum_bytes field_6;                      /* 6: bytes, bit 5 */
-    uint32_t field_7;                            /* 7: varint, bit 6 */
-    mava_tum_subscriber_v4 subscriber_v4;        /* 8: record, bit 7 */
-    mava_tum_subscriber_v6 subscriber_v6;        /* 9: record, bit 8 */
-    mava_tum_session_data session_data;          /* 10: record, bit 9 */
-    mava_tum_subscriber_qos *qos;                /* 11: array of records, bit 10 */
-    uint32_t qos_count;                          /*    records in the array */
-    mava_tum_subscriber_acl acl;                 /* 12: record, bit 11 */
-    mava_tum_subscriber_httpr httpr;             /* 13: record, bit 12 */
-    mava_tum_subscriber_li li;                   /* 14: record, bit 13 */
-    mava_tum_subscriber_urpf urpf_1;             /* 15: record, bit 14 */
-    mava_tum_subscriber_urpf urpf_2;             /* 16: record, bit 15 */
-    mava_tum_subscriber_icmp icmp_1;             /* 17: record, bit 16 */
-    mava_tum_subscriber_icmp icmp_2;             /* 18: record, bit 17 */
-    mava_tum_subscriber_mtu mtu_1;               /* 19: record, bit 18 */
-    mava_tum_subscriber_mtu mtu_2;               /* 20: record, bit 19 */
-    mava_tum_subscriber_mtu mtu_3;               /* 21: record, bit 20 */
-    mava_tum_subscriber_acct acct;               /* 22: record, bit 21 */
-    mava_tum_subscriber_route_ipv4 *route_ipv4;  /* 23: array of records, bit 22 */
-    uint32_t route_ipv4_count;                   /*    records in the array */
-    mava_tum_subscriber_route_ipv6 *route_ipv6;  /* 24: array of records, bit 23 */
-    uint32_t route_ipv6_count;                   /*    records in the array */
-    uint32_t presence_mask;                      /* bits 24-31 spare */
+    uint32_t field_1;                           /* 1: varint, bit 0 */
+    uint32_t field_2;                           /* 2: varint, bit 1 */
+    uint32_t field_3;                           /* 3: varint, bit 2 */
+    uint32_t field_4;                           /* 4: varint, bit 3 */
+    uint32_t feature_mask;                      /* 5: varint, bit 4 */
+    mava_tum_bytes field_6;                     /* 6: bytes, bit 5 */
+    uint32_t field_7;                           /* 7: varint, bit 6 */
+    mava_tum_subscriber_v4 subscriber_v4;       /* 8: record, bit 7 */
+    mava_tum_subscriber_v6 subscriber_v6;       /* 9: record, bit 8 */
+    mava_tum_session_data session_data;         /* 10: record, bit 9 */
+    mava_tum_subscriber_qos *qos;               /* 11: array of records, bit 10 */
+    uint32_t qos_count;                         /* records in the array */
+    mava_tum_subscriber_acl acl;                /* 12: record, bit 11 */
+    mava_tum_subscriber_httpr httpr;            /* 13: record, bit 12 */
+    mava_tum_subscriber_li li;                  /* 14: record, bit 13 */
+    mava_tum_subscriber_urpf urpf_1;            /* 15: record, bit 14 */
+    mava_tum_subscriber_urpf urpf_2;            /* 16: record, bit 15 */
+    mava_tum_subscriber_icmp icmp_1;            /* 17: record, bit 16 */
+    mava_tum_subscriber_icmp icmp_2;            /* 18: record, bit 17 */
+    mava_tum_subscriber_mtu mtu_1;              /* 19: record, bit 18 */
+    mava_tum_subscriber_mtu mtu_2;              /* 20: record, bit 19 */
+    mava_tum_subscriber_mtu mtu_3;              /* 21: record, bit 20 */
+    mava_tum_subscriber_acct acct;              /* 22: record, bit 21 */
+    mava_tum_subscriber_route_ipv4 *route_ipv4; /* 23: array of records, bit 22 */
+    uint32_t route_ipv4_count;                  /* records in the array */
+    mava_tum_subscriber_route_ipv6 *route_ipv6; /* 24: array of records, bit 23 */
+    uint32_t route_ipv6_count;                  /* records in the array */
+    uint32_t presence_mask;                     /* bits 24-31 spare */
 } mava_tum_session_context;
 
 /* Decodes `length` bytes of wire at `data` into `record`, which is reset first. Calls `alloc_fn` for bytes fields
@@ -69,8 +69,8 @@ MAVA_TUM_API int32_t mava_tum_session_context_duplicate(mava_tum_session_context
 /* Hands the texts and arrays of `record` to `release_fn`, its bytes fields too when the alias bit of `flags` is
  * clear, and nulls their pointers. `flags` must be what the decode used. The record itself, its scalars and its
  * presence bits stay. Calling it twice is harmless. */
-MAVA_TUM_API void mava_tum_session_context_free_ext(mava_tum_session_context *record, mava_tum_release_fn release_fn,
-    void *release_ctx, uint32_t flags);
+MAVA_TUM_API void mava_tum_session_context_free_ext(
+    mava_tum_session_context *record, mava_tum_release_fn release_fn, void *release_ctx, uint32_t flags);
 
 #ifdef __cplusplus
 }

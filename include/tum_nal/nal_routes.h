@@ -11,10 +11,7 @@ extern "C" {
 #endif
 
 /* Slots of a route batch. */
-enum {
-    TUM_NAL_SUB_ROUTE_IPV4_ROUTES = 50,
-    TUM_NAL_SUB_ROUTE_IPV6_ROUTES = 50
-};
+enum { TUM_NAL_SUB_ROUTE_IPV4_ROUTES = 50, TUM_NAL_SUB_ROUTE_IPV6_ROUTES = 50 };
 
 /* One IPv4 route. Sent: `field_1` always, all others when not zero or empty.
  * Texts are received up to 32, 32 and 64 characters, although their arrays hold 35, 35 and 67.
@@ -58,13 +55,13 @@ typedef struct tum_nal_data_sub_route {
 
 /* Encodes a batch of routes as one sub_route message into `buffer` (`capacity` bytes; may be null if 0).
  * Returns the size needed in bytes; above `capacity`, the output was cut: do not send it. */
-MAVA_TUM_API uint64_t tum_nal_data_gpb_encode_tum_sub_route(const tum_nal_data_sub_route *record, uint8_t *buffer,
-    uint32_t capacity);
+MAVA_TUM_API uint64_t tum_nal_data_gpb_encode_tum_sub_route(
+    const tum_nal_data_sub_route *record, uint8_t *buffer, uint32_t capacity);
 
 /* Decodes the sub_route message in the `length` bytes at `data` into `record`, all of which is overwritten. Reports
  * nothing; of a malformed message the part before the fault arrives. */
-MAVA_TUM_API void tum_nal_data_gpb_decode_tum_sub_route(const uint8_t *data, uint32_t length,
-    tum_nal_data_sub_route *record);
+MAVA_TUM_API void tum_nal_data_gpb_decode_tum_sub_route(
+    const uint8_t *data, uint32_t length, tum_nal_data_sub_route *record);
 
 #ifdef __cplusplus
 }

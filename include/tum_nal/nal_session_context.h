@@ -12,11 +12,7 @@ extern "C" {
 #endif
 
 /* Slots of a session. */
-enum {
-    TUM_NAL_SESSION_QOS_ENTRIES = 8,
-    TUM_NAL_SESSION_IPV4_ROUTES = 4,
-    TUM_NAL_SESSION_IPV6_ROUTES = 4
-};
+enum { TUM_NAL_SESSION_QOS_ENTRIES = 8, TUM_NAL_SESSION_IPV4_ROUTES = 4, TUM_NAL_SESSION_IPV6_ROUTES = 4 };
 
 /* Bits of `feature_mask`. The mask is sent as it is; on encode its bits also decide which members are sent. On decode
  * they decide nothing: what the message holds arrives. Bits without a name here select nothing. */
@@ -55,16 +51,10 @@ enum {
 };
 
 /* Values of `l2tp_kind` that decide which end points are sent. */
-enum {
-    TUM_NAL_L2TP_IPV4 = 1,
-    TUM_NAL_L2TP_IPV6 = 2
-};
+enum { TUM_NAL_L2TP_IPV4 = 1, TUM_NAL_L2TP_IPV6 = 2 };
 
 /* Bits of `accounting_flags` that decide which accounting values are sent. */
-enum {
-    TUM_NAL_ACCOUNTING_VALUE_2 = 1 << 0,
-    TUM_NAL_ACCOUNTING_VALUE_3 = 1 << 1
-};
+enum { TUM_NAL_ACCOUNTING_VALUE_2 = 1 << 0, TUM_NAL_ACCOUNTING_VALUE_3 = 1 << 1 };
 
 /* One QoS entry. Sent: `value_1` always, all others when not zero or empty. */
 typedef struct tum_nal_data_qos_element {
@@ -139,13 +129,13 @@ typedef struct tum_nal_data_session_context {
     uint32_t l2tp_value_18;  /* non-zero, and `l2tp_value_17` non-zero */
     char l2tp_name[33];      /* non-zero */
 
-    char session_name[65];         /* non-zero */
-    uint8_t session_identifier[7]; /* `session_value_1` equal to 1 or 4 */
-    char session_label[33];        /* non-zero */
-    char session_text[65];         /* non-zero */
-    uint16_t session_value_9;      /* non-zero, and `session_value_1` equal to 4 */
-    uint16_t vlan_value_1;         /* FEATURE_VLAN_1 */
-    uint16_t vlan_value_2;         /* FEATURE_VLAN_2 */
+    char session_name[65];          /* non-zero */
+    uint8_t session_identifier[7];  /* `session_value_1` equal to 1 or 4 */
+    char session_label[33];         /* non-zero */
+    char session_text[65];          /* non-zero */
+    uint16_t session_value_9;       /* non-zero, and `session_value_1` equal to 4 */
+    uint16_t vlan_value_1;          /* FEATURE_VLAN_1 */
+    uint16_t vlan_value_2;          /* FEATURE_VLAN_2 */
     uint32_t session_data_value_11; /* non-zero */
 
     /* QoS: FEATURE_QOS and a count above zero. */
@@ -197,13 +187,13 @@ typedef struct tum_nal_data_session_context {
 /* Encodes a session as one session_context message into `buffer` (`capacity` bytes; may be null if 0).
  * Returns the size needed in bytes; above `capacity`, the output was cut: do not send it.
  * The message's field 6 (bytes) and field 9 of its QoS entries have no member here and are never sent. */
-MAVA_TUM_API uint64_t tum_nal_data_gpb_encode_tum_session_context(const tum_nal_data_session_context *record,
-    uint8_t *buffer, uint32_t capacity);
+MAVA_TUM_API uint64_t tum_nal_data_gpb_encode_tum_session_context(
+    const tum_nal_data_session_context *record, uint8_t *buffer, uint32_t capacity);
 
 /* Decodes the session_context message in the `length` bytes at `data` into `record`, all of which is overwritten.
  * Reports nothing; of a malformed message the part before the fault arrives. */
-MAVA_TUM_API void tum_nal_data_gpb_decode_tum_session_context(const uint8_t *data, uint32_t length,
-    tum_nal_data_session_context *record);
+MAVA_TUM_API void tum_nal_data_gpb_decode_tum_session_context(
+    const uint8_t *data, uint32_t length, tum_nal_data_session_context *record);
 
 #ifdef __cplusplus
 }
