@@ -1,0 +1,21 @@
+# Warnings are on for whoever works on this project and are errors only in the developer preset: a newer compiler with
+# a new warning must not stop somebody who merely builds the library.
+
+# For the library itself: narrowing must be written down, since the codec is all about widths.
+function(mava_tum_library_warnings target)
+    target_compile_options(${target} PRIVATE
+        -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wcast-qual -Wold-style-cast -Wundef -Wvla)
+    mava_tum_warnings_as_errors(${target})
+endfunction()
+
+# For tests, examples and benchmarks.
+function(mava_tum_program_warnings target)
+    target_compile_options(${target} PRIVATE -Wall -Wextra)
+    mava_tum_warnings_as_errors(${target})
+endfunction()
+
+function(mava_tum_warnings_as_errors target)
+    if(MAVA_TUM_WARNINGS_AS_ERRORS)
+        target_compile_options(${target} PRIVATE -Werror)
+    endif()
+endfunction()
