@@ -1,0 +1,255 @@
+// Decode, encode, duplicate and free as tests want them: bytes as hex, records pre-filled with 0xFF so that a reset
+// that misses a member or touches a spare bit shows, inputs that end before an inaccessible page, and an allocator
+// that must have everything back at the end.
+#pragma once
+
+#include "support/guarded_buffer.h"
+#include "support/hex.h"
+#include "support/message_functions.h"
+#include "support/recording_allocator.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdint>
+#include <cstring>
+#include <string_view>
+#include <type_traits>
+#include <vector>
+
+namespace mava_tum_test
+{
+
+// ---- one call each, whatever parameters the message's function takes ----
+
+template <class record_type>
+int32_t call_decode(record_type &record, const uint8_t *data, uint64_t length, mava_tum_alloc_fn alloc_fn,
+    void *alloc_ctx, uint32_t flags)
+{
+    constexpr auto decode = message_functions<record_type>::decode;
+    using decode_type = decltype(decode);
+    if constexpr (std::is_invocable_v<decode_type, record_type *, const uint8_t *, uint64_t>)
+        return decode(&record, data, length);
+    else if constexpr (std::is_invocable_v<decode_type, record_type *, const uint8_t *, uint64_t, mava_tum_alloc_fn,
+                           void *>)
+        return decode(&record, data, length, alloc_fn, alloc_ctx);
+    else
+        return decode(&record, data, length, alloc_fn, alloc_ctx, flags);
+}
+
+template <class record_type>
+uint64_t call_encode(const record_type &record, uint8_t *buffer, uint64_t length, mava_tum_segment *segments = nullptr,
+    uint32_t *segment_count = nullptr, uint32_t flags = 0)
+{
+    constexpr auto encode = message_functions<record_type>::encode;
+    if constexpr (std::is_invocable_v<decltype(encode), const record_type *, uint8_t *, uint64_t, mava_tum_segment *,
+                      uint32_t *>)
+        return encode(&record, buffer, length, segments, segment_count);
+    else
+        return encode(&record, buffer, length, segments, segment_count, flags);
+}
+
+template <class record_type>
+int32_t call_duplicate(record_type &destination, const record_type &source, mava_tum_alloc_fn alloc_fn, void *alloc_ctx)
+{
+    constexpr auto duplicate = message_functions<record_type>::duplicate;
+    if constexpr (std::is_invocable_v<decltype(duplicate), record_type *, const record_type *>)
+        return duplicate(&destination, &source);
+    else
+        return duplicate(&destination, &source, alloc_fn, alloc_ctx);
+}
+
+template <class record_type>
+void call_free(record_type &record, mava_tum_release_fn release_fn, void *release_ctx, uint32_t flags)
+{
+    constexpr auto release = message_functions<record_type>::release;
+    if constexpr (std::is_invocable_v<decltype(release), record_type *>)
+        release(&record);
+    else if constexpr (std::is_invocable_v<decltype(release), record_type *, mava_tum_release_fn, void *>)
+        release(&record, release_fn, release_ctx);
+    else
+        release(&record, release_fn, release_ctx, flags);
+}
+
+template <class record_type>
+void free_record(record_type &record, recording_allocator &allocator, uint32_t flags = 0)
+{
+    call_free(record, recording_allocator::release, allocator.context(), flags);
+}
+
+// ---- presence ----
+
+// The mask in which exactly the given fields are present.
+template <class... number>
+constexpr uint32_t fields(number... numbers)
+{
+    return (0u | ... | (1u << (numbers - 1)));
+}
+
+template <class record_type, class... number>
+void mark_present(record_type &record, number... numbers)
+{
+    record.presence_mask = static_cast<decltype(record.presence_mask)>(record.presence_mask | fields(numbers...));
+}
+
+template <class record_type>
+uint32_t own_bits(const record_type &record)
+{
+    return record.presence_mask & message_functions<record_type>::own_bits;
+}
+
+template <class record_type>
+constexpr uint32_t all_spare_bits()
+{
+    constexpr decltype(record_type::presence_mask) all_ones = static_cast<decltype(record_type::presence_mask)>(~0u);
+    return all_ones & ~message_functions<record_type>::own_bits;
+}
+
+template <class record_type>
+uint32_t spare_bits(const record_type &record)
+{
+    return record.presence_mask & all_spare_bits<record_type>();
+}
+
+// ---- values ----
+
+inline mava_tum_bytes bytes_field(byte_vector &content)
+{
+    return {content.data(), content.size()};
+}
+
+inline byte_vector content_of(const mava_tum_bytes &field)
+{
+    return field.data == nullptr ? byte_vector() : byte_vector(field.data, field.data + field.length);
+}
+
+template <class record_type>
+void fill_with_ones(record_type &record)
+{
+    std::memset(static_cast<void *>(&record), 0xFF, sizeof record);
+}
+
+// ---- decode ----
+
+struct decode_options {
+    uint32_t flags = 0;
+    bool allocator_given = true;
+    std::size_t failing_call = 0; // this allocator call fails, once; 0 for none
+};
+
+// One decode and all that came of it. The destructor frees the record; its allocator then finds what is left.
+template <class record_type>
+struct decoded {
+    page_end_buffer wire;
+    recording_allocator allocator;
+    record_type record;
+    int32_t result;
+    uint32_t flags;
+
+    explicit decoded(const byte_vector &bytes, decode_options options = {}) : wire(bytes), flags(options.flags)
+    {
+        fill_with_ones(record);
+        if (options.failing_call != 0)
+            allocator.fail_call(options.failing_call);
+        result = call_decode(record, wire.data(), wire.size(),
+            options.allocator_given ? recording_allocator::allocate : nullptr, allocator.context(), flags);
+        EXPECT_EQ(spare_bits(record), all_spare_bits<record_type>()) << "the decode touched spare bits";
+    }
+
+    explicit decoded(std::string_view hex, decode_options options = {}) : decoded(bytes_of(hex), options) {}
+
+    decoded(const decoded &) = delete;
+    decoded &operator=(const decoded &) = delete;
+
+    ~decoded()
+    {
+        free_now();
+    }
+
+    void free_now()
+    {
+        free_record(record, allocator, flags);
+    }
+
+    uint32_t present() const
+    {
+        return own_bits(record);
+    }
+};
+
+// ---- encode ----
+
+// The complete output, from a buffer of exactly the size that the size pass gives.
+template <class record_type>
+byte_vector encoded(const record_type &record)
+{
+    const uint64_t size = call_encode(record, nullptr, 0);
+    guarded_buffer buffer(size);
+    EXPECT_EQ(call_encode(record, buffer.data(), size), size) << "the size pass and the real pass differ";
+    EXPECT_TRUE(buffer.guards_intact());
+    return buffer.content();
+}
+
+template <class record_type>
+std::string encoded_hex(const record_type &record)
+{
+    return hex_of(encoded(record));
+}
+
+// What an encode into `capacity` bytes writes; the result must be `expected_size` all the same.
+template <class record_type>
+write_trace encode_trace(const record_type &record, std::size_t capacity, uint64_t expected_size)
+{
+    return trace_writes(capacity, [&](uint8_t *buffer, std::size_t size) {
+        EXPECT_EQ(call_encode(record, buffer, size), expected_size) << "capacity " << capacity;
+    });
+}
+
+// Written bytes as hex, a byte that was left alone as "--".
+inline std::string hex_of(const write_trace &trace)
+{
+    std::string text;
+    for (std::size_t i = 0; i < trace.bytes.size(); ++i) {
+        text += i == 0 ? "" : " ";
+        text += trace.written[i] ? hex_of(&trace.bytes[i], 1) : "--";
+    }
+    return text;
+}
+
+// ---- duplicate ----
+
+struct duplicate_options {
+    bool allocator_given = true;
+    std::size_t failing_call = 0;
+};
+
+template <class record_type>
+struct duplicated {
+    recording_allocator allocator;
+    record_type record;
+    int32_t result;
+
+    explicit duplicated(const record_type &source, duplicate_options options = {})
+    {
+        fill_with_ones(record);
+        if (options.failing_call != 0)
+            allocator.fail_call(options.failing_call);
+        result = call_duplicate(
+            record, source, options.allocator_given ? recording_allocator::allocate : nullptr, allocator.context());
+        EXPECT_EQ(spare_bits(record), all_spare_bits<record_type>()) << "the duplicate touched spare bits";
+    }
+
+    duplicated(const duplicated &) = delete;
+    duplicated &operator=(const duplicated &) = delete;
+
+    ~duplicated()
+    {
+        free_record(record, allocator);
+    }
+
+    uint32_t present() const
+    {
+        return own_bits(record);
+    }
+};
+
+} // namespace mava_tum_test
