@@ -1,0 +1,105 @@
+#include "nal/convert_session_context.h"
+
+#include "nal/convert_routes.h"
+#include "nal/convert_rows.h"
+#include "nal/convert_session_access.h"
+#include "nal/convert_session_features.h"
+#include "nal/session_features.h"
+
+namespace mava_tum
+{
+
+/* ---- values that are always sent: field 6 has no member -------------------------------------------------- */
+
+static void values_to_codec(mava_tum_session_context &context, const tum_nal_data_session_context &record)
+{
+    put<1>(context, context.field_1, record.session_value_1);
+    put<2>(context, context.field_2, record.session_value_2);
+    put<3>(context, context.field_3, record.session_value_3);
+    put<4>(context, context.field_4, record.session_value_4);
+    put<5>(context, context.feature_mask, record.feature_mask);
+    put<7>(context, context.field_7, record.session_value_7);
+}
+
+static void values_from_codec(tum_nal_data_session_context &record, const mava_tum_session_context &context)
+{
+    take<1>(record.session_value_1, context, context.field_1);
+    take<2>(record.session_value_2, context, context.field_2);
+    take<3>(record.session_value_3, context, context.field_3);
+    take<4>(record.session_value_4, context, context.field_4);
+    take<5>(record.feature_mask, context, context.feature_mask);
+    take<7>(record.session_value_7, context, context.field_7);
+}
+
+/* ---- how the subscriber is reached ----------------------------------------------------------------------- */
+
+constexpr int any_ipv6_part = TUM_NAL_FEATURE_IPV6_PART_2 | TUM_NAL_FEATURE_IPV6_PART_3 | TUM_NAL_FEATURE_IPV6_PART_4 |
+                              TUM_NAL_FEATURE_IPV6_PART_6;
+
+static void access_to_codec(mava_tum_session_context &context, const tum_nal_data_session_context &record)
+{
+    if (has_feature(record, TUM_NAL_FEATURE_IPV4) && record.ipv4_address != 0) {
+        subscriber_v4_to_codec(context.subscriber_v4, record);
+        mark_present<8>(context);
+    }
+    if (has_feature(record, any_ipv6_part)) {
+        subscriber_v6_to_codec(context.subscriber_v6, record);
+        mark_present<9>(context);
+    }
+    session_data_to_codec(context.session_data, record);
+    mark_present<10>(context);
+}
+
+static void access_from_codec(tum_nal_data_session_context &record, const mava_tum_session_context &context)
+{
+    subscriber_v4_from_codec(record, context.subscriber_v4);
+    subscriber_v6_from_codec(record, context.subscriber_v6);
+    session_data_from_codec(record, context.session_data);
+}
+
+/* ---- lists ----------------------------------------------------------------------------------------------- */
+
+static void lists_to_codec(
+    mava_tum_session_context &context, session_context_slots &slots, const tum_nal_data_session_context &record)
+{
+    if (has_feature(record, TUM_NAL_FEATURE_QOS))
+        put_list<11>(context, context.qos, context.qos_count, slots.qos, record.qos, record.qos_count, qos_to_codec);
+    if (has_feature(record, TUM_NAL_FEATURE_IPV4_ROUTES))
+        put_list<23>(context, context.route_ipv4, context.route_ipv4_count, slots.ipv4_routes, record.ipv4_routes,
+            record.ipv4_route_count, ipv4_route_to_codec);
+    if (has_feature(record, TUM_NAL_FEATURE_IPV6_ROUTES))
+        put_list<24>(context, context.route_ipv6, context.route_ipv6_count, slots.ipv6_routes, record.ipv6_routes,
+            record.ipv6_route_count, ipv6_route_to_codec);
+}
+
+static void lists_from_codec(tum_nal_data_session_context &record, const mava_tum_session_context &context)
+{
+    take_list<11>(record.qos, record.qos_count, context, context.qos, context.qos_count, qos_from_codec);
+    take_list<23>(record.ipv4_routes, record.ipv4_route_count, context, context.route_ipv4, context.route_ipv4_count,
+        ipv4_route_from_codec);
+    take_list<24>(record.ipv6_routes, record.ipv6_route_count, context, context.route_ipv6, context.route_ipv6_count,
+        ipv6_route_from_codec);
+}
+
+/* ---- the session ----------------------------------------------------------------------------------------- */
+
+void session_context_to_codec(
+    mava_tum_session_context &context, session_context_slots &slots, const tum_nal_data_session_context &record)
+{
+    values_to_codec(context, record);
+    access_to_codec(context, record);
+    features_to_codec(context, record);
+    lists_to_codec(context, slots, record);
+}
+
+/* No bit of `context` guards a nested record, on purpose: one whose decode failed part-way is not marked present, yet
+ * its fields before the fault are delivered. Where nothing was decoded, the nested record marks nothing present. */
+void session_context_from_codec(tum_nal_data_session_context &record, const mava_tum_session_context &context)
+{
+    values_from_codec(record, context);
+    access_from_codec(record, context);
+    features_from_codec(record, context);
+    lists_from_codec(record, context);
+}
+
+} // namespace mava_tum

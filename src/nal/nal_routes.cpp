@@ -1,0 +1,90 @@
+#include "tum_nal/nal_routes.h"
+
+#include <cstddef>
+
+#include "nal/adapter_frame.h"
+#include "nal/convert_routes.h"
+#include "nal/convert_rows.h"
+
+namespace mava_tum
+{
+
+namespace
+{
+
+struct sub_route_slots {
+    mava_tum_subscriber_route_ipv4 ipv4_routes[TUM_NAL_SUB_ROUTE_IPV4_ROUTES];
+    mava_tum_subscriber_route_ipv6 ipv6_routes[TUM_NAL_SUB_ROUTE_IPV6_ROUTES];
+};
+
+void sub_route_to_codec(mava_tum_sub_route &batch, sub_route_slots &slots, const tum_nal_data_sub_route &record)
+{
+    put<1>(batch, batch.field_1, record.field_1);
+    put<2>(batch, batch.field_2, record.field_2);
+    put<3>(batch, batch.field_3, record.field_3);
+    put_list<4>(batch, batch.ipv4_routes, batch.ipv4_route_count, slots.ipv4_routes, record.ipv4_routes,
+        record.ipv4_route_count, ipv4_route_to_codec);
+    put_list<5>(batch, batch.ipv6_routes, batch.ipv6_route_count, slots.ipv6_routes, record.ipv6_routes,
+        record.ipv6_route_count, ipv6_route_to_codec);
+    put<6>(batch, batch.field_6, record.field_6);
+}
+
+void sub_route_from_codec(tum_nal_data_sub_route &record, const mava_tum_sub_route &batch)
+{
+    take<1>(record.field_1, batch, batch.field_1);
+    take<2>(record.field_2, batch, batch.field_2);
+    take<3>(record.field_3, batch, batch.field_3);
+    take_list<4>(record.ipv4_routes, record.ipv4_route_count, batch, batch.ipv4_routes, batch.ipv4_route_count,
+        ipv4_route_from_codec);
+    take_list<5>(record.ipv6_routes, record.ipv6_route_count, batch, batch.ipv6_routes, batch.ipv6_route_count,
+        ipv6_route_from_codec);
+    take<6>(record.field_6, batch, batch.field_6);
+}
+
+} // namespace
+
+} // namespace mava_tum
+
+extern "C" uint64_t tum_nal_data_gpb_encode_tum_sub_route(
+    const tum_nal_data_sub_route *record, uint8_t *buffer, uint32_t capacity)
+{
+    return mava_tum::encode_frame(
+        record, buffer, capacity, mava_tum::sub_route_to_codec, mava_tum_sub_route_encode_ext);
+}
+
+extern "C" void tum_nal_data_gpb_decode_tum_sub_route(
+    const uint8_t *data, uint32_t length, tum_nal_data_sub_route *record)
+{
+    mava_tum::decode_frame(data, length, record, mava_tum::sub_route_from_codec, mava_tum_sub_route_free_ext);
+}
+
+/* ---- layout: programs built against the header rely on it ------------------------------------------------ */
+
+static_assert(sizeof(tum_nal_data_ipv4_route) == 164 && alignof(tum_nal_data_ipv4_route) == 4);
+static_assert(offsetof(tum_nal_data_ipv4_route, field_2) == 4);
+static_assert(offsetof(tum_nal_data_ipv4_route, field_3) == 40);
+static_assert(offsetof(tum_nal_data_ipv4_route, field_4) == 44);
+static_assert(offsetof(tum_nal_data_ipv4_route, field_5) == 48);
+static_assert(offsetof(tum_nal_data_ipv4_route, field_6) == 52);
+static_assert(offsetof(tum_nal_data_ipv4_route, field_7) == 88);
+static_assert(offsetof(tum_nal_data_ipv4_route, field_8) == 92);
+static_assert(offsetof(tum_nal_data_ipv4_route, field_9) == 96);
+
+static_assert(sizeof(tum_nal_data_ipv6_route) == 188 && alignof(tum_nal_data_ipv6_route) == 4);
+static_assert(offsetof(tum_nal_data_ipv6_route, field_2) == 4);
+static_assert(offsetof(tum_nal_data_ipv6_route, field_3) == 40);
+static_assert(offsetof(tum_nal_data_ipv6_route, field_4) == 56);
+static_assert(offsetof(tum_nal_data_ipv6_route, field_5) == 57);
+static_assert(offsetof(tum_nal_data_ipv6_route, field_6) == 73);
+static_assert(offsetof(tum_nal_data_ipv6_route, field_7) == 112);
+static_assert(offsetof(tum_nal_data_ipv6_route, field_8) == 116);
+static_assert(offsetof(tum_nal_data_ipv6_route, field_9) == 120);
+
+static_assert(sizeof(tum_nal_data_sub_route) == 17620 && alignof(tum_nal_data_sub_route) == 4);
+static_assert(offsetof(tum_nal_data_sub_route, field_2) == 4);
+static_assert(offsetof(tum_nal_data_sub_route, field_3) == 8);
+static_assert(offsetof(tum_nal_data_sub_route, ipv4_route_count) == 12);
+static_assert(offsetof(tum_nal_data_sub_route, ipv6_route_count) == 13);
+static_assert(offsetof(tum_nal_data_sub_route, ipv4_routes) == 16);
+static_assert(offsetof(tum_nal_data_sub_route, ipv6_routes) == 8216);
+static_assert(offsetof(tum_nal_data_sub_route, field_6) == 17616);
