@@ -1,0 +1,21 @@
+// The free frame. Lengths of bytes fields, scalars and presence bits stay as they are.
+#pragma once
+
+#include "codec/frames.h"
+
+namespace mava_tum
+{
+
+template <class Record, class... Field>
+[[gnu::always_inline]] inline void release_fields(field_list<Field...>, Record &record, const block_sink &blocks)
+{
+    (Field::release(record, blocks), ...);
+}
+
+template <class Record>
+[[gnu::noinline]] void release_record(Record &record, const block_sink &blocks)
+{
+    release_fields(fields_of<Record>{}, record, blocks);
+}
+
+} // namespace mava_tum

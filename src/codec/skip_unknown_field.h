@@ -1,0 +1,21 @@
+// The step over a field that a message does not know.
+#pragma once
+
+#include "codec/wire_types.h"
+
+#include <cstdint>
+
+namespace mava_tum
+{
+
+// Where a read stopped: the next position, or null and the decode result.
+struct read_end {
+    const uint8_t *next;
+    int32_t failure;
+};
+
+// `at` is the position after the tag. Steps that would pass `end` stop at it: what follows an unknown field that is cut
+// short is the end of the message, with success.
+read_end skip_unknown_field(wire_type type, const uint8_t *at, const uint8_t *end);
+
+} // namespace mava_tum

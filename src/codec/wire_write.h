@@ -1,0 +1,92 @@
+// The write primitives of the fast encoder. They store whole words into the scratch and may spill up to `spill_bytes`
+// beyond what they write: only the hand-over of the scratch touches the caller's buffer.
+#pragma once
+
+#include "codec/wire_types.h"
+
+#include <array>
+#include <bit>
+#include <cstdint>
+#include <cstring>
+
+namespace mava_tum
+{
+
+inline constexpr uint32_t spill_bytes = 8;
+
+[[gnu::always_inline]] inline void store_little_endian(uint8_t *at, uint64_t word)
+{
+    if (std::endian::native == std::endian::big)
+        word = __builtin_bswap64(word);
+    memcpy(at, &word, sizeof word);
+}
+
+// A tag as it stands on the wire, first byte lowest.
+constexpr uint32_t wire_tag(uint32_t tag)
+{
+    return tag < varint_continues ? tag : (tag & varint_payload) | varint_continues | (tag >> 7) << 8;
+}
+
+// What the position of a value's top bit fixes about its varint: its bytes, and the continuation bits of all but one.
+struct varint_shape {
+    uint64_t continuation_bits;
+    uint64_t bytes;
+};
+
+constexpr std::array<varint_shape, 32> make_varint_shapes()
+{
+    std::array<varint_shape, 32> shapes{};
+    for (uint32_t top_bit = 0; top_bit < shapes.size(); ++top_bit) {
+        const uint32_t bytes = top_bit / 7 + 1;
+        for (uint32_t i = 0; i + 1 < bytes; ++i)
+            shapes[top_bit].continuation_bits |= uint64_t{varint_continues} << 8 * i;
+        shapes[top_bit].bytes = bytes;
+    }
+    return shapes;
+}
+
+inline constexpr std::array<varint_shape, 32> varint_shapes = make_varint_shapes();
+
+// Moves each group of 7 bits to a byte of its own: every step adds the bits from one byte boundary up to themselves,
+// which shifts them left by one.
+[[gnu::always_inline]] inline uint64_t spread_groups(uint64_t value)
+{
+    value += value & -(uint64_t{1} << 7);
+    value += value & -(uint64_t{1} << 15);
+    value += value & -(uint64_t{1} << 23);
+    value += value & -(uint64_t{1} << 31);
+    return value;
+}
+
+// A varint of 32 bits behind the `prefix_bytes` bytes of `prefix` (a tag as it stands on the wire, or nothing).
+[[gnu::always_inline]] inline uint8_t *put_varint32(uint8_t *at, uint32_t prefix, uint32_t prefix_bytes, uint32_t value)
+{
+    if (value < varint_continues) {
+        store_little_endian(at, prefix | uint64_t{value} << 8 * prefix_bytes);
+        return at + prefix_bytes + 1;
+    }
+    const varint_shape &shape = varint_shapes[31 - std::countl_zero(value)];
+    const uint64_t groups = spread_groups(value) | shape.continuation_bits;
+    store_little_endian(at, prefix | groups << 8 * prefix_bytes);
+    return at + prefix_bytes + shape.bytes;
+}
+
+[[gnu::always_inline]] inline uint8_t *put_varint64(uint8_t *at, uint32_t prefix, uint32_t prefix_bytes, uint64_t value)
+{
+    if (value <= UINT32_MAX)
+        return put_varint32(at, prefix, prefix_bytes, static_cast<uint32_t>(value));
+    store_little_endian(at, prefix);
+    at += prefix_bytes;
+    for (; value >= varint_continues; value >>= 7)
+        *at++ = static_cast<uint8_t>(value | varint_continues);
+    *at++ = static_cast<uint8_t>(value);
+    return at;
+}
+
+[[gnu::always_inline]] inline uint8_t *put_fixed32(uint8_t *at, uint32_t prefix, uint32_t prefix_bytes, uint32_t value)
+{
+    store_little_endian(at, prefix | uint64_t{value} << 8 * prefix_bytes);
+    return at + prefix_bytes + fixed32_bytes;
+}
+
+} // namespace mava_tum

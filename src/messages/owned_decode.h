@@ -1,0 +1,18 @@
+// What the decode adapters call: a decode into a scratch record of theirs, which need not be initialised. It clears the
+// whole record first and aliases the input. Unlike the exported decoders, it gives back what a nested record holds
+// before a second occurrence is decoded over it, so that the exported free, called with the alias bit, leaves nothing
+// behind.
+#pragma once
+
+#include "mava_tum/routes.h"
+#include "mava_tum/session_messages.h"
+
+namespace mava_tum
+{
+
+void decode_owned(mava_tum_session_context &record, const uint8_t *data, uint64_t length, mava_tum_alloc_fn alloc_fn,
+    mava_tum_release_fn release_fn);
+void decode_owned(mava_tum_sub_route &record, const uint8_t *data, uint64_t length, mava_tum_alloc_fn alloc_fn,
+    mava_tum_release_fn release_fn);
+
+} // namespace mava_tum

@@ -1,0 +1,50 @@
+// The route messages: field lists and exported functions.
+#include "mava_tum/routes.h"
+#include "codec/message.h"
+#include "messages/feature_records_schema.h"
+#include "messages/owned_decode.h"
+
+namespace mava_tum
+{
+
+template <>
+struct schema<mava_tum_sub_route> {
+    using self = mava_tum_sub_route;
+    using fields = field_list<varint<1, &self::field_1>, varint<2, &self::field_2>, varint<3, &self::field_3>,
+        record_array<4, &self::ipv4_routes, &self::ipv4_route_count>,
+        record_array<5, &self::ipv6_routes, &self::ipv6_route_count>, varint<6, &self::field_6>>;
+};
+
+} // namespace mava_tum
+
+using namespace mava_tum;
+
+void mava_tum::decode_owned(mava_tum_sub_route &record, const uint8_t *data, uint64_t length,
+    mava_tum_alloc_fn alloc_fn, mava_tum_release_fn release_fn)
+{
+    decode_for_adapter(record, data, length, alloc_fn, release_fn);
+}
+
+int32_t mava_tum_sub_route_decode_ext(mava_tum_sub_route *record, const uint8_t *data, uint64_t length,
+    mava_tum_alloc_fn alloc_fn, void *alloc_ctx, uint32_t flags)
+{
+    return decode_message(*record, data, length, decode_context::for_caller(alloc_fn, alloc_ctx, flags));
+}
+
+uint64_t mava_tum_sub_route_encode_ext(const mava_tum_sub_route *record, uint8_t *buffer, uint64_t length,
+    mava_tum_segment *segments, uint32_t *segment_count, uint32_t flags)
+{
+    return encode_message(*record, {buffer, length, segments, segment_count, flags});
+}
+
+int32_t mava_tum_sub_route_duplicate(
+    mava_tum_sub_route *destination, const mava_tum_sub_route *source, mava_tum_alloc_fn alloc_fn, void *alloc_ctx)
+{
+    return duplicate_message(*destination, *source, {alloc_fn, alloc_ctx});
+}
+
+void mava_tum_sub_route_free_ext(
+    mava_tum_sub_route *record, mava_tum_release_fn release_fn, void *release_ctx, uint32_t flags)
+{
+    release_record(*record, {release_fn, release_ctx, flags});
+}
