@@ -52,6 +52,39 @@ MAVA_TUM_API int32_t mava_tum_sub_route_duplicate(
 MAVA_TUM_API void mava_tum_sub_route_free_ext(
     mava_tum_sub_route *record, mava_tum_release_fn release_fn, void *release_ctx, uint32_t flags);
 
+/* ---- subscriber_route_resp ------------------------------------------------------------------------------- */
+
+/* The answer to a batch of subscriber routes. */
+typedef struct mava_tum_subscriber_route_resp {
+    uint32_t field_1;      /* 1: varint, bit 0 */
+    uint32_t field_2;      /* 2: varint, bit 1 */
+    char *field_3;         /* 3: text, bit 2 */
+    char *field_4;         /* 4: text, bit 3 */
+    uint8_t presence_mask; /* bits 4-7 spare */
+} mava_tum_subscriber_route_resp;
+
+/* Decodes `length` bytes of wire at `data` into `record`, which is reset first. Calls `alloc_fn` for texts; the
+ * record owns those blocks, also after a failure. Returns MAVA_TUM_OK, MAVA_TUM_TRUNCATED,
+ * MAVA_TUM_UNSUPPORTED_WIRE_TYPE, MAVA_TUM_WRONG_WIRE_TYPE or MAVA_TUM_NO_MEMORY. */
+MAVA_TUM_API int32_t mava_tum_subscriber_route_resp_decode_ext(mava_tum_subscriber_route_resp *record,
+    const uint8_t *data, uint64_t length, mava_tum_alloc_fn alloc_fn, void *alloc_ctx);
+
+/* Encodes `record` into `buffer` (capacity `length` bytes; may be null if 0). Allocates nothing. `segments` and
+ * `segment_count` may be null. Returns the size needed in bytes; above `length`, the output was cut: do not send it. */
+MAVA_TUM_API uint64_t mava_tum_subscriber_route_resp_encode_ext(const mava_tum_subscriber_route_resp *record,
+    uint8_t *buffer, uint64_t length, mava_tum_segment *segments, uint32_t *segment_count);
+
+/* Copies `source` into `destination`, whose earlier pointers are overwritten without being released. Every owned
+ * block is copied through `alloc_fn`. Returns MAVA_TUM_OK, or MAVA_TUM_NO_MEMORY when some block could not be copied:
+ * that field is then empty and absent, all others are copied. */
+MAVA_TUM_API int32_t mava_tum_subscriber_route_resp_duplicate(mava_tum_subscriber_route_resp *destination,
+    const mava_tum_subscriber_route_resp *source, mava_tum_alloc_fn alloc_fn, void *alloc_ctx);
+
+/* Hands the texts of `record` to `release_fn` and nulls their pointers. The record itself, its scalars and its
+ * presence bits stay. Calling it twice is harmless. */
+MAVA_TUM_API void mava_tum_subscriber_route_resp_free_ext(
+    mava_tum_subscriber_route_resp *record, mava_tum_release_fn release_fn, void *release_ctx);
+
 #ifdef __cplusplus
 }
 #endif

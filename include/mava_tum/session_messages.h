@@ -6,6 +6,7 @@
 
 #include "mava_tum/codec_contract.h"
 #include "mava_tum/feature_records.h"
+#include "mava_tum/statistics.h"
 #include "mava_tum/subscriber_records.h"
 
 #ifdef __cplusplus
@@ -71,6 +72,80 @@ MAVA_TUM_API int32_t mava_tum_session_context_duplicate(mava_tum_session_context
  * presence bits stay. Calling it twice is harmless. */
 MAVA_TUM_API void mava_tum_session_context_free_ext(
     mava_tum_session_context *record, mava_tum_release_fn release_fn, void *release_ctx, uint32_t flags);
+
+/* ---- session_delete -------------------------------------------------------------------------------------- */
+
+/* A request to remove a session. */
+typedef struct mava_tum_session_delete {
+    uint32_t field_1;      /* 1: varint, bit 0 */
+    uint32_t field_2;      /* 2: varint, bit 1 */
+    uint32_t field_3;      /* 3: varint, bit 2 */
+    uint64_t field_4;      /* 4: 64-bit varint, bit 3 */
+    uint32_t field_5;      /* 5: varint, bit 4 */
+    uint8_t presence_mask; /* bits 5-7 spare */
+} mava_tum_session_delete;
+
+/* Decodes `length` bytes of wire at `data` into `record`, which is reset first. `alloc_fn` and `alloc_ctx` are
+ * ignored: the record owns no memory. Returns MAVA_TUM_OK, MAVA_TUM_TRUNCATED, MAVA_TUM_UNSUPPORTED_WIRE_TYPE or
+ * MAVA_TUM_WRONG_WIRE_TYPE. */
+MAVA_TUM_API int32_t mava_tum_session_delete_decode_ext(
+    mava_tum_session_delete *record, const uint8_t *data, uint64_t length, mava_tum_alloc_fn alloc_fn, void *alloc_ctx);
+
+/* Encodes `record` into `buffer` (capacity `length` bytes; may be null if 0). Allocates nothing. `segments` and
+ * `segment_count` may be null. Returns the size needed in bytes; above `length`, the output was cut: do not send it. */
+MAVA_TUM_API uint64_t mava_tum_session_delete_encode_ext(const mava_tum_session_delete *record, uint8_t *buffer,
+    uint64_t length, mava_tum_segment *segments, uint32_t *segment_count);
+
+/* Copies every field of `source` and its presence bit into `destination`; the spare bits of `destination` stay.
+ * Returns MAVA_TUM_OK. */
+MAVA_TUM_API int32_t mava_tum_session_delete_duplicate(
+    mava_tum_session_delete *destination, const mava_tum_session_delete *source);
+
+/* Does nothing: the record owns no memory. `record` may be null. */
+MAVA_TUM_API void mava_tum_session_delete_free_ext(mava_tum_session_delete *record);
+
+/* ---- sess_oper_resp -------------------------------------------------------------------------------------- */
+
+/* The answer to an operation on a session. */
+typedef struct mava_tum_sess_oper_resp {
+    uint32_t field_1;                  /* 1: varint, bit 0 */
+    uint32_t field_2;                  /* 2: varint, bit 1 */
+    uint32_t field_3;                  /* 3: varint, bit 2 */
+    uint64_t field_4;                  /* 4: 64-bit varint, bit 3 */
+    uint32_t field_5;                  /* 5: varint, bit 4 */
+    char *field_6;                     /* 6: text, bit 5 */
+    char *field_7;                     /* 7: text, bit 6 */
+    char *field_8;                     /* 8: text, bit 7 */
+    mava_tum_subscriber_stats field_9; /* 9: record, bit 8 */
+    mava_tum_bytes field_10;           /* 10: bytes, bit 9 */
+    uint16_t presence_mask;            /* bits 10-15 spare */
+} mava_tum_sess_oper_resp;
+
+/* Decodes `length` bytes of wire at `data` into `record`, which is reset first. Calls `alloc_fn` for bytes fields
+ * when the alias bit of `flags` is clear, texts and arrays; the record owns those blocks, also after a failure. With
+ * the alias bit set, bytes fields point into `data`, which must outlive them. Returns MAVA_TUM_OK,
+ * MAVA_TUM_TRUNCATED, MAVA_TUM_UNSUPPORTED_WIRE_TYPE, MAVA_TUM_WRONG_WIRE_TYPE or MAVA_TUM_NO_MEMORY. */
+MAVA_TUM_API int32_t mava_tum_sess_oper_resp_decode_ext(mava_tum_sess_oper_resp *record, const uint8_t *data,
+    uint64_t length, mava_tum_alloc_fn alloc_fn, void *alloc_ctx, uint32_t flags);
+
+/* Encodes `record` into `buffer` (capacity `length` bytes; may be null if 0). Allocates nothing. `segments` and
+ * `segment_count` may be null. With the alias bit of `flags` set, bytes fields become segments of their own instead
+ * of being copied. Returns the size needed in bytes; above `length`, the output was cut: do not send it. */
+MAVA_TUM_API uint64_t mava_tum_sess_oper_resp_encode_ext(const mava_tum_sess_oper_resp *record, uint8_t *buffer,
+    uint64_t length, mava_tum_segment *segments, uint32_t *segment_count, uint32_t flags);
+
+/* Copies `source` into `destination`, whose earlier pointers are overwritten without being released. Every owned
+ * block is copied through `alloc_fn`, also those that `source` aliases: free the copy with the alias bit clear.
+ * Returns MAVA_TUM_OK, or MAVA_TUM_NO_MEMORY when some block could not be copied: that field is then empty and
+ * absent, all others are copied. */
+MAVA_TUM_API int32_t mava_tum_sess_oper_resp_duplicate(mava_tum_sess_oper_resp *destination,
+    const mava_tum_sess_oper_resp *source, mava_tum_alloc_fn alloc_fn, void *alloc_ctx);
+
+/* Hands the texts and arrays of `record` to `release_fn`, its bytes fields too when the alias bit of `flags` is
+ * clear, and nulls their pointers. `flags` must be what the decode used. The record itself, its scalars and its
+ * presence bits stay. Calling it twice is harmless. */
+MAVA_TUM_API void mava_tum_sess_oper_resp_free_ext(
+    mava_tum_sess_oper_resp *record, mava_tum_release_fn release_fn, void *release_ctx, uint32_t flags);
 
 #ifdef __cplusplus
 }

@@ -53,6 +53,14 @@ typedef struct tum_nal_data_sub_route {
     uint32_t field_6;
 } tum_nal_data_sub_route;
 
+/* The answer to a batch. Sent: the numbers always, the texts when not empty. */
+typedef struct tum_nal_data_subscriber_route_resp {
+    uint32_t field_1;
+    uint32_t field_2;
+    char field_3[65];
+    char field_4[65];
+} tum_nal_data_subscriber_route_resp;
+
 /* Encodes a batch of routes as one sub_route message into `buffer` (`capacity` bytes; may be null if 0).
  * Returns the size needed in bytes; above `capacity`, the output was cut: do not send it. */
 MAVA_TUM_API uint64_t tum_nal_data_gpb_encode_tum_sub_route(
@@ -62,6 +70,16 @@ MAVA_TUM_API uint64_t tum_nal_data_gpb_encode_tum_sub_route(
  * nothing; of a malformed message the part before the fault arrives. */
 MAVA_TUM_API void tum_nal_data_gpb_decode_tum_sub_route(
     const uint8_t *data, uint32_t length, tum_nal_data_sub_route *record);
+
+/* Encodes one subscriber_route_resp message into `buffer` (`capacity` bytes; may be null if 0). Returns the size
+ * needed in bytes; above `capacity`, the output was cut: do not send it. */
+MAVA_TUM_API uint64_t tum_nal_data_gpb_encode_tum_subscriber_route_resp(
+    const tum_nal_data_subscriber_route_resp *record, uint8_t *buffer, uint32_t capacity);
+
+/* Decodes the subscriber_route_resp message in the `length` bytes at `data` into `record`, all of which is
+ * overwritten. Reports nothing; of a malformed message the part before the fault arrives. */
+MAVA_TUM_API void tum_nal_data_gpb_decode_tum_subscriber_route_resp(
+    const uint8_t *data, uint32_t length, tum_nal_data_subscriber_route_resp *record);
 
 #ifdef __cplusplus
 }

@@ -6,6 +6,7 @@
 #include "codec/field_record.h"
 #include "codec/field_record_array.h"
 #include "codec/field_text.h"
+#include "codec/field_text_array.h"
 #include "codec/field_varint.h"
 #include "codec/message_decode.h"
 #include "codec/message_duplicate.h"

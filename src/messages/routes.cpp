@@ -15,11 +15,24 @@ struct schema<mava_tum_sub_route> {
         record_array<5, &self::ipv6_routes, &self::ipv6_route_count>, varint<6, &self::field_6>>;
 };
 
+template <>
+struct schema<mava_tum_subscriber_route_resp> {
+    using self = mava_tum_subscriber_route_resp;
+    using fields = field_list<varint<1, &self::field_1>, varint<2, &self::field_2>, text<3, &self::field_3>,
+        text<4, &self::field_4>>;
+};
+
 } // namespace mava_tum
 
 using namespace mava_tum;
 
 void mava_tum::decode_owned(mava_tum_sub_route &record, const uint8_t *data, uint64_t length,
+    mava_tum_alloc_fn alloc_fn, mava_tum_release_fn release_fn)
+{
+    decode_for_adapter(record, data, length, alloc_fn, release_fn);
+}
+
+void mava_tum::decode_owned(mava_tum_subscriber_route_resp &record, const uint8_t *data, uint64_t length,
     mava_tum_alloc_fn alloc_fn, mava_tum_release_fn release_fn)
 {
     decode_for_adapter(record, data, length, alloc_fn, release_fn);
@@ -47,4 +60,28 @@ void mava_tum_sub_route_free_ext(
     mava_tum_sub_route *record, mava_tum_release_fn release_fn, void *release_ctx, uint32_t flags)
 {
     release_record(*record, {release_fn, release_ctx, flags});
+}
+
+int32_t mava_tum_subscriber_route_resp_decode_ext(mava_tum_subscriber_route_resp *record, const uint8_t *data,
+    uint64_t length, mava_tum_alloc_fn alloc_fn, void *alloc_ctx)
+{
+    return decode_message(*record, data, length, decode_context::for_caller(alloc_fn, alloc_ctx));
+}
+
+uint64_t mava_tum_subscriber_route_resp_encode_ext(const mava_tum_subscriber_route_resp *record, uint8_t *buffer,
+    uint64_t length, mava_tum_segment *segments, uint32_t *segment_count)
+{
+    return encode_message(*record, {buffer, length, segments, segment_count, 0});
+}
+
+int32_t mava_tum_subscriber_route_resp_duplicate(mava_tum_subscriber_route_resp *destination,
+    const mava_tum_subscriber_route_resp *source, mava_tum_alloc_fn alloc_fn, void *alloc_ctx)
+{
+    return duplicate_message(*destination, *source, {alloc_fn, alloc_ctx});
+}
+
+void mava_tum_subscriber_route_resp_free_ext(
+    mava_tum_subscriber_route_resp *record, mava_tum_release_fn release_fn, void *release_ctx)
+{
+    release_record(*record, {release_fn, release_ctx, 0});
 }

@@ -1,0 +1,213 @@
+/* Application records and adapters of reconciliation: start, session states, replay, complete.
+ *
+ * What all adapters do with counts, texts, short buffers and bad input: adapter_contract.h. */
+#ifndef TUM_NAL_NAL_RECONCILIATION_H
+#define TUM_NAL_NAL_RECONCILIATION_H
+
+#include "tum_nal/adapter_contract.h"
+#include "tum_nal/nal_session_context.h"
+#include "tum_nal/nal_statistics.h"
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+/* Slots. */
+enum {
+    TUM_NAL_REC_SESSION_STATES = 30,
+    TUM_NAL_REC_REPLAY_SESSIONS = 1,
+    TUM_NAL_REC_REPLAY_FAILURES = 1,
+    TUM_NAL_REC_SERVICE_STARTS = 1,
+    TUM_NAL_REC_SERVICE_NAMES = 8
+};
+
+/* Opens a run. Sent: the numbers always, the text when not empty.
+ * Not symmetric: a decode puts the message's field 3 into `field_1` and leaves `field_2` and `field_3` zero. */
+typedef struct tum_nal_data_rec_start_req {
+    uint32_t field_1;
+    uint16_t field_2;
+    uint32_t field_3;
+    char field_4[65];
+} tum_nal_data_rec_start_req;
+
+/* Closes a run. Sent: the numbers always, the text when not empty. */
+typedef struct tum_nal_data_rec_complete_req {
+    uint32_t field_1;
+    uint32_t field_2;
+    uint16_t field_3;
+    char field_4[65];
+} tum_nal_data_rec_complete_req;
+
+/* Answers a start or a complete request: both travel as one message, rec_resp, and the receiver knows from what it
+ * asked which answer it holds. Sent: the numbers always, the text when not empty. */
+typedef struct tum_nal_data_rec_res {
+    uint32_t field_1;
+    char field_2[65];
+    uint32_t field_3;
+} tum_nal_data_rec_res;
+
+/* The state of one session. All fields are always sent. */
+typedef struct tum_nal_data_session_state {
+    uint32_t field_1;
+    uint64_t field_2;
+    uint32_t field_3;
+} tum_nal_data_session_state;
+
+/* A batch of session states. Sent: the numbers always, the texts when not empty.
+ * Not symmetric: `field_6` is never sent, only received. */
+typedef struct tum_nal_data_rec_sess_req {
+    uint32_t field_1;
+    uint16_t field_2;
+    uint32_t field_3_count;
+    tum_nal_data_session_state field_3[TUM_NAL_REC_SESSION_STATES];
+    char field_4[65];
+    char field_5[65];
+    uint8_t field_6;
+} tum_nal_data_rec_sess_req;
+
+/* The answer, with a batch of session states. All fields are always sent. */
+typedef struct tum_nal_data_rec_sess_res {
+    uint32_t field_1;
+    uint32_t field_2_count;
+    tum_nal_data_session_state field_2[TUM_NAL_REC_SESSION_STATES];
+    uint8_t field_3;
+    uint32_t field_4;
+} tum_nal_data_rec_sess_res;
+
+/* A replay request as the encode adapter reads it. Sent: the numbers always, the text when not empty.
+ * The decode adapter writes another layout, of equal size: the type below. */
+typedef struct tum_nal_data_rec_sess_replay_req_encode {
+    char field_6[65];
+    uint32_t field_3;
+    uint32_t field_4_count;
+    uint32_t field_1;
+    uint16_t field_2;
+    uint8_t field_5;
+    tum_nal_data_session_context field_4[TUM_NAL_REC_REPLAY_SESSIONS];
+} tum_nal_data_rec_sess_replay_req_encode;
+
+/* A replay request as the decode adapter writes it. */
+typedef struct tum_nal_data_rec_sess_replay_req_decode {
+    uint32_t field_1;
+    uint16_t field_2;
+    uint32_t field_4_count;
+    uint32_t field_3;
+    tum_nal_data_session_context field_4[TUM_NAL_REC_REPLAY_SESSIONS];
+    uint8_t field_5;
+    char field_6[65];
+} tum_nal_data_rec_sess_replay_req_decode;
+
+/* A session that could not be replayed. All fields are always sent; statistics that are all zero as an empty record. */
+typedef struct tum_nal_data_replay_failure {
+    uint64_t field_1;
+    uint32_t field_2;
+    tum_nal_data_subscriber_stats field_3;
+} tum_nal_data_replay_failure;
+
+/* The services started for a session. The numbers are always sent; `field_5_count` texts are, empty ones too. */
+typedef struct tum_nal_data_service_start {
+    uint64_t field_1;
+    uint32_t field_2;
+    uint32_t field_3;
+    uint32_t field_4;
+    uint8_t field_5_count;
+    char field_5[TUM_NAL_REC_SERVICE_NAMES][65];
+} tum_nal_data_service_start;
+
+/* Answers a replay request. Sent: `field_1` and `field_5` always, the text when not empty. */
+typedef struct tum_nal_data_rec_sess_replay_resp {
+    uint32_t field_1;
+    uint32_t field_2_count;
+    uint32_t field_3_count;
+    tum_nal_data_replay_failure field_2[TUM_NAL_REC_REPLAY_FAILURES];
+    tum_nal_data_service_start field_3[TUM_NAL_REC_SERVICE_STARTS];
+    char field_4[65];
+    uint32_t field_5;
+} tum_nal_data_rec_sess_replay_resp;
+
+/* Encodes one rec_start_req message into `buffer` (`capacity` bytes; may be null if 0). Returns the size needed in
+ * bytes; above `capacity`, the output was cut: do not send it. */
+MAVA_TUM_API uint64_t tum_nal_data_gpb_encode_tum_rec_start_req(
+    const tum_nal_data_rec_start_req *record, uint8_t *buffer, uint32_t capacity);
+
+/* Decodes the rec_start_req message in the `length` bytes at `data` into `record`, all of which is overwritten. The
+ * message's field 3 arrives in `field_1`; its fields 1 and 2 are dropped. Reports nothing; of a malformed message
+ * the part before the fault arrives. */
+MAVA_TUM_API void tum_nal_data_gpb_decode_tum_rec_start_req(
+    const uint8_t *data, uint32_t length, tum_nal_data_rec_start_req *record);
+
+/* Encodes one rec_resp message into `buffer` (`capacity` bytes; may be null if 0). Returns the size needed in bytes;
+ * above `capacity`, the output was cut: do not send it. */
+MAVA_TUM_API uint64_t tum_nal_data_gpb_encode_tum_rec_start_res(
+    const tum_nal_data_rec_res *record, uint8_t *buffer, uint32_t capacity);
+
+/* Decodes the rec_resp message in the `length` bytes at `data` into `record`, all of which is overwritten. Reports
+ * nothing; of a malformed message the part before the fault arrives. */
+MAVA_TUM_API void tum_nal_data_gpb_decode_tum_rec_start_res(
+    const uint8_t *data, uint32_t length, tum_nal_data_rec_res *record);
+
+/* Encodes one rec_complete_req message into `buffer` (`capacity` bytes; may be null if 0). Returns the size needed
+ * in bytes; above `capacity`, the output was cut: do not send it. */
+MAVA_TUM_API uint64_t tum_nal_data_gpb_encode_tum_rec_complete_req(
+    const tum_nal_data_rec_complete_req *record, uint8_t *buffer, uint32_t capacity);
+
+/* Decodes the rec_complete_req message in the `length` bytes at `data` into `record`, all of which is overwritten.
+ * Reports nothing; of a malformed message the part before the fault arrives. */
+MAVA_TUM_API void tum_nal_data_gpb_decode_tum_rec_complete_req(
+    const uint8_t *data, uint32_t length, tum_nal_data_rec_complete_req *record);
+
+/* Encodes one rec_resp message into `buffer` (`capacity` bytes; may be null if 0). Returns the size needed in bytes;
+ * above `capacity`, the output was cut: do not send it. */
+MAVA_TUM_API uint64_t tum_nal_data_gpb_encode_tum_rec_complete_res(
+    const tum_nal_data_rec_res *record, uint8_t *buffer, uint32_t capacity);
+
+/* Decodes the rec_resp message in the `length` bytes at `data` into `record`, all of which is overwritten. Reports
+ * nothing; of a malformed message the part before the fault arrives. */
+MAVA_TUM_API void tum_nal_data_gpb_decode_tum_rec_complete_res(
+    const uint8_t *data, uint32_t length, tum_nal_data_rec_res *record);
+
+/* Encodes one rec_sess_req message into `buffer` (`capacity` bytes; may be null if 0). Returns the size needed in
+ * bytes; above `capacity`, the output was cut: do not send it. */
+MAVA_TUM_API uint64_t tum_nal_data_gpb_encode_tum_rec_sess_req(
+    const tum_nal_data_rec_sess_req *record, uint8_t *buffer, uint32_t capacity);
+
+/* Decodes the rec_sess_req message in the `length` bytes at `data` into `record`, all of which is overwritten.
+ * Reports nothing; of a malformed message the part before the fault arrives. */
+MAVA_TUM_API void tum_nal_data_gpb_decode_tum_rec_sess_req(
+    const uint8_t *data, uint32_t length, tum_nal_data_rec_sess_req *record);
+
+/* Encodes one rec_sess_resp message into `buffer` (`capacity` bytes; may be null if 0). Returns the size needed in
+ * bytes; above `capacity`, the output was cut: do not send it. */
+MAVA_TUM_API uint64_t tum_nal_data_gpb_encode_tum_rec_sess_res(
+    const tum_nal_data_rec_sess_res *record, uint8_t *buffer, uint32_t capacity);
+
+/* Decodes the rec_sess_resp message in the `length` bytes at `data` into `record`, all of which is overwritten.
+ * Reports nothing; of a malformed message the part before the fault arrives. */
+MAVA_TUM_API void tum_nal_data_gpb_decode_tum_rec_sess_res(
+    const uint8_t *data, uint32_t length, tum_nal_data_rec_sess_res *record);
+
+/* Encodes one rec_sess_replay_req message into `buffer` (`capacity` bytes; may be null if 0). Returns the size
+ * needed in bytes; above `capacity`, the output was cut: do not send it. */
+MAVA_TUM_API uint64_t tum_nal_data_gpb_encode_tum_rec_sess_replay_req(
+    const tum_nal_data_rec_sess_replay_req_encode *record, uint8_t *buffer, uint32_t capacity);
+
+/* Decodes the rec_sess_replay_req message in the `length` bytes at `data` into `record`, all of which is
+ * overwritten. Reports nothing; of a malformed message the part before the fault arrives. */
+MAVA_TUM_API void tum_nal_data_gpb_decode_tum_rec_sess_replay_req(
+    const uint8_t *data, uint32_t length, tum_nal_data_rec_sess_replay_req_decode *record);
+
+/* Encodes one rec_sess_replay_resp message into `buffer` (`capacity` bytes; may be null if 0). Returns the size
+ * needed in bytes; above `capacity`, the output was cut: do not send it. */
+MAVA_TUM_API uint64_t tum_nal_data_gpb_encode_tum_rec_sess_replay_resp(
+    const tum_nal_data_rec_sess_replay_resp *record, uint8_t *buffer, uint32_t capacity);
+
+/* Decodes the rec_sess_replay_resp message in the `length` bytes at `data` into `record`, all of which is
+ * overwritten. Reports nothing; of a malformed message the part before the fault arrives. */
+MAVA_TUM_API void tum_nal_data_gpb_decode_tum_rec_sess_replay_resp(
+    const uint8_t *data, uint32_t length, tum_nal_data_rec_sess_replay_resp *record);
+
+#ifdef __cplusplus
+}
+#endif
+
+#endif

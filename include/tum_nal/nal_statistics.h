@@ -1,0 +1,60 @@
+/* Application record and adapters of subscriber statistics.
+ *
+ * What all adapters do with counts, texts, short buffers and bad input: adapter_contract.h. */
+#ifndef TUM_NAL_NAL_STATISTICS_H
+#define TUM_NAL_NAL_STATISTICS_H
+
+#include "tum_nal/adapter_contract.h"
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+/* Slots and counters. */
+enum { TUM_NAL_STATS_COUNTERS = 18, TUM_NAL_STATS_SERVICES = 8 };
+
+/* Counter k of the message stands in `counter[k - 1]`. Counters that are zero are not sent. */
+typedef struct tum_nal_data_stats_block {
+    uint32_t counter[TUM_NAL_STATS_COUNTERS];
+} tum_nal_data_stats_block;
+
+/* A service. Its name is always sent, an empty one too. */
+typedef struct tum_nal_data_service_entry {
+    char name[65];
+    tum_nal_data_stats_block stats;
+} tum_nal_data_service_entry;
+
+/* A subscriber's statistics. Values are sent when not zero. A block is sent when the value before it is not zero.
+ * Not symmetric: `value_6` is itself sent, the two switches are not; what a message carries in fields 9 and 11
+ * arrives in them. A block that arrives fills its counters whatever the value before it. */
+typedef struct tum_nal_data_subscriber_stats {
+    uint64_t value_1;
+    uint32_t value_2;
+    uint32_t value_3;
+    uint32_t value_4;
+    uint32_t value_5;
+    uint32_t value_6; /* sent, and decides over `block_7` */
+    tum_nal_data_stats_block block_7;
+    uint8_t service_count;
+    tum_nal_data_service_entry services[TUM_NAL_STATS_SERVICES];
+    uint32_t block_10_switch; /* not sent; decides over `block_10` */
+    tum_nal_data_stats_block block_10;
+    uint32_t block_12_switch; /* not sent; decides over `block_12` */
+    tum_nal_data_stats_block block_12;
+} tum_nal_data_subscriber_stats;
+
+/* Encodes statistics as one subscriber_stats message into `buffer` (`capacity` bytes; may be null if 0).
+ * Returns the size needed in bytes (0 for an all-zero record); above `capacity`, the output was cut: do not send it. */
+MAVA_TUM_API uint64_t tum_nal_data_gpb_encode_tum_subscriber_stats(
+    const tum_nal_data_subscriber_stats *record, uint8_t *buffer, uint32_t capacity);
+
+/* Decodes the subscriber_stats message in the `length` bytes at `data` into `record`, all of which is overwritten.
+ * Reports nothing; of a malformed message the part before the fault arrives. */
+MAVA_TUM_API void tum_nal_data_gpb_decode_tum_subscriber_stats(
+    const uint8_t *data, uint32_t length, tum_nal_data_subscriber_stats *record);
+
+#ifdef __cplusplus
+}
+#endif
+
+#endif

@@ -1,0 +1,358 @@
+// The reconciliation messages: field lists and exported functions.
+#include "mava_tum/reconciliation.h"
+#include "codec/message.h"
+#include "messages/owned_decode.h"
+#include "messages/session_messages_schema.h"
+#include "messages/statistics_schema.h"
+
+namespace mava_tum
+{
+
+template <>
+struct schema<mava_tum_rec_start_req> {
+    using self = mava_tum_rec_start_req;
+    using fields = field_list<varint<1, &self::field_1>, varint<2, &self::field_2>, varint<3, &self::field_3>,
+        text<4, &self::field_4>>;
+};
+
+template <>
+struct schema<mava_tum_rec_complete_req> {
+    using self = mava_tum_rec_complete_req;
+    using fields = field_list<varint<1, &self::field_1>, varint<2, &self::field_2>, varint<3, &self::field_3>,
+        text<4, &self::field_4>>;
+};
+
+template <>
+struct schema<mava_tum_rec_resp> {
+    using self = mava_tum_rec_resp;
+    using fields = field_list<varint<1, &self::field_1>, text<2, &self::field_2>, varint<3, &self::field_3>>;
+};
+
+template <>
+struct schema<mava_tum_rec_session_state> {
+    using self = mava_tum_rec_session_state;
+    using fields = field_list<varint<1, &self::field_1>, varint<2, &self::field_2>, varint<3, &self::field_3>>;
+};
+
+template <>
+struct schema<mava_tum_rec_sess_req> {
+    using self = mava_tum_rec_sess_req;
+    using fields = field_list<varint<1, &self::field_1>, varint<2, &self::field_2>,
+        record_array<3, &self::field_3, &self::field_3_count>, text<4, &self::field_4>, text<5, &self::field_5>,
+        varint<6, &self::field_6>>;
+};
+
+template <>
+struct schema<mava_tum_rec_sess_resp> {
+    using self = mava_tum_rec_sess_resp;
+    using fields = field_list<varint<1, &self::field_1>, record_array<2, &self::field_2, &self::field_2_count>,
+        varint<3, &self::field_3>, varint<4, &self::field_4>>;
+};
+
+template <>
+struct schema<mava_tum_rec_sess_replay_req> {
+    using self = mava_tum_rec_sess_replay_req;
+    using fields = field_list<varint<1, &self::field_1>, varint<2, &self::field_2>, varint<3, &self::field_3>,
+        record_array<4, &self::field_4, &self::field_4_count>, varint<5, &self::field_5>, text<6, &self::field_6>>;
+};
+
+template <>
+struct schema<mava_tum_rec_sess_replay_fail> {
+    using self = mava_tum_rec_sess_replay_fail;
+    using fields = field_list<varint<1, &self::field_1>, varint<2, &self::field_2>, record<3, &self::field_3>>;
+};
+
+template <>
+struct schema<mava_tum_sess_svc_start> {
+    using self = mava_tum_sess_svc_start;
+    using fields = field_list<varint<1, &self::field_1>, varint<2, &self::field_2>, varint<3, &self::field_3>,
+        varint<4, &self::field_4>, text_array<5, &self::field_5, &self::field_5_count>>;
+};
+
+template <>
+struct schema<mava_tum_rec_sess_replay_resp> {
+    using self = mava_tum_rec_sess_replay_resp;
+    using fields = field_list<varint<1, &self::field_1>, record_array<2, &self::field_2, &self::field_2_count>,
+        record_array<3, &self::field_3, &self::field_3_count>, text<4, &self::field_4>, varint<5, &self::field_5>>;
+};
+
+} // namespace mava_tum
+
+using namespace mava_tum;
+
+void mava_tum::decode_owned(mava_tum_rec_start_req &record, const uint8_t *data, uint64_t length,
+    mava_tum_alloc_fn alloc_fn, mava_tum_release_fn release_fn)
+{
+    decode_for_adapter(record, data, length, alloc_fn, release_fn);
+}
+
+void mava_tum::decode_owned(mava_tum_rec_complete_req &record, const uint8_t *data, uint64_t length,
+    mava_tum_alloc_fn alloc_fn, mava_tum_release_fn release_fn)
+{
+    decode_for_adapter(record, data, length, alloc_fn, release_fn);
+}
+
+void mava_tum::decode_owned(mava_tum_rec_resp &record, const uint8_t *data, uint64_t length, mava_tum_alloc_fn alloc_fn,
+    mava_tum_release_fn release_fn)
+{
+    decode_for_adapter(record, data, length, alloc_fn, release_fn);
+}
+
+void mava_tum::decode_owned(mava_tum_rec_sess_req &record, const uint8_t *data, uint64_t length,
+    mava_tum_alloc_fn alloc_fn, mava_tum_release_fn release_fn)
+{
+    decode_for_adapter(record, data, length, alloc_fn, release_fn);
+}
+
+void mava_tum::decode_owned(mava_tum_rec_sess_resp &record, const uint8_t *data, uint64_t length,
+    mava_tum_alloc_fn alloc_fn, mava_tum_release_fn release_fn)
+{
+    decode_for_adapter(record, data, length, alloc_fn, release_fn);
+}
+
+void mava_tum::decode_owned(mava_tum_rec_sess_replay_req &record, const uint8_t *data, uint64_t length,
+    mava_tum_alloc_fn alloc_fn, mava_tum_release_fn release_fn)
+{
+    decode_for_adapter(record, data, length, alloc_fn, release_fn);
+}
+
+void mava_tum::decode_owned(mava_tum_rec_sess_replay_resp &record, const uint8_t *data, uint64_t length,
+    mava_tum_alloc_fn alloc_fn, mava_tum_release_fn release_fn)
+{
+    decode_for_adapter(record, data, length, alloc_fn, release_fn);
+}
+
+int32_t mava_tum_rec_start_req_decode_ext(mava_tum_rec_start_req *record, const uint8_t *data, uint64_t length,
+    mava_tum_alloc_fn alloc_fn, void *alloc_ctx, uint32_t flags)
+{
+    return decode_message(*record, data, length, decode_context::for_caller(alloc_fn, alloc_ctx, flags));
+}
+
+uint64_t mava_tum_rec_start_req_encode_ext(const mava_tum_rec_start_req *record, uint8_t *buffer, uint64_t length,
+    mava_tum_segment *segments, uint32_t *segment_count)
+{
+    return encode_message(*record, {buffer, length, segments, segment_count, 0});
+}
+
+int32_t mava_tum_rec_start_req_duplicate(mava_tum_rec_start_req *destination, const mava_tum_rec_start_req *source,
+    mava_tum_alloc_fn alloc_fn, void *alloc_ctx)
+{
+    return duplicate_message(*destination, *source, {alloc_fn, alloc_ctx});
+}
+
+void mava_tum_rec_start_req_free_ext(
+    mava_tum_rec_start_req *record, mava_tum_release_fn release_fn, void *release_ctx, uint32_t flags)
+{
+    release_record(*record, {release_fn, release_ctx, flags});
+}
+
+int32_t mava_tum_rec_complete_req_decode_ext(mava_tum_rec_complete_req *record, const uint8_t *data, uint64_t length,
+    mava_tum_alloc_fn alloc_fn, void *alloc_ctx, uint32_t flags)
+{
+    return decode_message(*record, data, length, decode_context::for_caller(alloc_fn, alloc_ctx, flags));
+}
+
+uint64_t mava_tum_rec_complete_req_encode_ext(const mava_tum_rec_complete_req *record, uint8_t *buffer, uint64_t length,
+    mava_tum_segment *segments, uint32_t *segment_count)
+{
+    return encode_message(*record, {buffer, length, segments, segment_count, 0});
+}
+
+int32_t mava_tum_rec_complete_req_duplicate(mava_tum_rec_complete_req *destination,
+    const mava_tum_rec_complete_req *source, mava_tum_alloc_fn alloc_fn, void *alloc_ctx)
+{
+    return duplicate_message(*destination, *source, {alloc_fn, alloc_ctx});
+}
+
+void mava_tum_rec_complete_req_free_ext(
+    mava_tum_rec_complete_req *record, mava_tum_release_fn release_fn, void *release_ctx, uint32_t flags)
+{
+    release_record(*record, {release_fn, release_ctx, flags});
+}
+
+int32_t mava_tum_rec_resp_decode_ext(mava_tum_rec_resp *record, const uint8_t *data, uint64_t length,
+    mava_tum_alloc_fn alloc_fn, void *alloc_ctx, uint32_t flags)
+{
+    return decode_message(*record, data, length, decode_context::for_caller(alloc_fn, alloc_ctx, flags));
+}
+
+uint64_t mava_tum_rec_resp_encode_ext(const mava_tum_rec_resp *record, uint8_t *buffer, uint64_t length,
+    mava_tum_segment *segments, uint32_t *segment_count)
+{
+    return encode_message(*record, {buffer, length, segments, segment_count, 0});
+}
+
+int32_t mava_tum_rec_resp_duplicate(
+    mava_tum_rec_resp *destination, const mava_tum_rec_resp *source, mava_tum_alloc_fn alloc_fn, void *alloc_ctx)
+{
+    return duplicate_message(*destination, *source, {alloc_fn, alloc_ctx});
+}
+
+void mava_tum_rec_resp_free_ext(
+    mava_tum_rec_resp *record, mava_tum_release_fn release_fn, void *release_ctx, uint32_t flags)
+{
+    release_record(*record, {release_fn, release_ctx, flags});
+}
+
+int32_t mava_tum_rec_session_state_decode_ext(mava_tum_rec_session_state *record, const uint8_t *data, uint64_t length)
+{
+    return decode_message(*record, data, length, {});
+}
+
+uint64_t mava_tum_rec_session_state_encode_ext(const mava_tum_rec_session_state *record, uint8_t *buffer,
+    uint64_t length, mava_tum_segment *segments, uint32_t *segment_count)
+{
+    return encode_message(*record, {buffer, length, segments, segment_count, 0});
+}
+
+int32_t mava_tum_rec_session_state_duplicate(
+    mava_tum_rec_session_state *destination, const mava_tum_rec_session_state *source, mava_tum_alloc_fn, void *)
+{
+    return duplicate_message(*destination, *source, {});
+}
+
+void mava_tum_rec_session_state_free_ext(mava_tum_rec_session_state *, mava_tum_release_fn, void *, uint32_t) {}
+
+int32_t mava_tum_rec_sess_req_decode_ext(mava_tum_rec_sess_req *record, const uint8_t *data, uint64_t length,
+    mava_tum_alloc_fn alloc_fn, void *alloc_ctx, uint32_t flags)
+{
+    return decode_message(*record, data, length, decode_context::for_caller(alloc_fn, alloc_ctx, flags));
+}
+
+uint64_t mava_tum_rec_sess_req_encode_ext(const mava_tum_rec_sess_req *record, uint8_t *buffer, uint64_t length,
+    mava_tum_segment *segments, uint32_t *segment_count)
+{
+    return encode_message(*record, {buffer, length, segments, segment_count, 0});
+}
+
+int32_t mava_tum_rec_sess_req_duplicate(mava_tum_rec_sess_req *destination, const mava_tum_rec_sess_req *source,
+    mava_tum_alloc_fn alloc_fn, void *alloc_ctx)
+{
+    return duplicate_message(*destination, *source, {alloc_fn, alloc_ctx});
+}
+
+void mava_tum_rec_sess_req_free_ext(
+    mava_tum_rec_sess_req *record, mava_tum_release_fn release_fn, void *release_ctx, uint32_t flags)
+{
+    release_record(*record, {release_fn, release_ctx, flags});
+}
+
+int32_t mava_tum_rec_sess_resp_decode_ext(mava_tum_rec_sess_resp *record, const uint8_t *data, uint64_t length,
+    mava_tum_alloc_fn alloc_fn, void *alloc_ctx, uint32_t flags)
+{
+    return decode_message(*record, data, length, decode_context::for_caller(alloc_fn, alloc_ctx, flags));
+}
+
+uint64_t mava_tum_rec_sess_resp_encode_ext(const mava_tum_rec_sess_resp *record, uint8_t *buffer, uint64_t length,
+    mava_tum_segment *segments, uint32_t *segment_count)
+{
+    return encode_message(*record, {buffer, length, segments, segment_count, 0});
+}
+
+int32_t mava_tum_rec_sess_resp_duplicate(mava_tum_rec_sess_resp *destination, const mava_tum_rec_sess_resp *source,
+    mava_tum_alloc_fn alloc_fn, void *alloc_ctx)
+{
+    return duplicate_message(*destination, *source, {alloc_fn, alloc_ctx});
+}
+
+void mava_tum_rec_sess_resp_free_ext(
+    mava_tum_rec_sess_resp *record, mava_tum_release_fn release_fn, void *release_ctx, uint32_t flags)
+{
+    release_record(*record, {release_fn, release_ctx, flags});
+}
+
+int32_t mava_tum_rec_sess_replay_req_decode_ext(mava_tum_rec_sess_replay_req *record, const uint8_t *data,
+    uint64_t length, mava_tum_alloc_fn alloc_fn, void *alloc_ctx, uint32_t flags)
+{
+    return decode_message(*record, data, length, decode_context::for_caller(alloc_fn, alloc_ctx, flags));
+}
+
+uint64_t mava_tum_rec_sess_replay_req_encode_ext(const mava_tum_rec_sess_replay_req *record, uint8_t *buffer,
+    uint64_t length, mava_tum_segment *segments, uint32_t *segment_count, uint32_t flags)
+{
+    return encode_message(*record, {buffer, length, segments, segment_count, flags});
+}
+
+int32_t mava_tum_rec_sess_replay_req_duplicate(mava_tum_rec_sess_replay_req *destination,
+    const mava_tum_rec_sess_replay_req *source, mava_tum_alloc_fn alloc_fn, void *alloc_ctx)
+{
+    return duplicate_message(*destination, *source, {alloc_fn, alloc_ctx});
+}
+
+void mava_tum_rec_sess_replay_req_free_ext(
+    mava_tum_rec_sess_replay_req *record, mava_tum_release_fn release_fn, void *release_ctx, uint32_t flags)
+{
+    release_record(*record, {release_fn, release_ctx, flags});
+}
+
+int32_t mava_tum_rec_sess_replay_fail_decode_ext(mava_tum_rec_sess_replay_fail *record, const uint8_t *data,
+    uint64_t length, mava_tum_alloc_fn alloc_fn, void *alloc_ctx, uint32_t flags)
+{
+    return decode_message(*record, data, length, decode_context::for_caller(alloc_fn, alloc_ctx, flags));
+}
+
+uint64_t mava_tum_rec_sess_replay_fail_encode_ext(const mava_tum_rec_sess_replay_fail *record, uint8_t *buffer,
+    uint64_t length, mava_tum_segment *segments, uint32_t *segment_count)
+{
+    return encode_message(*record, {buffer, length, segments, segment_count, 0});
+}
+
+int32_t mava_tum_rec_sess_replay_fail_duplicate(mava_tum_rec_sess_replay_fail *destination,
+    const mava_tum_rec_sess_replay_fail *source, mava_tum_alloc_fn alloc_fn, void *alloc_ctx)
+{
+    return duplicate_message(*destination, *source, {alloc_fn, alloc_ctx});
+}
+
+void mava_tum_rec_sess_replay_fail_free_ext(
+    mava_tum_rec_sess_replay_fail *record, mava_tum_release_fn release_fn, void *release_ctx)
+{
+    release_record(*record, {release_fn, release_ctx, 0});
+}
+
+int32_t mava_tum_sess_svc_start_decode_ext(mava_tum_sess_svc_start *record, const uint8_t *data, uint64_t length,
+    mava_tum_alloc_fn alloc_fn, void *alloc_ctx, uint32_t flags)
+{
+    return decode_message(*record, data, length, decode_context::for_caller(alloc_fn, alloc_ctx, flags));
+}
+
+uint64_t mava_tum_sess_svc_start_encode_ext(const mava_tum_sess_svc_start *record, uint8_t *buffer, uint64_t length,
+    mava_tum_segment *segments, uint32_t *segment_count)
+{
+    return encode_message(*record, {buffer, length, segments, segment_count, 0});
+}
+
+int32_t mava_tum_sess_svc_start_duplicate(mava_tum_sess_svc_start *destination, const mava_tum_sess_svc_start *source,
+    mava_tum_alloc_fn alloc_fn, void *alloc_ctx)
+{
+    return duplicate_message(*destination, *source, {alloc_fn, alloc_ctx});
+}
+
+void mava_tum_sess_svc_start_free_ext(
+    mava_tum_sess_svc_start *record, mava_tum_release_fn release_fn, void *release_ctx)
+{
+    release_record(*record, {release_fn, release_ctx, 0});
+}
+
+int32_t mava_tum_rec_sess_replay_resp_decode_ext(mava_tum_rec_sess_replay_resp *record, const uint8_t *data,
+    uint64_t length, mava_tum_alloc_fn alloc_fn, void *alloc_ctx, uint32_t flags)
+{
+    return decode_message(*record, data, length, decode_context::for_caller(alloc_fn, alloc_ctx, flags));
+}
+
+uint64_t mava_tum_rec_sess_replay_resp_encode_ext(const mava_tum_rec_sess_replay_resp *record, uint8_t *buffer,
+    uint64_t length, mava_tum_segment *segments, uint32_t *segment_count)
+{
+    return encode_message(*record, {buffer, length, segments, segment_count, 0});
+}
+
+int32_t mava_tum_rec_sess_replay_resp_duplicate(mava_tum_rec_sess_replay_resp *destination,
+    const mava_tum_rec_sess_replay_resp *source, mava_tum_alloc_fn alloc_fn, void *alloc_ctx)
+{
+    return duplicate_message(*destination, *source, {alloc_fn, alloc_ctx});
+}
+
+void mava_tum_rec_sess_replay_resp_free_ext(
+    mava_tum_rec_sess_replay_resp *record, mava_tum_release_fn release_fn, void *release_ctx)
+{
+    release_record(*record, {release_fn, release_ctx, 0});
+}
