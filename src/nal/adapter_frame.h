@@ -1,25 +1,24 @@
-/* The two frames that every adapter is built on.
- *
- *     encode   application record --to_codec--> scratch codec record --_encode_ext--> the caller's buffer
- *     decode   wire bytes --decode--> scratch codec record --from_codec--> application record, then _free_ext
- *
- * The scratch record lives on the stack of the one call. When encoding it borrows from the application record and
- * nothing is allocated; when decoding its bytes fields point into the input, its texts and arrays are blocks from
- * calloc, all of which are given back before the call returns. */
-#ifndef MAVA_TUM_NAL_ADAPTER_FRAME_H
-#define MAVA_TUM_NAL_ADAPTER_FRAME_H
+// The two frames that every adapter is built on.
+//
+//     encode   application record --to_codec--> scratch codec record --_encode_ext--> the caller's buffer
+//     decode   wire bytes --decode--> scratch codec record --from_codec--> application record, then _free_ext
+//
+// The scratch record lives on the stack of the one call. When encoding it borrows from the application record and
+// nothing is allocated; when decoding its bytes fields point into the input, its texts and arrays are blocks from
+// calloc, all of which are given back before the call returns.
+#pragma once
+
+#include "mava_tum/codec_contract.h"
+#include "messages/owned_decode.h"
 
 #include <cstdint>
 #include <cstdlib>
 #include <cstring>
 
-#include "mava_tum/codec_contract.h"
-#include "messages/owned_decode.h"
-
 namespace mava_tum
 {
 
-/* The callbacks of all decode adapters. */
+// The callbacks of all decode adapters.
 inline void *calloc_block(uint64_t size, void *)
 {
     const size_t host_size = static_cast<size_t>(size);
@@ -33,10 +32,10 @@ inline void free_block(void *pointer, void *)
     std::free(pointer);
 }
 
-/* `to_codec` fills a cleared record; `slots` holds the elements of its lists. The scratch record is cleared as a whole
- * because the encoder reads the presence mask of a nested record even when the parent does not mark it. The slots are
- * not: each is cleared when it is used. */
-template <typename Codec, typename Slots, typename Application>
+// `to_codec` fills a cleared record; `slots` holds the elements of its lists. The scratch record is cleared as a whole
+// because the encoder reads the presence mask of a nested record even when the parent does not mark it. The slots are
+// not: each is cleared when it is used.
+template <class Codec, class Slots, class Application>
 uint64_t encode_frame(const Application *record, uint8_t *buffer, uint32_t capacity,
     void (*to_codec)(Codec &, Slots &, const Application &),
     uint64_t (*encode_ext)(const Codec *, uint8_t *, uint64_t, mava_tum_segment *, uint32_t *, uint32_t))
@@ -47,10 +46,10 @@ uint64_t encode_frame(const Application *record, uint8_t *buffer, uint32_t capac
     return encode_ext(&scratch, buffer, capacity, nullptr, nullptr, 0);
 }
 
-/* `from_codec` fills a cleared record. The decoder's result is dropped on purpose: of a malformed message the fields
- * before the fault are delivered, and the caller is told nothing. `decode_owned` clears the scratch record, spare
- * presence bits included. */
-template <typename Codec, typename Application>
+// `from_codec` fills a cleared record. The decoder's result is dropped on purpose: of a malformed message the fields
+// before the fault are delivered, and the caller is told nothing. `decode_owned` clears the scratch record, spare
+// presence bits included.
+template <class Codec, class Application>
 void decode_frame(const uint8_t *data, uint32_t length, Application *record,
     void (*from_codec)(Application &, const Codec &), void (*free_ext)(Codec *, mava_tum_release_fn, void *, uint32_t))
 {
@@ -62,5 +61,3 @@ void decode_frame(const uint8_t *data, uint32_t length, Application *record,
 }
 
 } // namespace mava_tum
-
-#endif

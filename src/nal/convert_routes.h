@@ -1,7 +1,6 @@
-/* Route entries, as they stand in a batch of routes and in a session. `..._to_codec` expects a cleared codec record and
- * borrows from the entry; `..._from_codec` expects a cleared entry and copies. */
-#ifndef MAVA_TUM_NAL_CONVERT_ROUTES_H
-#define MAVA_TUM_NAL_CONVERT_ROUTES_H
+// Route entries, as they stand in a batch of routes and in a session. `..._to_codec` expects a cleared codec record and
+// borrows from the entry; `..._from_codec` expects a cleared entry and copies.
+#pragma once
 
 #include "mava_tum/feature_records.h"
 #include "tum_nal/nal_routes.h"
@@ -16,5 +15,3 @@ void ipv6_route_to_codec(mava_tum_subscriber_route_ipv6 &route, const tum_nal_da
 void ipv6_route_from_codec(tum_nal_data_ipv6_route &entry, const mava_tum_subscriber_route_ipv6 &route);
 
 } // namespace mava_tum
-
-#endif

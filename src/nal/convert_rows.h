@@ -1,38 +1,37 @@
-/* The rows that the converters between application records and codec records are made of, one line each:
- *
- *     put...<n>(codec record, its field n, application value)    stores the value and sets bit n-1 of the presence mask
- *     take...<n>(application member, codec record, its field n)  copies the value when that bit is set
- *
- * A `put` borrows: texts and bytes of the codec record point into the application record. A `take` copies, and leaves
- * a member whose field is absent as it is: zero. */
-#ifndef MAVA_TUM_NAL_CONVERT_ROWS_H
-#define MAVA_TUM_NAL_CONVERT_ROWS_H
-
-#include <cstddef>
-#include <cstdint>
-#include <cstring>
+// The rows that the converters between application records and codec records are made of, one line each:
+//
+//     put...<n>(codec record, its field n, application value)    stores the value and sets bit n-1 of the presence mask
+//     take...<n>(application member, codec record, its field n)  copies the value when that bit is set
+//
+// A `put` borrows: texts and bytes of the codec record point into the application record. A `take` copies, and leaves
+// a member whose field is absent as it is: zero.
+#pragma once
 
 #include "mava_tum/codec_contract.h"
 #include "nal/bounded_text.h"
 #include "nal/ipv4_order.h"
 
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+
 namespace mava_tum
 {
 
-/* ---- presence -------------------------------------------------------------------------------------------- */
+// ---- presence ----
 
 constexpr uint32_t presence_bit(unsigned field_number)
 {
     return 1u << (field_number - 1);
 }
 
-template <unsigned FieldNumber, typename Record>
+template <unsigned FieldNumber, class Record>
 bool is_present(const Record &record)
 {
     return (record.presence_mask & presence_bit(FieldNumber)) != 0;
 }
 
-template <unsigned FieldNumber, typename Record>
+template <unsigned FieldNumber, class Record>
 void mark_present(Record &record)
 {
     using mask = decltype(record.presence_mask);
@@ -40,9 +39,9 @@ void mark_present(Record &record)
     record.presence_mask = static_cast<mask>(record.presence_mask | presence_bit(FieldNumber));
 }
 
-/* ---- application -> codec -------------------------------------------------------------------------------- */
+// ---- application -> codec ----
 
-template <unsigned FieldNumber, typename Record, typename Field, typename Value>
+template <unsigned FieldNumber, class Record, class Field, class Value>
 void put(Record &record, Field &field, Value value)
 {
     static_assert(sizeof(Value) <= sizeof(Field));
@@ -50,27 +49,27 @@ void put(Record &record, Field &field, Value value)
     mark_present<FieldNumber>(record);
 }
 
-template <unsigned FieldNumber, typename Record, typename Field, typename Value>
+template <unsigned FieldNumber, class Record, class Field, class Value>
 void put_nonzero(Record &record, Field &field, Value value)
 {
     if (value != 0)
         put<FieldNumber>(record, field, value);
 }
 
-template <unsigned FieldNumber, typename Record>
+template <unsigned FieldNumber, class Record>
 void put_ipv4(Record &record, uint32_t &field, uint32_t host_order)
 {
     put<FieldNumber>(record, field, swap_ipv4_order(host_order));
 }
 
-template <unsigned FieldNumber, typename Record>
+template <unsigned FieldNumber, class Record>
 void put_ipv4_nonzero(Record &record, uint32_t &field, uint32_t host_order)
 {
     put_nonzero<FieldNumber>(record, field, swap_ipv4_order(host_order));
 }
 
-/* The encoder only reads through the pointers of a record, so borrowing from a const application record is sound. */
-template <unsigned FieldNumber, typename Record, size_t Size>
+// The encoder only reads through the pointers of a record, so borrowing from a const application record is sound.
+template <unsigned FieldNumber, class Record, size_t Size>
 void put_bytes(Record &record, mava_tum_bytes &field, const uint8_t (&array)[Size])
 {
     field.data = const_cast<uint8_t *>(array);
@@ -85,16 +84,16 @@ inline bool is_zero_ipv6(const uint8_t (&address)[16])
     return (halves[0] | halves[1]) == 0;
 }
 
-template <unsigned FieldNumber, typename Record>
+template <unsigned FieldNumber, class Record>
 void put_ipv6_nonzero(Record &record, mava_tum_bytes &field, const uint8_t (&address)[16])
 {
     if (!is_zero_ipv6(address))
         put_bytes<FieldNumber>(record, field, address);
 }
 
-/* An empty text is absent, whatever follows its NUL. One without a NUL is the caller's error: the encoder measures it
- * with strlen. */
-template <unsigned FieldNumber, typename Record, size_t Size>
+// An empty text is absent, whatever follows its NUL. One without a NUL is the caller's error: the encoder measures it
+// with strlen.
+template <unsigned FieldNumber, class Record, size_t Size>
 void put_text(Record &record, char *&field, const char (&array)[Size])
 {
     if (array[0] == '\0')
@@ -103,9 +102,9 @@ void put_text(Record &record, char *&field, const char (&array)[Size])
     mark_present<FieldNumber>(record);
 }
 
-/* A count above the number of slots is taken as the number of slots. Only the slots in use are cleared: of fifty,
- * most calls need a few. No element, no field. */
-template <unsigned FieldNumber, typename Record, typename Codec, typename Entry, size_t Slots>
+// A count above the number of slots is taken as the number of slots. Only the slots in use are cleared: of fifty,
+// most calls need a few. No element, no field.
+template <unsigned FieldNumber, class Record, class Codec, class Entry, size_t Slots>
 void put_list(Record &record, Codec *&field, uint32_t &field_count, Codec (&slots)[Slots],
     const Entry (&entries)[Slots], uint8_t count, void (*entry_to_codec)(Codec &, const Entry &))
 {
@@ -121,26 +120,26 @@ void put_list(Record &record, Codec *&field, uint32_t &field_count, Codec (&slot
     mark_present<FieldNumber>(record);
 }
 
-/* ---- codec -> application -------------------------------------------------------------------------------- */
+// ---- codec -> application ----
 
-/* A member narrower than the field keeps the low bits. */
-template <unsigned FieldNumber, typename Member, typename Record, typename Field>
+// A member narrower than the field keeps the low bits.
+template <unsigned FieldNumber, class Member, class Record, class Field>
 void take(Member &member, const Record &record, Field field)
 {
     if (is_present<FieldNumber>(record))
         member = static_cast<Member>(field);
 }
 
-template <unsigned FieldNumber, typename Record>
+template <unsigned FieldNumber, class Record>
 void take_ipv4(uint32_t &host_order, const Record &record, uint32_t field)
 {
     if (is_present<FieldNumber>(record))
         host_order = swap_ipv4_order(field);
 }
 
-/* The sender chose the length: of a longer value the first bytes are taken, behind a shorter one the rest stays zero.
- */
-template <unsigned FieldNumber, typename Record, size_t Size>
+// The sender chose the length: of a longer value the first bytes are taken, behind a shorter one the rest stays zero.
+//
+template <unsigned FieldNumber, class Record, size_t Size>
 void take_bytes(uint8_t (&array)[Size], const Record &record, const mava_tum_bytes &field)
 {
     if (!is_present<FieldNumber>(record))
@@ -151,7 +150,7 @@ void take_bytes(uint8_t (&array)[Size], const Record &record, const mava_tum_byt
         std::memcpy(array, field.data, field.length);
 }
 
-template <unsigned FieldNumber, size_t Limit, typename Record, size_t Size>
+template <unsigned FieldNumber, size_t Limit, class Record, size_t Size>
 void take_text_up_to(char (&array)[Size], const Record &record, const char *field)
 {
     static_assert(Limit >= 1 && Limit <= Size);
@@ -159,15 +158,15 @@ void take_text_up_to(char (&array)[Size], const Record &record, const char *fiel
         copy_bounded_text(array, Limit, field);
 }
 
-template <unsigned FieldNumber, typename Record, size_t Size>
+template <unsigned FieldNumber, class Record, size_t Size>
 void take_text(char (&array)[Size], const Record &record, const char *field)
 {
     take_text_up_to<FieldNumber, Size>(array, record, field);
 }
 
-/* The count is first narrowed to the 8 bits of its member (258 elements are 2, as ever), then kept within the slots, so
- * that a record never claims elements it does not hold. */
-template <unsigned FieldNumber, typename Entry, size_t Slots, typename Record, typename Codec>
+// The count is first narrowed to the 8 bits of its member (258 elements are 2, as ever), then kept within the slots, so
+// that a record never claims elements it does not hold.
+template <unsigned FieldNumber, class Entry, size_t Slots, class Record, class Codec>
 void take_list(Entry (&entries)[Slots], uint8_t &count, const Record &record, const Codec *field, uint32_t field_count,
     void (*entry_from_codec)(Entry &, const Codec &))
 {
@@ -181,5 +180,3 @@ void take_list(Entry (&entries)[Slots], uint8_t &count, const Record &record, co
 }
 
 } // namespace mava_tum
-
-#endif

@@ -6,7 +6,7 @@
 namespace mava_tum
 {
 
-/* ---- addresses ------------------------------------------------------------------------------------------- */
+// ---- addresses ----
 
 void subscriber_v4_to_codec(mava_tum_subscriber_v4 &v4, const tum_nal_data_session_context &record)
 {
@@ -49,7 +49,7 @@ void subscriber_v6_from_codec(tum_nal_data_session_context &record, const mava_t
     take<6>(record.ipv6_value_7, v6, v6.field_7);
 }
 
-/* ---- PPP, L2TP and VLAN ---------------------------------------------------------------------------------- */
+// ---- PPP, L2TP and VLAN ----
 
 static void ppp_to_codec(mava_tum_ppp_data &ppp, const tum_nal_data_session_context &record)
 {
@@ -76,7 +76,7 @@ static void ppp_from_codec(tum_nal_data_session_context &record, const mava_tum_
     take<6>(record.ppp_value_6, ppp, ppp.field_6);
 }
 
-/* Which pair of end points is sent follows from the kind; any other kind sends none. */
+// Which pair of end points is sent follows from the kind; any other kind sends none.
 static void l2tp_end_points_to_codec(mava_tum_l2tp_data &l2tp, const tum_nal_data_session_context &record)
 {
     if (record.l2tp_kind == TUM_NAL_L2TP_IPV4) {
@@ -111,7 +111,7 @@ static void l2tp_to_codec(mava_tum_l2tp_data &l2tp, const tum_nal_data_session_c
     put_text<19>(l2tp, l2tp.field_19, record.l2tp_name);
 }
 
-/* Takes both pairs of end points if the sender gave both: the kind decides only what we send. */
+// Takes both pairs of end points if the sender gave both: the kind decides only what we send.
 static void l2tp_from_codec(tum_nal_data_session_context &record, const mava_tum_l2tp_data &l2tp)
 {
     take<1>(record.l2tp_kind, l2tp, l2tp.field_1);
@@ -149,7 +149,7 @@ static void vlan_from_codec(tum_nal_data_session_context &record, const mava_tum
     take<2>(record.vlan_value_2, vlan, vlan.field_2);
 }
 
-/* ---- session data ---------------------------------------------------------------------------------------- */
+// ---- session data ----
 
 static bool has_session_identifier(const tum_nal_data_session_context &record)
 {

@@ -1,9 +1,8 @@
-/* How a subscriber of a session is reached: addresses, PPP, L2TP, VLAN and what surrounds them in the session data.
- *
- * `..._to_codec` expects a cleared codec record and borrows from the application record. `..._from_codec` copies what
- * is marked present into a cleared application record. */
-#ifndef MAVA_TUM_NAL_CONVERT_SESSION_ACCESS_H
-#define MAVA_TUM_NAL_CONVERT_SESSION_ACCESS_H
+// How a subscriber of a session is reached: addresses, PPP, L2TP, VLAN and what surrounds them in the session data.
+//
+// `..._to_codec` expects a cleared codec record and borrows from the application record. `..._from_codec` copies what
+// is marked present into a cleared application record.
+#pragma once
 
 #include "mava_tum/subscriber_records.h"
 #include "tum_nal/nal_session_context.h"
@@ -21,5 +20,3 @@ void session_data_to_codec(mava_tum_session_data &data, const tum_nal_data_sessi
 void session_data_from_codec(tum_nal_data_session_context &record, const mava_tum_session_data &data);
 
 } // namespace mava_tum
-
-#endif

@@ -9,7 +9,7 @@
 namespace mava_tum
 {
 
-/* ---- values that are always sent: field 6 has no member -------------------------------------------------- */
+// ---- values that are always sent: field 6 has no member ----
 
 static void values_to_codec(mava_tum_session_context &context, const tum_nal_data_session_context &record)
 {
@@ -31,7 +31,7 @@ static void values_from_codec(tum_nal_data_session_context &record, const mava_t
     take<7>(record.session_value_7, context, context.field_7);
 }
 
-/* ---- how the subscriber is reached ----------------------------------------------------------------------- */
+// ---- how the subscriber is reached ----
 
 constexpr int any_ipv6_part = TUM_NAL_FEATURE_IPV6_PART_2 | TUM_NAL_FEATURE_IPV6_PART_3 | TUM_NAL_FEATURE_IPV6_PART_4 |
                               TUM_NAL_FEATURE_IPV6_PART_6;
@@ -57,7 +57,7 @@ static void access_from_codec(tum_nal_data_session_context &record, const mava_t
     session_data_from_codec(record, context.session_data);
 }
 
-/* ---- lists ----------------------------------------------------------------------------------------------- */
+// ---- lists ----
 
 static void lists_to_codec(
     mava_tum_session_context &context, session_context_slots &slots, const tum_nal_data_session_context &record)
@@ -81,7 +81,7 @@ static void lists_from_codec(tum_nal_data_session_context &record, const mava_tu
         ipv6_route_from_codec);
 }
 
-/* ---- the session ----------------------------------------------------------------------------------------- */
+// ---- the session ----
 
 void session_context_to_codec(
     mava_tum_session_context &context, session_context_slots &slots, const tum_nal_data_session_context &record)
@@ -92,8 +92,8 @@ void session_context_to_codec(
     lists_to_codec(context, slots, record);
 }
 
-/* No bit of `context` guards a nested record, on purpose: one whose decode failed part-way is not marked present, yet
- * its fields before the fault are delivered. Where nothing was decoded, the nested record marks nothing present. */
+// No bit of `context` guards a nested record, on purpose: one whose decode failed part-way is not marked present, yet
+// its fields before the fault are delivered. Where nothing was decoded, the nested record marks nothing present.
 void session_context_from_codec(tum_nal_data_session_context &record, const mava_tum_session_context &context)
 {
     values_from_codec(record, context);

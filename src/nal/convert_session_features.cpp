@@ -6,7 +6,7 @@
 namespace mava_tum
 {
 
-/* ---- QoS: field 9 has no member ------------------------------------------------------------------------- */
+// ---- QoS: field 9 has no member ----
 
 void qos_to_codec(mava_tum_subscriber_qos &qos, const tum_nal_data_qos_element &element)
 {
@@ -38,7 +38,7 @@ void qos_from_codec(tum_nal_data_qos_element &element, const mava_tum_subscriber
     take_text<12>(element.text_12, qos, qos.field_12);
 }
 
-/* ---- access lists ---------------------------------------------------------------------------------------- */
+// ---- access lists ----
 
 static void acl_to_codec(mava_tum_subscriber_acl &acl, const tum_nal_data_session_context &record)
 {
@@ -58,7 +58,7 @@ static void acl_from_codec(tum_nal_data_session_context &record, const mava_tum_
     take_text<5>(record.acl_text_5, acl, acl.field_5);
 }
 
-/* ---- HTTP redirect --------------------------------------------------------------------------------------- */
+// ---- HTTP redirect ----
 
 static void redirect_to_codec(mava_tum_subscriber_httpr &httpr, const tum_nal_data_session_context &record)
 {
@@ -72,7 +72,7 @@ static void redirect_from_codec(tum_nal_data_session_context &record, const mava
     take_text<2>(record.redirect_text_2, httpr, httpr.field_2);
 }
 
-/* ---- lawful intercept ------------------------------------------------------------------------------------ */
+// ---- lawful intercept ----
 
 static void intercept_to_codec(mava_tum_subscriber_li &li, const tum_nal_data_session_context &record)
 {
@@ -98,7 +98,7 @@ static void intercept_from_codec(tum_nal_data_session_context &record, const mav
     take_bytes<8>(record.intercept_ipv6_address, li, li.field_8);
 }
 
-/* ---- uRPF ------------------------------------------------------------------------------------------------ */
+// ---- uRPF ----
 
 static void urpf_to_codec(mava_tum_subscriber_urpf &urpf, uint32_t value_1, uint32_t value_2)
 {
@@ -112,9 +112,9 @@ static void urpf_from_codec(uint32_t &value_1, uint32_t &value_2, const mava_tum
     take<2>(value_2, urpf, urpf.field_2);
 }
 
-/* ---- accounting ------------------------------------------------------------------------------------------ */
+// ---- accounting ----
 
-/* The two values are selected by bits of the accounting flags, not of the feature mask; a selected zero is sent. */
+// The two values are selected by bits of the accounting flags, not of the feature mask; a selected zero is sent.
 static void accounting_to_codec(mava_tum_subscriber_acct &acct, const tum_nal_data_session_context &record)
 {
     put<1>(acct, acct.field_1, record.accounting_flags);
@@ -131,7 +131,7 @@ static void accounting_from_codec(tum_nal_data_session_context &record, const ma
     take<3>(record.accounting_value_3, acct, acct.field_3);
 }
 
-/* ---- all of them ----------------------------------------------------------------------------------------- */
+// ---- all of them ----
 
 static void policies_to_codec(mava_tum_session_context &context, const tum_nal_data_session_context &record)
 {

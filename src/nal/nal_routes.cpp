@@ -1,10 +1,10 @@
 #include "tum_nal/nal_routes.h"
 
-#include <cstddef>
-
 #include "nal/adapter_frame.h"
 #include "nal/convert_routes.h"
 #include "nal/convert_rows.h"
+
+#include <cstddef>
 
 namespace mava_tum
 {
@@ -58,7 +58,7 @@ extern "C" void tum_nal_data_gpb_decode_tum_sub_route(
     mava_tum::decode_frame(data, length, record, mava_tum::sub_route_from_codec, mava_tum_sub_route_free_ext);
 }
 
-/* ---- layout: programs built against the header rely on it ------------------------------------------------ */
+// ---- layout: programs built against the header rely on it ----
 
 static_assert(sizeof(tum_nal_data_ipv4_route) == 164 && alignof(tum_nal_data_ipv4_route) == 4);
 static_assert(offsetof(tum_nal_data_ipv4_route, field_2) == 4);

@@ -1,9 +1,9 @@
 #include "tum_nal/nal_session_context.h"
 
-#include <cstddef>
-
 #include "nal/adapter_frame.h"
 #include "nal/convert_session_context.h"
+
+#include <cstddef>
 
 extern "C" uint64_t tum_nal_data_gpb_encode_tum_session_context(
     const tum_nal_data_session_context *record, uint8_t *buffer, uint32_t capacity)
@@ -19,7 +19,7 @@ extern "C" void tum_nal_data_gpb_decode_tum_session_context(
         data, length, record, mava_tum::session_context_from_codec, mava_tum_session_context_free_ext);
 }
 
-/* ---- layout: programs built against the header rely on it ------------------------------------------------ */
+// ---- layout: programs built against the header rely on it ----
 
 static_assert(sizeof(tum_nal_data_qos_element) == 792 && alignof(tum_nal_data_qos_element) == 4);
 static_assert(offsetof(tum_nal_data_qos_element, value_2) == 4);

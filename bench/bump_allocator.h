@@ -1,0 +1,48 @@
+// The cheapest allocator a receiver can give a decoder: a block that is handed out front to back and taken back whole.
+#ifndef MAVA_TUM_BENCH_BUMP_ALLOCATOR_H
+#define MAVA_TUM_BENCH_BUMP_ALLOCATOR_H
+
+#include <cstddef>
+#include <cstdint>
+
+namespace bench
+{
+
+class bump_allocator
+{
+public:
+    // Everything handed out before is void from here on.
+    void reset()
+    {
+        used_bytes_ = 0;
+    }
+
+    // The allocator callback; `allocator` is the bump_allocator.
+    static void *allocate(uint64_t size, void *allocator)
+    {
+        return static_cast<bump_allocator *>(allocator)->take(size);
+    }
+
+    // The release callback: single blocks are not taken back.
+    static void release(void *, void *) {}
+
+private:
+    void *take(uint64_t size)
+    {
+        const uint64_t rounded = (size + alignment - 1) & ~(alignment - 1);
+        if (size > sizeof block_ || rounded > sizeof block_ - used_bytes_)
+            return nullptr;
+        void *taken = block_ + used_bytes_;
+        used_bytes_ += rounded;
+        return taken;
+    }
+
+    static constexpr uint64_t alignment = alignof(std::max_align_t);
+
+    uint64_t used_bytes_ = 0;
+    alignas(alignment) unsigned char block_[256 * 1024];
+};
+
+} // namespace bench
+
+#endif

@@ -1,0 +1,169 @@
+#include "sweeps/expected_record.h"
+
+#include "mava_tum/codec_contract.h"
+#include "sweeps/expected_wire.h"
+
+#include <algorithm>
+
+namespace mava_tum_test
+{
+
+namespace
+{
+
+// Array and count are stored before the elements are decoded; the bit comes last.
+int32_t expect_elements(field_value &field, const field_value &sent, allocation_plan &plan, bool alias)
+{
+    if (!plan.allocate(sent.integer * sent.element_bytes))
+        return MAVA_TUM_NO_MEMORY;
+    field.integer = sent.integer;
+    field.records.assign(sent.records.size(), *field.element_skeleton);
+    for (std::size_t i = 0; i < sent.records.size(); ++i) {
+        const int32_t result = expect_decode(field.records[i], sent.records[i], plan, alias);
+        if (result != MAVA_TUM_OK)
+            return result;
+    }
+    return MAVA_TUM_OK;
+}
+
+int32_t expect_field(field_value &field, const field_value &sent, allocation_plan &plan, bool alias)
+{
+    switch (sent.kind) {
+    case field_kind::record:
+        return expect_decode(field.records.front(), sent.records.front(), plan, alias);
+    case field_kind::records:
+        return expect_elements(field, sent, plan, alias);
+    case field_kind::bytes:
+        if (!alias && !plan.allocate(sent.integer))
+            return MAVA_TUM_NO_MEMORY;
+        // Also an empty one has a pointer once it has been received.
+        field.content = sent.content.value_or(byte_vector());
+        break;
+    case field_kind::text:
+        if (!plan.allocate(sent.content->size() + 1))
+            return MAVA_TUM_NO_MEMORY;
+        field.content = sent.content;
+        break;
+    default:
+        break;
+    }
+    field.integer = sent.integer;
+    return MAVA_TUM_OK;
+}
+
+bool duplicate_block(field_value &field, const field_value &source, uint64_t size, allocation_plan &plan)
+{
+    field.present = source.present;
+    if (plan.allocate(size)) {
+        field.integer = source.integer;
+        field.content = source.content;
+        return true;
+    }
+    field.present = false;
+    return false;
+}
+
+int32_t expect_duplicate_field(field_value &field, const field_value &source, allocation_plan &plan)
+{
+    field.present = source.present;
+    switch (source.kind) {
+    case field_kind::record:
+        return expect_duplicate(field.records.front(), source.records.front(), plan);
+    case field_kind::records: {
+        if (source.integer == 0)
+            return MAVA_TUM_OK;
+        if (!duplicate_block(field, source, source.integer * source.element_bytes, plan))
+            return MAVA_TUM_NO_MEMORY;
+        field.records.assign(source.records.size(), *field.element_skeleton);
+        int32_t result = MAVA_TUM_OK;
+        for (std::size_t i = 0; i < source.records.size(); ++i)
+            result = std::min(result, expect_duplicate(field.records[i], source.records[i], plan));
+        return result;
+    }
+    case field_kind::bytes:
+        if (source.integer == 0)
+            return MAVA_TUM_OK;
+        return duplicate_block(field, source, source.integer, plan) ? MAVA_TUM_OK : MAVA_TUM_NO_MEMORY;
+    case field_kind::text:
+        if (!source.content)
+            return MAVA_TUM_OK;
+        return duplicate_block(field, source, source.content->size() + 1, plan) ? MAVA_TUM_OK : MAVA_TUM_NO_MEMORY;
+    default:
+        field.integer = source.integer;
+        return MAVA_TUM_OK;
+    }
+}
+
+void remove_field(field_value &field)
+{
+    field.present = false;
+    field.integer = 0;
+    field.content.reset();
+    if (field.kind == field_kind::records)
+        field.records.clear();
+    for (record_value &nested : field.records)
+        std::for_each(nested.fields.begin(), nested.fields.end(), remove_field);
+}
+
+void keep_elements(field_value &field, std::size_t count)
+{
+    if (count == 0)
+        remove_field(field);
+    if (field.kind == field_kind::records && count != 0) {
+        field.integer = count;
+        field.records.resize(count);
+    }
+}
+
+} // namespace
+
+int32_t expect_decode(record_value &record, const record_value &sent, allocation_plan &plan, bool alias)
+{
+    for (std::size_t i = 0; i < sent.fields.size(); ++i) {
+        if (!is_written(sent.fields[i]))
+            continue;
+        const int32_t result = expect_field(record.fields[i], sent.fields[i], plan, alias);
+        if (result != MAVA_TUM_OK)
+            return result;
+        record.fields[i].present = true;
+    }
+    return MAVA_TUM_OK;
+}
+
+int32_t expect_duplicate(record_value &record, const record_value &source, allocation_plan &plan)
+{
+    int32_t result = MAVA_TUM_OK;
+    for (std::size_t i = 0; i < source.fields.size(); ++i)
+        result = std::min(result, expect_duplicate_field(record.fields[i], source.fields[i], plan));
+    return result;
+}
+
+record_value sent_before_cut(const record_value &sent, std::size_t cut, int32_t &result)
+{
+    result = MAVA_TUM_OK;
+    std::vector<std::size_t> complete(sent.fields.size(), 0);
+    const std::vector<wire_entry> entries = top_level_entries(sent);
+    for (const wire_entry &entry : entries) {
+        if (entry.end <= cut) {
+            ++complete[entry.field_index];
+            continue;
+        }
+        if (entry.start >= cut)
+            break;
+        result = MAVA_TUM_TRUNCATED;
+        // A list is counted, up to and with the tag that follows it, before its first element is delivered.
+        if (entry.element_index != 0)
+            complete[entry.field_index] = 0;
+        const bool follows_another = entry.element_index == 0 && &entry != &entries.front();
+        const std::size_t previous = follows_another ? (&entry - 1)->field_index : entry.field_index;
+        if (cut < entry.start + entry.tag_bytes && sent.fields[previous].kind == field_kind::records)
+            complete[previous] = 0;
+        break;
+    }
+    record_value kept = sent;
+    for (std::size_t i = 0; i < kept.fields.size(); ++i)
+        keep_elements(kept.fields[i], complete[i]);
+    return kept;
+}
+
+} // namespace mava_tum_test

@@ -1,0 +1,36 @@
+// Records to sweep over: seeds that are always the same, and random ones from a seeded generator.
+#pragma once
+
+#include "sweeps/record_value.h"
+
+#include <cstdint>
+#include <random>
+#include <string>
+#include <vector>
+
+namespace mava_tum_test
+{
+
+using random_source = std::mt19937_64;
+
+struct named_record {
+    std::string name;
+    record_value value;
+};
+
+// Every field with content at every depth, lists of three elements, varints of every width.
+record_value full_record(const record_value &skeleton);
+
+// Every field present and empty: zeros, empty texts and bytes, records and list elements without a field.
+record_value hollow_record(const record_value &skeleton);
+
+// The full record and the hollow one, one record per field with that field alone, one with every second field.
+std::vector<named_record> seeds_of(const record_value &skeleton);
+
+// Any mixture, also the odd ones that callers may hand over: values without their bit, bits without their text, lists
+// of no elements, bytes whose pointer is null and whose length is 0. Spare mask bits are random at every depth.
+record_value random_record(const record_value &skeleton, random_source &random);
+
+byte_vector random_text(std::size_t length, random_source &random);
+
+} // namespace mava_tum_test

@@ -1,0 +1,64 @@
+// A codec record as a tree of plain values: what the sweeps generate, compare and predict with.
+//
+// It knows no message. A skeleton, made from a record type by record_access.h, says which fields there are; everything
+// else in this folder works on such trees, so that a new message needs no code but its field list.
+#pragma once
+
+#include "support/hex.h"
+
+#include <gtest/gtest.h>
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace mava_tum_test
+{
+
+enum class field_kind { varint32, varint64, fixed32, bytes, text, record, records };
+
+struct record_value;
+
+struct field_value {
+    uint32_t number = 0;
+    field_kind kind = field_kind::varint32;
+    // Of `records`: an element without content, and its size in memory.
+    const record_value *element_skeleton = nullptr;
+    std::size_t element_bytes = 0;
+
+    bool present = false;
+    // The number itself; of `bytes` the length member, of `records` the count member.
+    uint64_t integer = 0;
+    // Of `bytes` and `text`: what the pointer refers to, nothing if it is null.
+    std::optional<byte_vector> content;
+    // Of `record`: exactly one. Of `records`: the elements, none if the pointer is null.
+    std::vector<record_value> records;
+};
+
+struct record_value {
+    // Bits of the presence mask that belong to no field: those that are set, and all there are.
+    uint64_t spare_bits = 0;
+    uint64_t all_spare_bits = 0;
+    std::vector<field_value> fields;
+};
+
+// Whether an encoder that knows gather mode produces this record: some field of it, at any depth, is a bytes field.
+bool holds_bytes(const record_value &skeleton);
+
+// Names the first difference, with the path of field numbers that leads to it.
+testing::AssertionResult is_same_record(const record_value &actual, const record_value &expected);
+
+// Calls `visit(field)` on every field of the record and of the records inside it, outermost first.
+template <class value_type, class visitor>
+void for_each_field(value_type &record, visitor &&visit)
+{
+    for (auto &field : record.fields) {
+        visit(field);
+        for (auto &nested : field.records)
+            for_each_field(nested, visit);
+    }
+}
+
+} // namespace mava_tum_test

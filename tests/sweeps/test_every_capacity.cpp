@@ -1,0 +1,158 @@
+// Does an encoder keep to its buffer, whatever its capacity, and always say what it would have needed?
+#include "support/guarded_buffer.h"
+#include "sweeps/expected_wire.h"
+#include "sweeps/message_list.h"
+#include "sweeps/random_records.h"
+#include "sweeps/record_storage.h"
+
+#include <gtest/gtest.h>
+
+#include <array>
+
+namespace mava_tum_test
+{
+
+namespace
+{
+
+constexpr uint32_t segment_capacity = 64;
+
+class every_capacity : public testing::TestWithParam<message>
+{
+};
+
+// Messages that hold no bytes know no gather mode: for them both modes give the same output.
+wire_mode mode_of(const message &tested, uint32_t flags)
+{
+    return flags == MAVA_TUM_ALIAS && holds_bytes(*tested.skeleton) ? wire_mode::gathered : wire_mode::copied;
+}
+
+void check_capacity(const message &tested, const void *record, const expected_wire &wire, std::size_t capacity,
+    uint32_t flags, bool with_segments)
+{
+    // Two fills: a byte that is wrongly written with the value that was there before shows up in the other one.
+    for (const uint8_t fill : {uint8_t{0x00}, uint8_t{0xFF}}) {
+        guarded_buffer buffer(capacity, fill);
+        std::array<mava_tum_segment, segment_capacity> segments{};
+        uint32_t segment_count = segment_capacity;
+        const uint64_t size = tested.encode(record, buffer.data(), capacity, with_segments ? segments.data() : nullptr,
+            with_segments ? &segment_count : nullptr, flags);
+        EXPECT_EQ(size, wire.bytes.size());
+        EXPECT_EQ(hex_of(buffer.content()), hex_of(expected_buffer(wire, capacity, fill)));
+        EXPECT_TRUE(buffer.guards_intact());
+        EXPECT_EQ(segment_count, with_segments ? wire.piece_count : segment_capacity);
+    }
+}
+
+void check_every_capacity(const message &tested, uint32_t flags)
+{
+    for (const named_record &seed : seeds_of(*tested.skeleton)) {
+        record_storage record(tested, seed.value);
+        const expected_wire wire = wire_of(seed.value, mode_of(tested, flags));
+        for (std::size_t capacity = 0; capacity <= wire.bytes.size() + 1; ++capacity) {
+            SCOPED_TRACE(seed.name + " record of " + std::to_string(wire.bytes.size()) + " bytes into " +
+                         std::to_string(capacity));
+            check_capacity(tested, record.get(), wire, capacity, flags, false);
+            check_capacity(tested, record.get(), wire, capacity, flags, true);
+            if (testing::Test::HasFailure())
+                return;
+        }
+    }
+}
+
+TEST_P(every_capacity, is_kept_to_when_bytes_are_copied)
+{
+    check_every_capacity(GetParam(), 0);
+}
+
+TEST_P(every_capacity, is_kept_to_when_bytes_are_gathered)
+{
+    check_every_capacity(GetParam(), MAVA_TUM_ALIAS);
+}
+
+TEST_P(every_capacity, is_not_needed_to_learn_the_size)
+{
+    const message &tested = GetParam();
+    for (const named_record &seed : seeds_of(*tested.skeleton)) {
+        SCOPED_TRACE(seed.name);
+        record_storage record(tested, seed.value);
+        for (const uint32_t flags : {uint32_t{0}, uint32_t{MAVA_TUM_ALIAS}}) {
+            const expected_wire wire = wire_of(seed.value, mode_of(tested, flags));
+            EXPECT_EQ(tested.encode(record.get(), nullptr, 0, nullptr, nullptr, flags), wire.bytes.size());
+            uint32_t segment_count = 0;
+            EXPECT_EQ(tested.encode(record.get(), nullptr, 0, nullptr, &segment_count, flags), wire.bytes.size());
+            EXPECT_EQ(segment_count, wire.piece_count);
+        }
+    }
+}
+
+struct gathered_pieces {
+    std::array<mava_tum_segment, segment_capacity> stored;
+    uint32_t count;
+};
+
+gathered_pieces gather(const message &tested, const void *record, guarded_buffer &buffer, uint32_t capacity)
+{
+    gathered_pieces pieces;
+    pieces.stored.fill({nullptr, 0xABABABAB});
+    pieces.count = capacity;
+    tested.encode(record, buffer.data(), buffer.size(), pieces.stored.data(), &pieces.count, MAVA_TUM_ALIAS);
+    return pieces;
+}
+
+TEST_P(every_capacity, of_segments_is_kept_to_and_all_pieces_are_counted)
+{
+    const message &tested = GetParam();
+    for (const named_record &seed : seeds_of(*tested.skeleton)) {
+        record_storage record(tested, seed.value);
+        const expected_wire wire = wire_of(seed.value, mode_of(tested, MAVA_TUM_ALIAS));
+        guarded_buffer buffer(wire.bytes.size());
+        const gathered_pieces all = gather(tested, record.get(), buffer, segment_capacity);
+        ASSERT_LE(all.count, segment_capacity) << seed.name;
+        for (uint32_t capacity = 0; capacity <= all.count + 1; ++capacity) {
+            SCOPED_TRACE(seed.name + " record, room for " + std::to_string(capacity) + " pieces");
+            const gathered_pieces some = gather(tested, record.get(), buffer, capacity);
+            EXPECT_EQ(some.count, wire.piece_count);
+            for (uint32_t i = 0; i < segment_capacity; ++i) {
+                const bool stored = i < capacity && i < all.count;
+                EXPECT_EQ(some.stored[i].data, stored ? all.stored[i].data : nullptr) << "piece " << i;
+                EXPECT_EQ(some.stored[i].length, stored ? all.stored[i].length : 0xABABABAB) << "piece " << i;
+            }
+        }
+    }
+}
+
+bool lies_in(const mava_tum_segment &piece, guarded_buffer &buffer)
+{
+    const uintptr_t start = reinterpret_cast<uintptr_t>(buffer.data());
+    const uintptr_t position = reinterpret_cast<uintptr_t>(piece.data);
+    return position >= start && position + piece.length <= start + buffer.size();
+}
+
+TEST_P(every_capacity, gathers_each_bytes_field_from_the_record_itself_in_wire_order)
+{
+    const message &tested = GetParam();
+    for (const named_record &seed : seeds_of(*tested.skeleton)) {
+        SCOPED_TRACE(seed.name);
+        record_storage record(tested, seed.value);
+        guarded_buffer buffer(wire_of(seed.value).bytes.size());
+        const gathered_pieces pieces = gather(tested, record.get(), buffer, segment_capacity);
+        std::vector<mava_tum_bytes> outside;
+        for (uint32_t i = 0; i < pieces.count; ++i) {
+            if (!lies_in(pieces.stored[i], buffer))
+                outside.push_back({const_cast<uint8_t *>(pieces.stored[i].data), pieces.stored[i].length});
+        }
+        const std::vector<mava_tum_bytes> expected = tested.collect_bytes(record.get());
+        ASSERT_EQ(outside.size(), expected.size());
+        for (std::size_t i = 0; i < expected.size(); ++i) {
+            EXPECT_EQ(outside[i].data, expected[i].data) << "bytes field " << i;
+            EXPECT_EQ(outside[i].length, expected[i].length) << "bytes field " << i;
+        }
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(of, every_capacity, testing::ValuesIn(all_messages()), name_of_message);
+
+} // namespace
+
+} // namespace mava_tum_test

@@ -1,0 +1,181 @@
+// Do records survive at the sizes where encoders like to change their ways: where a length prefix grows by a byte,
+// where a buffer on the stack would end, where a list becomes long?
+#include "sweeps/check_round_trip.h"
+#include "sweeps/expected_wire.h"
+#include "sweeps/message_list.h"
+#include "sweeps/random_records.h"
+
+#include <gtest/gtest.h>
+
+namespace mava_tum_test
+{
+
+namespace
+{
+
+constexpr uint64_t first_seed = 7919;
+
+class size_boundaries : public testing::TestWithParam<message>
+{
+};
+
+// The way to a field: an index into the fields of each record on it.
+using field_path = std::vector<std::size_t>;
+
+void find_paths(const record_value &skeleton, bool lists, field_path &path, std::vector<field_path> &found)
+{
+    for (std::size_t i = 0; i < skeleton.fields.size(); ++i) {
+        const field_value &field = skeleton.fields[i];
+        path.push_back(i);
+        const bool is_list = field.kind == field_kind::records;
+        const bool has_length = field.kind == field_kind::bytes || field.kind == field_kind::text;
+        if (lists ? is_list : has_length)
+            found.push_back(path);
+        if (is_list)
+            find_paths(*field.element_skeleton, lists, path, found);
+        if (field.kind == field_kind::record)
+            find_paths(field.records.front(), lists, path, found);
+        path.pop_back();
+    }
+}
+
+// All texts and bytes fields at any depth, or all lists.
+std::vector<field_path> paths_to(const record_value &skeleton, bool lists)
+{
+    std::vector<field_path> found;
+    field_path path;
+    find_paths(skeleton, lists, path, found);
+    return found;
+}
+
+// The field at the end of the path, in the first element of each list on the way; an empty list gets one.
+field_value &field_at(record_value &record, const field_path &path)
+{
+    record_value *holder = &record;
+    for (std::size_t step = 0; step + 1 < path.size(); ++step) {
+        field_value &field = holder->fields[path[step]];
+        if (field.records.empty()) {
+            field.present = true;
+            field.integer = 1;
+            field.records.push_back(*field.element_skeleton);
+        }
+        holder = &field.records.front();
+    }
+    return holder->fields[path.back()];
+}
+
+void set_length(record_value &record, const field_path &path, std::size_t length, random_source &random)
+{
+    field_value &field = field_at(record, path);
+    field.present = true;
+    field.content = random_text(length, random);
+    if (field.kind == field_kind::bytes)
+        field.integer = length;
+}
+
+std::string shown(const record_value &skeleton, const field_path &path)
+{
+    std::string text;
+    const record_value *holder = &skeleton;
+    for (const std::size_t index : path) {
+        const field_value &field = holder->fields[index];
+        text += "." + std::to_string(field.number);
+        holder = field.kind == field_kind::record ? &field.records.front() : field.element_skeleton;
+    }
+    return text;
+}
+
+struct length_range {
+    std::size_t first;
+    std::size_t last;
+};
+
+// A few bytes of tags and length prefixes are added at each level: each range crosses its boundary at every depth.
+constexpr length_range lengths_near_boundaries[] = {{118, 130}, {2030, 2050}, {8174, 8194}, {16366, 16386}};
+
+TEST_P(size_boundaries, of_every_enclosing_record_are_crossed_by_a_field_that_grows_alone)
+{
+    const message &tested = GetParam();
+    random_source random(first_seed);
+    for (const field_path &path : paths_to(*tested.skeleton, false)) {
+        for (const length_range &range : lengths_near_boundaries) {
+            for (std::size_t length = range.first; length <= range.last; ++length) {
+                SCOPED_TRACE(shown(*tested.skeleton, path) + " of " + std::to_string(length) + " bytes, alone");
+                record_value value = *tested.skeleton;
+                set_length(value, path, length, random);
+                check_round_trip(tested, value, random);
+                if (HasFailure())
+                    return;
+            }
+        }
+    }
+}
+
+TEST_P(size_boundaries, of_the_whole_message_are_crossed_by_a_field_of_a_full_record)
+{
+    const message &tested = GetParam();
+    random_source random(first_seed);
+    for (const field_path &path : paths_to(*tested.skeleton, false)) {
+        record_value value = full_record(*tested.skeleton);
+        set_length(value, path, 0, random);
+        const std::size_t rest_bytes = wire_of(value).bytes.size();
+        for (const std::size_t boundary : {std::size_t{2048}, std::size_t{8192}, std::size_t{16384}}) {
+            const std::size_t room = boundary > rest_bytes + 12 ? boundary - rest_bytes : 12;
+            for (std::size_t length = room - 12; length <= room + 2; ++length) {
+                SCOPED_TRACE(shown(*tested.skeleton, path) + " of " + std::to_string(length) + " bytes, in full");
+                set_length(value, path, length, random);
+                check_round_trip(tested, value, random);
+                if (HasFailure())
+                    return;
+            }
+        }
+    }
+}
+
+TEST_P(size_boundaries, of_lists_are_crossed_by_their_count)
+{
+    const message &tested = GetParam();
+    random_source random(first_seed);
+    for (const field_path &path : paths_to(*tested.skeleton, true)) {
+        for (const std::size_t count :
+            {1, 2, 31, 32, 33, 63, 64, 65, 127, 128, 129, 200, 255, 256, 257, 511, 512, 513, 1023, 1024, 1025, 4097}) {
+            SCOPED_TRACE(shown(*tested.skeleton, path) + " with " + std::to_string(count) + " elements");
+            record_value value = *tested.skeleton;
+            field_value &list = field_at(value, path);
+            list.present = true;
+            list.integer = count;
+            for (std::size_t i = 0; i < count; ++i)
+                list.records.push_back(random_record(*list.element_skeleton, random));
+            check_round_trip(tested, value, random);
+            if (HasFailure())
+                return;
+        }
+    }
+}
+
+TEST_P(size_boundaries, of_the_whole_message_are_crossed_by_empty_list_elements)
+{
+    const message &tested = GetParam();
+    random_source random(first_seed);
+    for (const field_path &path : paths_to(*tested.skeleton, true)) {
+        for (const std::size_t boundary : {std::size_t{2048}, std::size_t{8192}, std::size_t{16384}}) {
+            // An empty element takes 2 or 3 bytes.
+            for (std::size_t count = boundary / 3 - 2; count <= boundary / 2 + 1; count += boundary / 24) {
+                SCOPED_TRACE(shown(*tested.skeleton, path) + " with " + std::to_string(count) + " empty elements");
+                record_value value = full_record(*tested.skeleton);
+                field_value &list = field_at(value, path);
+                list.integer = count;
+                list.records.assign(count, *list.element_skeleton);
+                check_round_trip(tested, value, random);
+                if (HasFailure())
+                    return;
+            }
+        }
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(of, size_boundaries, testing::ValuesIn(all_messages()), name_of_message);
+
+} // namespace
+
+} // namespace mava_tum_test
