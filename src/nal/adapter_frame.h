@@ -24,12 +24,12 @@ inline void *calloc_block(uint64_t size, void *)
     const size_t host_size = static_cast<size_t>(size);
     if (host_size != size) // where addresses have 32 bits: an array that no calloc could hold
         return nullptr;
-    return std::calloc(1, host_size);
+    return calloc(1, host_size);
 }
 
 inline void free_block(void *pointer, void *)
 {
-    std::free(pointer);
+    free(pointer);
 }
 
 // `to_codec` fills a cleared record; `slots` holds the elements of its lists. The scratch record is cleared as a whole
@@ -55,7 +55,7 @@ void decode_frame(const uint8_t *data, uint32_t length, Application *record,
 {
     Codec scratch;
     decode_owned(scratch, data, length, calloc_block, free_block);
-    std::memset(record, 0, sizeof(*record));
+    memset(record, 0, sizeof(*record));
     from_codec(*record, scratch);
     free_ext(&scratch, free_block, nullptr, MAVA_TUM_ALIAS);
 }

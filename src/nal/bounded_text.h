@@ -13,7 +13,7 @@ namespace mava_tum
 inline void copy_bounded_text(char *array, size_t limit, const char *text)
 {
     const size_t kept = strnlen(text, limit - 1);
-    std::memcpy(array, text, kept);
+    memcpy(array, text, kept);
     array[kept] = '\0';
 }
 

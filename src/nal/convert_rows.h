@@ -80,7 +80,7 @@ void put_bytes(Record &record, mava_tum_bytes &field, const uint8_t (&array)[Siz
 inline bool is_zero_ipv6(const uint8_t (&address)[16])
 {
     uint64_t halves[2];
-    std::memcpy(halves, address, sizeof(halves));
+    memcpy(halves, address, sizeof(halves));
     return (halves[0] | halves[1]) == 0;
 }
 
@@ -138,16 +138,15 @@ void take_ipv4(uint32_t &host_order, const Record &record, uint32_t field)
 }
 
 // The sender chose the length: of a longer value the first bytes are taken, behind a shorter one the rest stays zero.
-//
 template <unsigned FieldNumber, class Record, size_t Size>
 void take_bytes(uint8_t (&array)[Size], const Record &record, const mava_tum_bytes &field)
 {
     if (!is_present<FieldNumber>(record))
         return;
     if (field.length >= Size)
-        std::memcpy(array, field.data, Size);
+        memcpy(array, field.data, Size);
     else
-        std::memcpy(array, field.data, field.length);
+        memcpy(array, field.data, field.length);
 }
 
 template <unsigned FieldNumber, size_t Limit, class Record, size_t Size>
