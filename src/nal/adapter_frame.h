@@ -34,30 +34,62 @@ inline void free_block(void *pointer, void *)
 
 // `to_codec` fills a cleared record; `slots` holds the elements of its lists. The scratch record is cleared as a whole
 // because the encoder reads the presence mask of a nested record even when the parent does not mark it. The slots are
-// not: each is cleared when it is used.
-template <class Codec, class Slots, class Application>
+// not: each is cleared when it is used. `Flags` is what the encoder takes behind its segments: the flags, here 0, or
+// nothing if the message holds no bytes field.
+template <class Codec, class Slots, class Application, class... Flags>
 uint64_t encode_frame(const Application *record, uint8_t *buffer, uint32_t capacity,
     void (*to_codec)(Codec &, Slots &, const Application &),
-    uint64_t (*encode_ext)(const Codec *, uint8_t *, uint64_t, mava_tum_segment *, uint32_t *, uint32_t))
+    uint64_t (*encode_ext)(const Codec *, uint8_t *, uint64_t, mava_tum_segment *, uint32_t *, Flags...))
 {
     Codec scratch = {};
     Slots slots;
     to_codec(scratch, slots, *record);
-    return encode_ext(&scratch, buffer, capacity, nullptr, nullptr, 0);
+    return encode_ext(&scratch, buffer, capacity, nullptr, nullptr, Flags{}...);
+}
+
+// The same for a message without lists.
+template <class Codec, class Application, class... Flags>
+uint64_t encode_frame(const Application *record, uint8_t *buffer, uint32_t capacity,
+    void (*to_codec)(Codec &, const Application &),
+    uint64_t (*encode_ext)(const Codec *, uint8_t *, uint64_t, mava_tum_segment *, uint32_t *, Flags...))
+{
+    Codec scratch = {};
+    to_codec(scratch, *record);
+    return encode_ext(&scratch, buffer, capacity, nullptr, nullptr, Flags{}...);
+}
+
+// Frees a scratch record, whatever its free function takes: nothing more where the record owns no memory, the callback,
+// or the callback and the flags.
+template <class Codec>
+void free_scratch(Codec &scratch, void (*free_ext)(Codec *))
+{
+    free_ext(&scratch);
+}
+
+template <class Codec>
+void free_scratch(Codec &scratch, void (*free_ext)(Codec *, mava_tum_release_fn, void *))
+{
+    free_ext(&scratch, free_block, nullptr);
+}
+
+template <class Codec>
+void free_scratch(Codec &scratch, void (*free_ext)(Codec *, mava_tum_release_fn, void *, uint32_t))
+{
+    free_ext(&scratch, free_block, nullptr, MAVA_TUM_ALIAS);
 }
 
 // `from_codec` fills a cleared record. The decoder's result is dropped on purpose: of a malformed message the fields
 // before the fault are delivered, and the caller is told nothing. `decode_owned` clears the scratch record, spare
 // presence bits included.
-template <class Codec, class Application>
+template <class Codec, class Application, class... Release>
 void decode_frame(const uint8_t *data, uint32_t length, Application *record,
-    void (*from_codec)(Application &, const Codec &), void (*free_ext)(Codec *, mava_tum_release_fn, void *, uint32_t))
+    void (*from_codec)(Application &, const Codec &), void (*free_ext)(Codec *, Release...))
 {
     Codec scratch;
     decode_owned(scratch, data, length, calloc_block, free_block);
     memset(record, 0, sizeof(*record));
     from_codec(*record, scratch);
-    free_ext(&scratch, free_block, nullptr, MAVA_TUM_ALIAS);
+    free_scratch(scratch, free_ext);
 }
 
 } // namespace mava_tum

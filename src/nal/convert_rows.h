@@ -39,6 +39,17 @@ void mark_present(Record &record)
     record.presence_mask = static_cast<mask>(record.presence_mask | presence_bit(FieldNumber));
 }
 
+// Some messages are marked whole instead of field by field, spare bits included. No encoder looks at those, and a text
+// or a list is still left out when there is none.
+constexpr uint8_t every_presence_bit = 0xFF;
+
+template <class Record>
+void mark_all_present(Record &record)
+{
+    static_assert(sizeof(record.presence_mask) == sizeof(every_presence_bit));
+    record.presence_mask = every_presence_bit;
+}
+
 // ---- application -> codec ----
 
 template <unsigned FieldNumber, class Record, class Field, class Value>
@@ -102,11 +113,19 @@ void put_text(Record &record, char *&field, const char (&array)[Size])
     mark_present<FieldNumber>(record);
 }
 
+// Present also when it is empty.
+template <unsigned FieldNumber, class Record, size_t Size>
+void put_text_always(Record &record, char *&field, const char (&array)[Size])
+{
+    field = const_cast<char *>(array);
+    mark_present<FieldNumber>(record);
+}
+
 // A count above the number of slots is taken as the number of slots. Only the slots in use are cleared: of fifty,
 // most calls need a few. No element, no field.
 template <unsigned FieldNumber, class Record, class Codec, class Entry, size_t Slots>
 void put_list(Record &record, Codec *&field, uint32_t &field_count, Codec (&slots)[Slots],
-    const Entry (&entries)[Slots], uint8_t count, void (*entry_to_codec)(Codec &, const Entry &))
+    const Entry (&entries)[Slots], uint32_t count, void (*entry_to_codec)(Codec &, const Entry &))
 {
     const uint32_t used = count < Slots ? count : Slots;
     if (used == 0)
@@ -114,6 +133,24 @@ void put_list(Record &record, Codec *&field, uint32_t &field_count, Codec (&slot
     for (uint32_t i = 0; i < used; ++i) {
         slots[i] = {};
         entry_to_codec(slots[i], entries[i]);
+    }
+    field = slots;
+    field_count = used;
+    mark_present<FieldNumber>(record);
+}
+
+// The same for elements that hold lists themselves: each comes with slots of its own.
+template <unsigned FieldNumber, class Record, class Codec, class Nested, class Entry, size_t Slots>
+void put_list(Record &record, Codec *&field, uint32_t &field_count, Codec (&slots)[Slots],
+    Nested (&nested_slots)[Slots], const Entry (&entries)[Slots], uint32_t count,
+    void (*entry_to_codec)(Codec &, Nested &, const Entry &))
+{
+    const uint32_t used = count < Slots ? count : Slots;
+    if (used == 0)
+        return;
+    for (uint32_t i = 0; i < used; ++i) {
+        slots[i] = {};
+        entry_to_codec(slots[i], nested_slots[i], entries[i]);
     }
     field = slots;
     field_count = used;
@@ -163,17 +200,17 @@ void take_text(char (&array)[Size], const Record &record, const char *field)
     take_text_up_to<FieldNumber, Size>(array, record, field);
 }
 
-// The count is first narrowed to the 8 bits of its member (258 elements are 2, as ever), then kept within the slots, so
-// that a record never claims elements it does not hold.
-template <unsigned FieldNumber, class Entry, size_t Slots, class Record, class Codec>
-void take_list(Entry (&entries)[Slots], uint8_t &count, const Record &record, const Codec *field, uint32_t field_count,
+// The count is first narrowed to the bits of its member (in 8 bits 258 elements are 2, as ever), then kept within the
+// slots, so that a record never claims elements it does not hold.
+template <unsigned FieldNumber, class Entry, size_t Slots, class Count, class Record, class Codec>
+void take_list(Entry (&entries)[Slots], Count &count, const Record &record, const Codec *field, uint32_t field_count,
     void (*entry_from_codec)(Entry &, const Codec &))
 {
-    static_assert(Slots <= UINT8_MAX);
+    static_assert(Slots <= static_cast<Count>(~Count{0}));
     if (!is_present<FieldNumber>(record))
         return;
-    const uint8_t narrow = static_cast<uint8_t>(field_count);
-    count = narrow < Slots ? narrow : static_cast<uint8_t>(Slots);
+    const Count narrow = static_cast<Count>(field_count);
+    count = narrow < Slots ? narrow : static_cast<Count>(Slots);
     for (uint32_t i = 0; i < count; ++i)
         entry_from_codec(entries[i], field[i]);
 }

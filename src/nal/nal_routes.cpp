@@ -41,6 +41,24 @@ void sub_route_from_codec(tum_nal_data_sub_route &record, const mava_tum_sub_rou
     take<6>(record.field_6, batch, batch.field_6);
 }
 
+void subscriber_route_resp_to_codec(
+    mava_tum_subscriber_route_resp &response, const tum_nal_data_subscriber_route_resp &record)
+{
+    put<1>(response, response.field_1, record.field_1);
+    put<2>(response, response.field_2, record.field_2);
+    put_text<3>(response, response.field_3, record.field_3);
+    put_text<4>(response, response.field_4, record.field_4);
+}
+
+void subscriber_route_resp_from_codec(
+    tum_nal_data_subscriber_route_resp &record, const mava_tum_subscriber_route_resp &response)
+{
+    take<1>(record.field_1, response, response.field_1);
+    take<2>(record.field_2, response, response.field_2);
+    take_text<3>(record.field_3, response, response.field_3);
+    take_text<4>(record.field_4, response, response.field_4);
+}
+
 } // namespace
 
 } // namespace mava_tum
@@ -56,6 +74,20 @@ extern "C" void tum_nal_data_gpb_decode_tum_sub_route(
     const uint8_t *data, uint32_t length, tum_nal_data_sub_route *record)
 {
     mava_tum::decode_frame(data, length, record, mava_tum::sub_route_from_codec, mava_tum_sub_route_free_ext);
+}
+
+extern "C" uint64_t tum_nal_data_gpb_encode_tum_subscriber_route_resp(
+    const tum_nal_data_subscriber_route_resp *record, uint8_t *buffer, uint32_t capacity)
+{
+    return mava_tum::encode_frame(
+        record, buffer, capacity, mava_tum::subscriber_route_resp_to_codec, mava_tum_subscriber_route_resp_encode_ext);
+}
+
+extern "C" void tum_nal_data_gpb_decode_tum_subscriber_route_resp(
+    const uint8_t *data, uint32_t length, tum_nal_data_subscriber_route_resp *record)
+{
+    mava_tum::decode_frame(
+        data, length, record, mava_tum::subscriber_route_resp_from_codec, mava_tum_subscriber_route_resp_free_ext);
 }
 
 // ---- layout: programs built against the header rely on it ----
@@ -88,3 +120,8 @@ static_assert(offsetof(tum_nal_data_sub_route, ipv6_route_count) == 13);
 static_assert(offsetof(tum_nal_data_sub_route, ipv4_routes) == 16);
 static_assert(offsetof(tum_nal_data_sub_route, ipv6_routes) == 8216);
 static_assert(offsetof(tum_nal_data_sub_route, field_6) == 17616);
+
+static_assert(sizeof(tum_nal_data_subscriber_route_resp) == 140 && alignof(tum_nal_data_subscriber_route_resp) == 4);
+static_assert(offsetof(tum_nal_data_subscriber_route_resp, field_2) == 4);
+static_assert(offsetof(tum_nal_data_subscriber_route_resp, field_3) == 8);
+static_assert(offsetof(tum_nal_data_subscriber_route_resp, field_4) == 73);

@@ -1,0 +1,213 @@
+// The adapters that replay sessions in a reconciliation and answer that.
+#include "tum_nal/nal_reconciliation.h"
+
+#include "nal/adapter_frame.h"
+#include "nal/convert_rows.h"
+#include "nal/convert_session_context.h"
+#include "nal/convert_statistics.h"
+
+#include <cstddef>
+
+namespace mava_tum
+{
+
+namespace
+{
+
+// ---- rec_sess_replay_req ----
+
+// Two layouts: the one that is sent from is not the one that is received into. Callers hold one buffer for both.
+using replay_request_to_send = tum_nal_data_rec_sess_replay_req_encode;
+using replay_request_received = tum_nal_data_rec_sess_replay_req_decode;
+
+struct replay_request_slots {
+    mava_tum_session_context sessions[TUM_NAL_REC_REPLAY_SESSIONS];
+    session_context_slots session_slots[TUM_NAL_REC_REPLAY_SESSIONS];
+};
+
+void rec_sess_replay_req_to_codec(
+    mava_tum_rec_sess_replay_req &request, replay_request_slots &slots, const replay_request_to_send &record)
+{
+    put<1>(request, request.field_1, record.field_1);
+    put<2>(request, request.field_2, record.field_2);
+    put<3>(request, request.field_3, record.field_3);
+    put_list<4>(request, request.field_4, request.field_4_count, slots.sessions, slots.session_slots, record.field_4,
+        record.field_4_count, session_context_to_codec);
+    put<5>(request, request.field_5, record.field_5);
+    put_text<6>(request, request.field_6, record.field_6);
+}
+
+void rec_sess_replay_req_from_codec(replay_request_received &record, const mava_tum_rec_sess_replay_req &request)
+{
+    take<1>(record.field_1, request, request.field_1);
+    take<2>(record.field_2, request, request.field_2);
+    take<3>(record.field_3, request, request.field_3);
+    take_list<4>(record.field_4, record.field_4_count, request, request.field_4, request.field_4_count,
+        session_context_from_codec);
+    take<5>(record.field_5, request, request.field_5);
+    take_text<6>(record.field_6, request, request.field_6);
+}
+
+// ---- a session that could not be replayed ----
+
+void replay_failure_to_codec(
+    mava_tum_rec_sess_replay_fail &failure, statistics_slots &slots, const tum_nal_data_replay_failure &entry)
+{
+    put<1>(failure, failure.field_1, entry.field_1);
+    put<2>(failure, failure.field_2, entry.field_2);
+    subscriber_stats_to_codec(failure.field_3, slots, entry.field_3);
+    mark_present<3>(failure); // also when they are empty
+}
+
+// The bit of field 3 is not asked: what is in the statistics is delivered.
+void replay_failure_from_codec(tum_nal_data_replay_failure &entry, const mava_tum_rec_sess_replay_fail &failure)
+{
+    take<1>(entry.field_1, failure, failure.field_1);
+    take<2>(entry.field_2, failure, failure.field_2);
+    subscriber_stats_from_codec(entry.field_3, failure.field_3);
+}
+
+// ---- the services started for a session ----
+
+using service_name = char[65];
+
+struct service_start_slots {
+    char *names[TUM_NAL_REC_SERVICE_NAMES];
+};
+
+// As many names are sent as the entry counts, empty ones too: the receiver counts them.
+void service_name_to_codec(char *&name, const service_name &entry)
+{
+    name = const_cast<char *>(entry);
+}
+
+void service_name_from_codec(service_name &entry, char *const &name)
+{
+    copy_bounded_text(entry, sizeof(entry), name);
+}
+
+void service_start_to_codec(
+    mava_tum_sess_svc_start &start, service_start_slots &slots, const tum_nal_data_service_start &entry)
+{
+    put<1>(start, start.field_1, entry.field_1);
+    put<2>(start, start.field_2, entry.field_2);
+    put<3>(start, start.field_3, entry.field_3);
+    put<4>(start, start.field_4, entry.field_4);
+    put_list<5>(start, start.field_5, start.field_5_count, slots.names, entry.field_5, entry.field_5_count,
+        service_name_to_codec);
+}
+
+void service_start_from_codec(tum_nal_data_service_start &entry, const mava_tum_sess_svc_start &start)
+{
+    take<1>(entry.field_1, start, start.field_1);
+    take<2>(entry.field_2, start, start.field_2);
+    take<3>(entry.field_3, start, start.field_3);
+    take<4>(entry.field_4, start, start.field_4);
+    take_list<5>(
+        entry.field_5, entry.field_5_count, start, start.field_5, start.field_5_count, service_name_from_codec);
+}
+
+// ---- rec_sess_replay_resp ----
+
+struct replay_response_slots {
+    mava_tum_rec_sess_replay_fail failures[TUM_NAL_REC_REPLAY_FAILURES];
+    statistics_slots failure_slots[TUM_NAL_REC_REPLAY_FAILURES];
+    mava_tum_sess_svc_start starts[TUM_NAL_REC_SERVICE_STARTS];
+    service_start_slots start_slots[TUM_NAL_REC_SERVICE_STARTS];
+};
+
+void rec_sess_replay_resp_to_codec(mava_tum_rec_sess_replay_resp &response, replay_response_slots &slots,
+    const tum_nal_data_rec_sess_replay_resp &record)
+{
+    put<1>(response, response.field_1, record.field_1);
+    put_list<2>(response, response.field_2, response.field_2_count, slots.failures, slots.failure_slots, record.field_2,
+        record.field_2_count, replay_failure_to_codec);
+    put_list<3>(response, response.field_3, response.field_3_count, slots.starts, slots.start_slots, record.field_3,
+        record.field_3_count, service_start_to_codec);
+    put_text<4>(response, response.field_4, record.field_4);
+    put<5>(response, response.field_5, record.field_5);
+}
+
+void rec_sess_replay_resp_from_codec(
+    tum_nal_data_rec_sess_replay_resp &record, const mava_tum_rec_sess_replay_resp &response)
+{
+    take<1>(record.field_1, response, response.field_1);
+    take_list<2>(record.field_2, record.field_2_count, response, response.field_2, response.field_2_count,
+        replay_failure_from_codec);
+    take_list<3>(record.field_3, record.field_3_count, response, response.field_3, response.field_3_count,
+        service_start_from_codec);
+    take_text<4>(record.field_4, response, response.field_4);
+    take<5>(record.field_5, response, response.field_5);
+}
+
+} // namespace
+
+} // namespace mava_tum
+
+extern "C" uint64_t tum_nal_data_gpb_encode_tum_rec_sess_replay_req(
+    const tum_nal_data_rec_sess_replay_req_encode *record, uint8_t *buffer, uint32_t capacity)
+{
+    return mava_tum::encode_frame(
+        record, buffer, capacity, mava_tum::rec_sess_replay_req_to_codec, mava_tum_rec_sess_replay_req_encode_ext);
+}
+
+extern "C" void tum_nal_data_gpb_decode_tum_rec_sess_replay_req(
+    const uint8_t *data, uint32_t length, tum_nal_data_rec_sess_replay_req_decode *record)
+{
+    mava_tum::decode_frame(
+        data, length, record, mava_tum::rec_sess_replay_req_from_codec, mava_tum_rec_sess_replay_req_free_ext);
+}
+
+extern "C" uint64_t tum_nal_data_gpb_encode_tum_rec_sess_replay_resp(
+    const tum_nal_data_rec_sess_replay_resp *record, uint8_t *buffer, uint32_t capacity)
+{
+    return mava_tum::encode_frame(
+        record, buffer, capacity, mava_tum::rec_sess_replay_resp_to_codec, mava_tum_rec_sess_replay_resp_encode_ext);
+}
+
+extern "C" void tum_nal_data_gpb_decode_tum_rec_sess_replay_resp(
+    const uint8_t *data, uint32_t length, tum_nal_data_rec_sess_replay_resp *record)
+{
+    mava_tum::decode_frame(
+        data, length, record, mava_tum::rec_sess_replay_resp_from_codec, mava_tum_rec_sess_replay_resp_free_ext);
+}
+
+// ---- layout: programs built against the header rely on it ----
+
+static_assert(
+    sizeof(tum_nal_data_rec_sess_replay_req_encode) == 8936 && alignof(tum_nal_data_rec_sess_replay_req_encode) == 8);
+static_assert(offsetof(tum_nal_data_rec_sess_replay_req_encode, field_3) == 68);
+static_assert(offsetof(tum_nal_data_rec_sess_replay_req_encode, field_4_count) == 72);
+static_assert(offsetof(tum_nal_data_rec_sess_replay_req_encode, field_1) == 76);
+static_assert(offsetof(tum_nal_data_rec_sess_replay_req_encode, field_2) == 80);
+static_assert(offsetof(tum_nal_data_rec_sess_replay_req_encode, field_5) == 82);
+static_assert(offsetof(tum_nal_data_rec_sess_replay_req_encode, field_4) == 88);
+
+static_assert(
+    sizeof(tum_nal_data_rec_sess_replay_req_decode) == 8936 && alignof(tum_nal_data_rec_sess_replay_req_decode) == 8);
+static_assert(offsetof(tum_nal_data_rec_sess_replay_req_decode, field_2) == 4);
+static_assert(offsetof(tum_nal_data_rec_sess_replay_req_decode, field_4_count) == 8);
+static_assert(offsetof(tum_nal_data_rec_sess_replay_req_decode, field_3) == 12);
+static_assert(offsetof(tum_nal_data_rec_sess_replay_req_decode, field_4) == 16);
+static_assert(offsetof(tum_nal_data_rec_sess_replay_req_decode, field_5) == 8864);
+static_assert(offsetof(tum_nal_data_rec_sess_replay_req_decode, field_6) == 8865);
+static_assert(sizeof(tum_nal_data_rec_sess_replay_req_encode) == sizeof(tum_nal_data_rec_sess_replay_req_decode));
+
+static_assert(sizeof(tum_nal_data_replay_failure) == 1392 && alignof(tum_nal_data_replay_failure) == 8);
+static_assert(offsetof(tum_nal_data_replay_failure, field_2) == 8);
+static_assert(offsetof(tum_nal_data_replay_failure, field_3) == 16);
+
+static_assert(sizeof(tum_nal_data_service_start) == 544 && alignof(tum_nal_data_service_start) == 8);
+static_assert(offsetof(tum_nal_data_service_start, field_2) == 8);
+static_assert(offsetof(tum_nal_data_service_start, field_3) == 12);
+static_assert(offsetof(tum_nal_data_service_start, field_4) == 16);
+static_assert(offsetof(tum_nal_data_service_start, field_5_count) == 20);
+static_assert(offsetof(tum_nal_data_service_start, field_5) == 21);
+
+static_assert(sizeof(tum_nal_data_rec_sess_replay_resp) == 2024 && alignof(tum_nal_data_rec_sess_replay_resp) == 8);
+static_assert(offsetof(tum_nal_data_rec_sess_replay_resp, field_2_count) == 4);
+static_assert(offsetof(tum_nal_data_rec_sess_replay_resp, field_3_count) == 8);
+static_assert(offsetof(tum_nal_data_rec_sess_replay_resp, field_2) == 16);
+static_assert(offsetof(tum_nal_data_rec_sess_replay_resp, field_3) == 1408);
+static_assert(offsetof(tum_nal_data_rec_sess_replay_resp, field_4) == 1952);
+static_assert(offsetof(tum_nal_data_rec_sess_replay_resp, field_5) == 2020);
