@@ -11,12 +11,10 @@ namespace
 template <class Kind>
 void register_ours(workload<Kind> &work)
 {
-    register_side(work.name, duplicate_free, ours, [&work] {
-        typename Kind::record copy;
-        // Spare bits stay as they were, and would be indeterminate here.
-        copy.presence_mask = 0;
-        const int32_t result = Kind::duplicate(&copy, &work.record, allocate_zeroed, nullptr);
-        Kind::free(&copy, release_allocated, nullptr, 0);
+    auto copy = std::make_shared<typename Kind::record>();
+    register_side(work.name, duplicate_free, ours, [&work, copy] {
+        const int32_t result = Kind::duplicate(copy.get(), &work.record, allocate_zeroed, nullptr);
+        Kind::free(copy.get(), release_allocated, nullptr, 0);
         return result;
     });
 }

@@ -10,6 +10,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstdint>
 #include <cstring>
 #include <string_view>
@@ -212,6 +213,15 @@ inline std::string hex_of(const write_trace &trace)
         text += i == 0 ? "" : " ";
         text += trace.written[i] ? hex_of(&trace.bytes[i], 1) : "--";
     }
+    return text;
+}
+
+// What the trace of an encode into `capacity` bytes reads when nothing but the capacity cuts `whole`.
+inline std::string prefix_hex(const byte_vector &whole, std::size_t capacity)
+{
+    std::string text = hex_of(whole.data(), std::min(capacity, whole.size()));
+    for (std::size_t i = whole.size(); i < capacity; ++i)
+        text += i == 0 ? "--" : " --";
     return text;
 }
 

@@ -1,0 +1,140 @@
+// How single values are written, and what a buffer that is too short receives.
+#include "support/record_calls.h"
+
+#include <gtest/gtest.h>
+
+namespace mava_tum_test
+{
+namespace
+{
+
+struct varint_row {
+    uint64_t value;
+    const char *hex;
+};
+
+TEST(wire_write, a_32_bit_varint_takes_one_to_five_bytes)
+{
+    const varint_row rows[] = {
+        {0, "08 00"}, {0x7F, "08 7F"}, {0x80, "08 80 01"}, {0x3FFF, "08 FF 7F"}, {0x4000, "08 80 80 01"},
+        {0x1FFFFF, "08 FF FF 7F"}, {0x200000, "08 80 80 80 01"}, {0xFFFFFFF, "08 FF FF FF 7F"},
+        {0x10000000, "08 80 80 80 80 01"},
+        {0xFFFFFFFF, "08 FF FF FF FF 0F"}, // a negative value is not sign-extended to ten bytes
+    };
+    for (const varint_row &row : rows) {
+        mava_tum_vlan_info record{};
+        record.field_1 = static_cast<uint32_t>(row.value);
+        mark_present(record, 1);
+        EXPECT_EQ(encoded_hex(record), row.hex);
+    }
+}
+
+TEST(wire_write, a_64_bit_varint_takes_one_to_ten_bytes)
+{
+    const varint_row rows[] = {
+        {0, "10 00"},
+        {0x7F, "10 7F"},
+        {0x80, "10 80 01"},
+        {0xFFFFFFFF, "10 FF FF FF FF 0F"},
+        {uint64_t{1} << 35, "10 80 80 80 80 80 01"},
+        {(uint64_t{1} << 56) - 1, "10 FF FF FF FF FF FF FF 7F"},
+        {uint64_t{1} << 56, "10 80 80 80 80 80 80 80 80 01"},
+        {(uint64_t{1} << 63) - 1, "10 FF FF FF FF FF FF FF FF 7F"},
+        {uint64_t{1} << 63, "10 80 80 80 80 80 80 80 80 80 01"},
+        {0xFFFFFFFFFFFFFFFF, "10 FF FF FF FF FF FF FF FF FF 01"},
+    };
+    for (const varint_row &row : rows) {
+        mava_tum_session_data record{};
+        record.field_2 = row.value;
+        mark_present(record, 2);
+        EXPECT_EQ(encoded_hex(record), row.hex);
+    }
+}
+
+TEST(wire_write, a_tag_of_field_15_takes_one_byte_and_of_field_16_two)
+{
+    mava_tum_l2tp_data record{};
+    record.field_15 = 1;
+    record.field_16 = 2;
+    record.field_17 = 3;
+    record.field_18 = 4;
+    mark_present(record, 15, 16, 17, 18);
+    EXPECT_EQ(encoded_hex(record), "78 01 80 01 02 88 01 03 90 01 04");
+}
+
+TEST(wire_write, fields_are_written_in_ascending_number)
+{
+    decoded<mava_tum_ppp_data> got("30 06 2A 01 AA 20 04 18 03 10 02 08 01");
+    EXPECT_EQ(encoded_hex(got.record), "08 01 10 02 18 03 20 04 2A 01 AA 30 06");
+}
+
+// One of each kind: a varint, a fixed32, a bytes field, a text, a varint.
+struct one_of_each_kind {
+    std::string text = "abc";
+    byte_vector content = bytes_of("AA BB");
+    mava_tum_l2tp_data record{};
+
+    one_of_each_kind()
+    {
+        record.field_1 = 300;
+        record.field_2 = 0x04030201;
+        record.field_4 = bytes_field(content);
+        record.field_18 = 9;
+        record.field_19 = text.data();
+        mark_present(record, 1, 2, 4, 18, 19);
+    }
+};
+
+TEST(wire_write, every_capacity_receives_all_whole_bytes_below_it_and_no_part_of_a_block)
+{
+    const one_of_each_kind source;
+    // Offset:                   0  1  2  3  4  5  6  7  8  9 10 11 12 13 14 15 16 17 18 19 20
+    const char *whole = "08 AC 02 15 01 02 03 04 22 02 AA BB 90 01 09 9A 01 03 61 62 63";
+    const byte_vector bytes = bytes_of(whole);
+    EXPECT_EQ(encoded(source.record), bytes);
+    for (std::size_t capacity = 0; capacity <= bytes.size() + 2; ++capacity) {
+        const write_trace trace = encode_trace(source.record, capacity, bytes.size());
+        EXPECT_TRUE(trace.guards_intact) << capacity;
+        std::string expected = prefix_hex(bytes, capacity);
+        if (capacity == 11)
+            expected.replace(3 * 10, 2, "--");
+        if (capacity == 19 || capacity == 20)
+            expected.replace(3 * 18, 2, "--");
+        if (capacity == 20)
+            expected.replace(3 * 19, 2, "--");
+        EXPECT_EQ(hex_of(trace), expected) << capacity;
+    }
+}
+
+TEST(wire_write, a_fixed32_is_cut_byte_by_byte)
+{
+    mava_tum_subscriber_v4 record{};
+    record.ipv4_address = 0x04030201;
+    mark_present(record, 2);
+    EXPECT_EQ(hex_of(encode_trace(record, 3, 5)), "15 01 02");
+}
+
+TEST(wire_write, a_null_buffer_of_length_0_gives_the_size)
+{
+    const one_of_each_kind source;
+    EXPECT_EQ(call_encode(source.record, nullptr, 0), 21u);
+}
+
+TEST(wire_write, a_buffer_longer_than_needed_is_left_alone_behind_the_result)
+{
+    const one_of_each_kind source;
+    const write_trace trace = encode_trace(source.record, 100, 21);
+    for (std::size_t i = 0; i < 100; ++i)
+        EXPECT_EQ(trace.written[i], i < 21) << i;
+}
+
+TEST(wire_write, the_record_is_only_read)
+{
+    const one_of_each_kind source;
+    const mava_tum_l2tp_data before = source.record;
+    encoded(source.record);
+    EXPECT_EQ(std::memcmp(&before, &source.record, sizeof before), 0);
+}
+
+} // namespace
+} // namespace mava_tum_test

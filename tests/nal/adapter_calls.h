@@ -1,0 +1,165 @@
+// Sending and receiving through the adapters as tests want it: records and inputs end before an inaccessible page, the
+// receiver's record holds rubbish beforehand, encoders may not allocate, decoders may keep nothing.
+#pragma once
+
+#include "nal/calloc_watch.h"
+#include "support/guarded_buffer.h"
+#include "support/hex.h"
+#include "tum_nal/nal_routes.h"
+#include "tum_nal/nal_session_context.h"
+
+#include <gtest/gtest.h>
+
+#include <cstring>
+#include <string_view>
+
+namespace mava_tum_test
+{
+
+inline uint64_t call_encode_adapter(const tum_nal_data_session_context &record, uint8_t *buffer, uint32_t capacity)
+{
+    return tum_nal_data_gpb_encode_tum_session_context(&record, buffer, capacity);
+}
+
+inline uint64_t call_encode_adapter(const tum_nal_data_sub_route &record, uint8_t *buffer, uint32_t capacity)
+{
+    return tum_nal_data_gpb_encode_tum_sub_route(&record, buffer, capacity);
+}
+
+inline void call_decode_adapter(const uint8_t *data, uint32_t length, tum_nal_data_session_context &record)
+{
+    tum_nal_data_gpb_decode_tum_session_context(data, length, &record);
+}
+
+inline void call_decode_adapter(const uint8_t *data, uint32_t length, tum_nal_data_sub_route &record)
+{
+    tum_nal_data_gpb_decode_tum_sub_route(data, length, &record);
+}
+
+// All bytes zero, padding too, so that records can be compared as bytes.
+template <class record_type>
+record_type zero_record()
+{
+    record_type record;
+    std::memset(static_cast<void *>(&record), 0, sizeof record);
+    return record;
+}
+
+// The complete message of `record`.
+template <class record_type>
+byte_vector sent(const record_type &record)
+{
+    page_end_buffer memory(sizeof record);
+    std::memcpy(memory.data(), &record, sizeof record);
+    const record_type &placed = *reinterpret_cast<const record_type *>(memory.data());
+    calloc_watch watch;
+    const uint64_t size = call_encode_adapter(placed, nullptr, 0);
+    guarded_buffer buffer(size);
+    EXPECT_EQ(call_encode_adapter(placed, buffer.data(), static_cast<uint32_t>(size)), size);
+    EXPECT_TRUE(buffer.guards_intact());
+    EXPECT_EQ(watch.sizes().size(), 0u) << "an encode adapter allocated";
+    EXPECT_EQ(std::memcmp(&placed, &record, sizeof record), 0) << "an encode adapter wrote into its record";
+    return buffer.content();
+}
+
+template <class record_type>
+std::string sent_hex(const record_type &record)
+{
+    return hex_of(sent(record));
+}
+
+struct receive_options {
+    std::size_t failing_call = 0;      // this call of calloc fails, once; 0 for none
+    std::size_t failing_from_call = 0; // this one and all later ones
+};
+
+// One decode and what it left. `sizes` are those of its calls of calloc.
+template <class record_type>
+class received
+{
+public:
+    explicit received(const byte_vector &wire, receive_options options = {}) : memory_(sizeof(record_type))
+    {
+        page_end_buffer input(wire);
+        std::memset(memory_.data(), 0xFF, sizeof(record_type));
+        calloc_watch watch;
+        if (options.failing_call != 0)
+            watch.fail_call(options.failing_call);
+        if (options.failing_from_call != 0)
+            watch.fail_from_call(options.failing_from_call);
+        call_decode_adapter(input.data(), static_cast<uint32_t>(wire.size()), record());
+        EXPECT_EQ(watch.outstanding_count(), 0u) << "a decode adapter kept memory";
+        sizes_ = watch.sizes();
+    }
+
+    explicit received(std::string_view hex) : received(bytes_of(hex)) {}
+
+    const record_type &operator*()
+    {
+        return record();
+    }
+
+    const record_type *operator->()
+    {
+        return &record();
+    }
+
+    const std::vector<std::size_t> &sizes() const
+    {
+        return sizes_;
+    }
+
+private:
+    record_type &record()
+    {
+        return *reinterpret_cast<record_type *>(memory_.data());
+    }
+
+    page_end_buffer memory_;
+    std::vector<std::size_t> sizes_;
+};
+
+using received_session = received<tum_nal_data_session_context>;
+using received_routes = received<tum_nal_data_sub_route>;
+
+// The offset of the first byte that differs, or -1.
+template <class record_type>
+std::ptrdiff_t first_difference(const record_type &actual, const record_type &expected)
+{
+    const uint8_t *left = reinterpret_cast<const uint8_t *>(&actual);
+    const uint8_t *right = reinterpret_cast<const uint8_t *>(&expected);
+    const auto found = std::mismatch(left, left + sizeof(record_type), right).first;
+    return found == left + sizeof(record_type) ? -1 : found - left;
+}
+
+// The offset of the first byte that is neither that of `whole` nor zero, or -1: what may arrive of a cut message.
+template <class record_type>
+std::ptrdiff_t first_foreign_byte(const record_type &actual, const record_type &whole)
+{
+    const uint8_t *left = reinterpret_cast<const uint8_t *>(&actual);
+    const uint8_t *right = reinterpret_cast<const uint8_t *>(&whole);
+    for (std::size_t i = 0; i < sizeof(record_type); ++i) {
+        if (left[i] != 0 && left[i] != right[i])
+            return static_cast<std::ptrdiff_t>(i);
+    }
+    return -1;
+}
+
+template <std::size_t size>
+void set_text(char (&array)[size], std::string_view text)
+{
+    ASSERT_LT(text.size(), size) << "no room for the NUL";
+    std::memset(array, 0, size);
+    std::memcpy(array, text.data(), text.size());
+}
+
+template <std::size_t size>
+void set_bytes(uint8_t (&array)[size], std::string_view hex)
+{
+    const byte_vector bytes = bytes_of(hex);
+    ASSERT_LE(bytes.size(), size);
+    std::memset(array, 0, size);
+    std::memcpy(array, bytes.data(), bytes.size());
+}
+
+} // namespace mava_tum_test
