@@ -122,21 +122,29 @@ void put_text_always(Record &record, char *&field, const char (&array)[Size])
 }
 
 // A count above the number of slots is taken as the number of slots. Only the slots in use are cleared: of fifty,
-// most calls need a few. No element, no field.
-template <unsigned FieldNumber, class Record, class Codec, class Entry, size_t Slots>
-void put_list(Record &record, Codec *&field, uint32_t &field_count, Codec (&slots)[Slots],
-    const Entry (&entries)[Slots], uint32_t count, void (*entry_to_codec)(Codec &, const Entry &))
+// most calls need a few. No element, no field. `fill_slot(i)` converts element i into its slot.
+template <unsigned FieldNumber, class Record, class Codec, size_t Slots, class FillSlot>
+void put_slots(
+    Record &record, Codec *&field, uint32_t &field_count, Codec (&slots)[Slots], uint32_t count, FillSlot fill_slot)
 {
     const uint32_t used = count < Slots ? count : Slots;
     if (used == 0)
         return;
     for (uint32_t i = 0; i < used; ++i) {
         slots[i] = {};
-        entry_to_codec(slots[i], entries[i]);
+        fill_slot(i);
     }
     field = slots;
     field_count = used;
     mark_present<FieldNumber>(record);
+}
+
+template <unsigned FieldNumber, class Record, class Codec, class Entry, size_t Slots>
+void put_list(Record &record, Codec *&field, uint32_t &field_count, Codec (&slots)[Slots],
+    const Entry (&entries)[Slots], uint32_t count, void (*entry_to_codec)(Codec &, const Entry &))
+{
+    put_slots<FieldNumber>(
+        record, field, field_count, slots, count, [&](uint32_t i) { entry_to_codec(slots[i], entries[i]); });
 }
 
 // The same for elements that hold lists themselves: each comes with slots of its own.
@@ -145,16 +153,8 @@ void put_list(Record &record, Codec *&field, uint32_t &field_count, Codec (&slot
     Nested (&nested_slots)[Slots], const Entry (&entries)[Slots], uint32_t count,
     void (*entry_to_codec)(Codec &, Nested &, const Entry &))
 {
-    const uint32_t used = count < Slots ? count : Slots;
-    if (used == 0)
-        return;
-    for (uint32_t i = 0; i < used; ++i) {
-        slots[i] = {};
-        entry_to_codec(slots[i], nested_slots[i], entries[i]);
-    }
-    field = slots;
-    field_count = used;
-    mark_present<FieldNumber>(record);
+    put_slots<FieldNumber>(record, field, field_count, slots, count,
+        [&](uint32_t i) { entry_to_codec(slots[i], nested_slots[i], entries[i]); });
 }
 
 // ---- codec -> application ----

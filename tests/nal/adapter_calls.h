@@ -2,38 +2,30 @@
 // receiver's record holds rubbish beforehand, encoders may not allocate, decoders may keep nothing.
 #pragma once
 
+#include "nal/adapter_functions.h"
 #include "nal/calloc_watch.h"
 #include "support/guarded_buffer.h"
 #include "support/hex.h"
-#include "tum_nal/nal_routes.h"
-#include "tum_nal/nal_session_context.h"
 
 #include <gtest/gtest.h>
 
 #include <cstring>
+#include <string>
 #include <string_view>
 
 namespace mava_tum_test
 {
 
-inline uint64_t call_encode_adapter(const tum_nal_data_session_context &record, uint8_t *buffer, uint32_t capacity)
+template <class record_type>
+uint64_t call_encode_adapter(const record_type &record, uint8_t *buffer, uint32_t capacity)
 {
-    return tum_nal_data_gpb_encode_tum_session_context(&record, buffer, capacity);
+    return adapter_functions<record_type>::encode(&record, buffer, capacity);
 }
 
-inline uint64_t call_encode_adapter(const tum_nal_data_sub_route &record, uint8_t *buffer, uint32_t capacity)
+template <class record_type>
+void call_decode_adapter(const uint8_t *data, uint32_t length, record_type &record)
 {
-    return tum_nal_data_gpb_encode_tum_sub_route(&record, buffer, capacity);
-}
-
-inline void call_decode_adapter(const uint8_t *data, uint32_t length, tum_nal_data_session_context &record)
-{
-    tum_nal_data_gpb_decode_tum_session_context(data, length, &record);
-}
-
-inline void call_decode_adapter(const uint8_t *data, uint32_t length, tum_nal_data_sub_route &record)
-{
-    tum_nal_data_gpb_decode_tum_sub_route(data, length, &record);
+    adapter_functions<record_type>::decode(data, length, &record);
 }
 
 // All bytes zero, padding too, so that records can be compared as bytes.
@@ -160,6 +152,13 @@ void set_bytes(uint8_t (&array)[size], std::string_view hex)
     ASSERT_LE(bytes.size(), size);
     std::memset(array, 0, size);
     std::memcpy(array, bytes.data(), bytes.size());
+}
+
+// A character repeated to `length`, by default as long as the array allows.
+template <std::size_t size>
+void fill_text(char (&array)[size], char character, std::size_t length = size - 1)
+{
+    set_text(array, std::string(length, character));
 }
 
 } // namespace mava_tum_test

@@ -12,12 +12,6 @@ using session = tum_nal_data_session_context;
 namespace
 {
 
-template <std::size_t size>
-void fill_text(char (&array)[size], char character, std::size_t length = size - 1)
-{
-    set_text(array, std::string(length, character));
-}
-
 // Bytes that follow each other, none of them zero.
 template <std::size_t size>
 void fill_bytes(uint8_t (&array)[size], uint8_t first)

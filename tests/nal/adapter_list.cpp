@@ -1,0 +1,380 @@
+#include "nal/adapter_list.h"
+
+#include "nal/record_rows.h"
+#include "nal/sample_records.h"
+#include "nal/sample_session.h"
+#include "support/wire_builder.h"
+
+#include <cstddef>
+
+namespace mava_tum_test
+{
+
+namespace
+{
+
+// ---- entries ----
+
+template <class record_type>
+byte_vector bytes_of_record(const record_type &record)
+{
+    const uint8_t *first = reinterpret_cast<const uint8_t *>(&record);
+    return byte_vector(first, first + sizeof record);
+}
+
+template <class sent_type, class received_type>
+adapter entry(
+    const char *name, const sent_type &sent_record, const received_type &received_record, const char *all_zero_wire)
+{
+    adapter added = {};
+    added.name = name;
+    added.sent = bytes_of_record(sent_record);
+    added.received = bytes_of_record(received_record);
+    added.all_zero_wire = all_zero_wire;
+    added.encode = [](const void *record, uint8_t *buffer, uint32_t capacity) {
+        return adapter_functions<sent_type>::encode(static_cast<const sent_type *>(record), buffer, capacity);
+    };
+    added.decode = [](const uint8_t *data, uint32_t length, void *record) {
+        adapter_functions<received_type>::decode(data, length, static_cast<received_type *>(record));
+    };
+    return added;
+}
+
+// A record that comes back as it was sent.
+template <class record_type>
+adapter entry(const char *name, const record_type &record, const char *all_zero_wire)
+{
+    return entry(name, record, record, all_zero_wire);
+}
+
+template <class record_type>
+adapter filled_entry(const char *name, void (*fill)(record_type &record), const char *all_zero_wire)
+{
+    filled_record<record_type> record(fill);
+    return entry(name, *record, all_zero_wire);
+}
+
+// ---- messages ----
+
+template <uint32_t field>
+byte_vector list_wire(const std::vector<byte_vector> &elements)
+{
+    wire_builder wire;
+    for (const byte_vector &element : elements)
+        wire.length_delimited(field, element);
+    return wire;
+}
+
+// The list stands in a record that is nested in the given fields, the outermost first.
+template <uint32_t field, uint32_t... outer>
+byte_vector nested_list_wire(const std::vector<byte_vector> &elements)
+{
+    byte_vector wire = list_wire<field>(elements);
+    const uint32_t levels[] = {outer...};
+    for (std::size_t i = sizeof...(outer); i > 0; --i)
+        wire = wire_builder().length_delimited(levels[i - 1], wire);
+    return wire;
+}
+
+template <uint32_t field, uint32_t... outer>
+byte_vector text_wire(const std::string &text)
+{
+    return nested_list_wire<field, outer...>({byte_vector(text.begin(), text.end())});
+}
+
+// ---- members ----
+
+#define SIZE_OF(record, member) sizeof(static_cast<record *>(nullptr)->member)
+#define LIST(record, member, slots, wire)                                                                              \
+    list_member                                                                                                        \
+    {                                                                                                                  \
+#record "." #member, offsetof(record, member), offsetof(record, member), SIZE_OF(record, member), slots, wire  \
+    }
+#define TEXT(record, member, kept, wire)                                                                               \
+    text_member                                                                                                        \
+    {                                                                                                                  \
+#record "." #member, offsetof(record, member), SIZE_OF(record, member), kept, wire                             \
+    }
+
+using session = tum_nal_data_session_context;
+using routes = tum_nal_data_sub_route;
+using statistics = tum_nal_data_subscriber_stats;
+using operation = tum_nal_data_sess_oper_resp;
+using route_answer = tum_nal_data_subscriber_route_resp;
+using start_request = tum_nal_data_rec_start_req;
+using complete_request = tum_nal_data_rec_complete_req;
+using answer = tum_nal_data_rec_res;
+using states_request = tum_nal_data_rec_sess_req;
+using states_answer = tum_nal_data_rec_sess_res;
+using replay_sent = tum_nal_data_rec_sess_replay_req_encode;
+using replay_received = tum_nal_data_rec_sess_replay_req_decode;
+using replay_answer = tum_nal_data_rec_sess_replay_resp;
+using groups_request = tum_nal_data_srg_group_rec_replay_req;
+using groups_answer = tum_nal_data_srg_group_rec_replay_resp;
+
+// ---- the adapters ----
+
+adapter session_context_adapter()
+{
+    adapter added = entry("session_context", full_session(), "08 00 10 00 18 00 20 00 28 00 38 00 52 02 1A 00");
+    added.lists = {
+        LIST(session, qos_count, 8, list_wire<11>),
+        LIST(session, ipv4_route_count, 4, list_wire<23>),
+        LIST(session, ipv6_route_count, 4, list_wire<24>),
+    };
+    added.texts = {
+        TEXT(session, l2tp_name, 32, (text_wire<19, 10, 4>)),
+        TEXT(session, session_name, 64, (text_wire<5, 10>)),
+        TEXT(session, session_label, 32, (text_wire<7, 10>)),
+        TEXT(session, session_text, 64, (text_wire<8, 10>)),
+        TEXT(session, qos[0].text_5, 255, (text_wire<5, 11>)),
+        TEXT(session, acl_text_5, 64, (text_wire<5, 12>)),
+        TEXT(session, redirect_text_2, 255, (text_wire<2, 13>)),
+    };
+    return added;
+}
+
+adapter sub_route_adapter()
+{
+    adapter added = entry("sub_route", full_routes(), "08 00 10 00 18 00 30 00");
+    added.lists = {
+        LIST(routes, ipv4_route_count, 50, list_wire<4>),
+        LIST(routes, ipv6_route_count, 50, list_wire<5>),
+    };
+    added.texts = {
+        TEXT(routes, ipv4_routes[0].field_2, 32, (text_wire<2, 4>)),
+        TEXT(routes, ipv4_routes[0].field_9, 64, (text_wire<9, 4>)),
+        TEXT(routes, ipv6_routes[0].field_6, 32, (text_wire<6, 5>)),
+        TEXT(routes, ipv6_routes[0].field_9, 64, (text_wire<9, 5>)),
+    };
+    return added;
+}
+
+adapter subscriber_stats_adapter()
+{
+    adapter added = entry("subscriber_stats", full_statistics(), without_switches(full_statistics()), "");
+    added.lists = {LIST(statistics, service_count, 8, list_wire<8>)};
+    added.texts = {TEXT(statistics, services[0].name, 64, (text_wire<1, 8>))};
+    return added;
+}
+
+adapter sess_oper_resp_adapter()
+{
+    operation arrives = full_sess_oper_resp();
+    arrives.field_9 = without_switches(arrives.field_9);
+    adapter added = entry("sess_oper_resp", full_sess_oper_resp(), arrives, "08 00 4A 00");
+    added.lists = {LIST(operation, field_9.service_count, 8, (nested_list_wire<8, 9>))};
+    added.texts = {
+        TEXT(operation, field_6, 64, text_wire<6>),
+        TEXT(operation, field_7, 64, text_wire<7>),
+        TEXT(operation, field_8, 64, text_wire<8>),
+        TEXT(operation, field_9.services[0].name, 64, (text_wire<1, 9, 8>)),
+    };
+    return added;
+}
+
+adapter subscriber_route_resp_adapter()
+{
+    adapter added = entry("subscriber_route_resp", full_subscriber_route_resp(), "08 00 10 00");
+    added.texts = {TEXT(route_answer, field_3, 64, text_wire<3>), TEXT(route_answer, field_4, 64, text_wire<4>)};
+    return added;
+}
+
+adapter rec_start_req_adapter()
+{
+    start_request arrives = zero_record<start_request>();
+    arrives.field_1 = full_rec_start_req().field_3;
+    fill_text(arrives.field_4, 'd');
+    adapter added = entry("rec_start_req", full_rec_start_req(), arrives, "08 00 10 00 18 00");
+    added.texts = {TEXT(start_request, field_4, 64, text_wire<4>)};
+    return added;
+}
+
+adapter rec_complete_req_adapter()
+{
+    adapter added = entry("rec_complete_req", full_rec_complete_req(), "08 00 10 00 18 00");
+    added.texts = {TEXT(complete_request, field_4, 64, text_wire<4>)};
+    return added;
+}
+
+adapter rec_start_res_adapter()
+{
+    adapter added = entry("rec_start_res", full_rec_res(), "08 00 18 00");
+    added.texts = {TEXT(answer, field_2, 64, text_wire<2>)};
+    return added;
+}
+
+adapter rec_complete_res_adapter()
+{
+    rec_complete_res record = {};
+    static_cast<answer &>(record) = full_rec_res();
+    adapter added = entry("rec_complete_res", record, "08 00 18 00");
+    added.texts = {TEXT(answer, field_2, 64, text_wire<2>)};
+    return added;
+}
+
+adapter rec_sess_req_adapter()
+{
+    states_request arrives = full_rec_sess_req();
+    arrives.field_6 = 0;
+    adapter added = entry("rec_sess_req", full_rec_sess_req(), arrives, "08 00 10 00");
+    added.lists = {LIST(states_request, field_3_count, 30, list_wire<3>)};
+    added.texts = {TEXT(states_request, field_4, 64, text_wire<4>), TEXT(states_request, field_5, 64, text_wire<5>)};
+    return added;
+}
+
+adapter rec_sess_res_adapter()
+{
+    adapter added = entry("rec_sess_res", full_rec_sess_res(), "08 00 18 00 20 00");
+    added.lists = {LIST(states_answer, field_2_count, 30, list_wire<2>)};
+    return added;
+}
+
+adapter rec_sess_replay_req_adapter()
+{
+    const replay_sent record = full_rec_sess_replay_req();
+    adapter added = entry("rec_sess_replay_req", record, as_received(record), "08 00 10 00 18 00 28 00");
+    added.lists = {
+        {"sessions", offsetof(replay_sent, field_4_count), offsetof(replay_received, field_4_count), 4, 1,
+            list_wire<4>},
+        {"QoS entries of the session", offsetof(replay_sent, field_4[0].qos_count),
+            offsetof(replay_received, field_4[0].qos_count), 1, 8, nested_list_wire<11, 4>},
+    };
+    added.texts = {
+        TEXT(replay_received, field_6, 64, text_wire<6>),
+        TEXT(replay_received, field_4[0].session_name, 64, (text_wire<5, 4, 10>)),
+    };
+    return added;
+}
+
+adapter rec_sess_replay_resp_adapter()
+{
+    replay_answer arrives = full_rec_sess_replay_resp();
+    arrives.field_2[0].field_3 = without_switches(arrives.field_2[0].field_3);
+    adapter added = entry("rec_sess_replay_resp", full_rec_sess_replay_resp(), arrives, "08 00 28 00");
+    added.lists = {
+        LIST(replay_answer, field_2_count, 1, list_wire<2>),
+        LIST(replay_answer, field_3_count, 1, list_wire<3>),
+        LIST(replay_answer, field_2[0].field_3.service_count, 8, (nested_list_wire<8, 2, 3>)),
+        LIST(replay_answer, field_3[0].field_5_count, 8, (nested_list_wire<5, 3>)),
+    };
+    added.lists.back().of_texts = true;
+    added.texts = {
+        TEXT(replay_answer, field_4, 64, text_wire<4>),
+        TEXT(replay_answer, field_2[0].field_3.services[0].name, 64, (text_wire<1, 2, 3, 8>)),
+        TEXT(replay_answer, field_3[0].field_5[0], 64, (text_wire<5, 3>)),
+    };
+    return added;
+}
+
+adapter srg_group_rec_replay_req_adapter()
+{
+    adapter added = entry("srg_group_rec_replay_req", full_srg_group_rec_replay_req(), "");
+    added.lists = {LIST(groups_request, field_3_count, 15, list_wire<3>)};
+    added.texts = {TEXT(groups_request, field_3[0].field_5, 64, (text_wire<5, 3>))};
+    return added;
+}
+
+adapter srg_group_rec_replay_resp_adapter()
+{
+    adapter added = entry("srg_group_rec_replay_resp", full_srg_group_rec_replay_resp(), "");
+    added.lists = {
+        LIST(groups_answer, field_2_count, 15, list_wire<2>),
+        LIST(groups_answer, field_3_count, 15, list_wire<3>),
+    };
+    added.texts = {
+        TEXT(groups_answer, field_2[0].field_5, 64, (text_wire<5, 2>)),
+        TEXT(groups_answer, field_3[0].field_5, 64, (text_wire<5, 3>)),
+    };
+    return added;
+}
+
+} // namespace
+
+const std::vector<adapter> &all_adapters()
+{
+    static const std::vector<adapter> adapters = {
+        session_context_adapter(),
+        entry("session_delete", full_session_delete(), "08 00"),
+        sess_oper_resp_adapter(),
+        subscriber_stats_adapter(),
+        sub_route_adapter(),
+        subscriber_route_resp_adapter(),
+        rec_start_req_adapter(),
+        rec_start_res_adapter(),
+        rec_complete_req_adapter(),
+        rec_complete_res_adapter(),
+        rec_sess_req_adapter(),
+        rec_sess_res_adapter(),
+        rec_sess_replay_req_adapter(),
+        rec_sess_replay_resp_adapter(),
+        filled_entry("srg_group_rec_start_req", fill_srg_group_rec_start_req, "08 00 10 00 18 00"),
+        filled_entry("srg_group_rec_resp", fill_srg_group_rec_resp, ""),
+        filled_entry("srg_group_rec_complete_req", fill_srg_group_rec_complete_req, ""),
+        srg_group_rec_replay_req_adapter(),
+        srg_group_rec_replay_resp_adapter(),
+    };
+    return adapters;
+}
+
+// ---- calls ----
+
+byte_vector send(const adapter &tested, const byte_vector &record)
+{
+    page_end_buffer placed(record);
+    calloc_watch watch;
+    const uint64_t size = tested.encode(placed.data(), nullptr, 0);
+    guarded_buffer buffer(size);
+    EXPECT_EQ(tested.encode(placed.data(), buffer.data(), static_cast<uint32_t>(size)), size) << tested.name;
+    EXPECT_TRUE(buffer.guards_intact()) << tested.name;
+    EXPECT_EQ(watch.sizes().size(), 0u) << tested.name << " allocated while it encoded";
+    EXPECT_EQ(std::memcmp(placed.data(), record.data(), record.size()), 0) << tested.name << " wrote into its record";
+    return buffer.content();
+}
+
+arrival receive(const adapter &tested, const byte_vector &wire, receive_options options)
+{
+    page_end_buffer input(wire);
+    page_end_buffer record(byte_vector(tested.received.size(), 0xFF));
+    arrival arrived;
+    {
+        calloc_watch watch;
+        if (options.failing_call != 0)
+            watch.fail_call(options.failing_call);
+        if (options.failing_from_call != 0)
+            watch.fail_from_call(options.failing_from_call);
+        tested.decode(input.data(), static_cast<uint32_t>(wire.size()), record.data());
+        EXPECT_EQ(watch.outstanding_count(), 0u) << tested.name << " kept memory";
+        arrived.calloc_sizes = watch.sizes();
+    }
+    arrived.record.assign(record.data(), record.data() + record.size());
+    return arrived;
+}
+
+// ---- looking into records ----
+
+uint64_t count_at(const byte_vector &record, std::size_t offset, std::size_t bytes)
+{
+    uint64_t count = 0;
+    std::memcpy(&count, record.data() + offset, bytes);
+    return count;
+}
+
+void set_count(byte_vector &record, std::size_t offset, std::size_t bytes, uint64_t count)
+{
+    std::memcpy(record.data() + offset, &count, bytes);
+}
+
+void expect_part_of(const adapter &tested, const byte_vector &record, const byte_vector &whole, const std::string &what)
+{
+    byte_vector compared = record;
+    for (const list_member &list : tested.lists) {
+        const uint64_t count = count_at(record, list.received_offset, list.count_bytes);
+        EXPECT_LE(count, count_at(whole, list.received_offset, list.count_bytes)) << tested.name << ", " << what;
+        set_count(compared, list.received_offset, list.count_bytes, 0);
+    }
+    for (std::size_t i = 0; i < compared.size(); ++i)
+        ASSERT_TRUE(compared[i] == 0 || compared[i] == whole[i]) << tested.name << ", " << what << ", byte " << i;
+}
+
+} // namespace mava_tum_test

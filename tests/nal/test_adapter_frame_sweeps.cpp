@@ -1,0 +1,249 @@
+// Every adapter through every cut of its message, every capacity of its buffer and every failing calloc, and damaged
+// messages. `send` and `receive` check on the way that nothing outside the record and the buffer is touched and that
+// all memory is given back.
+#include "nal/adapter_list.h"
+#include "support/wire_builder.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <map>
+#include <random>
+
+namespace mava_tum_test
+{
+namespace
+{
+
+// Routes are the only record whose full message is too long for a sweep: with three of each it holds the same fields.
+byte_vector swept_record(const adapter &tested)
+{
+    byte_vector record = tested.sent;
+    if (std::string(tested.name) == "sub_route") {
+        for (const list_member &list : tested.lists)
+            set_count(record, list.sent_offset, list.count_bytes, 3);
+    }
+    return record;
+}
+
+// ---- cuts ----
+
+struct wire_field {
+    uint32_t number;
+    std::size_t begin;
+    std::size_t value; // where the tag ends
+    std::size_t end;
+};
+
+uint64_t varint_at(const byte_vector &wire, std::size_t &position)
+{
+    uint64_t value = 0;
+    for (unsigned shift = 0;; shift += 7) {
+        const uint8_t byte = wire.at(position++);
+        value |= uint64_t{byte & 0x7Fu} << shift;
+        if ((byte & 0x80) == 0)
+            return value;
+    }
+}
+
+// The fields of a well-formed message, one after the other.
+std::vector<wire_field> fields_in(const byte_vector &wire)
+{
+    std::vector<wire_field> fields;
+    for (std::size_t position = 0; position < wire.size();) {
+        wire_field field = {};
+        field.begin = position;
+        const uint64_t tag = varint_at(wire, position);
+        field.number = static_cast<uint32_t>(tag >> 3);
+        field.value = position;
+        const uint64_t value = varint_at(wire, position);
+        if ((tag & 7) == 2)
+            position += value;
+        field.end = position;
+        fields.push_back(field);
+    }
+    EXPECT_EQ(fields.back().end, wire.size());
+    return fields;
+}
+
+// How much of a message cut at `cut` arrives: all fields that are complete, but of a list either all elements or none.
+// A cut inside the tag that follows may have been one more element, so the list is lost with it.
+std::size_t arriving_bytes(const std::vector<wire_field> &fields, std::size_t cut)
+{
+    std::map<uint32_t, int> entries;
+    for (const wire_field &field : fields)
+        ++entries[field.number];
+    std::size_t complete = 0;
+    while (complete < fields.size() && fields[complete].end <= cut)
+        ++complete;
+    if (complete == fields.size() || fields[complete].begin == cut)
+        return cut;
+    if (complete == 0)
+        return 0;
+    const uint32_t last = fields[complete - 1].number;
+    const bool may_go_on = cut < fields[complete].value || fields[complete].number == last;
+    if (entries[last] > 1 && may_go_on) {
+        while (complete > 0 && fields[complete - 1].number == last)
+            --complete;
+    }
+    return complete == 0 ? 0 : fields[complete - 1].end;
+}
+
+TEST(adapter_frame_sweeps, a_cut_message_arrives_as_its_complete_fields_say)
+{
+    for (const adapter &tested : all_adapters()) {
+        const byte_vector wire = send(tested, swept_record(tested));
+        const byte_vector whole = receive(tested, wire).record;
+        const std::vector<wire_field> fields = fields_in(wire);
+        std::map<std::size_t, byte_vector> records; // by the bytes that arrive
+        for (std::size_t cut = 0; cut < wire.size(); ++cut) {
+            const auto at = [&](std::size_t length) { return wire.begin() + static_cast<std::ptrdiff_t>(length); };
+            const std::size_t arriving = arriving_bytes(fields, cut);
+            if (records.count(arriving) == 0) {
+                records[arriving] = receive(tested, byte_vector(wire.begin(), at(arriving))).record;
+                expect_part_of(tested, records[arriving], whole, "first " + std::to_string(arriving) + " bytes");
+            }
+            ASSERT_EQ(receive(tested, byte_vector(wire.begin(), at(cut))).record, records[arriving])
+                << tested.name << " cut at " << cut << ", of which " << arriving << " bytes arrive";
+        }
+        EXPECT_EQ(records.begin()->second, byte_vector(whole.size(), 0)) << tested.name;
+    }
+}
+
+TEST(adapter_frame_sweeps, each_complete_field_of_a_message_adds_to_what_arrives)
+{
+    const auto content = [](const byte_vector &record) {
+        return static_cast<std::size_t>(record.size()) -
+               static_cast<std::size_t>(std::count(record.begin(), record.end(), 0));
+    };
+    for (const adapter &tested : all_adapters()) {
+        const byte_vector wire = send(tested, swept_record(tested));
+        std::size_t before = 0;
+        for (const wire_field &field : fields_in(wire)) {
+            const auto end = wire.begin() + static_cast<std::ptrdiff_t>(field.end);
+            const std::size_t after = content(receive(tested, byte_vector(wire.begin(), end)).record);
+            const bool dropped = std::string(tested.name) == "rec_start_req" && field.number < 3;
+            EXPECT_EQ(after > before, !dropped) << tested.name << ", field " << field.number;
+            before = after;
+        }
+    }
+}
+
+// ---- capacities ----
+
+TEST(adapter_frame_sweeps, every_capacity_gives_the_size_and_a_prefix)
+{
+    constexpr std::size_t longest_block = 255; // a text or address that does not fit whole is left out whole
+    for (const adapter &tested : all_adapters()) {
+        byte_vector record = swept_record(tested);
+        const byte_vector whole = send(tested, record);
+        for (std::size_t capacity = 0; capacity <= whole.size() + 1; ++capacity) {
+            const write_trace trace = trace_writes(capacity, [&](uint8_t *buffer, std::size_t size) {
+                ASSERT_EQ(tested.encode(record.data(), buffer, static_cast<uint32_t>(size)), whole.size());
+            });
+            const auto first_hole = std::find(trace.written.begin(), trace.written.end(), false);
+            const std::size_t written = static_cast<std::size_t>(first_hole - trace.written.begin());
+            const std::size_t end = std::min(capacity, whole.size());
+            ASSERT_TRUE(trace.guards_intact) << tested.name << ", capacity " << capacity;
+            ASSERT_LE(written, end) << tested.name << ", capacity " << capacity;
+            ASSERT_LT(end - written, longest_block) << tested.name << ", capacity " << capacity;
+            ASSERT_EQ(std::count(first_hole, trace.written.end(), true), 0) << tested.name << ", " << capacity;
+            ASSERT_TRUE(std::equal(
+                trace.bytes.begin(), trace.bytes.begin() + static_cast<std::ptrdiff_t>(written), whole.begin()))
+                << tested.name << ", capacity " << capacity;
+            ASSERT_EQ(written == whole.size(), capacity >= whole.size()) << tested.name << ", capacity " << capacity;
+        }
+    }
+}
+
+// ---- failing allocations ----
+
+TEST(adapter_frame_sweeps, every_calloc_that_fails_ends_the_message_there)
+{
+    for (const adapter &tested : all_adapters()) {
+        const byte_vector wire = send(tested, swept_record(tested));
+        const arrival whole = receive(tested, wire);
+        for (std::size_t failing = 1; failing <= whole.calloc_sizes.size(); ++failing) {
+            const arrival once = receive(tested, wire, {.failing_call = failing});
+            ASSERT_EQ(once.calloc_sizes.size(), failing) << tested.name << " went on after a failure";
+            ASSERT_NE(once.record, whole.record) << tested.name << ", call " << failing;
+            expect_part_of(tested, once.record, whole.record, "call " + std::to_string(failing));
+            ASSERT_EQ(receive(tested, wire, {.failing_from_call = failing}).record, once.record) << tested.name;
+        }
+    }
+}
+
+TEST(adapter_frame_sweeps, calloc_is_asked_for_texts_and_lists_only)
+{
+    std::map<std::string, std::size_t> calls;
+    for (const adapter &tested : all_adapters())
+        calls[tested.name] = receive(tested, send(tested, tested.sent)).calloc_sizes.size();
+    // 1 list and 8 names in statistics; in the session 3 lists, 48 + 24 texts in them and 9 beside them.
+    const std::map<std::string, std::size_t> expected = {{"session_context", 84}, {"session_delete", 0},
+        {"sess_oper_resp", 3 + 9}, {"subscriber_stats", 9}, {"sub_route", 302}, {"subscriber_route_resp", 2},
+        {"rec_start_req", 1}, {"rec_start_res", 1}, {"rec_complete_req", 1}, {"rec_complete_res", 1},
+        {"rec_sess_req", 1 + 2}, {"rec_sess_res", 1}, {"rec_sess_replay_req", 1 + 84 + 1},
+        {"rec_sess_replay_resp", 1 + 9 + 1 + 9 + 1}, {"srg_group_rec_start_req", 0}, {"srg_group_rec_resp", 0},
+        {"srg_group_rec_complete_req", 0}, {"srg_group_rec_replay_req", 16}, {"srg_group_rec_replay_resp", 32}};
+    EXPECT_EQ(calls, expected);
+}
+
+// ---- damage ----
+
+// Whatever arrived, its counts stay within the slots and it can be sent again.
+void expect_consistent(const adapter &tested, const byte_vector &record)
+{
+    for (const list_member &list : tested.lists)
+        ASSERT_LE(count_at(record, list.received_offset, list.count_bytes), list.slots) << list.what;
+    if (tested.sent.size() == record.size() && std::string(tested.name) != "rec_sess_replay_req")
+        send(tested, record);
+}
+
+TEST(adapter_frame_sweeps, damaged_messages_stay_inside_the_record_and_leave_nothing_behind)
+{
+    std::mt19937 random(30);
+    for (const adapter &tested : all_adapters()) {
+        const byte_vector wire = send(tested, swept_record(tested));
+        std::size_t changed = 0;
+        for (int round = 0; round < 1500; ++round) {
+            byte_vector damaged = wire;
+            for (std::size_t hits = random() % 4 + 1; hits > 0; --hits)
+                damaged[random() % damaged.size()] = static_cast<uint8_t>(random());
+            const byte_vector record = receive(tested, damaged).record;
+            changed += record != tested.received;
+            expect_consistent(tested, record);
+        }
+        EXPECT_GT(changed, 700u) << tested.name;
+    }
+}
+
+TEST(adapter_frame_sweeps, lengths_that_lie_stay_inside_the_record_and_leave_nothing_behind)
+{
+    for (const adapter &tested : all_adapters()) {
+        for (uint32_t field = 1; field <= 24; ++field) {
+            for (uint64_t length : {uint64_t{2}, uint64_t{0x7F}, uint64_t{0x7FFFFFFF}, uint64_t{0xFFFFFFFF}}) {
+                const byte_vector wire =
+                    wire_builder().tag(field, wire_type::length_delimited).bare_varint(length).raw("61");
+                const arrival arrived = receive(tested, wire);
+                ASSERT_EQ(arrived.record, byte_vector(tested.received.size(), 0)) << tested.name << ", field " << field;
+                ASSERT_TRUE(arrived.calloc_sizes.empty()) << tested.name << ", field " << field;
+            }
+        }
+    }
+}
+
+TEST(adapter_frame_sweeps, bytes_without_any_order_stay_inside_the_record_and_leave_nothing_behind)
+{
+    std::mt19937 random(31);
+    for (const adapter &tested : all_adapters()) {
+        for (int round = 0; round < 1500; ++round) {
+            byte_vector noise(random() % 48);
+            for (uint8_t &byte : noise)
+                byte = static_cast<uint8_t>(random());
+            expect_consistent(tested, receive(tested, noise).record);
+        }
+    }
+}
+
+} // namespace
+} // namespace mava_tum_test
