@@ -251,7 +251,7 @@ std::string redirect(unsigned n)
 // Some of these are filled for subscribers whose feature is off: their values must stay at home.
 std::string intercept(unsigned n)
 {
-    if (!is_rich(n) && n % 100 != 1)
+    if (!is_rich(n) && n % 40 != 1)
         return "";
     return join("|", {text(1 + n % 3), text(n), text(4000 + n % 50), identifier(n, 2), "2", text(pick(n, 9, 65536)),
                          host_in(2, 1 + n % 200), n % 16 == 5 ? "" : "2001:db8:aaaa::" + hex(n)});

@@ -9,7 +9,8 @@ namespace session_setup
 
 void member_check::differ(std::string_view member, const std::string &wanted, const std::string &received)
 {
-    m_mismatches.push_back({m_slot + std::string(member), wanted, received});
+    const std::string slot = m_list.empty() ? "" : std::string(m_list) + "[" + std::to_string(m_index) + "].";
+    m_mismatches.push_back({slot + std::string(member), wanted, received});
 }
 
 void member_check::number(std::string_view member, uint64_t wanted, uint64_t received)
@@ -53,12 +54,13 @@ void member_check::zeros(std::string_view member, std::span<const uint8_t> recei
 
 void member_check::enter_slot(std::string_view list, size_t index)
 {
-    m_slot = std::string(list) + "[" + std::to_string(index) + "].";
+    m_list = list;
+    m_index = index;
 }
 
 void member_check::leave_slot()
 {
-    m_slot.clear();
+    m_list = {};
 }
 
 } // namespace session_setup

@@ -28,7 +28,7 @@ public:
     void text(std::string_view member, std::string_view wanted, std::span<const char> received);
     void zeros(std::string_view member, std::span<const uint8_t> received);
 
-    // Names the slot that the members belong to from now on, such as qos[2].
+    // Names the slot that the members belong to from now on, such as qos[2]. `list` must outlive that.
     void enter_slot(std::string_view list, size_t index);
     void leave_slot();
 
@@ -40,7 +40,9 @@ public:
 private:
     void differ(std::string_view member, const std::string &wanted, const std::string &received);
 
-    std::string m_slot;
+    // The slot's name is put together only where something differs: most of the time nothing does.
+    std::string_view m_list;
+    size_t m_index = 0;
     std::vector<mismatch> m_mismatches;
 };
 
