@@ -138,7 +138,6 @@ void take_ipv4(uint32_t &host_order, const Record &record, uint32_t field)
 }
 
 // The sender chose the length: of a longer value the first bytes are taken, behind a shorter one the rest stays zero.
-//
 template <unsigned FieldNumber, class Record, size_t Size>
 void take_bytes(uint8_t (&array)[Size], const Record &record, const mava_tum_bytes &field)
 {
