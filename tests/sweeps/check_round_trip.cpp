@@ -71,7 +71,11 @@ void check_decode(
 
     tested.free(record.get(), recording_allocator::release, memory.context(), flags);
     EXPECT_EQ(memory.outstanding_count(), 0u);
+    expect_free(expected, alias);
+    EXPECT_TRUE(is_same_record(record.value(), expected)) << "after the free";
+    const std::size_t released_count = memory.released().size();
     tested.free(record.get(), recording_allocator::release, memory.context(), flags);
+    EXPECT_EQ(memory.released().size(), released_count) << "a second free releases again";
 }
 
 void check_duplicate(const message &tested, const record_value &original, record_storage &source,
@@ -92,6 +96,8 @@ void check_duplicate(const message &tested, const record_value &original, record
 
     tested.free(copy.get(), recording_allocator::release, memory.context(), random_flags(false, random));
     EXPECT_EQ(memory.outstanding_count(), 0u);
+    expect_free(expected, false);
+    EXPECT_TRUE(is_same_record(copy.value(), expected)) << "after the free";
 }
 
 } // namespace

@@ -51,16 +51,27 @@ int32_t expect_field(field_value &field, const field_value &sent, allocation_pla
     return MAVA_TUM_OK;
 }
 
-bool duplicate_block(field_value &field, const field_value &source, uint64_t size, allocation_plan &plan)
+// A field whose block cannot be had stays empty and loses its bit.
+int32_t expect_duplicate_block(field_value &field, const field_value &source, uint64_t size, allocation_plan &plan)
 {
-    field.present = source.present;
-    if (plan.allocate(size)) {
-        field.integer = source.integer;
-        field.content = source.content;
-        return true;
+    if (!plan.allocate(size)) {
+        field.present = false;
+        return MAVA_TUM_NO_MEMORY;
     }
-    field.present = false;
-    return false;
+    field.integer = source.integer;
+    field.content = source.content;
+    return MAVA_TUM_OK;
+}
+
+int32_t expect_duplicate_elements(field_value &field, const field_value &source, allocation_plan &plan)
+{
+    int32_t result = expect_duplicate_block(field, source, source.integer * source.element_bytes, plan);
+    if (result != MAVA_TUM_OK)
+        return result;
+    field.records.assign(source.records.size(), *field.element_skeleton);
+    for (std::size_t i = 0; i < source.records.size(); ++i)
+        result = std::min(result, expect_duplicate(field.records[i], source.records[i], plan));
+    return result;
 }
 
 int32_t expect_duplicate_field(field_value &field, const field_value &source, allocation_plan &plan)
@@ -69,25 +80,12 @@ int32_t expect_duplicate_field(field_value &field, const field_value &source, al
     switch (source.kind) {
     case field_kind::record:
         return expect_duplicate(field.records.front(), source.records.front(), plan);
-    case field_kind::records: {
-        if (source.integer == 0)
-            return MAVA_TUM_OK;
-        if (!duplicate_block(field, source, source.integer * source.element_bytes, plan))
-            return MAVA_TUM_NO_MEMORY;
-        field.records.assign(source.records.size(), *field.element_skeleton);
-        int32_t result = MAVA_TUM_OK;
-        for (std::size_t i = 0; i < source.records.size(); ++i)
-            result = std::min(result, expect_duplicate(field.records[i], source.records[i], plan));
-        return result;
-    }
+    case field_kind::records:
+        return source.integer == 0 ? MAVA_TUM_OK : expect_duplicate_elements(field, source, plan);
     case field_kind::bytes:
-        if (source.integer == 0)
-            return MAVA_TUM_OK;
-        return duplicate_block(field, source, source.integer, plan) ? MAVA_TUM_OK : MAVA_TUM_NO_MEMORY;
+        return source.integer == 0 ? MAVA_TUM_OK : expect_duplicate_block(field, source, source.integer, plan);
     case field_kind::text:
-        if (!source.content)
-            return MAVA_TUM_OK;
-        return duplicate_block(field, source, source.content->size() + 1, plan) ? MAVA_TUM_OK : MAVA_TUM_NO_MEMORY;
+        return !source.content ? MAVA_TUM_OK : expect_duplicate_block(field, source, source.content->size() + 1, plan);
     default:
         field.integer = source.integer;
         return MAVA_TUM_OK;
@@ -136,6 +134,20 @@ int32_t expect_duplicate(record_value &record, const record_value &source, alloc
     for (std::size_t i = 0; i < source.fields.size(); ++i)
         result = std::min(result, expect_duplicate_field(record.fields[i], source.fields[i], plan));
     return result;
+}
+
+void expect_free(record_value &record, bool alias)
+{
+    for (field_value &field : record.fields) {
+        if (field.kind == field_kind::text || (field.kind == field_kind::bytes && !alias))
+            field.content.reset();
+        if (field.kind == field_kind::record)
+            expect_free(field.records.front(), alias);
+        if (field.kind == field_kind::records) {
+            field.integer = 0;
+            field.records.clear();
+        }
+    }
 }
 
 record_value sent_before_cut(const record_value &sent, std::size_t cut, int32_t &result)

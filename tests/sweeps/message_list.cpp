@@ -1,5 +1,8 @@
 #include "sweeps/message_list.h"
 
+#include <algorithm>
+#include <iterator>
+
 namespace mava_tum_test
 {
 
@@ -26,6 +29,13 @@ const std::vector<message> &all_messages()
         message_of<mava_tum_sub_route>("sub_route"),
     };
     return messages;
+}
+
+std::vector<message> messages_where(bool (*applies)(const message &tested))
+{
+    std::vector<message> found;
+    std::copy_if(all_messages().begin(), all_messages().end(), std::back_inserter(found), applies);
+    return found;
 }
 
 } // namespace mava_tum_test

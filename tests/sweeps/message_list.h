@@ -36,6 +36,9 @@ struct message {
 
 const std::vector<message> &all_messages();
 
+// Those for which a test has something to do.
+std::vector<message> messages_where(bool (*applies)(const message &tested));
+
 // Names one test per message after it.
 inline std::string name_of_message(const testing::TestParamInfo<message> &info)
 {
