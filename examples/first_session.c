@@ -5,10 +5,12 @@
 
 int main(void)
 {
-    tum_nal_data_session_context sent = {.feature_mask = TUM_NAL_FEATURE_IPV4 | TUM_NAL_FEATURE_MTU_1,
+    tum_nal_data_session_context sent = {
+        .feature_mask = TUM_NAL_FEATURE_IPV4 | TUM_NAL_FEATURE_MTU_1,
         .ipv4_address = 0xC0000211, /* 192.0.2.17 */
         .session_name = "user@example.com",
-        .mtu_1_value = 1492};
+        .mtu_1_value = 1492,
+    };
     uint8_t wire[1024];
     uint64_t size = tum_nal_data_gpb_encode_tum_session_context(&sent, wire, sizeof wire);
     if (size > sizeof wire) { /* the output was cut: do not send it */

@@ -8,8 +8,6 @@
 #include <system_error>
 #include <unistd.h>
 
-extern char **environ;
-
 namespace session_setup
 {
 

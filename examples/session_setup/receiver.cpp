@@ -9,6 +9,7 @@
 
 #include <iostream>
 #include <unistd.h>
+#include <utility>
 
 namespace session_setup
 {
@@ -22,7 +23,7 @@ constexpr size_t printed_mismatches = 20;
 class receiver
 {
 public:
-    explicit receiver(const std::string &path) : m_path(path) {}
+    explicit receiver(std::string path) : m_path(std::move(path)) {}
 
     void receive(const subscriber &who, std::span<const uint8_t> message)
     {

@@ -29,6 +29,7 @@ public:
     }
 
 private:
+    // Calls itself for nested records, no deeper than the table of names goes: an unknown field is never a record.
     // False when the bytes up to `end` are not fields; `m_field_begin` is then where that shows.
     bool print_fields(size_t end, std::span<const wire_field> fields, unsigned depth)
     {
