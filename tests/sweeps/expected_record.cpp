@@ -92,6 +92,26 @@ int32_t expect_duplicate_field(field_value &field, const field_value &source, al
     }
 }
 
+// In schema order, elements before their array.
+void expect_release(field_value &field, bool alias, std::vector<uint64_t> &released)
+{
+    const bool owns_content = field.kind == field_kind::text || (field.kind == field_kind::bytes && !alias);
+    if (owns_content && field.content) {
+        released.push_back(field.content->size() + (field.kind == field_kind::text ? 1 : 0));
+        field.content.reset();
+    }
+    for (record_value &nested : field.records) {
+        const std::vector<uint64_t> inner = expect_free(nested, alias);
+        released.insert(released.end(), inner.begin(), inner.end());
+    }
+    if (field.kind == field_kind::records) {
+        if (!field.records.empty())
+            released.push_back(field.integer * field.element_bytes);
+        field.integer = 0;
+        field.records.clear();
+    }
+}
+
 void remove_field(field_value &field)
 {
     field.present = false;
@@ -136,18 +156,12 @@ int32_t expect_duplicate(record_value &record, const record_value &source, alloc
     return result;
 }
 
-void expect_free(record_value &record, bool alias)
+std::vector<uint64_t> expect_free(record_value &record, bool alias)
 {
-    for (field_value &field : record.fields) {
-        if (field.kind == field_kind::text || (field.kind == field_kind::bytes && !alias))
-            field.content.reset();
-        if (field.kind == field_kind::record)
-            expect_free(field.records.front(), alias);
-        if (field.kind == field_kind::records) {
-            field.integer = 0;
-            field.records.clear();
-        }
-    }
+    std::vector<uint64_t> released;
+    for (field_value &field : record.fields)
+        expect_release(field, alias, released);
+    return released;
 }
 
 record_value sent_before_cut(const record_value &sent, std::size_t cut, int32_t &result)

@@ -31,7 +31,8 @@ int32_t expect_decode(record_value &record, const record_value &sent, allocation
 int32_t expect_duplicate(record_value &record, const record_value &source, allocation_plan &plan);
 
 // What a free leaves of `record`: lengths and bits, but neither pointers nor counts. Aliased bytes are not touched.
-void expect_free(record_value &record, bool alias);
+// Returns the sizes of the blocks in the order in which they are given back.
+std::vector<uint64_t> expect_free(record_value &record, bool alias);
 
 // What of `sent` a decoder delivers when the wire ends after `cut` bytes: `sent` without the fields that are not
 // complete. `result` becomes the decoder's result code.
