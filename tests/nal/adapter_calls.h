@@ -9,6 +9,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstring>
 #include <string>
 #include <string_view>
@@ -141,8 +142,7 @@ template <std::size_t size>
 void set_text(char (&array)[size], std::string_view text)
 {
     ASSERT_LT(text.size(), size) << "no room for the NUL";
-    std::memset(array, 0, size);
-    std::memcpy(array, text.data(), text.size());
+    std::fill(std::copy(text.begin(), text.end(), array), array + size, '\0');
 }
 
 template <std::size_t size>
@@ -150,8 +150,7 @@ void set_bytes(uint8_t (&array)[size], std::string_view hex)
 {
     const byte_vector bytes = bytes_of(hex);
     ASSERT_LE(bytes.size(), size);
-    std::memset(array, 0, size);
-    std::memcpy(array, bytes.data(), bytes.size());
+    std::fill(std::copy(bytes.begin(), bytes.end(), array), array + size, uint8_t{0});
 }
 
 // A character repeated to `length`, by default as long as the array allows.

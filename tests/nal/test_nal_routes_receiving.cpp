@@ -66,7 +66,8 @@ TEST(nal_routes_receiving, members_narrower_than_their_field_keep_the_low_bits)
 
 TEST(nal_routes_receiving, texts_are_cut_to_32_32_and_64_characters)
 {
-    for (std::size_t length : {0, 1, 31, 32, 33, 35, 36, 40, 63, 64, 65, 67, 68, 1000}) {
+    for (std::size_t length :
+        std::initializer_list<std::size_t>{0, 1, 31, 32, 33, 35, 36, 40, 63, 64, 65, 67, 68, 1000}) {
         const std::string text(length, 't');
         const wire_builder route = wire_builder().text(2, text).text(6, text).text(9, text);
         received_routes got(wire_builder().length_delimited(4, route).length_delimited(5, route));
@@ -85,7 +86,7 @@ TEST(nal_routes_receiving, texts_are_cut_to_32_32_and_64_characters)
 
 TEST(nal_routes_receiving, of_an_ipv6_address_at_most_16_bytes_arrive_and_a_shorter_one_is_followed_by_zeros)
 {
-    for (std::size_t length : {0, 1, 4, 15, 16, 17, 40, 5000}) {
+    for (std::size_t length : std::initializer_list<std::size_t>{0, 1, 4, 15, 16, 17, 40, 5000}) {
         const wire_builder route = wire_builder()
                                        .length_delimited(3, byte_vector(length, 0xA3))
                                        .length_delimited(5, byte_vector(length, 0xA5));
@@ -105,7 +106,8 @@ TEST(nal_routes_receiving, of_an_ipv6_address_at_most_16_bytes_arrive_and_a_shor
 
 TEST(nal_routes_receiving, a_count_is_taken_modulo_256_and_then_kept_within_the_slots)
 {
-    for (std::size_t count : {1, 49, 50, 51, 255, 256, 257, 258, 300, 306, 307, 512, 600}) {
+    for (std::size_t count :
+        std::initializer_list<std::size_t>{1, 49, 50, 51, 255, 256, 257, 258, 300, 306, 307, 512, 600}) {
         wire_builder ipv4;
         wire_builder ipv6;
         for (std::size_t i = 0; i < count; ++i) {

@@ -212,7 +212,8 @@ TEST(nal_session_context_receiving, a_count_is_taken_modulo_256_and_then_kept_wi
         {23, offsetof(session, ipv4_route_count), offsetof(session, ipv4_routes), sizeof(tum_nal_data_ipv4_route), 4},
         {24, offsetof(session, ipv6_route_count), offsetof(session, ipv6_routes), sizeof(tum_nal_data_ipv6_route), 4}};
     for (const list &one : lists) {
-        for (std::size_t count : {1, 3, 4, 5, 8, 9, 50, 255, 256, 257, 258, 260, 300, 511, 512, 1000}) {
+        for (std::size_t count :
+            std::initializer_list<std::size_t>{1, 3, 4, 5, 8, 9, 50, 255, 256, 257, 258, 260, 300, 511, 512, 1000}) {
             wire_builder wire;
             for (std::size_t i = 0; i < count; ++i)
                 wire.length_delimited(one.field, wire_builder().varint(1, i + 1));

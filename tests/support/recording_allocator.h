@@ -28,6 +28,9 @@ class recording_allocator
 public:
     static constexpr uint8_t fill_pattern = 0xCD;
 
+    // Larger requests are recorded and fail: a wrong size must not eat up the machine.
+    static constexpr uint64_t largest_block_bytes = uint64_t{1} << 30;
+
     struct call {
         uint64_t size;
         void *context;
@@ -147,7 +150,8 @@ private:
     {
         const std::size_t number = calls_.size() + 1;
         void *block = nullptr;
-        if (number < first_failing_ || number > last_failing_) {
+        const bool fails = (number >= first_failing_ && number <= last_failing_) || size > largest_block_bytes;
+        if (!fails) {
             block = std::malloc(size == 0 ? 1 : static_cast<std::size_t>(size));
             if (block != nullptr) {
                 std::memset(block, fill_pattern, static_cast<std::size_t>(size));

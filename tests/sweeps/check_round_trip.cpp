@@ -9,6 +9,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <map>
 
 namespace mava_tum_test
 {
@@ -23,6 +24,18 @@ uint32_t random_flags(bool alias, random_source &random)
 {
     const uint32_t ignored = static_cast<uint32_t>(random()) & ~uint32_t{MAVA_TUM_ALIAS};
     return alias ? ignored | MAVA_TUM_ALIAS : ignored;
+}
+
+// Nothing is obtained after the first block has been given back, so that an address stands for one block.
+std::vector<uint64_t> released_sizes(const recording_allocator &memory)
+{
+    std::map<const void *, uint64_t> sizes;
+    for (const recording_allocator::call &call : memory.calls())
+        sizes[call.block] = call.size;
+    std::vector<uint64_t> released;
+    for (const void *block : memory.released())
+        released.push_back(sizes[block]);
+    return released;
 }
 
 bool holds(guarded_buffer &buffer, const byte_vector &expected)
@@ -71,7 +84,11 @@ void check_decode(
 
     tested.free(record.get(), recording_allocator::release, memory.context(), flags);
     EXPECT_EQ(memory.outstanding_count(), 0u);
+    EXPECT_EQ(released_sizes(memory), expect_free(expected, alias));
+    EXPECT_TRUE(is_same_record(record.value(), expected)) << "after the free";
+    const std::size_t released_count = memory.released().size();
     tested.free(record.get(), recording_allocator::release, memory.context(), flags);
+    EXPECT_EQ(memory.released().size(), released_count) << "a second free releases again";
 }
 
 void check_duplicate(const message &tested, const record_value &original, record_storage &source,
@@ -92,6 +109,8 @@ void check_duplicate(const message &tested, const record_value &original, record
 
     tested.free(copy.get(), recording_allocator::release, memory.context(), random_flags(false, random));
     EXPECT_EQ(memory.outstanding_count(), 0u);
+    EXPECT_EQ(released_sizes(memory), expect_free(expected, false));
+    EXPECT_TRUE(is_same_record(copy.value(), expected)) << "after the free";
 }
 
 } // namespace

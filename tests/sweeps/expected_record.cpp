@@ -51,16 +51,27 @@ int32_t expect_field(field_value &field, const field_value &sent, allocation_pla
     return MAVA_TUM_OK;
 }
 
-bool duplicate_block(field_value &field, const field_value &source, uint64_t size, allocation_plan &plan)
+// A field whose block cannot be had stays empty and loses its bit.
+int32_t expect_duplicate_block(field_value &field, const field_value &source, uint64_t size, allocation_plan &plan)
 {
-    field.present = source.present;
-    if (plan.allocate(size)) {
-        field.integer = source.integer;
-        field.content = source.content;
-        return true;
+    if (!plan.allocate(size)) {
+        field.present = false;
+        return MAVA_TUM_NO_MEMORY;
     }
-    field.present = false;
-    return false;
+    field.integer = source.integer;
+    field.content = source.content;
+    return MAVA_TUM_OK;
+}
+
+int32_t expect_duplicate_elements(field_value &field, const field_value &source, allocation_plan &plan)
+{
+    int32_t result = expect_duplicate_block(field, source, source.integer * source.element_bytes, plan);
+    if (result != MAVA_TUM_OK)
+        return result;
+    field.records.assign(source.records.size(), *field.element_skeleton);
+    for (std::size_t i = 0; i < source.records.size(); ++i)
+        result = std::min(result, expect_duplicate(field.records[i], source.records[i], plan));
+    return result;
 }
 
 int32_t expect_duplicate_field(field_value &field, const field_value &source, allocation_plan &plan)
@@ -69,28 +80,35 @@ int32_t expect_duplicate_field(field_value &field, const field_value &source, al
     switch (source.kind) {
     case field_kind::record:
         return expect_duplicate(field.records.front(), source.records.front(), plan);
-    case field_kind::records: {
-        if (source.integer == 0)
-            return MAVA_TUM_OK;
-        if (!duplicate_block(field, source, source.integer * source.element_bytes, plan))
-            return MAVA_TUM_NO_MEMORY;
-        field.records.assign(source.records.size(), *field.element_skeleton);
-        int32_t result = MAVA_TUM_OK;
-        for (std::size_t i = 0; i < source.records.size(); ++i)
-            result = std::min(result, expect_duplicate(field.records[i], source.records[i], plan));
-        return result;
-    }
+    case field_kind::records:
+        return source.integer == 0 ? MAVA_TUM_OK : expect_duplicate_elements(field, source, plan);
     case field_kind::bytes:
-        if (source.integer == 0)
-            return MAVA_TUM_OK;
-        return duplicate_block(field, source, source.integer, plan) ? MAVA_TUM_OK : MAVA_TUM_NO_MEMORY;
+        return source.integer == 0 ? MAVA_TUM_OK : expect_duplicate_block(field, source, source.integer, plan);
     case field_kind::text:
-        if (!source.content)
-            return MAVA_TUM_OK;
-        return duplicate_block(field, source, source.content->size() + 1, plan) ? MAVA_TUM_OK : MAVA_TUM_NO_MEMORY;
+        return !source.content ? MAVA_TUM_OK : expect_duplicate_block(field, source, source.content->size() + 1, plan);
     default:
         field.integer = source.integer;
         return MAVA_TUM_OK;
+    }
+}
+
+// In schema order, elements before their array.
+void expect_release(field_value &field, bool alias, std::vector<uint64_t> &released)
+{
+    const bool owns_content = field.kind == field_kind::text || (field.kind == field_kind::bytes && !alias);
+    if (owns_content && field.content) {
+        released.push_back(field.content->size() + (field.kind == field_kind::text ? 1 : 0));
+        field.content.reset();
+    }
+    for (record_value &nested : field.records) {
+        const std::vector<uint64_t> inner = expect_free(nested, alias);
+        released.insert(released.end(), inner.begin(), inner.end());
+    }
+    if (field.kind == field_kind::records) {
+        if (!field.records.empty())
+            released.push_back(field.integer * field.element_bytes);
+        field.integer = 0;
+        field.records.clear();
     }
 }
 
@@ -136,6 +154,14 @@ int32_t expect_duplicate(record_value &record, const record_value &source, alloc
     for (std::size_t i = 0; i < source.fields.size(); ++i)
         result = std::min(result, expect_duplicate_field(record.fields[i], source.fields[i], plan));
     return result;
+}
+
+std::vector<uint64_t> expect_free(record_value &record, bool alias)
+{
+    std::vector<uint64_t> released;
+    for (field_value &field : record.fields)
+        expect_release(field, alias, released);
+    return released;
 }
 
 record_value sent_before_cut(const record_value &sent, std::size_t cut, int32_t &result)

@@ -30,6 +30,10 @@ int32_t expect_decode(record_value &record, const record_value &sent, allocation
 // Copies `source` into `record`, which is blank but for its spare mask bits. Returns the result code.
 int32_t expect_duplicate(record_value &record, const record_value &source, allocation_plan &plan);
 
+// What a free leaves of `record`: lengths and bits, but neither pointers nor counts. Aliased bytes are not touched.
+// Returns the sizes of the blocks in the order in which they are given back.
+std::vector<uint64_t> expect_free(record_value &record, bool alias);
+
 // What of `sent` a decoder delivers when the wire ends after `cut` bytes: `sent` without the fields that are not
 // complete. `result` becomes the decoder's result code.
 record_value sent_before_cut(const record_value &sent, std::size_t cut, int32_t &result);

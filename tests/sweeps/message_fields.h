@@ -1,7 +1,7 @@
 // The fields of every record, written down a second time: independent of the code under test, which has a list of its
 // own. A field is its kind, its number and its member. Field number n owns bit n-1 of the presence mask.
 //
-// A new record gets one `visit_fields` here, a new message a line in message_list.cpp as well.
+// A new message gets one `visit_fields` here and one line in message_list.cpp.
 #pragma once
 
 #include "mava_tum.h"

@@ -125,6 +125,17 @@ void fill_hollow(field_value &field)
     }
 }
 
+// Bits without what they promise, which an encoder leaves out: null texts, lists of no elements; in nested records that
+// are not marked themselves.
+void mark_missing(record_value &record)
+{
+    for (field_value &field : record.fields) {
+        field.present = field.kind == field_kind::text || field.kind == field_kind::records;
+        if (field.kind == field_kind::record)
+            mark_missing(field.records.front());
+    }
+}
+
 } // namespace
 
 record_value full_record(const record_value &skeleton)
@@ -147,10 +158,11 @@ std::vector<named_record> seeds_of(const record_value &skeleton)
 {
     const record_value full = full_record(skeleton);
     std::vector<named_record> seeds = {
-        {"full", full}, {"hollow", hollow_record(skeleton)}, {"every second field", skeleton}};
+        {"full", full}, {"hollow", hollow_record(skeleton)}, {"missing", skeleton}, {"every second field", skeleton}};
+    mark_missing(seeds[2].value);
     for (std::size_t i = 0; i < full.fields.size(); ++i) {
         if (i % 2 == 0)
-            seeds[2].value.fields[i] = full.fields[i];
+            seeds[3].value.fields[i] = full.fields[i];
         record_value alone = skeleton;
         alone.fields[i] = full.fields[i];
         seeds.push_back({"field " + std::to_string(full.fields[i].number) + " alone", alone});

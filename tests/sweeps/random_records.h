@@ -24,7 +24,8 @@ record_value full_record(const record_value &skeleton);
 // Every field present and empty: zeros, empty texts and bytes, records and list elements without a field.
 record_value hollow_record(const record_value &skeleton);
 
-// The full record and the hollow one, one record per field with that field alone, one with every second field.
+// The full record and the hollow one, one whose bits promise texts and lists that it does not have, one with every
+// second field, and one per field with that field alone.
 std::vector<named_record> seeds_of(const record_value &skeleton);
 
 // Any mixture, also the odd ones that callers may hand over: values without their bit, bits without their text, lists

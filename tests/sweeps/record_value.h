@@ -50,15 +50,4 @@ bool holds_bytes(const record_value &skeleton);
 // Names the first difference, with the path of field numbers that leads to it.
 testing::AssertionResult is_same_record(const record_value &actual, const record_value &expected);
 
-// Calls `visit(field)` on every field of the record and of the records inside it, outermost first.
-template <class value_type, class visitor>
-void for_each_field(value_type &record, visitor &&visit)
-{
-    for (auto &field : record.fields) {
-        visit(field);
-        for (auto &nested : field.records)
-            for_each_field(nested, visit);
-    }
-}
-
 } // namespace mava_tum_test

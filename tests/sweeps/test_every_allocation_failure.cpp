@@ -48,6 +48,8 @@ void check_decode(const message &tested, const record_value &sent, allocation_pl
 
     tested.free(record.get(), recording_allocator::release, memory.context(), flags);
     EXPECT_EQ(memory.outstanding_count(), 0u);
+    expect_free(expected, alias);
+    EXPECT_TRUE(is_same_record(record.value(), expected)) << "after the free";
 }
 
 void check_duplicate(const message &tested, const record_value &original, allocation_plan plan)
@@ -68,6 +70,8 @@ void check_duplicate(const message &tested, const record_value &original, alloca
 
     tested.free(copy.get(), recording_allocator::release, memory.context(), 0);
     EXPECT_EQ(memory.outstanding_count(), 0u);
+    expect_free(expected, false);
+    EXPECT_TRUE(is_same_record(copy.value(), expected)) << "after the free";
 }
 
 // Runs `check(plan)` with no failing call, then with every call failing once and from then on.

@@ -40,6 +40,8 @@ void check_cut(const message &tested, const record_value &sent, std::size_t cut,
 
     tested.free(record.get(), recording_allocator::release, memory.context(), flags);
     EXPECT_EQ(memory.outstanding_count(), 0u);
+    expect_free(expected, alias);
+    EXPECT_TRUE(is_same_record(record.value(), expected)) << "after the free";
 }
 
 void check_every_cut(const message &tested, bool alias)
@@ -67,6 +69,15 @@ TEST_P(every_cut, leaves_the_fields_before_it_when_bytes_are_copied)
 TEST_P(every_cut, leaves_the_fields_before_it_when_bytes_are_aliased)
 {
     check_every_cut(GetParam(), true);
+}
+
+TEST_P(every_cut, may_leave_nothing_at_all)
+{
+    random_source garbage(1);
+    record_storage record(GetParam(), garbage);
+    const record_value expected = record.blank();
+    EXPECT_EQ(GetParam().decode(record.get(), nullptr, 0, nullptr, nullptr, 0), MAVA_TUM_OK);
+    EXPECT_TRUE(is_same_record(record.value(), expected));
 }
 
 INSTANTIATE_TEST_SUITE_P(of, every_cut, testing::ValuesIn(all_messages()), name_of_message);

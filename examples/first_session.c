@@ -1,0 +1,24 @@
+/* The shortest round trip: a session to wire bytes and back. */
+#include "tum_nal/nal_session_context.h"
+
+#include <stdio.h>
+
+int main(void)
+{
+    tum_nal_data_session_context sent = {
+        .feature_mask = TUM_NAL_FEATURE_IPV4 | TUM_NAL_FEATURE_MTU_1,
+        .ipv4_address = 0xC0000211, /* 192.0.2.17 */
+        .session_name = "user@example.com",
+        .mtu_1_value = 1492,
+    };
+    uint8_t wire[1024];
+    uint64_t size = tum_nal_data_gpb_encode_tum_session_context(&sent, wire, sizeof wire);
+    if (size > sizeof wire) { /* the output was cut: do not send it */
+        fprintf(stderr, "the session needs %llu bytes\n", (unsigned long long)size);
+        return 1;
+    }
+    tum_nal_data_session_context received;
+    tum_nal_data_gpb_decode_tum_session_context(wire, (uint32_t)size, &received);
+    printf("%llu bytes: %s has MTU %u\n", (unsigned long long)size, received.session_name, received.mtu_1_value);
+    return 0;
+}

@@ -1,0 +1,29 @@
+// What the fields of a session on the wire are: number, name, and what a length-delimited one holds. The wire itself
+// names nothing and tells a text from a record by nothing, so whoever prints it needs this table.
+#ifndef SESSION_SETUP_WIRE_NAMES_H
+#define SESSION_SETUP_WIRE_NAMES_H
+
+#include <cstdint>
+#include <span>
+
+namespace session_setup
+{
+
+enum class wire_content { number, ipv4, ipv6, bytes, text, record };
+
+struct wire_field {
+    uint32_t number;
+    const char *name;
+    wire_content content;
+    std::span<const wire_field> fields{}; // of a record
+};
+
+// The fields of the outermost message.
+std::span<const wire_field> session_fields();
+
+// Null if the table does not know the field.
+const wire_field *find_field(std::span<const wire_field> fields, uint64_t number);
+
+} // namespace session_setup
+
+#endif

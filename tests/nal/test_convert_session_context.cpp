@@ -1,0 +1,96 @@
+// What a session looks like between its application record and the encoder: which records are marked present, and
+// where texts, bytes and lists point. On the wire much of it cannot be seen: a record with content is sent anyway.
+#include "nal/adapter_calls.h"
+#include "nal/convert_session_context.h"
+#include "nal/sample_session.h"
+#include "support/record_calls.h"
+
+#include <gtest/gtest.h>
+
+namespace mava_tum_test
+{
+namespace
+{
+
+using session = tum_nal_data_session_context;
+
+struct converted {
+    session record;
+    mava_tum_session_context context = {};
+    mava_tum::session_context_slots slots;
+
+    explicit converted(const session &source) : record(source)
+    {
+        std::memset(static_cast<void *>(&slots), 0xFF, sizeof slots); // each is cleared when it is used
+        mava_tum::session_context_to_codec(context, slots, record);
+    }
+};
+
+TEST(convert_session_context, every_record_that_is_entered_is_marked_present)
+{
+    const converted full(full_session());
+    EXPECT_EQ(full.context.presence_mask, 0xFFFFFFu & ~fields(6));
+    EXPECT_EQ(full.context.session_data.presence_mask, 0x7FFu);
+    EXPECT_EQ(full.context.subscriber_v6.presence_mask, 0x7Fu);
+    EXPECT_EQ(full.context.li.presence_mask, 0xFFu);
+}
+
+TEST(convert_session_context, an_all_zero_record_marks_its_values_the_session_data_and_an_empty_ppp)
+{
+    const converted empty(zero_record<session>());
+    EXPECT_EQ(empty.context.presence_mask, fields(1, 2, 3, 4, 5, 7, 10));
+    EXPECT_EQ(empty.context.session_data.presence_mask, fields(3));
+    EXPECT_EQ(empty.context.session_data.ppp.presence_mask, 0u);
+    EXPECT_EQ(empty.context.qos, nullptr);
+    EXPECT_EQ(empty.context.route_ipv4, nullptr);
+    EXPECT_EQ(empty.context.route_ipv6, nullptr);
+}
+
+TEST(convert_session_context, each_feature_marks_its_record_even_without_content)
+{
+    const struct {
+        int feature;
+        uint32_t field;
+    } rows[] = {{TUM_NAL_FEATURE_IPV6_PART_2, 9}, {TUM_NAL_FEATURE_IPV6_PART_3, 9}, {TUM_NAL_FEATURE_IPV6_PART_4, 9},
+        {TUM_NAL_FEATURE_IPV6_PART_6, 9}, {TUM_NAL_FEATURE_ACL, 12}, {TUM_NAL_FEATURE_REDIRECT, 13},
+        {TUM_NAL_FEATURE_INTERCEPT, 14}, {TUM_NAL_FEATURE_URPF_1, 15}, {TUM_NAL_FEATURE_URPF_2, 16},
+        {TUM_NAL_FEATURE_ICMP_1, 17}, {TUM_NAL_FEATURE_ICMP_2, 18}, {TUM_NAL_FEATURE_MTU_1, 19},
+        {TUM_NAL_FEATURE_MTU_2, 20}, {TUM_NAL_FEATURE_MTU_3, 21}, {TUM_NAL_FEATURE_ACCOUNTING, 22}};
+    for (const auto &row : rows) {
+        session record = zero_record<session>();
+        record.feature_mask = static_cast<uint32_t>(row.feature);
+        const converted got(record);
+        EXPECT_EQ(got.context.presence_mask, fields(1, 2, 3, 4, 5, 7, 10) | fields(row.field)) << row.feature;
+    }
+}
+
+TEST(convert_session_context, texts_and_bytes_are_borrowed_and_lists_lie_in_the_slots)
+{
+    const converted full(full_session());
+    EXPECT_EQ(full.context.session_data.field_5, full.record.session_name);
+    EXPECT_EQ(full.context.session_data.ppp.field_5.data, full.record.ppp_identifier);
+    EXPECT_EQ(full.context.subscriber_v6.field_2.data, full.record.ipv6_part_2);
+    EXPECT_EQ(full.context.qos, full.slots.qos);
+    EXPECT_EQ(full.context.qos[7].field_12, full.record.qos[7].text_12);
+    EXPECT_EQ(full.context.route_ipv4, full.slots.ipv4_routes);
+    EXPECT_EQ(full.context.route_ipv6, full.slots.ipv6_routes);
+    EXPECT_EQ(full.context.route_ipv6[3].field_5.data, full.record.ipv6_routes[3].field_5);
+}
+
+TEST(convert_session_context, a_slot_that_is_used_keeps_nothing_of_before)
+{
+    session record = zero_record<session>();
+    record.feature_mask = TUM_NAL_FEATURE_QOS | TUM_NAL_FEATURE_IPV4_ROUTES | TUM_NAL_FEATURE_IPV6_ROUTES;
+    record.qos_count = 1;
+    record.ipv4_route_count = 1;
+    record.ipv6_route_count = 1;
+    const converted got(record);
+    EXPECT_EQ(got.slots.qos[0].presence_mask, fields(1));
+    EXPECT_EQ(got.slots.qos[0].field_9, nullptr);
+    EXPECT_EQ(got.slots.ipv4_routes[0].presence_mask, fields(1));
+    EXPECT_EQ(got.slots.ipv6_routes[0].presence_mask, fields(1));
+    EXPECT_EQ(got.slots.ipv6_routes[0].field_3.data, nullptr);
+}
+
+} // namespace
+} // namespace mava_tum_test
