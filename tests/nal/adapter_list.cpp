@@ -84,17 +84,21 @@ byte_vector text_wire(const std::string &text)
 
 // ---- members ----
 
-#define SIZE_OF(record, member) sizeof(static_cast<record *>(nullptr)->member)
-#define LIST(record, member, slots, wire)                                                                              \
-    list_member                                                                                                        \
-    {                                                                                                                  \
-#record "." #member, offsetof(record, member), offsetof(record, member), SIZE_OF(record, member), slots, wire  \
-    }
-#define TEXT(record, member, kept, wire)                                                                               \
-    text_member                                                                                                        \
-    {                                                                                                                  \
-#record "." #member, offsetof(record, member), SIZE_OF(record, member), kept, wire                             \
-    }
+// A list of a record that is sent and received alike.
+list_member list_at(const char *what, std::size_t offset, std::size_t count_bytes, std::size_t slots,
+    byte_vector (*wire)(const std::vector<byte_vector> &))
+{
+    return {what, offset, offset, count_bytes, slots, wire};
+}
+
+text_member text_at(const char *what, std::size_t offset, std::size_t array_bytes, std::size_t kept,
+    byte_vector (*wire)(const std::string &))
+{
+    return {what, offset, array_bytes, kept, wire};
+}
+
+// Name, offset and size of a member.
+#define MEMBER(record, member) #record "." #member, offsetof(record, member), sizeof(record{}.member)
 
 using session = tum_nal_data_session_context;
 using routes = tum_nal_data_sub_route;
@@ -118,18 +122,18 @@ adapter session_context_adapter()
 {
     adapter added = entry("session_context", full_session(), "08 00 10 00 18 00 20 00 28 00 38 00 52 02 1A 00");
     added.lists = {
-        LIST(session, qos_count, 8, list_wire<11>),
-        LIST(session, ipv4_route_count, 4, list_wire<23>),
-        LIST(session, ipv6_route_count, 4, list_wire<24>),
+        list_at(MEMBER(session, qos_count), 8, list_wire<11>),
+        list_at(MEMBER(session, ipv4_route_count), 4, list_wire<23>),
+        list_at(MEMBER(session, ipv6_route_count), 4, list_wire<24>),
     };
     added.texts = {
-        TEXT(session, l2tp_name, 32, (text_wire<19, 10, 4>)),
-        TEXT(session, session_name, 64, (text_wire<5, 10>)),
-        TEXT(session, session_label, 32, (text_wire<7, 10>)),
-        TEXT(session, session_text, 64, (text_wire<8, 10>)),
-        TEXT(session, qos[0].text_5, 255, (text_wire<5, 11>)),
-        TEXT(session, acl_text_5, 64, (text_wire<5, 12>)),
-        TEXT(session, redirect_text_2, 255, (text_wire<2, 13>)),
+        text_at(MEMBER(session, l2tp_name), 32, text_wire<19, 10, 4>),
+        text_at(MEMBER(session, session_name), 64, text_wire<5, 10>),
+        text_at(MEMBER(session, session_label), 32, text_wire<7, 10>),
+        text_at(MEMBER(session, session_text), 64, text_wire<8, 10>),
+        text_at(MEMBER(session, qos[0].text_5), 255, text_wire<5, 11>),
+        text_at(MEMBER(session, acl_text_5), 64, text_wire<5, 12>),
+        text_at(MEMBER(session, redirect_text_2), 255, text_wire<2, 13>),
     };
     return added;
 }
@@ -138,14 +142,14 @@ adapter sub_route_adapter()
 {
     adapter added = entry("sub_route", full_routes(), "08 00 10 00 18 00 30 00");
     added.lists = {
-        LIST(routes, ipv4_route_count, 50, list_wire<4>),
-        LIST(routes, ipv6_route_count, 50, list_wire<5>),
+        list_at(MEMBER(routes, ipv4_route_count), 50, list_wire<4>),
+        list_at(MEMBER(routes, ipv6_route_count), 50, list_wire<5>),
     };
     added.texts = {
-        TEXT(routes, ipv4_routes[0].field_2, 32, (text_wire<2, 4>)),
-        TEXT(routes, ipv4_routes[0].field_9, 64, (text_wire<9, 4>)),
-        TEXT(routes, ipv6_routes[0].field_6, 32, (text_wire<6, 5>)),
-        TEXT(routes, ipv6_routes[0].field_9, 64, (text_wire<9, 5>)),
+        text_at(MEMBER(routes, ipv4_routes[0].field_2), 32, text_wire<2, 4>),
+        text_at(MEMBER(routes, ipv4_routes[0].field_9), 64, text_wire<9, 4>),
+        text_at(MEMBER(routes, ipv6_routes[0].field_6), 32, text_wire<6, 5>),
+        text_at(MEMBER(routes, ipv6_routes[0].field_9), 64, text_wire<9, 5>),
     };
     return added;
 }
@@ -153,8 +157,8 @@ adapter sub_route_adapter()
 adapter subscriber_stats_adapter()
 {
     adapter added = entry("subscriber_stats", full_statistics(), without_switches(full_statistics()), "");
-    added.lists = {LIST(statistics, service_count, 8, list_wire<8>)};
-    added.texts = {TEXT(statistics, services[0].name, 64, (text_wire<1, 8>))};
+    added.lists = {list_at(MEMBER(statistics, service_count), 8, list_wire<8>)};
+    added.texts = {text_at(MEMBER(statistics, services[0].name), 64, text_wire<1, 8>)};
     return added;
 }
 
@@ -163,12 +167,12 @@ adapter sess_oper_resp_adapter()
     operation arrives = full_sess_oper_resp();
     arrives.field_9 = without_switches(arrives.field_9);
     adapter added = entry("sess_oper_resp", full_sess_oper_resp(), arrives, "08 00 4A 00");
-    added.lists = {LIST(operation, field_9.service_count, 8, (nested_list_wire<8, 9>))};
+    added.lists = {list_at(MEMBER(operation, field_9.service_count), 8, nested_list_wire<8, 9>)};
     added.texts = {
-        TEXT(operation, field_6, 64, text_wire<6>),
-        TEXT(operation, field_7, 64, text_wire<7>),
-        TEXT(operation, field_8, 64, text_wire<8>),
-        TEXT(operation, field_9.services[0].name, 64, (text_wire<1, 9, 8>)),
+        text_at(MEMBER(operation, field_6), 64, text_wire<6>),
+        text_at(MEMBER(operation, field_7), 64, text_wire<7>),
+        text_at(MEMBER(operation, field_8), 64, text_wire<8>),
+        text_at(MEMBER(operation, field_9.services[0].name), 64, text_wire<1, 9, 8>),
     };
     return added;
 }
@@ -176,7 +180,8 @@ adapter sess_oper_resp_adapter()
 adapter subscriber_route_resp_adapter()
 {
     adapter added = entry("subscriber_route_resp", full_subscriber_route_resp(), "08 00 10 00");
-    added.texts = {TEXT(route_answer, field_3, 64, text_wire<3>), TEXT(route_answer, field_4, 64, text_wire<4>)};
+    added.texts = {text_at(MEMBER(route_answer, field_3), 64, text_wire<3>),
+        text_at(MEMBER(route_answer, field_4), 64, text_wire<4>)};
     return added;
 }
 
@@ -186,21 +191,21 @@ adapter rec_start_req_adapter()
     arrives.field_1 = full_rec_start_req().field_3;
     fill_text(arrives.field_4, 'd');
     adapter added = entry("rec_start_req", full_rec_start_req(), arrives, "08 00 10 00 18 00");
-    added.texts = {TEXT(start_request, field_4, 64, text_wire<4>)};
+    added.texts = {text_at(MEMBER(start_request, field_4), 64, text_wire<4>)};
     return added;
 }
 
 adapter rec_complete_req_adapter()
 {
     adapter added = entry("rec_complete_req", full_rec_complete_req(), "08 00 10 00 18 00");
-    added.texts = {TEXT(complete_request, field_4, 64, text_wire<4>)};
+    added.texts = {text_at(MEMBER(complete_request, field_4), 64, text_wire<4>)};
     return added;
 }
 
 adapter rec_start_res_adapter()
 {
     adapter added = entry("rec_start_res", full_rec_res(), "08 00 18 00");
-    added.texts = {TEXT(answer, field_2, 64, text_wire<2>)};
+    added.texts = {text_at(MEMBER(answer, field_2), 64, text_wire<2>)};
     return added;
 }
 
@@ -209,7 +214,7 @@ adapter rec_complete_res_adapter()
     rec_complete_res record = {};
     static_cast<answer &>(record) = full_rec_res();
     adapter added = entry("rec_complete_res", record, "08 00 18 00");
-    added.texts = {TEXT(answer, field_2, 64, text_wire<2>)};
+    added.texts = {text_at(MEMBER(answer, field_2), 64, text_wire<2>)};
     return added;
 }
 
@@ -218,15 +223,16 @@ adapter rec_sess_req_adapter()
     states_request arrives = full_rec_sess_req();
     arrives.field_6 = 0;
     adapter added = entry("rec_sess_req", full_rec_sess_req(), arrives, "08 00 10 00");
-    added.lists = {LIST(states_request, field_3_count, 30, list_wire<3>)};
-    added.texts = {TEXT(states_request, field_4, 64, text_wire<4>), TEXT(states_request, field_5, 64, text_wire<5>)};
+    added.lists = {list_at(MEMBER(states_request, field_3_count), 30, list_wire<3>)};
+    added.texts = {text_at(MEMBER(states_request, field_4), 64, text_wire<4>),
+        text_at(MEMBER(states_request, field_5), 64, text_wire<5>)};
     return added;
 }
 
 adapter rec_sess_res_adapter()
 {
     adapter added = entry("rec_sess_res", full_rec_sess_res(), "08 00 18 00 20 00");
-    added.lists = {LIST(states_answer, field_2_count, 30, list_wire<2>)};
+    added.lists = {list_at(MEMBER(states_answer, field_2_count), 30, list_wire<2>)};
     return added;
 }
 
@@ -241,8 +247,8 @@ adapter rec_sess_replay_req_adapter()
             offsetof(replay_received, field_4[0].qos_count), 1, 8, nested_list_wire<11, 4>},
     };
     added.texts = {
-        TEXT(replay_received, field_6, 64, text_wire<6>),
-        TEXT(replay_received, field_4[0].session_name, 64, (text_wire<5, 4, 10>)),
+        text_at(MEMBER(replay_received, field_6), 64, text_wire<6>),
+        text_at(MEMBER(replay_received, field_4[0].session_name), 64, text_wire<5, 4, 10>),
     };
     return added;
 }
@@ -253,16 +259,16 @@ adapter rec_sess_replay_resp_adapter()
     arrives.field_2[0].field_3 = without_switches(arrives.field_2[0].field_3);
     adapter added = entry("rec_sess_replay_resp", full_rec_sess_replay_resp(), arrives, "08 00 28 00");
     added.lists = {
-        LIST(replay_answer, field_2_count, 1, list_wire<2>),
-        LIST(replay_answer, field_3_count, 1, list_wire<3>),
-        LIST(replay_answer, field_2[0].field_3.service_count, 8, (nested_list_wire<8, 2, 3>)),
-        LIST(replay_answer, field_3[0].field_5_count, 8, (nested_list_wire<5, 3>)),
+        list_at(MEMBER(replay_answer, field_2_count), 1, list_wire<2>),
+        list_at(MEMBER(replay_answer, field_3_count), 1, list_wire<3>),
+        list_at(MEMBER(replay_answer, field_2[0].field_3.service_count), 8, nested_list_wire<8, 2, 3>),
+        list_at(MEMBER(replay_answer, field_3[0].field_5_count), 8, nested_list_wire<5, 3>),
     };
     added.lists.back().of_texts = true;
     added.texts = {
-        TEXT(replay_answer, field_4, 64, text_wire<4>),
-        TEXT(replay_answer, field_2[0].field_3.services[0].name, 64, (text_wire<1, 2, 3, 8>)),
-        TEXT(replay_answer, field_3[0].field_5[0], 64, (text_wire<5, 3>)),
+        text_at(MEMBER(replay_answer, field_4), 64, text_wire<4>),
+        text_at(MEMBER(replay_answer, field_2[0].field_3.services[0].name), 64, text_wire<1, 2, 3, 8>),
+        text_at(MEMBER(replay_answer, field_3[0].field_5[0]), 64, text_wire<5, 3>),
     };
     return added;
 }
@@ -270,8 +276,8 @@ adapter rec_sess_replay_resp_adapter()
 adapter srg_group_rec_replay_req_adapter()
 {
     adapter added = entry("srg_group_rec_replay_req", full_srg_group_rec_replay_req(), "");
-    added.lists = {LIST(groups_request, field_3_count, 15, list_wire<3>)};
-    added.texts = {TEXT(groups_request, field_3[0].field_5, 64, (text_wire<5, 3>))};
+    added.lists = {list_at(MEMBER(groups_request, field_3_count), 15, list_wire<3>)};
+    added.texts = {text_at(MEMBER(groups_request, field_3[0].field_5), 64, text_wire<5, 3>)};
     return added;
 }
 
@@ -279,12 +285,12 @@ adapter srg_group_rec_replay_resp_adapter()
 {
     adapter added = entry("srg_group_rec_replay_resp", full_srg_group_rec_replay_resp(), "");
     added.lists = {
-        LIST(groups_answer, field_2_count, 15, list_wire<2>),
-        LIST(groups_answer, field_3_count, 15, list_wire<3>),
+        list_at(MEMBER(groups_answer, field_2_count), 15, list_wire<2>),
+        list_at(MEMBER(groups_answer, field_3_count), 15, list_wire<3>),
     };
     added.texts = {
-        TEXT(groups_answer, field_2[0].field_5, 64, (text_wire<5, 2>)),
-        TEXT(groups_answer, field_3[0].field_5, 64, (text_wire<5, 3>)),
+        text_at(MEMBER(groups_answer, field_2[0].field_5), 64, text_wire<5, 2>),
+        text_at(MEMBER(groups_answer, field_3[0].field_5), 64, text_wire<5, 3>),
     };
     return added;
 }
