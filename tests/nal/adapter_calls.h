@@ -61,6 +61,51 @@ std::string sent_hex(const record_type &record)
     return hex_of(sent(record));
 }
 
+// What an encode into `capacity` bytes writes: run over two buffers with opposite fills, a byte was written where both
+// agree. The margins on both sides show what went outside.
+template <class record_type>
+write_trace trace_encode_adapter(const record_type &record, std::size_t capacity, uint64_t expected_size)
+{
+    constexpr std::size_t margin = 64;
+    byte_vector zeros(capacity + 2 * margin, 0x00);
+    byte_vector ones(capacity + 2 * margin, 0xFF);
+    for (byte_vector *buffer : {&zeros, &ones})
+        EXPECT_EQ(call_encode_adapter(record, buffer->data() + margin, static_cast<uint32_t>(capacity)), expected_size);
+    write_trace trace;
+    trace.guards_intact = true;
+    for (std::size_t i = 0; i < zeros.size(); ++i) {
+        const bool written = zeros[i] == ones[i];
+        if (i < margin || i >= margin + capacity) {
+            trace.guards_intact = trace.guards_intact && !written;
+        } else {
+            trace.bytes.push_back(zeros[i]);
+            trace.written.push_back(written);
+        }
+    }
+    return trace;
+}
+
+// Sends `record` into every capacity from 0 to one above its size: the result is the size, what is written is a prefix
+// of the message, less at most one text or bytes value (of up to `longest_value` bytes) that did not fit whole.
+template <class record_type>
+void expect_every_capacity_gives_a_prefix(const record_type &record, std::size_t longest_value)
+{
+    const byte_vector whole = sent(record);
+    const std::size_t size = whole.size();
+    for (std::size_t capacity = 0; capacity <= size + 1; ++capacity) {
+        const write_trace trace = trace_encode_adapter(record, capacity, size);
+        ASSERT_TRUE(trace.guards_intact) << capacity;
+        const auto first_hole = std::find(trace.written.begin(), trace.written.end(), false);
+        const std::size_t prefix = static_cast<std::size_t>(first_hole - trace.written.begin());
+        ASSERT_LE(prefix, size) << capacity;
+        ASSERT_LT(std::min(capacity, size) - prefix, longest_value) << capacity;
+        ASSERT_EQ(std::count(first_hole, trace.written.end(), true), 0) << capacity;
+        ASSERT_TRUE(
+            std::equal(whole.begin(), whole.begin() + static_cast<std::ptrdiff_t>(prefix), trace.bytes.begin()));
+        ASSERT_EQ(prefix == size, capacity >= size) << capacity;
+    }
+}
+
 struct receive_options {
     std::size_t failing_call = 0;      // this call of calloc fails, once; 0 for none
     std::size_t failing_from_call = 0; // this one and all later ones

@@ -64,6 +64,39 @@ TEST(convert_session_context, each_feature_marks_its_record_even_without_content
     }
 }
 
+TEST(convert_session_context, a_list_without_elements_is_not_marked_although_its_feature_is_set)
+{
+    session record = zero_record<session>();
+    record.feature_mask = TUM_NAL_FEATURE_QOS | TUM_NAL_FEATURE_IPV4_ROUTES | TUM_NAL_FEATURE_IPV6_ROUTES;
+    const converted got(record);
+    EXPECT_EQ(got.context.presence_mask, fields(1, 2, 3, 4, 5, 7, 10));
+    EXPECT_EQ(got.context.qos, nullptr);
+}
+
+TEST(convert_session_context, a_field_whose_bit_is_clear_is_not_taken_whatever_it_holds)
+{
+    const converted full(full_session());
+    mava_tum_session_context context = full.context;
+    context.presence_mask = 0; // the bits of the nested records stay: these are taken
+    context.session_data.presence_mask = 0;
+    context.subscriber_v6.presence_mask = 0;
+    session record = zero_record<session>();
+    mava_tum::session_context_from_codec(record, context);
+
+    session expected = zero_record<session>();
+    const session source = full_session();
+    EXPECT_EQ(record.session_value_1, 0u);
+    EXPECT_EQ(record.qos_count, 0u);
+    EXPECT_STREQ(record.session_name, "");
+    EXPECT_EQ(std::memcmp(record.session_identifier, expected.session_identifier, 7), 0);
+    EXPECT_EQ(std::memcmp(record.ipv6_part_2, expected.ipv6_part_2, 16), 0);
+    EXPECT_EQ(record.ipv6_value_5, 0u);
+    EXPECT_EQ(record.ipv4_address, source.ipv4_address);
+    EXPECT_EQ(record.ppp_value_1, source.ppp_value_1);
+    EXPECT_STREQ(record.l2tp_name, source.l2tp_name);
+    EXPECT_EQ(record.mtu_3_value, source.mtu_3_value);
+}
+
 TEST(convert_session_context, texts_and_bytes_are_borrowed_and_lists_lie_in_the_slots)
 {
     const converted full(full_session());

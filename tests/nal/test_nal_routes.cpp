@@ -5,8 +5,6 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <random>
 #include <string>
 
 namespace mava_tum_test
@@ -226,22 +224,7 @@ TEST(nal_routes, every_capacity_gives_the_size_and_a_prefix)
     routes record = full_routes();
     record.ipv4_route_count = 2;
     record.ipv6_route_count = 2;
-    const byte_vector whole = sent(record);
-    for (std::size_t capacity = 0; capacity <= whole.size() + 1; ++capacity) {
-        const write_trace trace = trace_writes(capacity, [&](uint8_t *buffer, std::size_t size) {
-            ASSERT_EQ(call_encode_adapter(record, buffer, static_cast<uint32_t>(size)), whole.size()) << capacity;
-        });
-        ASSERT_TRUE(trace.guards_intact) << capacity;
-        // A text or address that does not fit whole is left out whole; the longest has 64 bytes.
-        const std::size_t end = std::min(capacity, whole.size());
-        const auto first_hole = std::find(trace.written.begin(), trace.written.end(), false);
-        const std::size_t hole = static_cast<std::size_t>(first_hole - trace.written.begin());
-        ASSERT_LE(hole, end) << capacity;
-        ASSERT_LT(end - hole, 64u) << capacity;
-        ASSERT_EQ(std::count(first_hole, trace.written.end(), true), 0) << capacity;
-        ASSERT_TRUE(std::equal(whole.begin(), whole.begin() + static_cast<std::ptrdiff_t>(hole), trace.bytes.begin()));
-        ASSERT_EQ(hole == whole.size(), capacity >= whole.size()) << capacity;
-    }
+    expect_every_capacity_gives_a_prefix(record, 64);
 }
 
 } // namespace

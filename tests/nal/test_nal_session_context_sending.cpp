@@ -6,8 +6,6 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-
 namespace mava_tum_test
 {
 namespace
@@ -258,22 +256,7 @@ TEST(nal_session_context_sending, every_capacity_gives_the_size_and_a_prefix)
 {
     session record = full_session();
     record.qos_count = 1; // the rest repeats
-    const byte_vector whole = sent(record);
-    for (std::size_t capacity = 0; capacity <= whole.size() + 1; ++capacity) {
-        const write_trace trace = trace_writes(capacity, [&](uint8_t *buffer, std::size_t size) {
-            ASSERT_EQ(call_encode_adapter(record, buffer, static_cast<uint32_t>(size)), whole.size()) << capacity;
-        });
-        ASSERT_TRUE(trace.guards_intact) << capacity;
-        // A text or bytes value that does not fit whole is left out whole; the longest has 255 bytes.
-        const std::size_t end = std::min(capacity, whole.size());
-        const std::size_t hole = static_cast<std::size_t>(
-            std::find(trace.written.begin(), trace.written.end(), false) - trace.written.begin());
-        ASSERT_LE(hole, end) << capacity;
-        ASSERT_LT(end - hole, 255u) << capacity;
-        ASSERT_EQ(std::count(trace.written.begin() + static_cast<std::ptrdiff_t>(hole), trace.written.end(), true), 0);
-        ASSERT_TRUE(std::equal(whole.begin(), whole.begin() + static_cast<std::ptrdiff_t>(hole), trace.bytes.begin()));
-        ASSERT_EQ(hole == whole.size(), capacity >= whole.size()) << capacity;
-    }
+    expect_every_capacity_gives_a_prefix(record, 255);
 }
 
 } // namespace

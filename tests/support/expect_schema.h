@@ -87,6 +87,24 @@ void expect_other_numbers_are_skipped(const std::vector<field_row> &rows)
     }
 }
 
+// L2: a tag may take more bytes than it needs. Each sample's first tag does here, after another field and before one.
+template <class record_type>
+void expect_over_long_tags_are_accepted(const std::vector<field_row> &rows)
+{
+    for (const field_row &row : rows) {
+        const byte_vector sample = bytes_of(row.sample);
+        const uint32_t tag = row.number << 3 | static_cast<uint32_t>(row.type);
+        const byte_vector value(sample.begin() + (tag < 0x80 ? 1 : 2), sample.end());
+        for (std::size_t width : {2u, 3u, 5u, 7u, 12u}) {
+            decoded<record_type> got(
+                wire_builder().varint(1000, 1).overlong_varint(tag, width).raw(value).varint(1000, 1));
+            EXPECT_EQ(got.result, MAVA_TUM_OK) << row.sample << ", tag in " << width << " bytes";
+            EXPECT_EQ(got.present(), fields(row.number)) << row.sample << ", tag in " << width << " bytes";
+            EXPECT_EQ(encoded_hex(got.record), row.sample) << "tag in " << width << " bytes";
+        }
+    }
+}
+
 template <class record_type>
 void expect_schema(const std::vector<field_row> &rows)
 {
@@ -94,6 +112,7 @@ void expect_schema(const std::vector<field_row> &rows)
     expect_any_order_in_and_ascending_order_out<record_type>(rows);
     expect_other_wire_types_are_refused<record_type>(rows);
     expect_other_numbers_are_skipped<record_type>(rows);
+    expect_over_long_tags_are_accepted<record_type>(rows);
 }
 
 } // namespace mava_tum_test
