@@ -15,7 +15,7 @@ run_count count_run(const uint8_t *at, const uint8_t *end, uint32_t field_number
         const varint32_end tag = read_tag(at, end);
         if (tag.next == nullptr)
             return {0, false};
-        if (field_number_of(tag.value) != field_number) // L: the wire type of later entries is not looked at
+        if (field_number_of(tag.value) != field_number) // L5: the wire type of later entries is not looked at
             return {elements, true};
         at = tag.next;
     }

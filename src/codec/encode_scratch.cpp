@@ -22,43 +22,11 @@ uint8_t *make_room(encode_scratch &scratch, uint8_t *at, bool top)
     return top ? hand_over(scratch, at) : nullptr;
 }
 
-// Blocks are mostly names and addresses: two overlapping words are cheaper than a call, and never read beyond them.
-template <class Word>
-[[gnu::always_inline]] static inline void copy_ends(uint8_t *to, const uint8_t *from, uint64_t length)
-{
-    Word head;
-    Word tail;
-    memcpy(&head, from, sizeof head);
-    memcpy(&tail, from + length - sizeof tail, sizeof tail);
-    memcpy(to, &head, sizeof head);
-    memcpy(to + length - sizeof tail, &tail, sizeof tail);
-}
-
-struct two_words {
-    uint64_t low, high;
-};
-
-[[gnu::always_inline]] static inline void copy_block(uint8_t *to, const uint8_t *from, uint64_t length)
-{
-    if (length > 32)
-        memcpy(to, from, length);
-    else if (length >= 16)
-        copy_ends<two_words>(to, from, length);
-    else if (length >= 8)
-        copy_ends<uint64_t>(to, from, length);
-    else if (length >= 4)
-        copy_ends<uint32_t>(to, from, length);
-    else if (length >= 2)
-        copy_ends<uint16_t>(to, from, length);
-    else if (length == 1)
-        *to = *from;
-}
-
 // The block does not fit behind what has been written. Tag and length stand in the scratch already.
 [[gnu::noinline, gnu::cold]] static uint8_t *put_large_block(
     uint8_t *at, const void *data, uint64_t length, encode_scratch &scratch, bool top)
 {
-    if (!top || length > UINT32_MAX || hand_over(scratch, at) == nullptr)
+    if (!top || hand_over(scratch, at) == nullptr)
         return nullptr;
     if (scratch.capacity != 0) {
         if (length > scratch.capacity - scratch.handed_over)
@@ -69,27 +37,18 @@ struct two_words {
     return scratch.begin;
 }
 
-[[gnu::always_inline]] static inline uint8_t *put_block_inline(
+uint8_t *put_any_block(
     uint8_t *at, uint32_t tag, uint32_t tag_bytes, const void *data, uint64_t length, encode_scratch &scratch, bool top)
 {
+    // Left to the exact writer: a freed bytes field, whose place in the buffer stays untouched, and lengths that no
+    // block has.
+    if ((data == nullptr && length != 0) || length > UINT32_MAX)
+        return nullptr;
     at = put_varint32(at, tag, tag_bytes, static_cast<uint32_t>(length));
-    if (at > scratch.limit || length > static_cast<uint64_t>(scratch.limit - at)) [[unlikely]]
+    if (static_cast<int64_t>(length) > scratch.limit - at)
         return put_large_block(at, data, length, scratch, top);
     copy_block(at, static_cast<const uint8_t *>(data), length);
     return at + length;
-}
-
-uint8_t *put_block(
-    uint8_t *at, uint32_t tag, uint32_t tag_bytes, const void *data, uint64_t length, encode_scratch &scratch, bool top)
-{
-    if (data == nullptr && length != 0) [[unlikely]]
-        return nullptr; // a freed bytes field: the exact writer leaves its place in the buffer untouched
-    return put_block_inline(at, tag, tag_bytes, data, length, scratch, top);
-}
-
-uint8_t *put_text(uint8_t *at, uint32_t tag, uint32_t tag_bytes, const char *text, encode_scratch &scratch, bool top)
-{
-    return put_block_inline(at, tag, tag_bytes, text, strlen(text), scratch, top);
 }
 
 uint8_t *move_body_and_put_length(uint8_t *body, uint32_t gap_bytes, const uint8_t *at)

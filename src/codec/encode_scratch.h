@@ -9,6 +9,7 @@
 // Whenever something does not fit, the writers return null and the exact writer starts again from the front.
 #pragma once
 
+#include "codec/copy_block.h"
 #include "codec/wire_write.h"
 
 #include <cstdint>
@@ -35,18 +36,31 @@ struct encode_scratch {
 
 inline constexpr uint32_t scratch_block_bytes = 8192;
 
+// The most that a short block takes with its tag and length.
+inline constexpr int64_t max_short_put_bytes = 2 + 1 + short_block_bytes;
+
 // Hands [begin, at) over. Returns begin, or null when the buffer is too short.
 uint8_t *hand_over(encode_scratch &scratch, const uint8_t *at);
 
 // Makes room before an element at `at`, which lies beyond the element mark. Null when that cannot be.
 uint8_t *make_room(encode_scratch &scratch, uint8_t *at, bool top);
 
-// A length-delimited field whose payload is `data`. `tag` is as it stands on the wire.
-uint8_t *put_block(uint8_t *at, uint32_t tag, uint32_t tag_bytes, const void *data, uint64_t length,
+// A length-delimited field: tag (as it stands on the wire), length, payload. Null when it found no room.
+uint8_t *put_any_block(uint8_t *at, uint32_t tag, uint32_t tag_bytes, const void *data, uint64_t length,
     encode_scratch &scratch, bool top);
 
-// The same for a NUL-terminated text.
-uint8_t *put_text(uint8_t *at, uint32_t tag, uint32_t tag_bytes, const char *text, encode_scratch &scratch, bool top);
+// The same; what nearly every block is takes no detour.
+template <uint32_t tag_bytes>
+[[gnu::noinline]] inline uint8_t *put_block(
+    uint8_t *at, uint32_t tag, const void *data, uint64_t length, encode_scratch &scratch, bool top)
+{
+    if (length > short_block_bytes || scratch.limit - at < max_short_put_bytes) [[unlikely]]
+        return put_any_block(at, tag, tag_bytes, data, length, scratch, top);
+    store_little_endian(at, tag | length << 8 * tag_bytes);
+    at += tag_bytes + 1;
+    copy_short_block(at, static_cast<const uint8_t *>(data), length);
+    return at + length;
+}
 
 // A nested record's length is written after its body, into a gap of one byte, or of two where bodies are usually long.
 // A wrong guess moves the body by one byte.
@@ -54,11 +68,13 @@ inline constexpr uint32_t max_length_gap_bytes = 2;
 
 uint8_t *move_body_and_put_length(uint8_t *body, uint32_t gap_bytes, const uint8_t *at);
 
-template <uint32_t gap_bytes>
+// `max_body_bytes` may say that a body always fits its gap; 0 says nothing.
+template <uint32_t gap_bytes, uint32_t max_body_bytes>
 [[gnu::always_inline]] inline uint8_t *close_length_gap(uint8_t *body, uint8_t *at)
 {
+    constexpr bool always_fits = gap_bytes == 1 && max_body_bytes != 0 && max_body_bytes < varint_continues;
     const uint64_t length = static_cast<uint64_t>(at - body);
-    if ((length < varint_continues) != (gap_bytes == 1)) [[unlikely]]
+    if (!always_fits && (length < varint_continues) != (gap_bytes == 1)) [[unlikely]]
         return move_body_and_put_length(body, gap_bytes, at);
     if (gap_bytes == 1) {
         body[-1] = static_cast<uint8_t>(length);

@@ -15,7 +15,7 @@ namespace mava_tum
 {
 
 // The order of the tests is part of the contract: second occurrence, allocator, length, allocation.
-[[gnu::noinline]] inline read_end read_bytes(
+[[gnu::noinline]] inline read_end read_any_bytes(
     mava_tum_bytes &field, const uint8_t *at, const uint8_t *end, const decode_context &context)
 {
     if (field.data != nullptr)
@@ -34,6 +34,17 @@ namespace mava_tum
     }
     field = {data, payload.length};
     return {payload.value + payload.length, MAVA_TUM_OK};
+}
+
+// The same; what nearly every field is that the adapters decode (the first, whole, short, aliased) is read inline.
+[[gnu::always_inline]] inline read_end read_bytes(
+    mava_tum_bytes &field, const uint8_t *at, const uint8_t *end, const decode_context &context)
+{
+    if (field.data != nullptr || !context.aliases() || !is_short_payload(at, end)) [[unlikely]]
+        return read_any_bytes(field, at, end, context);
+    const uint32_t length = *at++;
+    field = {const_cast<uint8_t *>(at), length};
+    return {at + length, MAVA_TUM_OK};
 }
 
 // A copy owns its block, whatever the source does; an empty one has none. Returns false when no block was to be had.
@@ -58,6 +69,7 @@ struct bytes : field_key<Number, wire_type::length_delimited> {
     using owner = typename member_of<Member>::record;
 
     static constexpr uint32_t max_put_bytes = key::tag_bytes + max_varint32_bytes;
+    static constexpr bool is_scalar = false;
     static constexpr bool holds_bytes = true;
     static constexpr bool asks_for_room = true;
 
@@ -78,7 +90,9 @@ struct bytes : field_key<Number, wire_type::length_delimited> {
         if ((present & key::bit) == 0)
             return at;
         const mava_tum_bytes &field = record.*Member;
-        return put_block(at, wire_tag(key::tag), key::tag_bytes, field.data, field.length, scratch, top);
+        if (field.data == nullptr) [[unlikely]]
+            return put_any_block(at, wire_tag(key::tag), key::tag_bytes, nullptr, field.length, scratch, top);
+        return put_block<key::tag_bytes>(at, wire_tag(key::tag), field.data, field.length, scratch, top);
     }
 
     static uint64_t count(const owner &record, uint32_t present, bool gather, uint64_t position)

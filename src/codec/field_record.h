@@ -13,10 +13,16 @@ namespace mava_tum
 {
 
 // Bodies of records with this much in scalars alone are usually longer than a length of one byte can say.
-inline constexpr uint32_t long_body_put_bytes = 256;
+inline constexpr uint32_t long_body_put_bytes = 192;
 
 template <class Record>
 inline constexpr uint32_t length_gap_bytes = max_put_bytes<Record>() > long_body_put_bytes ? 2 : 1;
+
+// Flat records of a few fields are put inline: their bodies are shorter than a call.
+inline constexpr uint32_t max_inline_fields = 3;
+
+template <class Record>
+inline constexpr bool is_put_inline = is_flat<Record> &&field_count<Record> <= max_inline_fields;
 
 // The body of `nested` behind its tag and a gap for its length.
 template <class Nested>
@@ -26,8 +32,14 @@ template <class Nested>
     constexpr uint32_t gap_bytes = length_gap_bytes<Nested>;
     store_little_endian(at, tag);
     uint8_t *const body = at + tag_bytes + gap_bytes;
-    at = put_record(nested, body, scratch, false);
-    return at == nullptr ? nullptr : close_length_gap<gap_bytes>(body, at);
+    if constexpr (is_put_inline<Nested>)
+        at = put_fields(fields_of<Nested>{}, nested, body, scratch, false);
+    else
+        at = put_record(nested, body, scratch, false);
+    if constexpr (!asks_for_room<Nested>())
+        return close_length_gap<gap_bytes, max_put_bytes<Nested>()>(body, at);
+    else
+        return at == nullptr ? nullptr : close_length_gap<gap_bytes, 0>(body, at);
 }
 
 template <class Nested>
@@ -48,6 +60,7 @@ struct record : field_key<Number, wire_type::length_delimited> {
     using nested = typename member_of<Member>::value;
 
     static constexpr uint32_t max_put_bytes = key::tag_bytes + max_length_gap_bytes + mava_tum::max_put_bytes<nested>();
+    static constexpr bool is_scalar = false;
     static constexpr bool holds_bytes = mava_tum::holds_bytes<nested>();
     static constexpr bool asks_for_room = mava_tum::asks_for_room<nested>();
 

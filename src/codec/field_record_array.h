@@ -12,7 +12,7 @@ namespace mava_tum
 
 // A zeroed array, or null. Counts beyond 32 bits cannot be told to the record.
 template <class Element>
-Element *obtain_array(uint64_t count, const block_source &blocks)
+[[gnu::always_inline]] inline Element *obtain_array(uint64_t count, const block_source &blocks)
 {
     if (count > UINT32_MAX)
         return nullptr;
@@ -24,8 +24,8 @@ Element *obtain_array(uint64_t count, const block_source &blocks)
 // the position after the first entry's tag; `next` of the result is null on failure. The array is attached before its
 // elements are decoded, so that it is released even when one of them fails.
 template <class Element>
-[[gnu::noinline]] read_end start_run(Element *&array, uint32_t &count, uint32_t field_number, const uint8_t *at,
-    const uint8_t *end, const block_source &blocks)
+[[gnu::always_inline]] inline read_end start_run(Element *&array, uint32_t &count, uint32_t field_number,
+    const uint8_t *at, const uint8_t *end, const block_source &blocks)
 {
     if (array != nullptr)
         return {nullptr, MAVA_TUM_TRUNCATED};
@@ -89,6 +89,7 @@ struct record_array : field_key<Number, wire_type::length_delimited> {
     // Each element asks for room first, so the elements count once.
     static constexpr uint32_t max_put_bytes =
         key::tag_bytes + max_length_gap_bytes + mava_tum::max_put_bytes<element>();
+    static constexpr bool is_scalar = false;
     static constexpr bool holds_bytes = mava_tum::holds_bytes<element>();
     static constexpr bool asks_for_room = true;
 

@@ -1,6 +1,7 @@
 // text: a pointer to a NUL-terminated copy that the record owns, in alias mode too. A second occurrence is refused.
 #pragma once
 
+#include "codec/copy_block.h"
 #include "codec/counting_writer.h"
 #include "codec/encode_scratch.h"
 #include "codec/frames.h"
@@ -15,19 +16,19 @@ namespace mava_tum
 
 // The NUL-terminated copy of a payload, or null. The block's size is computed in 32 bits, so a text of 2^32 - 1 bytes
 // asks for an empty block; nothing can be stored there, and that counts as a failed allocation.
-inline char *copy_payload_as_text(const uint8_t *payload, uint32_t length, const block_source &blocks)
+[[gnu::always_inline]] inline char *copy_payload_as_text(
+    const uint8_t *payload, uint32_t length, const block_source &blocks)
 {
-    const uint32_t block_size = length + 1;
-    char *text = static_cast<char *>(blocks.obtain(block_size));
-    if (text == nullptr || block_size == 0)
+    uint8_t *block = static_cast<uint8_t *>(blocks.alloc_fn(static_cast<uint32_t>(length + 1), blocks.alloc_ctx));
+    if (block == nullptr || length == UINT32_MAX)
         return nullptr;
-    memcpy(text, payload, length);
-    text[length] = '\0';
-    return text;
+    block[length] = '\0';
+    copy_block(block, payload, length);
+    return reinterpret_cast<char *>(block);
 }
 
 // The order of the tests is part of the contract: second occurrence, allocator, length, allocation.
-[[gnu::noinline]] inline read_end read_text(
+[[gnu::noinline]] inline read_end read_any_text(
     char *&text, const uint8_t *at, const uint8_t *end, const decode_context &context)
 {
     if (text != nullptr)
@@ -37,11 +38,23 @@ inline char *copy_payload_as_text(const uint8_t *payload, uint32_t length, const
     const length_end payload = read_length(at, end);
     if (payload.value == nullptr)
         return {nullptr, MAVA_TUM_TRUNCATED};
-    char *copy = copy_payload_as_text(payload.value, payload.length, context.blocks);
-    if (copy == nullptr)
+    text = copy_payload_as_text(payload.value, payload.length, context.blocks);
+    if (text == nullptr)
         return {nullptr, MAVA_TUM_NO_MEMORY};
-    text = copy;
     return {payload.value + payload.length, MAVA_TUM_OK};
+}
+
+// The same; what nearly every text is (the first, whole, below 128 bytes) takes few registers and no detour.
+[[gnu::noinline]] inline read_end read_text(
+    char *&text, const uint8_t *at, const uint8_t *end, const decode_context &context)
+{
+    if (text != nullptr || context.blocks.alloc_fn == nullptr || !is_short_payload(at, end)) [[unlikely]]
+        return read_any_text(text, at, end, context);
+    const uint32_t length = *at++;
+    text = copy_payload_as_text(at, length, context.blocks);
+    if (text == nullptr) [[unlikely]]
+        return {nullptr, MAVA_TUM_NO_MEMORY};
+    return {at + length, MAVA_TUM_OK};
 }
 
 // Copies up to and with the NUL; a null text stays null. Returns false when no block was to be had.
@@ -64,6 +77,7 @@ struct text : field_key<Number, wire_type::length_delimited> {
     using owner = typename member_of<Member>::record;
 
     static constexpr uint32_t max_put_bytes = key::tag_bytes + max_varint32_bytes;
+    static constexpr bool is_scalar = false;
     static constexpr bool asks_for_room = true;
 
     [[gnu::always_inline]] static void reset(owner &record)
@@ -82,7 +96,8 @@ struct text : field_key<Number, wire_type::length_delimited> {
     {
         if (!is_written(record, present))
             return at;
-        return put_text(at, wire_tag(key::tag), key::tag_bytes, record.*Member, scratch, top);
+        const char *const text = record.*Member;
+        return put_block<key::tag_bytes>(at, wire_tag(key::tag), text, strlen(text), scratch, top);
     }
 
     static uint64_t count(const owner &record, uint32_t present, bool, uint64_t position)
@@ -111,7 +126,7 @@ struct text : field_key<Number, wire_type::length_delimited> {
     }
 
 private:
-    // L: a text that is marked present but null is left out without complaint.
+    // L12: a text that is marked present but null is left out without complaint.
     [[gnu::always_inline]] static bool is_written(const owner &record, uint32_t present)
     {
         return (present & key::bit) != 0 && record.*Member != nullptr;

@@ -29,6 +29,10 @@ bool has_content(const Record &record);
 template <class Record>
 uint8_t *put_record(const Record &record, uint8_t *at, encode_scratch &scratch, bool top);
 
+// The same, inlined where it stands.
+template <class Record, class... Field>
+uint8_t *put_fields(field_list<Field...>, const Record &record, uint8_t *at, encode_scratch &scratch, bool top);
+
 // Encode: the most that put_record writes without asking for room.
 template <class Record>
 constexpr uint32_t max_put_bytes();

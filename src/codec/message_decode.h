@@ -6,6 +6,7 @@
 #include "codec/frames.h"
 #include "codec/skip_unknown_field.h"
 #include "codec/wire_read.h"
+#include "codec/wire_write.h"
 #include "mava_tum/codec_contract.h"
 
 namespace mava_tum
@@ -24,25 +25,25 @@ template <class Record>
     reset_fields(fields_of<Record>{}, record);
 }
 
-// Where a decode stands. It lives in registers: everything that takes it is inlined.
+// Where a decode stands: at a tag, of which only the first byte has been read. It lives in registers: everything that
+// takes it is inlined.
 struct decode_position {
     const uint8_t *at;
     const uint8_t *end;
-    uint32_t tag;
+    uint32_t first_byte; // of the tag at `at`, or a mark of `assume_tag`
     uint32_t present;
     int32_t result;
 
-    // Reads the next tag. False when the message is over, well or not.
+    static constexpr uint32_t assumed = 1u << 16;
+
+    // False when the message is over.
     [[gnu::always_inline]] bool next_tag()
     {
         result = MAVA_TUM_OK;
         if (at == end)
             return false;
-        const varint32_end read = read_tag(at, end);
-        at = read.next;
-        tag = read.value;
-        result = MAVA_TUM_TRUNCATED;
-        return at != nullptr;
+        first_byte = *at;
+        return true;
     }
 
     // Accepts the end of a value. False when it failed.
@@ -52,6 +53,17 @@ struct decode_position {
         result = value.failure;
         return at != nullptr;
     }
+
+    // Whether the tag here is `tag`, in its shortest form.
+    template <uint32_t tag>
+    [[gnu::always_inline]] bool is_at() const
+    {
+        constexpr uint32_t wire = wire_tag(tag);
+        if constexpr (tag < varint_continues)
+            return first_byte == wire;
+        else
+            return (first_byte == (wire & 0xff) && end - at > 1 && at[1] == wire >> 8) || first_byte == (assumed | tag);
+    }
 };
 
 // Decodes `Field` if its tag is next. False ends the decode.
@@ -59,40 +71,104 @@ template <class Field, class Record>
 [[gnu::always_inline]] inline bool decode_if_next(
     Record &record, decode_position &position, const decode_context &context)
 {
-    if (position.tag != Field::tag)
+    if (!position.is_at<Field::tag>()) [[unlikely]]
         return true;
+    const uint8_t *const value = position.at + Field::tag_bytes;
     const bool seen = (position.present & Field::bit) != 0;
-    if (!position.accept(Field::read(record, seen, position.at, position.end, context)))
+    if (!position.accept(Field::read(record, seen, value, position.end, context)))
         return false;
     position.present |= Field::bit;
     return position.next_tag();
 }
 
-// A tag that no field has. False ends the decode.
-template <class Record>
-[[gnu::always_inline]] inline bool skip_or_refuse(decode_position &position)
+// One round. Afterwards `position` has moved unless the tag there is no field's in its shortest form. False ends the
+// decode.
+template <class Record, class... Field>
+[[gnu::always_inline]] inline bool decode_round(
+    field_list<Field...>, Record &record, decode_position &position, const decode_context &context)
 {
-    const uint32_t number = field_number_of(position.tag);
-    if (number >= 1 && number <= field_count<Record>)
-        return position.accept({nullptr, MAVA_TUM_WRONG_WIRE_TYPE});
-    return position.accept(skip_unknown_field(wire_type_of(position.tag), position.at, position.end)) &&
-           position.next_tag();
+    return (decode_if_next<Field>(record, position, context) && ...);
 }
 
-template <class Record, class... Field>
-[[gnu::always_inline]] inline int32_t decode_fields(
-    field_list<Field...>, Record &record, const uint8_t *at, const uint8_t *end, const decode_context &context)
+template <class... Field>
+constexpr bool is_tag_of_any(field_list<Field...>, uint32_t tag)
 {
-    static_assert(is_well_formed<Record>(field_list<Field...>{}));
-    decode_position position{at, end, 0, 0, MAVA_TUM_OK};
+    return ((Field::tag == tag) || ...);
+}
+
+// Where a decode goes on after a tag that no field has in its shortest form. `at` is null when it ends.
+struct unmatched_end {
+    const uint8_t *at;
+    uint32_t first_byte;
+    int32_t result;
+};
+
+// Goes on as if the tag of a field, which ends before `next`, stood there in its shortest form. L2: it did not.
+inline unmatched_end assume_tag(uint32_t tag, const uint8_t *next)
+{
+    if (tag < varint_continues)
+        return {next - 1, tag, MAVA_TUM_OK};
+    return {next - 2, decode_position::assumed | tag, MAVA_TUM_OK};
+}
+
+// An unknown field, a known one with another wire type, or a known one with a tag in a longer form than it needs.
+template <class Record>
+[[gnu::noinline]] unmatched_end decode_unmatched(const uint8_t *at, const uint8_t *end)
+{
+    const varint32_end tag = read_tag(at, end);
+    if (tag.next == nullptr)
+        return {nullptr, 0, MAVA_TUM_TRUNCATED};
+    if (is_tag_of_any(fields_of<Record>{}, tag.value))
+        return assume_tag(tag.value, tag.next);
+    const uint32_t number = field_number_of(tag.value);
+    if (number >= 1 && number <= field_count<Record>)
+        return {nullptr, 0, MAVA_TUM_WRONG_WIRE_TYPE};
+    const read_end skipped = skip_unknown_field(wire_type_of(tag.value), tag.next, end);
+    if (skipped.next == nullptr || skipped.next == end)
+        return {nullptr, 0, skipped.next == end ? MAVA_TUM_OK : skipped.failure};
+    return {skipped.next, *skipped.next, MAVA_TUM_OK};
+}
+
+// Rounds until the message ends.
+template <class Record>
+[[gnu::always_inline]] inline int32_t decode_rounds(
+    Record &record, decode_position position, const decode_context &context)
+{
     bool goes_on = position.next_tag();
     while (goes_on) {
         const uint8_t *const round_start = position.at;
-        goes_on = (decode_if_next<Field>(record, position, context) && ...);
-        if (goes_on && position.at == round_start)
-            goes_on = skip_or_refuse<Record>(position);
+        goes_on = decode_round(fields_of<Record>{}, record, position, context);
+        if (!goes_on || position.at != round_start)
+            continue;
+        const unmatched_end unmatched = decode_unmatched<Record>(position.at, position.end);
+        position.at = unmatched.at;
+        position.first_byte = unmatched.first_byte;
+        position.result = unmatched.result;
+        goes_on = unmatched.at != nullptr;
     }
-    set_presence(record, own_bits<Record>, position.present);
+    add_presence(record, position.present);
+    return position.result;
+}
+
+// The rest of a flat record, from a tag that its first round did not know.
+template <class Record>
+[[gnu::noinline]] int32_t decode_flat_rest(Record &record, const uint8_t *at, const uint8_t *end, uint32_t present)
+{
+    return decode_rounds(record, {at, end, 0, present, MAVA_TUM_OK}, {});
+}
+
+// A flat record. Most are tiny: as long as every tag is known, this calls nothing and so saves no register.
+template <class Record>
+[[gnu::always_inline]] inline int32_t decode_flat(Record &record, decode_position position)
+{
+    bool goes_on = position.next_tag();
+    while (goes_on) {
+        const uint8_t *const round_start = position.at;
+        goes_on = decode_round(fields_of<Record>{}, record, position, {});
+        if (goes_on && position.at == round_start) [[unlikely]]
+            return decode_flat_rest(record, position.at, position.end, position.present);
+    }
+    add_presence(record, position.present);
     return position.result;
 }
 
@@ -100,7 +176,11 @@ template <class Record>
 [[gnu::noinline]] int32_t decode_record(
     Record &record, const uint8_t *at, const uint8_t *end, const decode_context &context)
 {
-    return decode_fields(fields_of<Record>{}, record, at, end, context);
+    static_assert(is_well_formed<Record>(fields_of<Record>{}));
+    if constexpr (is_flat<Record>)
+        return decode_flat<Record>(record, {at, end, 0, 0, MAVA_TUM_OK});
+    else
+        return decode_rounds<Record>(record, {at, end, 0, 0, MAVA_TUM_OK}, context);
 }
 
 // The decode behind the adapters, into a scratch record of theirs: it aliases the input, clears the whole record, and

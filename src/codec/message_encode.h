@@ -32,13 +32,25 @@ template <class Record>
     return any_has_content(fields_of<Record>{}, record);
 }
 
+// Puts one field. False when it found no room; a field that asks for none cannot fail.
+template <class Field, class Record>
+[[gnu::always_inline]] inline bool put_field(
+    const Record &record, uint32_t present, uint8_t *&at, encode_scratch &scratch, bool top)
+{
+    at = Field::put(record, present, at, scratch, top);
+    if constexpr (Field::asks_for_room)
+        return at != nullptr;
+    else
+        return true;
+}
+
 template <class Record, class... Field>
 [[gnu::always_inline]] inline uint8_t *put_fields(
     field_list<Field...>, const Record &record, uint8_t *at, encode_scratch &scratch, bool top)
 {
     const uint32_t present = record.presence_mask;
-    static_cast<void>(((at = Field::put(record, present, at, scratch, top), at != nullptr) && ...));
-    return at;
+    const bool complete = (put_field<Field>(record, present, at, scratch, top) && ...);
+    return complete ? at : nullptr;
 }
 
 template <class Record>

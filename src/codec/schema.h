@@ -56,6 +56,7 @@ struct field_key {
     // What most kinds are not; the others say so themselves.
     static constexpr bool holds_bytes = false;   // a bytes field, here or in a nested record
     static constexpr bool asks_for_room = false; // a block or an array, here or in a nested record
+    static constexpr bool is_scalar = true;      // decoded without calling anything
 
     // Whether the field alone, without a bit of its own record, can produce a byte: a nested record can.
     template <class Record>
@@ -95,6 +96,15 @@ constexpr bool any_asks_for_room(field_list<Field...>)
 {
     return (Field::asks_for_room || ...);
 }
+
+template <class... Field>
+constexpr bool all_scalar(field_list<Field...>)
+{
+    return (Field::is_scalar && ...);
+}
+
+template <class Record>
+inline constexpr bool is_flat = all_scalar(fields_of<Record>{});
 
 // Such messages have the alias bit.
 template <class Record>

@@ -22,65 +22,73 @@ struct length_end {
     uint32_t length;
 };
 
-// Bytes three and on of a 32-bit varint whose first two are in `value`.
-[[gnu::always_inline]] inline varint32_end read_varint32_tail(const uint8_t *at, const uint8_t *end, uint32_t value)
-{
-    for (uint32_t shift = 14; shift < 28; shift += 7) {
-        if (at == end)
-            return {nullptr, 0};
-        const uint32_t byte = *at++;
-        value |= (byte & varint_payload) << shift;
-        if (byte < varint_continues)
-            return {at, value};
-    }
-    if (at == end)
-        return {nullptr, 0};
-    uint32_t byte = *at++;
-    value |= byte << 28; // L1: the whole byte; what does not fit 32 bits is dropped without complaint
-    while (byte >= varint_continues) {
-        if (at == end)
-            return {nullptr, 0};
-        byte = *at++; // L1: further bytes are stepped over, however many
-    }
-    return {at, value};
-}
+// A tag or a length byte by byte. It stands out of line, since few are longer than two bytes. At least one byte of it
+// lies inside the input.
+varint32_end read_long_varint32(const uint8_t *at, const uint8_t *end);
 
-// The same out of line, for tags and lengths, which are rarely so long.
-[[gnu::noinline]] inline varint32_end read_long_varint32(const uint8_t *at, const uint8_t *end, uint32_t value)
-{
-    return read_varint32_tail(at, end, value);
-}
-
-enum class expected_width { any, short_ };
-
-// A 32-bit varint whose first byte is known to lie inside the input.
-template <expected_width width>
+// A 32-bit varint whose first byte is known to lie inside the input; short ones are read inline.
 [[gnu::always_inline]] inline varint32_end read_started_varint32(const uint8_t *at, const uint8_t *end)
 {
     uint32_t byte = *at++;
-    if (byte < varint_continues)
+    if (byte < varint_continues) [[likely]]
         return {at, byte};
     if (at == end)
         return {nullptr, 0};
     uint32_t value = byte & varint_payload;
     byte = *at++;
     value |= (byte & varint_payload) << 7;
-    if (byte < varint_continues)
+    if (byte < varint_continues) [[likely]]
         return {at, value};
-    return width == expected_width::any ? read_varint32_tail(at, end, value) : read_long_varint32(at, end, value);
+    return read_long_varint32(at - 2, end);
 }
 
 // A tag. The caller has tested that `at` lies before `end`.
 [[gnu::always_inline]] inline varint32_end read_tag(const uint8_t *at, const uint8_t *end)
 {
-    return read_started_varint32<expected_width::short_>(at, end);
+    return read_started_varint32(at, end);
 }
 
+// Adds byte `index` of a varint. It also takes away the continuation bit that the byte before left in `value`.
+template <uint32_t index>
+[[gnu::always_inline]] inline bool add_varint_byte(const uint8_t *&at, uint32_t &value, uint32_t &byte)
+{
+    byte = *at++;
+    value += (byte - 1) << 7 * index; // the fifth byte as a whole: what does not fit 32 bits is dropped (L1)
+    return byte < varint_continues;
+}
+
+// A value, of any width inline.
 [[gnu::always_inline]] inline varint32_end read_varint32(const uint8_t *at, const uint8_t *end)
 {
     if (at == end)
         return {nullptr, 0};
-    return read_started_varint32<expected_width::any>(at, end);
+    uint32_t byte = *at++;
+    uint32_t value = byte;
+    if (byte < varint_continues) [[likely]]
+        return {at, value};
+    if (at == end)
+        return {nullptr, 0};
+    if (add_varint_byte<1>(at, value, byte))
+        return {at, value};
+    if (at == end)
+        return {nullptr, 0};
+    if (add_varint_byte<2>(at, value, byte))
+        return {at, value};
+    if (at == end)
+        return {nullptr, 0};
+    if (add_varint_byte<3>(at, value, byte))
+        return {at, value};
+    if (at == end)
+        return {nullptr, 0};
+    add_varint_byte<4>(at, value, byte);
+    while (byte >= varint_continues)
+        [[unlikely]]
+        {
+            if (at == end)
+                return {nullptr, 0};
+            byte = *at++; // L1: further bytes are stepped over, however many
+        }
+    return {at, value};
 }
 
 // A length prefix without regard to what follows it.
@@ -88,7 +96,7 @@ template <expected_width width>
 {
     if (at == end)
         return {nullptr, 0};
-    return read_started_varint32<expected_width::short_>(at, end);
+    return read_started_varint32(at, end);
 }
 
 // A length prefix and the test that its value lies inside the input.
@@ -98,6 +106,12 @@ template <expected_width width>
     if (length.next == nullptr || length.value > static_cast<uint64_t>(end - length.next))
         return {nullptr, 0};
     return {length.next, length.value};
+}
+
+// Whether a length prefix of one byte and its whole value stand at `at`.
+[[gnu::always_inline]] inline bool is_short_payload(const uint8_t *at, const uint8_t *end)
+{
+    return at != end && *at < varint_continues && *at < end - at;
 }
 
 constexpr uint32_t little_endian(uint32_t value)

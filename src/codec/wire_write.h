@@ -65,7 +65,12 @@ inline constexpr std::array<varint_shape, 32> varint_shapes = make_varint_shapes
         store_little_endian(at, prefix | uint64_t{value} << 8 * prefix_bytes);
         return at + prefix_bytes + 1;
     }
-    const varint_shape &shape = varint_shapes[31 - std::countl_zero(value)];
+    if (value < 1u << 14) {
+        const uint64_t two_bytes = (value & varint_payload) | varint_continues | (value >> 7) << 8;
+        store_little_endian(at, prefix | two_bytes << 8 * prefix_bytes);
+        return at + prefix_bytes + 2;
+    }
+    const varint_shape &shape = varint_shapes[31u - static_cast<uint32_t>(std::countl_zero(value))];
     const uint64_t groups = spread_groups(value) | shape.continuation_bits;
     store_little_endian(at, prefix | groups << 8 * prefix_bytes);
     return at + prefix_bytes + shape.bytes;

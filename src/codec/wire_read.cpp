@@ -1,0 +1,11 @@
+#include "codec/wire_read.h"
+
+namespace mava_tum
+{
+
+varint32_end read_long_varint32(const uint8_t *at, const uint8_t *end)
+{
+    return read_varint32(at, end);
+}
+
+} // namespace mava_tum
