@@ -52,6 +52,7 @@ struct text_array : field_key<Number, wire_type::length_delimited> {
 
     // Each text asks for room first, so the texts count once.
     static constexpr uint32_t max_put_bytes = key::tag_bytes + max_varint32_bytes;
+    static constexpr bool is_scalar = false;
     static constexpr bool asks_for_room = true;
 
     [[gnu::always_inline]] static void reset(owner &record)
@@ -74,7 +75,7 @@ struct text_array : field_key<Number, wire_type::length_delimited> {
             if (at > mark)
                 at = make_room(scratch, at, top);
             if (at != nullptr && text != nullptr)
-                at = put_text(at, wire_tag(key::tag), key::tag_bytes, text, scratch, top);
+                at = put_block<key::tag_bytes>(at, wire_tag(key::tag), text, strlen(text), scratch, top);
             if (at == nullptr)
                 return nullptr;
         }
