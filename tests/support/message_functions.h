@@ -174,4 +174,202 @@ struct message_functions<mava_tum_sub_route> {
     static constexpr uint32_t own_bits = 0x3F;
 };
 
+template <>
+struct message_functions<mava_tum_session_delete> {
+    static constexpr auto decode = mava_tum_session_delete_decode_ext;
+    static constexpr auto encode = mava_tum_session_delete_encode_ext;
+    static constexpr auto duplicate = mava_tum_session_delete_duplicate;
+    static constexpr auto release = mava_tum_session_delete_free_ext;
+    static constexpr uint32_t own_bits = 0x1F;
+};
+
+template <>
+struct message_functions<mava_tum_sess_oper_resp> {
+    static constexpr auto decode = mava_tum_sess_oper_resp_decode_ext;
+    static constexpr auto encode = mava_tum_sess_oper_resp_encode_ext;
+    static constexpr auto duplicate = mava_tum_sess_oper_resp_duplicate;
+    static constexpr auto release = mava_tum_sess_oper_resp_free_ext;
+    static constexpr uint32_t own_bits = 0x3FF;
+};
+
+template <>
+struct message_functions<mava_tum_stats> {
+    static constexpr auto decode = mava_tum_stats_decode_ext;
+    static constexpr auto encode = mava_tum_stats_encode_ext;
+    static constexpr auto duplicate = mava_tum_stats_duplicate;
+    static constexpr auto release = mava_tum_stats_free_ext;
+    static constexpr uint32_t own_bits = 0x3FFFF;
+};
+
+template <>
+struct message_functions<mava_tum_service_stats> {
+    static constexpr auto decode = mava_tum_service_stats_decode_ext;
+    static constexpr auto encode = mava_tum_service_stats_encode_ext;
+    static constexpr auto duplicate = mava_tum_service_stats_duplicate;
+    static constexpr auto release = mava_tum_service_stats_free_ext;
+    static constexpr uint32_t own_bits = 0x03;
+};
+
+template <>
+struct message_functions<mava_tum_subscriber_stats> {
+    static constexpr auto decode = mava_tum_subscriber_stats_decode_ext;
+    static constexpr auto encode = mava_tum_subscriber_stats_encode_ext;
+    static constexpr auto duplicate = mava_tum_subscriber_stats_duplicate;
+    static constexpr auto release = mava_tum_subscriber_stats_free_ext;
+    static constexpr uint32_t own_bits = 0xFFF;
+};
+
+template <>
+struct message_functions<mava_tum_subscriber_route_resp> {
+    static constexpr auto decode = mava_tum_subscriber_route_resp_decode_ext;
+    static constexpr auto encode = mava_tum_subscriber_route_resp_encode_ext;
+    static constexpr auto duplicate = mava_tum_subscriber_route_resp_duplicate;
+    static constexpr auto release = mava_tum_subscriber_route_resp_free_ext;
+    static constexpr uint32_t own_bits = 0x0F;
+};
+
+template <>
+struct message_functions<mava_tum_rec_start_req> {
+    static constexpr auto decode = mava_tum_rec_start_req_decode_ext;
+    static constexpr auto encode = mava_tum_rec_start_req_encode_ext;
+    static constexpr auto duplicate = mava_tum_rec_start_req_duplicate;
+    static constexpr auto release = mava_tum_rec_start_req_free_ext;
+    static constexpr uint32_t own_bits = 0x0F;
+};
+
+template <>
+struct message_functions<mava_tum_rec_complete_req> {
+    static constexpr auto decode = mava_tum_rec_complete_req_decode_ext;
+    static constexpr auto encode = mava_tum_rec_complete_req_encode_ext;
+    static constexpr auto duplicate = mava_tum_rec_complete_req_duplicate;
+    static constexpr auto release = mava_tum_rec_complete_req_free_ext;
+    static constexpr uint32_t own_bits = 0x0F;
+};
+
+template <>
+struct message_functions<mava_tum_rec_resp> {
+    static constexpr auto decode = mava_tum_rec_resp_decode_ext;
+    static constexpr auto encode = mava_tum_rec_resp_encode_ext;
+    static constexpr auto duplicate = mava_tum_rec_resp_duplicate;
+    static constexpr auto release = mava_tum_rec_resp_free_ext;
+    static constexpr uint32_t own_bits = 0x07;
+};
+
+template <>
+struct message_functions<mava_tum_rec_session_state> {
+    static constexpr auto decode = mava_tum_rec_session_state_decode_ext;
+    static constexpr auto encode = mava_tum_rec_session_state_encode_ext;
+    static constexpr auto duplicate = mava_tum_rec_session_state_duplicate;
+    static constexpr auto release = mava_tum_rec_session_state_free_ext;
+    static constexpr uint32_t own_bits = 0x07;
+};
+
+template <>
+struct message_functions<mava_tum_rec_sess_req> {
+    static constexpr auto decode = mava_tum_rec_sess_req_decode_ext;
+    static constexpr auto encode = mava_tum_rec_sess_req_encode_ext;
+    static constexpr auto duplicate = mava_tum_rec_sess_req_duplicate;
+    static constexpr auto release = mava_tum_rec_sess_req_free_ext;
+    static constexpr uint32_t own_bits = 0x3F;
+};
+
+template <>
+struct message_functions<mava_tum_rec_sess_resp> {
+    static constexpr auto decode = mava_tum_rec_sess_resp_decode_ext;
+    static constexpr auto encode = mava_tum_rec_sess_resp_encode_ext;
+    static constexpr auto duplicate = mava_tum_rec_sess_resp_duplicate;
+    static constexpr auto release = mava_tum_rec_sess_resp_free_ext;
+    static constexpr uint32_t own_bits = 0x0F;
+};
+
+template <>
+struct message_functions<mava_tum_rec_sess_replay_req> {
+    static constexpr auto decode = mava_tum_rec_sess_replay_req_decode_ext;
+    static constexpr auto encode = mava_tum_rec_sess_replay_req_encode_ext;
+    static constexpr auto duplicate = mava_tum_rec_sess_replay_req_duplicate;
+    static constexpr auto release = mava_tum_rec_sess_replay_req_free_ext;
+    static constexpr uint32_t own_bits = 0x3F;
+};
+
+template <>
+struct message_functions<mava_tum_rec_sess_replay_fail> {
+    static constexpr auto decode = mava_tum_rec_sess_replay_fail_decode_ext;
+    static constexpr auto encode = mava_tum_rec_sess_replay_fail_encode_ext;
+    static constexpr auto duplicate = mava_tum_rec_sess_replay_fail_duplicate;
+    static constexpr auto release = mava_tum_rec_sess_replay_fail_free_ext;
+    static constexpr uint32_t own_bits = 0x07;
+};
+
+template <>
+struct message_functions<mava_tum_sess_svc_start> {
+    static constexpr auto decode = mava_tum_sess_svc_start_decode_ext;
+    static constexpr auto encode = mava_tum_sess_svc_start_encode_ext;
+    static constexpr auto duplicate = mava_tum_sess_svc_start_duplicate;
+    static constexpr auto release = mava_tum_sess_svc_start_free_ext;
+    static constexpr uint32_t own_bits = 0x1F;
+};
+
+template <>
+struct message_functions<mava_tum_rec_sess_replay_resp> {
+    static constexpr auto decode = mava_tum_rec_sess_replay_resp_decode_ext;
+    static constexpr auto encode = mava_tum_rec_sess_replay_resp_encode_ext;
+    static constexpr auto duplicate = mava_tum_rec_sess_replay_resp_duplicate;
+    static constexpr auto release = mava_tum_rec_sess_replay_resp_free_ext;
+    static constexpr uint32_t own_bits = 0x1F;
+};
+
+template <>
+struct message_functions<mava_tum_srg_group_rec_start_req> {
+    static constexpr auto decode = mava_tum_srg_group_rec_start_req_decode_ext;
+    static constexpr auto encode = mava_tum_srg_group_rec_start_req_encode_ext;
+    static constexpr auto duplicate = mava_tum_srg_group_rec_start_req_duplicate;
+    static constexpr auto release = mava_tum_srg_group_rec_start_req_free_ext;
+    static constexpr uint32_t own_bits = 0x07;
+};
+
+template <>
+struct message_functions<mava_tum_srg_group_rec_resp> {
+    static constexpr auto decode = mava_tum_srg_group_rec_resp_decode_ext;
+    static constexpr auto encode = mava_tum_srg_group_rec_resp_encode_ext;
+    static constexpr auto duplicate = mava_tum_srg_group_rec_resp_duplicate;
+    static constexpr auto release = mava_tum_srg_group_rec_resp_free_ext;
+    static constexpr uint32_t own_bits = 0x03;
+};
+
+template <>
+struct message_functions<mava_tum_srg_group_rec_complete_req> {
+    static constexpr auto decode = mava_tum_srg_group_rec_complete_req_decode_ext;
+    static constexpr auto encode = mava_tum_srg_group_rec_complete_req_encode_ext;
+    static constexpr auto duplicate = mava_tum_srg_group_rec_complete_req_duplicate;
+    static constexpr auto release = mava_tum_srg_group_rec_complete_req_free_ext;
+    static constexpr uint32_t own_bits = 0x07;
+};
+
+template <>
+struct message_functions<mava_tum_srg_group_data> {
+    static constexpr auto decode = mava_tum_srg_group_data_decode_ext;
+    static constexpr auto encode = mava_tum_srg_group_data_encode_ext;
+    static constexpr auto duplicate = mava_tum_srg_group_data_duplicate;
+    static constexpr auto release = mava_tum_srg_group_data_free_ext;
+    static constexpr uint32_t own_bits = 0x1F;
+};
+
+template <>
+struct message_functions<mava_tum_srg_group_rec_replay_req> {
+    static constexpr auto decode = mava_tum_srg_group_rec_replay_req_decode_ext;
+    static constexpr auto encode = mava_tum_srg_group_rec_replay_req_encode_ext;
+    static constexpr auto duplicate = mava_tum_srg_group_rec_replay_req_duplicate;
+    static constexpr auto release = mava_tum_srg_group_rec_replay_req_free_ext;
+    static constexpr uint32_t own_bits = 0x0F;
+};
+
+template <>
+struct message_functions<mava_tum_srg_group_rec_replay_resp> {
+    static constexpr auto decode = mava_tum_srg_group_rec_replay_resp_decode_ext;
+    static constexpr auto encode = mava_tum_srg_group_rec_replay_resp_encode_ext;
+    static constexpr auto duplicate = mava_tum_srg_group_rec_replay_resp_duplicate;
+    static constexpr auto release = mava_tum_srg_group_rec_replay_resp_free_ext;
+    static constexpr uint32_t own_bits = 0x0F;
+};
+
 } // namespace mava_tum_test
