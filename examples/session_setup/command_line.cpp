@@ -1,17 +1,10 @@
 #include "command_line.h"
 
+#include "reported_run.h"
 #include "subscriber_file.h"
 
-namespace session_setup
+namespace examples::session_setup
 {
-
-namespace
-{
-
-// Where the build found the file that ships with this program.
-constexpr const char *shipped_file = SESSION_SETUP_SHIPPED_FILE;
-
-} // namespace
 
 command_line parse_command_line(std::span<char *const> arguments)
 {
@@ -67,4 +60,4 @@ std::string help_text()
            "arguments are wrong; otherwise the receiver's own.\n";
 }
 
-} // namespace session_setup
+} // namespace examples::session_setup

@@ -1,6 +1,6 @@
 #include "compare_parts.h"
 
-namespace session_setup
+namespace examples::session_setup
 {
 
 namespace
@@ -58,4 +58,4 @@ void compare_access(member_check &check, const subscriber &who, const tum_nal_da
     compare_l2tp(check, who, received);
 }
 
-} // namespace session_setup
+} // namespace examples::session_setup

@@ -1,6 +1,6 @@
 #include "compare_parts.h"
 
-namespace session_setup
+namespace examples::session_setup
 {
 
 namespace
@@ -79,4 +79,4 @@ void compare_features(member_check &check, const subscriber &who, const tum_nal_
     compare_accounting(check, who, received);
 }
 
-} // namespace session_setup
+} // namespace examples::session_setup

@@ -1,6 +1,6 @@
 #include "compare_parts.h"
 
-namespace session_setup
+namespace examples::session_setup
 {
 
 namespace
@@ -79,4 +79,4 @@ void compare_routes(member_check &check, const subscriber &who, const tum_nal_da
     compare_list(check, "ipv6_routes", is_sent, who.ipv6_routes, received.ipv6_routes);
 }
 
-} // namespace session_setup
+} // namespace examples::session_setup

@@ -5,7 +5,7 @@
 #include "member_check.h"
 #include "tum_nal/nal_session_context.h"
 
-namespace session_setup
+namespace examples::session_setup
 {
 
 void compare_access(member_check &check, const subscriber &who, const tum_nal_data_session_context &received);
@@ -13,6 +13,6 @@ void compare_features(member_check &check, const subscriber &who, const tum_nal_
 void compare_qos(member_check &check, const subscriber &who, const tum_nal_data_session_context &received);
 void compare_routes(member_check &check, const subscriber &who, const tum_nal_data_session_context &received);
 
-} // namespace session_setup
+} // namespace examples::session_setup
 
 #endif

@@ -1,42 +1,35 @@
 // A session crosses the wire: one process encodes the subscribers of a file, another one decodes and checks them.
 //
-//   sender process                                            receiver process
-//   file -> subscriber -> record -> encode -> frame  =pipe=>  frame -> decode -> record -> compare <- subscriber <-
-//   file
+//   sender process                                 receiver process
+//   file -> record -> encode -> frame  == pipe ==> frame -> decode -> record -> compare <- file
 #include "child_process.h"
 #include "command_line.h"
-#include "csv_file.h"
 #include "frame_stream.h"
 #include "receiver.h"
+#include "reported_run.h"
 #include "sender.h"
 #include "subscriber_file.h"
 
-#include <csignal>
 #include <iostream>
 #include <unistd.h>
 
-namespace session_setup
+namespace examples::session_setup
 {
 
 namespace
 {
 
-enum exit_status { all_arrived = 0, not_all_arrived = 1, bad_input = 2 };
-
-// The link names the running program, however it was started.
-constexpr const char *this_program = "/proc/self/exe";
-
 int send_only(const command_line &arguments)
 {
     const std::vector<subscriber> subscribers = read_subscribers(arguments.file);
     std::cerr << send_sessions(arguments.file, subscribers, STDOUT_FILENO) << "\n";
-    return all_arrived;
+    return done;
 }
 
 int receive_only(const command_line &arguments)
 {
     const std::vector<subscriber> subscribers = read_subscribers(arguments.file);
-    return receive_sessions(arguments.file, subscribers, STDIN_FILENO) == 0 ? all_arrived : not_all_arrived;
+    return receive_sessions(arguments.file, subscribers, STDIN_FILENO) == 0 ? done : not_done;
 }
 
 int send_and_receive(const command_line &arguments)
@@ -58,15 +51,15 @@ int send_and_receive(const command_line &arguments)
         std::cout << summary << "\n";
     if (receiver_status != 0)
         std::cerr << "session_setup: the receiver ended with status " << receiver_status << "\n";
-    return receiver_status != 0 || all_sent ? receiver_status : static_cast<int>(not_all_arrived);
+    return receiver_status != 0 || all_sent ? receiver_status : static_cast<int>(not_done);
 }
 
-int run(const command_line &arguments)
+int run_job(const command_line &arguments)
 {
     switch (arguments.what) {
     case job::help:
         std::cout << help_text();
-        return all_arrived;
+        return done;
     case job::send:
         return send_only(arguments);
     case job::receive:
@@ -77,33 +70,17 @@ int run(const command_line &arguments)
     return send_and_receive(arguments);
 }
 
-int run_and_report(std::span<char *const> arguments)
+int run(std::span<char *const> arguments)
 {
-    try {
-        const int status = run(parse_command_line(arguments));
-        if (std::cout.flush())
-            return status;
-        std::cerr << "session_setup: cannot write to the standard output; what it shows is incomplete\n";
-        return status != 0 ? status : static_cast<int>(not_all_arrived);
-    } catch (const file_error &error) {
-        std::cerr << error.what() << "\n";
-        return bad_input;
-    } catch (const usage_error &error) {
-        std::cerr << "session_setup: " << error.what() << "\n";
-        return bad_input;
-    } catch (const std::exception &error) {
-        std::cerr << "session_setup: " << error.what() << "\n";
-        return not_all_arrived;
-    }
+    return run_job(parse_command_line(arguments));
 }
 
 } // namespace
 
-} // namespace session_setup
+} // namespace examples::session_setup
 
 int main(int argc, char **argv)
 {
-    std::signal(SIGPIPE, SIG_IGN); // a reader that has gone away is an error message, not a silent end
-    const std::span<char *const> arguments(argv, static_cast<size_t>(argc));
-    return session_setup::run_and_report(arguments.empty() ? arguments : arguments.subspan(1));
+    using namespace examples;
+    return reported_run("session_setup", std::span(argv, static_cast<size_t>(argc)), session_setup::run);
 }

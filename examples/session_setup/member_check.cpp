@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-namespace session_setup
+namespace examples::session_setup
 {
 
 void member_check::differ(std::string_view member, const std::string &wanted, const std::string &received)
@@ -63,4 +63,4 @@ void member_check::leave_slot()
     m_list = {};
 }
 
-} // namespace session_setup
+} // namespace examples::session_setup

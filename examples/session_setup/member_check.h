@@ -7,7 +7,7 @@
 #include <span>
 #include <string_view>
 
-namespace session_setup
+namespace examples::session_setup
 {
 
 struct mismatch {
@@ -46,6 +46,6 @@ private:
     std::vector<mismatch> m_mismatches;
 };
 
-} // namespace session_setup
+} // namespace examples::session_setup
 
 #endif

@@ -11,7 +11,7 @@
 #include <unistd.h>
 #include <utility>
 
-namespace session_setup
+namespace examples::session_setup
 {
 
 namespace
@@ -115,4 +115,4 @@ size_t receive_sessions(const std::string &path, const std::vector<subscriber> &
     return to.differing();
 }
 
-} // namespace session_setup
+} // namespace examples::session_setup

@@ -4,7 +4,7 @@
 
 #include "subscriber.h"
 
-namespace session_setup
+namespace examples::session_setup
 {
 
 // Reads one session per subscriber from `fd`, compares, and prints the first sessions, the wire bytes of the very
@@ -12,6 +12,6 @@ namespace session_setup
 // output. Throws stream_error when sessions are missing, cut or too many.
 size_t receive_sessions(const std::string &path, const std::vector<subscriber> &subscribers, int fd);
 
-} // namespace session_setup
+} // namespace examples::session_setup
 
 #endif

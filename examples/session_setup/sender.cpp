@@ -6,7 +6,7 @@
 
 #include <unistd.h>
 
-namespace session_setup
+namespace examples::session_setup
 {
 
 namespace
@@ -53,4 +53,4 @@ std::string send_sessions(const std::string &path, const std::vector<subscriber>
            "): " + encoding.report(subscribers.size(), total_bytes, "encoded");
 }
 
-} // namespace session_setup
+} // namespace examples::session_setup

@@ -4,13 +4,13 @@
 
 #include "subscriber.h"
 
-namespace session_setup
+namespace examples::session_setup
 {
 
 // Sends all `subscribers` and returns a line about it. Throws stream_error, which names the file's line that could not
 // be sent, when the receiver goes away.
 std::string send_sessions(const std::string &path, const std::vector<subscriber> &subscribers, int fd);
 
-} // namespace session_setup
+} // namespace examples::session_setup
 
 #endif

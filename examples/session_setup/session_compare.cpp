@@ -2,7 +2,7 @@
 
 #include "compare_parts.h"
 
-namespace session_setup
+namespace examples::session_setup
 {
 
 namespace
@@ -104,4 +104,4 @@ std::vector<mismatch> compare_session(const subscriber &who, const tum_nal_data_
     return check.mismatches();
 }
 
-} // namespace session_setup
+} // namespace examples::session_setup

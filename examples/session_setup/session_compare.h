@@ -15,12 +15,12 @@
 #include "member_check.h"
 #include "tum_nal/nal_session_context.h"
 
-namespace session_setup
+namespace examples::session_setup
 {
 
 // The members of `received` that are not what the file says of `who`; none if the session arrived.
 std::vector<mismatch> compare_session(const subscriber &who, const tum_nal_data_session_context &received);
 
-} // namespace session_setup
+} // namespace examples::session_setup
 
 #endif

@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-namespace session_setup
+namespace examples::session_setup
 {
 
 namespace
@@ -120,4 +120,4 @@ std::string session_table::text() const
     return text;
 }
 
-} // namespace session_setup
+} // namespace examples::session_setup

@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-namespace session_setup
+namespace examples::session_setup
 {
 
 class session_table
@@ -22,6 +22,6 @@ private:
     std::vector<std::vector<std::string>> m_rows; // the first one is the heading
 };
 
-} // namespace session_setup
+} // namespace examples::session_setup
 
 #endif

@@ -6,7 +6,7 @@
 #include <algorithm>
 #include <cstdio>
 
-namespace session_setup
+namespace examples::session_setup
 {
 
 namespace
@@ -146,4 +146,4 @@ std::string annotate_wire(std::span<const uint8_t> wire)
     return heading + annotator(wire).annotate();
 }
 
-} // namespace session_setup
+} // namespace examples::session_setup

@@ -7,12 +7,12 @@
 #include <span>
 #include <string>
 
-namespace session_setup
+namespace examples::session_setup
 {
 
 // Bytes that are no fields are shown as such and end the annotation.
 std::string annotate_wire(std::span<const uint8_t> wire);
 
-} // namespace session_setup
+} // namespace examples::session_setup
 
 #endif

@@ -1,6 +1,6 @@
 #include "wire_names.h"
 
-namespace session_setup
+namespace examples::session_setup
 {
 
 namespace
@@ -80,4 +80,4 @@ const wire_field *find_field(std::span<const wire_field> fields, uint64_t number
     return nullptr;
 }
 
-} // namespace session_setup
+} // namespace examples::session_setup

@@ -6,7 +6,7 @@
 #include <cstdint>
 #include <span>
 
-namespace session_setup
+namespace examples::session_setup
 {
 
 enum class wire_content { number, ipv4, ipv6, bytes, text, record };
@@ -24,6 +24,6 @@ std::span<const wire_field> session_fields();
 // Null if the table does not know the field.
 const wire_field *find_field(std::span<const wire_field> fields, uint64_t number);
 
-} // namespace session_setup
+} // namespace examples::session_setup
 
 #endif

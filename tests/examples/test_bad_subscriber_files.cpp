@@ -20,7 +20,7 @@ program_result run_with_file(const std::string &content)
     return result;
 }
 
-const std::string names = session_setup::column_names();
+const std::string names = examples::column_names();
 
 std::string good_line()
 {

@@ -37,7 +37,7 @@ protected:
 TEST_F(frame_stream, the_length_goes_in_front_in_4_bytes_big_endian)
 {
     const std::vector<uint8_t> message(258, 0xAB);
-    session_setup::write_frame(m_ends[1], message);
+    examples::write_frame(m_ends[1], message);
     std::array<uint8_t, 262> raw{};
     ASSERT_EQ(read(m_ends[0], raw.data(), raw.size()), 262);
     EXPECT_EQ((std::vector<uint8_t>(raw.begin(), raw.begin() + 4)), (std::vector<uint8_t>{0, 0, 1, 2}));
@@ -48,14 +48,14 @@ TEST_F(frame_stream, frames_come_back_in_order_and_empty_ones_too)
 {
     const std::vector<uint8_t> first = {1, 2, 3}, empty, last = {4};
     for (const std::vector<uint8_t> &message : {first, empty, last})
-        session_setup::write_frame(m_ends[1], message);
+        examples::write_frame(m_ends[1], message);
     close_writing_end();
     std::vector<uint8_t> message;
     for (const std::vector<uint8_t> &expected : {first, empty, last}) {
-        ASSERT_TRUE(session_setup::read_frame(m_ends[0], message));
+        ASSERT_TRUE(examples::read_frame(m_ends[0], message));
         EXPECT_EQ(message, expected);
     }
-    EXPECT_FALSE(session_setup::read_frame(m_ends[0], message));
+    EXPECT_FALSE(examples::read_frame(m_ends[0], message));
 }
 
 TEST_F(frame_stream, a_frame_of_exactly_the_limit_is_read)
@@ -66,9 +66,9 @@ TEST_F(frame_stream, a_frame_of_exactly_the_limit_is_read)
     close_writing_end();
     std::vector<uint8_t> message;
     try {
-        session_setup::read_frame(m_ends[0], message);
+        examples::read_frame(m_ends[0], message);
         FAIL() << "a frame without its end was read";
-    } catch (const session_setup::stream_error &error) {
-        EXPECT_STREQ(error.what(), "the stream ends inside a session, after 1 of 65536 bytes");
+    } catch (const examples::stream_error &error) {
+        EXPECT_STREQ(error.what(), "the stream ends inside a frame, after 1 of 65536 bytes");
     }
 }

@@ -13,18 +13,19 @@ namespace
 {
 
 using application_record = tum_nal_data_session_context;
+using examples::session_setup::compare_session;
 
-session_setup::subscriber subscriber_of(const cells &values)
+examples::subscriber subscriber_of(const cells &values)
 {
     const scratch_folder scratch;
-    const std::string names = session_setup::column_names();
-    return session_setup::read_subscribers(scratch.file("one.csv", names + "\n" + line_of(values, names))).front();
+    const std::string names = examples::column_names();
+    return examples::read_subscribers(scratch.file("one.csv", names + "\n" + line_of(values, names))).front();
 }
 
-application_record across_the_wire(const session_setup::subscriber &who)
+application_record across_the_wire(const examples::subscriber &who)
 {
     application_record sent, received;
-    session_setup::fill_session_record(sent, who);
+    examples::fill_session_record(sent, who);
     std::vector<uint8_t> wire(16384);
     const uint64_t size = tum_nal_data_gpb_encode_tum_session_context(&sent, wire.data(), 16384);
     EXPECT_LE(size, wire.size());
@@ -86,16 +87,16 @@ std::set<size_t> padding()
     return gaps;
 }
 
-std::string names_of(const std::vector<session_setup::mismatch> &mismatches)
+std::string names_of(const std::vector<examples::session_setup::mismatch> &mismatches)
 {
     std::string names;
-    for (const session_setup::mismatch &each : mismatches)
+    for (const examples::session_setup::mismatch &each : mismatches)
         names += (names.empty() ? "" : " ") + each.member;
     return names;
 }
 
 // Each byte of the record changed in turn, whichever values `who` has.
-void expect_every_changed_byte_noticed(const session_setup::subscriber &who)
+void expect_every_changed_byte_noticed(const examples::subscriber &who)
 {
     application_record received = across_the_wire(who);
     ASSERT_EQ(names_of(compare_session(who, received)), "");
@@ -129,10 +130,10 @@ TEST(session_compare, notices_every_changed_byte_of_a_session_without_features)
 
 TEST(session_compare, names_the_member_and_both_values)
 {
-    const session_setup::subscriber who = subscriber_of(full_cells());
+    const examples::subscriber who = subscriber_of(full_cells());
     application_record received = across_the_wire(who);
     received.qos[2].value_6 = 99;
-    const std::vector<session_setup::mismatch> mismatches = compare_session(who, received);
+    const std::vector<examples::session_setup::mismatch> mismatches = compare_session(who, received);
     ASSERT_EQ(mismatches.size(), 1U);
     EXPECT_EQ(mismatches[0].member, "qos[2].value_6");
     EXPECT_EQ(mismatches[0].wanted, "3");
@@ -141,8 +142,8 @@ TEST(session_compare, names_the_member_and_both_values)
 
 TEST(session_compare, refuses_values_of_a_feature_that_is_off)
 {
-    const session_setup::subscriber on = subscriber_of(full_cells());
-    const session_setup::subscriber off =
+    const examples::subscriber on = subscriber_of(full_cells());
+    const examples::subscriber off =
         subscriber_of(full_cells_but("features", "qos;acl;redirect;intercept;urpf;icmp;mtu;routes"));
     EXPECT_EQ(names_of(compare_session(off, across_the_wire(on))),
         "feature_mask accounting_flags accounting_value_2 accounting_value_3");
@@ -150,7 +151,7 @@ TEST(session_compare, refuses_values_of_a_feature_that_is_off)
 
 TEST(session_compare, wants_what_an_ipv4_route_calls_field_8_in_field_7)
 {
-    const session_setup::subscriber who = subscriber_of(full_cells());
+    const examples::subscriber who = subscriber_of(full_cells());
     const application_record received = across_the_wire(who);
     EXPECT_EQ(who.ipv4_routes[0].value_8, 8U);
     EXPECT_EQ(received.ipv4_routes[0].field_7, 8U);
@@ -173,11 +174,11 @@ TEST(session_compare, wants_zero_where_a_condition_for_sending_does_not_hold)
         {"l2tp", "tunnel|2001:db8::1|2001:db8::2"},
     };
     for (const auto &[column, cell] : rows) {
-        const session_setup::subscriber who = subscriber_of(full_cells_but(column, cell));
+        const examples::subscriber who = subscriber_of(full_cells_but(column, cell));
         EXPECT_EQ(names_of(compare_session(who, across_the_wire(who))), "") << column << " " << cell;
     }
-    const session_setup::subscriber all = subscriber_of(full_cells());
-    const session_setup::subscriber kind_2 = subscriber_of(full_cells_but("kind", "2"));
+    const examples::subscriber all = subscriber_of(full_cells());
+    const examples::subscriber kind_2 = subscriber_of(full_cells_but("kind", "2"));
     EXPECT_EQ(
         names_of(compare_session(kind_2, across_the_wire(all))), "session_value_1 session_identifier session_value_9");
 }

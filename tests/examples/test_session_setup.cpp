@@ -28,7 +28,7 @@ std::string process_of(const std::string &output, const std::string &role)
 // A file of one subscriber with everything, one cell of which is changed.
 std::string one_subscriber(const scratch_folder &scratch, const std::string &column, const std::string &cell)
 {
-    const std::string names = session_setup::column_names();
+    const std::string names = examples::column_names();
     return scratch.file(column + ".csv", names + "\n" + line_of(full_cells_but(column, cell), names));
 }
 
@@ -67,7 +67,7 @@ TEST(session_setup, help_names_the_columns_and_the_framing)
 {
     const program_result result = run_program(program + " --help");
     EXPECT_EQ(result.status, 0);
-    EXPECT_TRUE(has(result.output, session_setup::column_names())) << result.output;
+    EXPECT_TRUE(has(result.output, examples::column_names())) << result.output;
     EXPECT_TRUE(has(result.output, "4 bytes, big-endian")) << result.output;
 }
 
@@ -95,10 +95,9 @@ TEST(session_setup, a_receiver_that_dies_is_a_broken_pipe_that_names_the_line)
 {
     const program_result result = run_program(program + " --receiver /bin/false " + shipped);
     EXPECT_EQ(result.status, 1);
-    const std::regex message(
-        "[^\n]*subscribers\\.csv:[0-9]+: line id node-[^\n]*: not sent: the receiver has gone away "
-        "\\(broken pipe\\); this session and those after it are lost\\. See what the receiver "
-        "says, and send all again\nsession_setup: the receiver ended with status 1\n");
+    const std::regex message("[^\n]*subscribers\\.csv:[0-9]+: line id node-[^\n]*: not sent: the reader has gone away "
+                             "\\(broken pipe\\); this session and those after it are lost\\. See what the receiver "
+                             "says, and send all again\nsession_setup: the receiver ended with status 1\n");
     EXPECT_TRUE(std::regex_match(result.errors, message)) << result.errors;
     EXPECT_FALSE(has(result.output, "sender (process")) << result.output;
 }
@@ -180,7 +179,7 @@ TEST(session_setup, a_stream_that_ends_inside_a_session_is_noticed)
     const program_result result = receive_cut_stream(4 + 100);
     EXPECT_EQ(result.status, 1);
     EXPECT_TRUE(has(result.errors,
-        "subscribers.csv:41: line id node-02 1/1/1: not received: the stream ends inside a session, after 100 of 378 "
+        "subscribers.csv:41: line id node-02 1/1/1: not received: the stream ends inside a frame, after 100 of 378 "
         "bytes;"))
         << result.errors;
 }

@@ -5,16 +5,16 @@
 #include <algorithm>
 #include <gtest/gtest.h>
 
-using session_setup::feature;
-using session_setup::subscriber;
-using session_setup::tunnel_kind;
+using examples::feature;
+using examples::subscriber;
+using examples::tunnel_kind;
 
 namespace
 {
 
 const std::vector<subscriber> &shipped()
 {
-    static const std::vector<subscriber> subscribers = session_setup::read_subscribers(SUBSCRIBERS_FILE);
+    static const std::vector<subscriber> subscribers = examples::read_subscribers(SUBSCRIBERS_FILE);
     return subscribers;
 }
 
@@ -24,21 +24,21 @@ auto count_of(Condition condition)
     return std::ranges::count_if(shipped(), condition);
 }
 
-bool is_documentation_address(session_setup::ipv4_address address)
+bool is_documentation_address(examples::ipv4_address address)
 {
     const uint32_t range = address >> 8;
     return address == 0 || range == 0xC00002 || range == 0xC63364 || range == 0xCB0071;
 }
 
-bool is_documentation_address(const session_setup::ipv6_address &address)
+bool is_documentation_address(const examples::ipv6_address &address)
 {
     const std::array<uint8_t, 4> range = {0x20, 0x01, 0x0D, 0xB8};
-    return address == session_setup::ipv6_address{} || std::equal(range.begin(), range.end(), address.begin());
+    return address == examples::ipv6_address{} || std::equal(range.begin(), range.end(), address.begin());
 }
 
-std::vector<session_setup::ipv4_address> ipv4_addresses_of(const subscriber &who)
+std::vector<examples::ipv4_address> ipv4_addresses_of(const subscriber &who)
 {
-    std::vector<session_setup::ipv4_address> all;
+    std::vector<examples::ipv4_address> all;
     if (who.ipv4)
         all.push_back(who.ipv4->address);
     if (who.l2tp)
@@ -50,12 +50,12 @@ std::vector<session_setup::ipv4_address> ipv4_addresses_of(const subscriber &who
     return all;
 }
 
-std::vector<session_setup::ipv6_address> ipv6_addresses_of(const subscriber &who)
+std::vector<examples::ipv6_address> ipv6_addresses_of(const subscriber &who)
 {
-    std::vector<session_setup::ipv6_address> all = {who.ipv6_host.value_or(session_setup::ipv6_address{}),
-        who.ipv6_gateway.value_or(session_setup::ipv6_address{})};
+    std::vector<examples::ipv6_address> all = {
+        who.ipv6_host.value_or(examples::ipv6_address{}), who.ipv6_gateway.value_or(examples::ipv6_address{})};
     for (const auto &prefix : {who.ipv6_prefix, who.ipv6_delegated})
-        all.push_back(prefix ? prefix->address : session_setup::ipv6_address{});
+        all.push_back(prefix ? prefix->address : examples::ipv6_address{});
     if (who.l2tp)
         all.insert(all.end(), {who.l2tp->local_ipv6, who.l2tp->remote_ipv6});
     if (who.intercept)
@@ -91,8 +91,8 @@ TEST(shipped_subscribers, are_many_and_150_of_them_use_every_slot)
 
 TEST(shipped_subscribers, come_by_every_kind_of_access)
 {
-    EXPECT_GE(count_of([](const subscriber &who) { return who.access == session_setup::access_kind::direct; }), 200);
-    EXPECT_GE(count_of([](const subscriber &who) { return who.access == session_setup::access_kind::ppp; }), 200);
+    EXPECT_GE(count_of([](const subscriber &who) { return who.access == examples::access_kind::direct; }), 200);
+    EXPECT_GE(count_of([](const subscriber &who) { return who.access == examples::access_kind::ppp; }), 200);
     for (const tunnel_kind kind : {tunnel_kind::open, tunnel_kind::ipv4, tunnel_kind::ipv6})
         EXPECT_GE(count_of([kind](const subscriber &who) { return who.l2tp && who.l2tp->kind == kind; }), 20);
 }
@@ -111,9 +111,9 @@ TEST(shipped_subscribers, have_each_feature_on_and_off_with_values_that_then_sta
 TEST(shipped_subscribers, have_documentation_addresses_and_names_only)
 {
     for (const subscriber &who : shipped()) {
-        for (const session_setup::ipv4_address address : ipv4_addresses_of(who))
+        for (const examples::ipv4_address address : ipv4_addresses_of(who))
             EXPECT_TRUE(is_documentation_address(address)) << who.line;
-        for (const session_setup::ipv6_address &address : ipv6_addresses_of(who))
+        for (const examples::ipv6_address &address : ipv6_addresses_of(who))
             EXPECT_TRUE(is_documentation_address(address)) << who.line;
         EXPECT_TRUE(has_example_name(who.user)) << who.user;
         EXPECT_TRUE(!who.l2tp || has_example_name(who.l2tp->name)) << who.line;

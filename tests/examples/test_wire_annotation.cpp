@@ -11,7 +11,7 @@ const std::string heading = "byte  in hex                               field\n"
 
 std::string annotate(const std::vector<uint8_t> &wire)
 {
-    const std::string text = session_setup::annotate_wire(wire);
+    const std::string text = examples::session_setup::annotate_wire(wire);
     EXPECT_EQ(text.substr(0, heading.size()), heading);
     return text.substr(heading.size());
 }

@@ -4,7 +4,7 @@
 #include <cassert>
 #include <cstring>
 
-namespace session_setup
+namespace examples
 {
 
 namespace
@@ -290,4 +290,4 @@ void fill_session_record(tum_nal_data_session_context &record, const subscriber 
     fill_routes(record, who);
 }
 
-} // namespace session_setup
+} // namespace examples

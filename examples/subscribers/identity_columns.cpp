@@ -3,7 +3,7 @@
 #include "cell_values.h"
 #include "tum_nal/nal_session_context.h"
 
-namespace session_setup
+namespace examples
 {
 
 namespace
@@ -120,4 +120,4 @@ std::span<const column> identity_columns()
     return columns;
 }
 
-} // namespace session_setup
+} // namespace examples

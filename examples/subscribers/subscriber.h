@@ -1,6 +1,6 @@
 // One subscriber as the file gives it. Which line of the application record each value becomes: session_record.h.
-#ifndef SESSION_SETUP_SUBSCRIBER_H
-#define SESSION_SETUP_SUBSCRIBER_H
+#ifndef EXAMPLES_SUBSCRIBER_H
+#define EXAMPLES_SUBSCRIBER_H
 
 #include <array>
 #include <cstdint>
@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-namespace session_setup
+namespace examples
 {
 
 using ipv4_address = uint32_t; // host byte order: 192.0.2.1 is 0xC0000201
@@ -130,6 +130,6 @@ struct subscriber {
     }
 };
 
-} // namespace session_setup
+} // namespace examples
 
 #endif

@@ -8,7 +8,7 @@
 #include <system_error>
 #include <unistd.h>
 
-namespace session_setup
+namespace examples
 {
 
 namespace
@@ -19,8 +19,28 @@ namespace
     throw std::system_error(error, std::generic_category(), what);
 }
 
-// Standard input from the pipe; SIGPIPE as programs expect it, since this process ignores it.
-int spawn(pid_t &process, const std::vector<std::string> &command, int standard_input)
+struct pipe_ends {
+    int reading = -1, writing = -1;
+};
+
+// Closed on exec: were the child to hold our ends too, it would never see the stream's end.
+pipe_ends make_pipe()
+{
+    int ends[2];
+    if (pipe2(ends, O_CLOEXEC) != 0)
+        fail(errno, "cannot make a pipe");
+    return {ends[0], ends[1]};
+}
+
+void close_and_forget(int &fd)
+{
+    if (fd >= 0)
+        close(fd);
+    fd = -1;
+}
+
+// SIGPIPE as programs expect it, since this process ignores it. A standard output of -1 is inherited.
+int spawn(pid_t &process, const std::vector<std::string> &command, int standard_input, int standard_output)
 {
     std::vector<char *> arguments;
     for (const std::string &argument : command)
@@ -34,6 +54,8 @@ int spawn(pid_t &process, const std::vector<std::string> &command, int standard_
     posix_spawn_file_actions_init(&actions);
     posix_spawnattr_init(&attributes);
     posix_spawn_file_actions_adddup2(&actions, standard_input, STDIN_FILENO);
+    if (standard_output >= 0)
+        posix_spawn_file_actions_adddup2(&actions, standard_output, STDOUT_FILENO);
     posix_spawnattr_setsigdefault(&attributes, &default_signals);
     posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETSIGDEF);
     const int error = posix_spawn(&process, arguments[0], &actions, &attributes, arguments.data(), environ);
@@ -44,17 +66,18 @@ int spawn(pid_t &process, const std::vector<std::string> &command, int standard_
 
 } // namespace
 
-child_process::child_process(const std::vector<std::string> &command)
+child_process::child_process(const std::vector<std::string> &command, child_output output)
 {
-    int ends[2];
-    // Closed on exec: were the child to hold the writing end too, it would never see the stream's end.
-    if (pipe2(ends, O_CLOEXEC) != 0)
-        fail(errno, "cannot make a pipe");
-    const int error = spawn(m_process, command, ends[0]);
-    close(ends[0]);
-    m_input = ends[1];
+    pipe_ends to_child = make_pipe();
+    pipe_ends from_child = output == child_output::piped ? make_pipe() : pipe_ends{};
+    const int error = spawn(m_process, command, to_child.reading, from_child.writing);
+    close_and_forget(to_child.reading);
+    close_and_forget(from_child.writing);
+    m_input = to_child.writing;
+    m_output = from_child.reading;
     if (error != 0) {
-        close(m_input);
+        close_and_forget(m_input);
+        close_and_forget(m_output);
         fail(error, "cannot start the receiver " + command[0]);
     }
 }
@@ -66,9 +89,8 @@ child_process::~child_process()
 
 int child_process::finish()
 {
-    if (m_input >= 0)
-        close(m_input);
-    m_input = -1;
+    close_and_forget(m_input);
+    close_and_forget(m_output);
     if (m_process < 0)
         return 0;
     int status = 0;
@@ -78,4 +100,4 @@ int child_process::finish()
     return WIFSIGNALED(status) ? 128 + WTERMSIG(status) : WEXITSTATUS(status);
 }
 
-} // namespace session_setup
+} // namespace examples

@@ -4,7 +4,7 @@
 
 #include <unordered_map>
 
-namespace session_setup
+namespace examples
 {
 
 namespace
@@ -73,4 +73,4 @@ std::vector<subscriber> read_subscribers(const std::string &path)
     return subscribers;
 }
 
-} // namespace session_setup
+} // namespace examples

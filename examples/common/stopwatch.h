@@ -1,12 +1,12 @@
 // Adds up the time spent in calls of the library, and nothing else.
-#ifndef SESSION_SETUP_STOPWATCH_H
-#define SESSION_SETUP_STOPWATCH_H
+#ifndef EXAMPLES_STOPWATCH_H
+#define EXAMPLES_STOPWATCH_H
 
 #include <chrono>
 #include <cstddef>
 #include <string>
 
-namespace session_setup
+namespace examples
 {
 
 class stopwatch
@@ -44,6 +44,6 @@ private:
     clock::duration m_total{};
 };
 
-} // namespace session_setup
+} // namespace examples
 
 #endif

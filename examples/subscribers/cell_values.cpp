@@ -4,7 +4,7 @@
 #include <arpa/inet.h>
 #include <charconv>
 
-namespace session_setup
+namespace examples
 {
 
 namespace
@@ -116,4 +116,4 @@ size_t index_of_word(const cell &value, std::span<const char *const> words)
     value.refuse("\"" + std::string(value.text) + "\" is not known", "use one of: " + known);
 }
 
-} // namespace session_setup
+} // namespace examples

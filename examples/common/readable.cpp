@@ -3,7 +3,7 @@
 #include <arpa/inet.h>
 #include <cstdio>
 
-namespace session_setup
+namespace examples
 {
 
 namespace
@@ -60,4 +60,4 @@ std::string readable_count(uint64_t count)
     return digits;
 }
 
-} // namespace session_setup
+} // namespace examples

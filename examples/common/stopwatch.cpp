@@ -4,7 +4,7 @@
 
 #include <cstdio>
 
-namespace session_setup
+namespace examples
 {
 
 std::string stopwatch::report(size_t sessions, size_t bytes, const char *verb) const
@@ -17,4 +17,4 @@ std::string stopwatch::report(size_t sessions, size_t bytes, const char *verb) c
            milliseconds + " = " + readable_count(static_cast<uint64_t>(rate)) + " sessions per second";
 }
 
-} // namespace session_setup
+} // namespace examples

@@ -1,14 +1,14 @@
 // What one cell or value says: a number, an address, a prefix, bytes, a text. Each refuses a text that is none, with
 // the file's name and line. An empty cell is zero or empty.
-#ifndef SESSION_SETUP_CELL_VALUES_H
-#define SESSION_SETUP_CELL_VALUES_H
+#ifndef EXAMPLES_CELL_VALUES_H
+#define EXAMPLES_CELL_VALUES_H
 
 #include "csv_file.h"
 #include "subscriber.h"
 
 #include <limits>
 
-namespace session_setup
+namespace examples
 {
 
 uint64_t number_up_to(const cell &value, uint64_t largest);
@@ -43,6 +43,6 @@ void read_bytes(const cell &value, std::span<uint8_t> bytes);
 // The position of the cell's word in `words`.
 size_t index_of_word(const cell &value, std::span<const char *const> words);
 
-} // namespace session_setup
+} // namespace examples
 
 #endif

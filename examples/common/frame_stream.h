@@ -5,15 +5,15 @@
 //   +-----------------------------+-------------------+
 //
 // The stream may end between two frames only. Works on pipes, sockets and files alike.
-#ifndef SESSION_SETUP_FRAME_STREAM_H
-#define SESSION_SETUP_FRAME_STREAM_H
+#ifndef EXAMPLES_FRAME_STREAM_H
+#define EXAMPLES_FRAME_STREAM_H
 
 #include <cstdint>
 #include <span>
 #include <stdexcept>
 #include <vector>
 
-namespace session_setup
+namespace examples
 {
 
 // The stream broke. what() says how.
@@ -32,6 +32,6 @@ void write_frame(int fd, std::span<const uint8_t> message);
 // False at the end of the stream. `message` keeps its memory from call to call.
 bool read_frame(int fd, std::vector<uint8_t> &message);
 
-} // namespace session_setup
+} // namespace examples
 
 #endif

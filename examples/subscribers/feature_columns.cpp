@@ -3,7 +3,7 @@
 #include "cell_values.h"
 #include "tum_nal/nal_session_context.h"
 
-namespace session_setup
+namespace examples
 {
 
 namespace
@@ -217,4 +217,4 @@ void check_feature_columns(const cell &line, const subscriber &who)
     }
 }
 
-} // namespace session_setup
+} // namespace examples

@@ -6,7 +6,7 @@
 #include <fstream>
 #include <system_error>
 
-namespace session_setup
+namespace examples
 {
 
 namespace
@@ -115,4 +115,4 @@ std::vector<cell> values_of(const cell &entry, std::span<const char *const> name
     return values;
 }
 
-} // namespace session_setup
+} // namespace examples

@@ -6,7 +6,7 @@
 #include <string>
 #include <unistd.h>
 
-namespace session_setup
+namespace examples
 {
 
 namespace
@@ -21,7 +21,7 @@ void write_all(int fd, std::span<const uint8_t> bytes)
         if (written >= 0)
             bytes = bytes.subspan(static_cast<size_t>(written));
         else if (errno == EPIPE)
-            throw stream_error("the receiver has gone away (broken pipe)");
+            throw stream_error("the reader has gone away (broken pipe)");
         else if (errno != EINTR)
             throw stream_error(std::string("cannot write: ") + std::strerror(errno));
     }
@@ -72,12 +72,12 @@ bool read_frame(int fd, std::vector<uint8_t> &message)
         length = length << 8 | byte;
     if (length > frame_limit_bytes)
         throw stream_error("a frame claims " + std::to_string(length) + " bytes, but " +
-                           std::to_string(frame_limit_bytes) + " is the limit: this is no stream of sessions");
+                           std::to_string(frame_limit_bytes) + " is the limit: this is no stream of our messages");
     message.resize(length);
     const size_t message_bytes = read_up_to(fd, message);
     if (message_bytes < length)
-        throw stream_error("the stream ends inside a session, after " + got_of(message_bytes, length));
+        throw stream_error("the stream ends inside a frame, after " + got_of(message_bytes, length));
     return true;
 }
 
-} // namespace session_setup
+} // namespace examples

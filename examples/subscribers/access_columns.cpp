@@ -3,7 +3,7 @@
 #include "cell_values.h"
 #include "tum_nal/nal_session_context.h"
 
-namespace session_setup
+namespace examples
 {
 
 namespace
@@ -102,4 +102,4 @@ void check_access_columns(const cell &line, const subscriber &who)
         access.refuse("l2tp, but the l2tp cell is empty", "fill that cell or name the right access");
 }
 
-} // namespace session_setup
+} // namespace examples

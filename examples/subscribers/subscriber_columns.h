@@ -3,13 +3,13 @@
 //   identity_columns.cpp   who and where: line id, names, addresses, VLANs
 //   access_columns.cpp     how the subscriber reaches us: PPP, L2TP
 //   feature_columns.cpp    what is set for the subscriber: QoS, access lists, routes and so on
-#ifndef SESSION_SETUP_SUBSCRIBER_COLUMNS_H
-#define SESSION_SETUP_SUBSCRIBER_COLUMNS_H
+#ifndef EXAMPLES_SUBSCRIBER_COLUMNS_H
+#define EXAMPLES_SUBSCRIBER_COLUMNS_H
 
 #include "csv_file.h"
 #include "subscriber.h"
 
-namespace session_setup
+namespace examples
 {
 
 struct column {
@@ -26,6 +26,6 @@ std::span<const column> feature_columns();
 void check_access_columns(const cell &line, const subscriber &who);
 void check_feature_columns(const cell &line, const subscriber &who);
 
-} // namespace session_setup
+} // namespace examples
 
 #endif

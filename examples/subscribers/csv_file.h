@@ -3,8 +3,8 @@
 //   file     lines that start with '#' and empty lines mean nothing; the first other line names the columns
 //   line     cells between ','; there is no quoting, and a cell cannot hold ',' ';' '|' or '"'
 //   cell     a list of entries between ';', an entry being values between '|'
-#ifndef SESSION_SETUP_CSV_FILE_H
-#define SESSION_SETUP_CSV_FILE_H
+#ifndef EXAMPLES_CSV_FILE_H
+#define EXAMPLES_CSV_FILE_H
 
 #include <cstddef>
 #include <span>
@@ -13,7 +13,7 @@
 #include <string_view>
 #include <vector>
 
-namespace session_setup
+namespace examples
 {
 
 // The file cannot be read or does not say what it must. what() names file, line and column, and what to do.
@@ -55,6 +55,6 @@ std::vector<cell> entries_of(const cell &list, size_t entry_limit);
 // The values of an entry by their names. Values at the end may be left out; they are then empty.
 std::vector<cell> values_of(const cell &entry, std::span<const char *const> names);
 
-} // namespace session_setup
+} // namespace examples
 
 #endif

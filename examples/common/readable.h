@@ -1,13 +1,13 @@
 // Values as people write them.
-#ifndef SESSION_SETUP_READABLE_H
-#define SESSION_SETUP_READABLE_H
+#ifndef EXAMPLES_READABLE_H
+#define EXAMPLES_READABLE_H
 
 #include <cstdint>
 #include <span>
 #include <string>
 #include <string_view>
 
-namespace session_setup
+namespace examples
 {
 
 std::string readable_ipv4(uint32_t host_order);
@@ -24,6 +24,6 @@ std::string readable_text(std::string_view text);
 // 1234567 is 1,234,567.
 std::string readable_count(uint64_t count);
 
-} // namespace session_setup
+} // namespace examples
 
 #endif
