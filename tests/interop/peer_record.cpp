@@ -53,6 +53,10 @@ void fill_field(peer_message &peer, const field_value &field)
         for (const record_value &element : field.records)
             fill_peer(*access.AddMessage(&peer, descriptor), element);
         break;
+    case field_kind::texts:
+        for (const byte_vector &text : texts_on_wire(field))
+            access.AddString(&peer, descriptor, std::string(text.begin(), text.end()));
+        break;
     }
 }
 
@@ -62,6 +66,10 @@ void read_list(const peer_message &peer, const FieldDescriptor *descriptor, fiel
     field.present = count != 0;
     field.integer = static_cast<uint64_t>(count);
     for (int i = 0; i < count; ++i) {
+        if (field.kind == field_kind::texts) {
+            field.texts.push_back(to_bytes(peer.GetReflection()->GetRepeatedString(peer, descriptor, i)));
+            continue;
+        }
         const peer_message &element = peer.GetReflection()->GetRepeatedMessage(peer, descriptor, i);
         field.records.push_back(read_peer(element, *field.element_skeleton));
     }
@@ -71,7 +79,7 @@ void read_field(const peer_message &peer, field_value &field)
 {
     const Reflection &access = *peer.GetReflection();
     const FieldDescriptor *descriptor = descriptor_of(peer, field);
-    if (field.kind == field_kind::records) {
+    if (is_list(field.kind)) {
         read_list(peer, descriptor, field);
         return;
     }

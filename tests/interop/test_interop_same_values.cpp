@@ -113,6 +113,7 @@ FieldDescriptor::Type schema_type_of(field_kind kind)
         return FieldDescriptor::TYPE_FIXED32;
     case field_kind::bytes:
     case field_kind::text:
+    case field_kind::texts:
         return FieldDescriptor::TYPE_BYTES;
     default:
         return FieldDescriptor::TYPE_MESSAGE;
@@ -129,7 +130,7 @@ TEST_P(interop, the_schema_has_the_fields_of_the_record_and_no_others)
         const FieldDescriptor *described = schema.FindFieldByNumber(static_cast<int>(field.number));
         ASSERT_NE(described, nullptr) << "field " << field.number;
         EXPECT_EQ(described->type(), schema_type_of(field.kind)) << described->full_name();
-        EXPECT_EQ(described->is_repeated(), field.kind == field_kind::records) << described->full_name();
+        EXPECT_EQ(described->is_repeated(), is_list(field.kind)) << described->full_name();
     }
 }
 

@@ -26,6 +26,22 @@ int32_t expect_elements(field_value &field, const field_value &sent, allocation_
     return MAVA_TUM_OK;
 }
 
+// The same for texts. Slots behind the one that cannot be had stay null.
+int32_t expect_texts(field_value &field, const field_value &sent, allocation_plan &plan)
+{
+    const std::vector<byte_vector> texts = texts_on_wire(sent);
+    if (!plan.allocate(texts.size() * sent.element_bytes))
+        return MAVA_TUM_NO_MEMORY;
+    field.integer = texts.size();
+    field.texts.resize(texts.size());
+    for (std::size_t i = 0; i < texts.size(); ++i) {
+        if (!plan.allocate(texts[i].size() + 1))
+            return MAVA_TUM_NO_MEMORY;
+        field.texts[i] = texts[i];
+    }
+    return MAVA_TUM_OK;
+}
+
 int32_t expect_field(field_value &field, const field_value &sent, allocation_plan &plan, bool alias)
 {
     switch (sent.kind) {
@@ -33,6 +49,8 @@ int32_t expect_field(field_value &field, const field_value &sent, allocation_pla
         return expect_decode(field.records.front(), sent.records.front(), plan, alias);
     case field_kind::records:
         return expect_elements(field, sent, plan, alias);
+    case field_kind::texts:
+        return expect_texts(field, sent, plan);
     case field_kind::bytes:
         if (!alias && !plan.allocate(sent.integer))
             return MAVA_TUM_NO_MEMORY;
@@ -74,6 +92,22 @@ int32_t expect_duplicate_elements(field_value &field, const field_value &source,
     return result;
 }
 
+// A text that cannot be had leaves its slot null; the others are copied all the same.
+int32_t expect_duplicate_texts(field_value &field, const field_value &source, allocation_plan &plan)
+{
+    int32_t result = expect_duplicate_block(field, source, source.integer * source.element_bytes, plan);
+    if (result != MAVA_TUM_OK)
+        return result;
+    field.texts.resize(source.texts.size());
+    for (std::size_t i = 0; i < source.texts.size(); ++i) {
+        if (source.texts[i] && plan.allocate(source.texts[i]->size() + 1))
+            field.texts[i] = source.texts[i];
+        else if (source.texts[i])
+            result = MAVA_TUM_NO_MEMORY;
+    }
+    return result;
+}
+
 int32_t expect_duplicate_field(field_value &field, const field_value &source, allocation_plan &plan)
 {
     field.present = source.present;
@@ -82,6 +116,8 @@ int32_t expect_duplicate_field(field_value &field, const field_value &source, al
         return expect_duplicate(field.records.front(), source.records.front(), plan);
     case field_kind::records:
         return source.integer == 0 ? MAVA_TUM_OK : expect_duplicate_elements(field, source, plan);
+    case field_kind::texts:
+        return source.integer == 0 ? MAVA_TUM_OK : expect_duplicate_texts(field, source, plan);
     case field_kind::bytes:
         return source.integer == 0 ? MAVA_TUM_OK : expect_duplicate_block(field, source, source.integer, plan);
     case field_kind::text:
@@ -104,11 +140,14 @@ void expect_release(field_value &field, bool alias, std::vector<uint64_t> &relea
         const std::vector<uint64_t> inner = expect_free(nested, alias);
         released.insert(released.end(), inner.begin(), inner.end());
     }
-    if (field.kind == field_kind::records) {
-        if (!field.records.empty())
+    for (const byte_vector &text : texts_on_wire(field))
+        released.push_back(text.size() + 1);
+    if (is_list(field.kind)) {
+        if (!field.records.empty() || !field.texts.empty())
             released.push_back(field.integer * field.element_bytes);
         field.integer = 0;
         field.records.clear();
+        field.texts.clear();
     }
 }
 
@@ -117,6 +156,7 @@ void remove_field(field_value &field)
     field.present = false;
     field.integer = 0;
     field.content.reset();
+    field.texts.clear();
     if (field.kind == field_kind::records)
         field.records.clear();
     for (record_value &nested : field.records)
@@ -127,10 +167,15 @@ void keep_elements(field_value &field, std::size_t count)
 {
     if (count == 0)
         remove_field(field);
-    if (field.kind == field_kind::records && count != 0) {
-        field.integer = count;
+    if (count == 0 || !is_list(field.kind))
+        return;
+    field.integer = count;
+    if (field.kind == field_kind::records) {
         field.records.resize(count);
+        return;
     }
+    std::erase(field.texts, std::nullopt);
+    field.texts.resize(count);
 }
 
 } // namespace
@@ -182,7 +227,7 @@ record_value sent_before_cut(const record_value &sent, std::size_t cut, int32_t 
             complete[entry.field_index] = 0;
         const bool follows_another = entry.element_index == 0 && &entry != &entries.front();
         const std::size_t previous = follows_another ? (&entry - 1)->field_index : entry.field_index;
-        if (cut < entry.start + entry.tag_bytes && sent.fields[previous].kind == field_kind::records)
+        if (cut < entry.start + entry.tag_bytes && is_list(sent.fields[previous].kind))
             complete[previous] = 0;
         break;
     }

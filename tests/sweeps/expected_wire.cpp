@@ -37,7 +37,11 @@ public:
             bytes(field);
             break;
         case field_kind::text:
-            payload(field);
+            payload(field.number, *field.content);
+            break;
+        case field_kind::texts:
+            for (const byte_vector &text : texts_on_wire(field))
+                payload(field.number, text);
             break;
         case field_kind::record:
         case field_kind::records:
@@ -59,7 +63,7 @@ private:
     void bytes(const field_value &field)
     {
         if (mode_ == wire_mode::copied) {
-            payload(field);
+            payload(field.number, field.content.value_or(byte_vector()));
             return;
         }
         builder_.tag(field.number, wire_type::length_delimited).bare_varint(field.integer);
@@ -69,10 +73,9 @@ private:
         end_of_last_piece_ = builder_.bytes().size();
     }
 
-    void payload(const field_value &field)
+    void payload(uint32_t number, const byte_vector &content)
     {
-        const byte_vector content = field.content.value_or(byte_vector());
-        builder_.length_delimited(field.number, content);
+        builder_.length_delimited(number, content);
         result_.payloads.push_back({builder_.bytes().size() - content.size(), content.size()});
     }
 
@@ -95,7 +98,42 @@ private:
     std::size_t end_of_last_piece_ = 0;
 };
 
+// The field once for each of its tags, with what follows that tag.
+std::vector<field_value> split_into_entries(const field_value &field)
+{
+    field_value empty = field;
+    empty.records.clear();
+    empty.texts.clear();
+    std::vector<field_value> entries;
+    switch (field.kind) {
+    case field_kind::records:
+        for (const record_value &element : field.records) {
+            entries.push_back(empty);
+            entries.back().records.push_back(element);
+        }
+        return entries;
+    case field_kind::texts:
+        for (const byte_vector &text : texts_on_wire(field)) {
+            entries.push_back(empty);
+            entries.back().texts.push_back(text);
+        }
+        return entries;
+    default:
+        return {field};
+    }
+}
+
 } // namespace
+
+std::vector<byte_vector> texts_on_wire(const field_value &field)
+{
+    std::vector<byte_vector> texts;
+    for (const std::optional<byte_vector> &text : field.texts) {
+        if (text)
+            texts.push_back(*text);
+    }
+    return texts;
+}
 
 bool is_written(const field_value &field)
 {
@@ -106,6 +144,8 @@ bool is_written(const field_value &field)
         return field.present || has_content(field.records.front());
     case field_kind::records:
         return field.present && field.integer != 0;
+    case field_kind::texts:
+        return field.present && !texts_on_wire(field).empty();
     default:
         return field.present;
     }
@@ -126,15 +166,12 @@ std::vector<wire_entry> top_level_entries(const record_value &record)
     for (std::size_t i = 0; i < record.fields.size(); ++i) {
         if (!is_written(record.fields[i]))
             continue;
-        const bool is_list = record.fields[i].kind == field_kind::records;
-        const std::size_t entry_count = is_list ? record.fields[i].records.size() : 1;
-        for (std::size_t element = 0; element < entry_count; ++element) {
-            record_value alone;
-            alone.fields.push_back(record.fields[i]);
-            if (is_list)
-                alone.fields[0].records = {record.fields[i].records[element]};
+        const std::vector<field_value> alone = split_into_entries(record.fields[i]);
+        for (std::size_t element = 0; element < alone.size(); ++element) {
+            record_value entry;
+            entry.fields.push_back(alone[element]);
             const std::size_t tag_bytes = record.fields[i].number < 16 ? 1 : 2;
-            const std::size_t end = position + wire_of(alone).bytes.size();
+            const std::size_t end = position + wire_of(entry).bytes.size();
             entries.push_back({position, tag_bytes, end, i, element});
             position = end;
         }

@@ -34,6 +34,9 @@ struct wire_entry {
     std::size_t element_index;
 };
 
+// The texts that an encoder writes of a list: a null element is left out.
+std::vector<byte_vector> texts_on_wire(const field_value &field);
+
 // Whether an encoder writes the field at all.
 bool is_written(const field_value &field);
 

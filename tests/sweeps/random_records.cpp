@@ -64,6 +64,14 @@ void fill_randomly(field_value &field, random_source &random)
         for (record_value &element : field.records)
             fill_randomly(element, random);
         break;
+    case field_kind::texts:
+        field.integer = random_count(random);
+        field.texts.resize(field.integer);
+        for (std::optional<byte_vector> &text : field.texts) {
+            if (!chance(random, 5))
+                text = random_text(random_length(random), random);
+        }
+        break;
     default:
         field.integer = random_integer(field.kind, random);
         break;
@@ -104,6 +112,11 @@ void fill_fully(record_value &record, uint32_t &counter)
             for (record_value &element : field.records)
                 fill_fully(element, counter);
             break;
+        case field_kind::texts:
+            field.integer = 3;
+            for (std::size_t i = 0; i < field.integer; ++i)
+                field.texts.emplace_back(byte_vector(length + i, static_cast<uint8_t>('A' + counter % 26)));
+            break;
         case field_kind::varint64:
             field.integer = ~uint64_t{0} >> (7 * (counter % 9));
             break;
@@ -123,14 +136,22 @@ void fill_hollow(field_value &field)
         field.integer = 3;
         field.records.assign(3, *field.element_skeleton);
     }
+    if (field.kind == field_kind::texts) {
+        field.integer = 3;
+        field.texts = {byte_vector(), std::nullopt, byte_vector()};
+    }
 }
 
-// Bits without what they promise, which an encoder leaves out: null texts, lists of no elements; in nested records that
-// are not marked themselves.
+// Bits without what they promise, which an encoder leaves out: null texts, lists of no elements or of null texts only;
+// in nested records that are not marked themselves.
 void mark_missing(record_value &record)
 {
     for (field_value &field : record.fields) {
-        field.present = field.kind == field_kind::text || field.kind == field_kind::records;
+        field.present = field.kind == field_kind::text || is_list(field.kind);
+        if (field.kind == field_kind::texts) {
+            field.integer = 2;
+            field.texts.resize(2);
+        }
         if (field.kind == field_kind::record)
             mark_missing(field.records.front());
     }
@@ -175,6 +196,37 @@ record_value random_record(const record_value &skeleton, random_source &random)
     record_value record = skeleton;
     fill_randomly(record, random);
     return record;
+}
+
+void fill_list(field_value &list, std::size_t count, random_source &random)
+{
+    fill_list_with_empty_elements(list, count);
+    for (record_value &element : list.records)
+        fill_randomly(element, random);
+    for (std::optional<byte_vector> &text : list.texts)
+        text = random_text(random_length(random), random);
+}
+
+void fill_list_with_empty_elements(field_value &list, std::size_t count)
+{
+    list.present = true;
+    list.integer = count;
+    if (list.kind == field_kind::records)
+        list.records.assign(count, *list.element_skeleton);
+    else
+        list.texts.assign(count, byte_vector());
+}
+
+std::size_t field_count_of(const record_value &skeleton)
+{
+    std::size_t count = skeleton.fields.size();
+    for (const field_value &field : skeleton.fields) {
+        if (field.kind == field_kind::record)
+            count += field_count_of(field.records.front());
+        if (field.kind == field_kind::records)
+            count += field_count_of(*field.element_skeleton);
+    }
+    return count;
 }
 
 // Any bytes but NUL: neither the character set nor UTF-8 matters.

@@ -21,7 +21,8 @@ struct named_record {
 // Every field with content at every depth, lists of three elements, varints of every width.
 record_value full_record(const record_value &skeleton);
 
-// Every field present and empty: zeros, empty texts and bytes, records and list elements without a field.
+// Every field present and empty: zeros, empty texts and bytes, records and list elements without a field, a null text
+// in the middle of a list.
 record_value hollow_record(const record_value &skeleton);
 
 // The full record and the hollow one, one whose bits promise texts and lists that it does not have, one with every
@@ -31,6 +32,13 @@ std::vector<named_record> seeds_of(const record_value &skeleton);
 // Any mixture, also the odd ones that callers may hand over: values without their bit, bits without their text, lists
 // of no elements, bytes whose pointer is null and whose length is 0. Spare mask bits are random at every depth.
 record_value random_record(const record_value &skeleton, random_source &random);
+
+// Gives the list `count` elements, random ones or empty ones, and marks it present.
+void fill_list(field_value &list, std::size_t count, random_source &random);
+void fill_list_with_empty_elements(field_value &list, std::size_t count);
+
+// The number of fields at all depths, with one element in each list: what a record costs to generate and compare.
+std::size_t field_count_of(const record_value &skeleton);
 
 byte_vector random_text(std::size_t length, random_source &random);
 

@@ -88,6 +88,13 @@ protected:
         return field;
     }
 
+    field_value &add_texts(uint32_t number)
+    {
+        field_value &field = add(number, field_kind::texts);
+        field.element_bytes = sizeof(char *);
+        return field;
+    }
+
 private:
     uint64_t mask_;
     record_value &result_;
@@ -123,9 +130,7 @@ public:
 
     void text(uint32_t number, const char *member)
     {
-        field_value &field = add(number, field_kind::text);
-        if (member != nullptr)
-            field.content.emplace(member, member + std::strlen(member));
+        add(number, field_kind::text).content = copy_of(member);
     }
 
     template <class nested_type>
@@ -141,6 +146,22 @@ public:
         field.integer = count;
         for (uint32_t i = 0; elements != nullptr && i < count; ++i)
             field.records.push_back(read_record(elements[i]));
+    }
+
+    void texts(uint32_t number, char *const *elements, uint32_t count)
+    {
+        field_value &field = add_texts(number);
+        field.integer = count;
+        for (uint32_t i = 0; elements != nullptr && i < count; ++i)
+            field.texts.push_back(copy_of(elements[i]));
+    }
+
+private:
+    static std::optional<byte_vector> copy_of(const char *text)
+    {
+        if (text == nullptr)
+            return std::nullopt;
+        return byte_vector(text, text + std::strlen(text));
     }
 };
 
@@ -187,6 +208,11 @@ public:
         add_records<element_type>(number).present = false;
     }
 
+    void texts(uint32_t number, const char *const *, uint32_t)
+    {
+        add_texts(number).present = false;
+    }
+
 private:
     field_value &add_blank(uint32_t number, field_kind kind)
     {
@@ -227,12 +253,7 @@ public:
 
     void text(uint32_t number, char *&member)
     {
-        const field_value &field = take(number);
-        member = nullptr;
-        if (field.content) {
-            member = static_cast<char *>(copy_of(*field.content, field.content->size() + 1));
-            member[field.content->size()] = '\0';
-        }
+        member = terminated_copy_of(take(number).content);
     }
 
     template <class nested_type>
@@ -252,6 +273,18 @@ public:
         elements = static_cast<element_type *>(memory_.new_block(field.records.size() * sizeof(element_type)));
         for (std::size_t i = 0; i < field.records.size(); ++i)
             fill_record(*new (&elements[i]) element_type, field.records[i], memory_);
+    }
+
+    void texts(uint32_t number, char **&elements, uint32_t &count)
+    {
+        const field_value &field = take(number);
+        elements = nullptr;
+        count = static_cast<uint32_t>(field.integer);
+        if (field.texts.empty())
+            return;
+        elements = static_cast<char **>(memory_.new_block(field.texts.size() * sizeof(char *)));
+        for (std::size_t i = 0; i < field.texts.size(); ++i)
+            elements[i] = terminated_copy_of(field.texts[i]);
     }
 
     uint64_t mask() const
@@ -275,6 +308,15 @@ private:
         return block;
     }
 
+    char *terminated_copy_of(const std::optional<byte_vector> &content)
+    {
+        if (!content)
+            return nullptr;
+        char *text = static_cast<char *>(copy_of(*content, content->size() + 1));
+        text[content->size()] = '\0';
+        return text;
+    }
+
     const field_value *next_;
     record_memory &memory_;
     uint64_t mask_ = 0;
@@ -293,6 +335,8 @@ public:
     void fixed32(uint32_t, uint32_t) {}
 
     void text(uint32_t, const char *) {}
+
+    void texts(uint32_t, const char *const *, uint32_t) {}
 
     void bytes(uint32_t number, const mava_tum_bytes &member)
     {

@@ -25,6 +25,18 @@ std::string shown(const std::optional<byte_vector> &content)
     return std::to_string(content->size()) + " bytes " + hex_of(content->data(), shown_bytes);
 }
 
+std::string texts_differ(
+    const std::vector<std::optional<byte_vector>> &actual, const std::vector<std::optional<byte_vector>> &expected)
+{
+    if (actual.size() != expected.size())
+        return numbers_differ("texts reached through the pointer", actual.size(), expected.size());
+    for (std::size_t i = 0; i < actual.size(); ++i) {
+        if (actual[i] != expected[i])
+            return "text " + std::to_string(i) + " is " + shown(actual[i]) + ", expected " + shown(expected[i]);
+    }
+    return "";
+}
+
 std::string difference_of(const field_value &actual, const field_value &expected)
 {
     std::string found = numbers_differ("presence bit", actual.present, expected.present);
@@ -34,6 +46,8 @@ std::string difference_of(const field_value &actual, const field_value &expected
         found = "content is " + shown(actual.content) + ", expected " + shown(expected.content);
     if (found.empty())
         found = numbers_differ("records reached through the pointer", actual.records.size(), expected.records.size());
+    if (found.empty())
+        found = texts_differ(actual.texts, expected.texts);
     if (!found.empty())
         return ": " + found;
     for (std::size_t i = 0; i < actual.records.size(); ++i) {

@@ -17,24 +17,26 @@
 namespace mava_tum_test
 {
 
-enum class field_kind { varint32, varint64, fixed32, bytes, text, record, records };
+enum class field_kind { varint32, varint64, fixed32, bytes, text, record, records, texts };
 
 struct record_value;
 
 struct field_value {
     uint32_t number = 0;
     field_kind kind = field_kind::varint32;
-    // Of `records`: an element without content, and its size in memory.
+    // Of `records`: an element without content. Of `records` and `texts`: the size of an element in memory.
     const record_value *element_skeleton = nullptr;
     std::size_t element_bytes = 0;
 
     bool present = false;
-    // The number itself; of `bytes` the length member, of `records` the count member.
+    // The number itself; of `bytes` the length member, of `records` and `texts` the count member.
     uint64_t integer = 0;
     // Of `bytes` and `text`: what the pointer refers to, nothing if it is null.
     std::optional<byte_vector> content;
     // Of `record`: exactly one. Of `records`: the elements, none if the pointer is null.
     std::vector<record_value> records;
+    // Of `texts`: the elements, none if the pointer to them is null. An element that is null itself is nothing.
+    std::vector<std::optional<byte_vector>> texts;
 };
 
 struct record_value {
@@ -43,6 +45,12 @@ struct record_value {
     uint64_t all_spare_bits = 0;
     std::vector<field_value> fields;
 };
+
+// A pointer to elements and their count.
+inline bool is_list(field_kind kind)
+{
+    return kind == field_kind::records || kind == field_kind::texts;
+}
 
 // Whether an encoder that knows gather mode produces this record: some field of it, at any depth, is a bytes field.
 bool holds_bytes(const record_value &skeleton);
