@@ -78,8 +78,8 @@ void free_scratch(Codec &scratch, void (*free_ext)(Codec *, mava_tum_release_fn,
     free_ext(&scratch, free_block, nullptr, MAVA_TUM_ALIAS);
 }
 
-// `from_codec` fills a cleared record. The decoder's result is dropped on purpose: of a malformed message the fields
-// before the fault are delivered, and the caller is told nothing. `decode_owned` clears the scratch record, spare
+// `from_codec` fills a cleared record. L15: the decoder's result is dropped; of a malformed message the fields before
+// the fault are delivered, and the caller is told nothing. `decode_owned` clears the scratch record, spare
 // presence bits included.
 template <class Codec, class Application, class... Release>
 void decode_frame(const uint8_t *data, uint32_t length, Application *record,

@@ -8,8 +8,8 @@ namespace mava_tum
 namespace
 {
 
-// Limits of received texts, NUL included. They are smaller than the arrays, char[36] and char[68]: what is sent may be
-// longer than what is received.
+// L22: limits of received texts, NUL included. They are smaller than the arrays, char[36] and char[68]: what is sent
+// may be longer than what is received.
 constexpr size_t short_text_limit = 33;
 constexpr size_t long_text_limit = 65;
 
@@ -24,8 +24,8 @@ void ipv4_route_to_codec(mava_tum_subscriber_route_ipv4 &route, const tum_nal_da
     put_ipv4_nonzero<5>(route, route.field_5, entry.field_5);
     put_text<6>(route, route.field_6, entry.field_6);
     put_nonzero<7>(route, route.field_7, entry.field_7);
-    // Not a slip but the message format: field_8 is sent as field 7, over field_7 when both are set, and field 8 never.
-    // IPv6 routes are straight, and so is the way back.
+    // L23: not a slip but the message format: field_8 is sent as field 7, over field_7 when both are set, and field 8
+    // never. IPv6 routes are straight, and so is the way back.
     put_nonzero<7>(route, route.field_7, entry.field_8);
     put_text<9>(route, route.field_9, entry.field_9);
 }

@@ -39,8 +39,8 @@ void mark_present(Record &record)
     record.presence_mask = static_cast<mask>(record.presence_mask | presence_bit(FieldNumber));
 }
 
-// Some messages are marked whole instead of field by field, spare bits included. No encoder looks at those, and a text
-// or a list is still left out when there is none.
+// L31: some messages are marked whole instead of field by field, spare bits included. No encoder looks at those, and a
+// text or a list is still left out when there is none.
 constexpr uint8_t every_presence_bit = 0xFF;
 
 template <class Record>
@@ -113,7 +113,7 @@ void put_text(Record &record, char *&field, const char (&array)[Size])
     mark_present<FieldNumber>(record);
 }
 
-// Present also when it is empty.
+// L33: present also when it is empty.
 template <unsigned FieldNumber, class Record, size_t Size>
 void put_text_always(Record &record, char *&field, const char (&array)[Size])
 {
@@ -121,7 +121,7 @@ void put_text_always(Record &record, char *&field, const char (&array)[Size])
     mark_present<FieldNumber>(record);
 }
 
-// A count above the number of slots is taken as the number of slots. Only the slots in use are cleared: of fifty,
+// L18: a count above the number of slots is taken as the number of slots. Only the slots in use are cleared: of fifty,
 // most calls need a few. No element, no field. `fill_slot(i)` converts element i into its slot.
 template <unsigned FieldNumber, class Record, class Codec, size_t Slots, class FillSlot>
 void put_slots(
@@ -159,7 +159,7 @@ void put_list(Record &record, Codec *&field, uint32_t &field_count, Codec (&slot
 
 // ---- codec -> application ----
 
-// A member narrower than the field keeps the low bits.
+// L20: a member narrower than the field keeps the low bits.
 template <unsigned FieldNumber, class Member, class Record, class Field>
 void take(Member &member, const Record &record, Field field)
 {
@@ -174,7 +174,8 @@ void take_ipv4(uint32_t &host_order, const Record &record, uint32_t field)
         host_order = swap_ipv4_order(field);
 }
 
-// The sender chose the length: of a longer value the first bytes are taken, behind a shorter one the rest stays zero.
+// L19: the sender chose the length: of a longer value the first bytes are taken, behind a shorter one the rest stays
+// zero.
 template <unsigned FieldNumber, class Record, size_t Size>
 void take_bytes(uint8_t (&array)[Size], const Record &record, const mava_tum_bytes &field)
 {
@@ -186,6 +187,7 @@ void take_bytes(uint8_t (&array)[Size], const Record &record, const mava_tum_byt
         memcpy(array, field.data, field.length);
 }
 
+// L21: cut to the limit.
 template <unsigned FieldNumber, size_t Limit, class Record, size_t Size>
 void take_text_up_to(char (&array)[Size], const Record &record, const char *field)
 {
@@ -200,8 +202,8 @@ void take_text(char (&array)[Size], const Record &record, const char *field)
     take_text_up_to<FieldNumber, Size>(array, record, field);
 }
 
-// The count is first narrowed to the bits of its member (in 8 bits 258 elements are 2, as ever), then kept within the
-// slots, so that a record never claims elements it does not hold.
+// L17: the count is first narrowed to the bits of its member (in 8 bits 258 elements are 2, as ever), then kept within
+// the slots, so that a record never claims elements it does not hold.
 template <unsigned FieldNumber, class Entry, size_t Slots, class Count, class Record, class Codec>
 void take_list(Entry (&entries)[Slots], Count &count, const Record &record, const Codec *field, uint32_t field_count,
     void (*entry_from_codec)(Entry &, const Codec &))

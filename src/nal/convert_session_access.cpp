@@ -44,7 +44,8 @@ void subscriber_v6_from_codec(tum_nal_data_session_context &record, const mava_t
     take_bytes<3>(record.ipv6_part_3, v6, v6.field_3);
     take_bytes<4>(record.ipv6_part_4, v6, v6.field_4);
     take_bytes<6>(record.ipv6_part_6, v6, v6.field_6);
-    // The two values belong to parts 3 and 6: they arrive by the bit of their part, and without it they are dropped.
+    // L24: the two values belong to parts 3 and 6: they arrive by the bit of their part, and without it they are
+    // dropped.
     take<3>(record.ipv6_value_5, v6, v6.field_5);
     take<6>(record.ipv6_value_7, v6, v6.field_7);
 }
@@ -76,7 +77,7 @@ static void ppp_from_codec(tum_nal_data_session_context &record, const mava_tum_
     take<6>(record.ppp_value_6, ppp, ppp.field_6);
 }
 
-// Which pair of end points is sent follows from the kind; any other kind sends none.
+// L37: which pair of end points is sent follows from the kind; any other kind sends none.
 static void l2tp_end_points_to_codec(mava_tum_l2tp_data &l2tp, const tum_nal_data_session_context &record)
 {
     if (record.l2tp_kind == TUM_NAL_L2TP_IPV4) {
@@ -111,7 +112,7 @@ static void l2tp_to_codec(mava_tum_l2tp_data &l2tp, const tum_nal_data_session_c
     put_text<19>(l2tp, l2tp.field_19, record.l2tp_name);
 }
 
-// Takes both pairs of end points if the sender gave both: the kind decides only what we send.
+// L25: takes both pairs of end points if the sender gave both: the kind decides only what we send.
 static void l2tp_from_codec(tum_nal_data_session_context &record, const mava_tum_l2tp_data &l2tp)
 {
     take<1>(record.l2tp_kind, l2tp, l2tp.field_1);
@@ -159,7 +160,7 @@ static bool has_session_identifier(const tum_nal_data_session_context &record)
 static void nested_access_to_codec(mava_tum_session_data &data, const tum_nal_data_session_context &record)
 {
     ppp_to_codec(data.ppp, record);
-    mark_present<3>(data); // also when it is empty
+    mark_present<3>(data); // L36: also when it is empty
     if (has_feature(record, TUM_NAL_FEATURE_L2TP)) {
         l2tp_to_codec(data.l2tp, record);
         mark_present<4>(data);

@@ -9,7 +9,7 @@
 namespace mava_tum
 {
 
-// ---- values that are always sent: field 6 has no member ----
+// ---- values that are always sent; L26: field 6 has no member ----
 
 static void values_to_codec(mava_tum_session_context &context, const tum_nal_data_session_context &record)
 {
@@ -92,7 +92,7 @@ void session_context_to_codec(
     lists_to_codec(context, slots, record);
 }
 
-// No bit of `context` guards a nested record, on purpose: one whose decode failed part-way is not marked present, yet
+// L16: no bit of `context` guards a nested record: one whose decode failed part-way is not marked present, yet
 // its fields before the fault are delivered. Where nothing was decoded, the nested record marks nothing present.
 void session_context_from_codec(tum_nal_data_session_context &record, const mava_tum_session_context &context)
 {

@@ -6,7 +6,7 @@
 namespace mava_tum
 {
 
-// ---- QoS: field 9 has no member ----
+// ---- QoS; L26: field 9 has no member ----
 
 void qos_to_codec(mava_tum_subscriber_qos &qos, const tum_nal_data_qos_element &element)
 {

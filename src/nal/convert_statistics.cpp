@@ -57,7 +57,7 @@ static void service_entry_to_codec(mava_tum_service_stats &service, const tum_na
 {
     put_text_always<1>(service, service.field_1, entry.name);
     stats_block_to_codec(service.field_2, entry.stats);
-    mark_present<2>(service); // also when it is empty
+    mark_present<2>(service); // L36: also when it is empty
 }
 
 static void service_entry_from_codec(tum_nal_data_service_entry &entry, const mava_tum_service_stats &service)
@@ -78,7 +78,7 @@ static void scalars_to_codec(mava_tum_subscriber_stats &stats, const tum_nal_dat
     put_nonzero<6>(stats, stats.field_6, record.value_6);
 }
 
-// A block travels by the value before it. Not a slip but the message format: that value is itself sent in front of
+// L30: a block travels by the value before it. Not a slip but the message format: that value is itself sent in front of
 // block 7 only; before blocks 10 and 12 it is a switch, and fields 9 and 11 are never sent.
 static void blocks_to_codec(mava_tum_subscriber_stats &stats, const tum_nal_data_subscriber_stats &record)
 {
@@ -105,7 +105,7 @@ void subscriber_stats_to_codec(
         service_entry_to_codec);
 }
 
-// No bit of `stats` guards a block, on purpose: one whose decode failed part-way is not marked present, yet its
+// L16: no bit of `stats` guards a block: one whose decode failed part-way is not marked present, yet its
 // counters before the fault are delivered. Fields 9 and 11, which we never send, arrive in the two switches.
 void subscriber_stats_from_codec(tum_nal_data_subscriber_stats &record, const mava_tum_subscriber_stats &stats)
 {

@@ -46,7 +46,7 @@ void join_neighbours(const nal_queue_node_t &node)
 extern "C" void nal_queue_enqueue(nal_queue_t *queue, nal_queue_node_t *node)
 {
     using namespace mava_tum;
-    if (has_neighbour(*node) || queue->head == node)
+    if (has_neighbour(*node) || queue->head == node) // L40: the only node of another queue passes
         __assert_fail(refused_expression, refused_file, refused_line, refused_function);
     node->prev = queue->tail;
     if (queue->tail != nullptr)
@@ -72,7 +72,8 @@ extern "C" nal_queue_node_t *nal_queue_dequeue(nal_queue_t *queue)
     return node;
 }
 
-// Does not ask whether the node is in this queue: one from the middle of another is unlinked there and counted here.
+// L38: does not ask whether the node is in this queue: one from the middle of another is unlinked there and counted
+// here. L39: so the count may go below zero.
 extern "C" int32_t nal_queue_delete(nal_queue_t *queue, nal_queue_node_t *node)
 {
     using namespace mava_tum;

@@ -25,7 +25,7 @@ void rec_start_req_to_codec(mava_tum_rec_start_req &request, const tum_nal_data_
         mark_all_present(request);
 }
 
-// Not a slip but what receivers rely on: what was sent third arrives first, and fields 1 and 2 are dropped.
+// L28: not a slip but what receivers rely on: what was sent third arrives first, and fields 1 and 2 are dropped.
 void rec_start_req_from_codec(tum_nal_data_rec_start_req &record, const mava_tum_rec_start_req &request)
 {
     take<3>(record.field_1, request, request.field_3);
@@ -52,7 +52,7 @@ void rec_complete_req_from_codec(tum_nal_data_rec_complete_req &record, const ma
     take_text<4>(record.field_4, request, request.field_4);
 }
 
-// ---- rec_start_res and rec_complete_res: one message, rec_resp ----
+// ---- rec_start_res and rec_complete_res; L34: one message, rec_resp ----
 
 void rec_res_to_codec(mava_tum_rec_resp &response, const tum_nal_data_rec_res &record)
 {
@@ -76,7 +76,7 @@ struct session_state_slots {
     mava_tum_rec_session_state states[TUM_NAL_REC_SESSION_STATES];
 };
 
-// Field 6 goes one way: it is received, never sent.
+// L32: field 6 goes one way: it is received, never sent.
 void rec_sess_req_to_codec(
     mava_tum_rec_sess_req &request, session_state_slots &slots, const tum_nal_data_rec_sess_req &record)
 {

@@ -16,7 +16,7 @@ namespace
 
 // ---- rec_sess_replay_req ----
 
-// Two layouts: the one that is sent from is not the one that is received into. Callers hold one buffer for both.
+// L29: two layouts: the one that is sent from is not the one that is received into. Callers hold one buffer for both.
 using replay_request_to_send = tum_nal_data_rec_sess_replay_req_encode;
 using replay_request_received = tum_nal_data_rec_sess_replay_req_decode;
 
@@ -56,10 +56,10 @@ void replay_failure_to_codec(
     put<1>(failure, failure.field_1, entry.field_1);
     put<2>(failure, failure.field_2, entry.field_2);
     subscriber_stats_to_codec(failure.field_3, slots, entry.field_3);
-    mark_present<3>(failure); // also when they are empty
+    mark_present<3>(failure); // L36: also when they are empty
 }
 
-// The bit of field 3 is not asked: what is in the statistics is delivered.
+// L16: the bit of field 3 is not asked: what is in the statistics is delivered.
 void replay_failure_from_codec(tum_nal_data_replay_failure &entry, const mava_tum_rec_sess_replay_fail &failure)
 {
     take<1>(entry.field_1, failure, failure.field_1);
@@ -75,7 +75,7 @@ struct service_start_slots {
     char *names[TUM_NAL_REC_SERVICE_NAMES];
 };
 
-// As many names are sent as the entry counts, empty ones too: the receiver counts them.
+// L33: as many names are sent as the entry counts, empty ones too: the receiver counts them.
 void service_name_to_codec(char *&name, const service_name &entry)
 {
     name = const_cast<char *>(entry);

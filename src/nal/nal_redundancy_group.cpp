@@ -12,7 +12,7 @@ namespace mava_tum
 namespace
 {
 
-// ---- srg_group_rec_start_req: the only one of these messages that sends its zeros ----
+// ---- srg_group_rec_start_req; L35: the only one of these messages that sends its zeros ----
 
 void srg_group_rec_start_req_to_codec(
     mava_tum_srg_group_rec_start_req &request, const tum_nal_data_srg_group_rec_start_req &record)

@@ -16,7 +16,7 @@ namespace
 
 void session_delete_to_codec(mava_tum_session_delete &request, const tum_nal_data_session_delete &record)
 {
-    // Sent up to its largest known value, 0 included; a larger one is left out, and the receiver reads 0.
+    // L27: sent up to its largest known value, 0 included; a larger one is left out, and the receiver reads 0.
     if (record.field_1 <= TUM_NAL_SESSION_DELETE_MAX_FIELD_1)
         put<1>(request, request.field_1, record.field_1);
     put_nonzero<2>(request, request.field_2, record.field_2);
@@ -34,7 +34,7 @@ void session_delete_from_codec(tum_nal_data_session_delete &record, const mava_t
     take<5>(record.field_5, request, request.field_5);
 }
 
-// ---- sess_oper_resp: field 10 has no member ----
+// ---- sess_oper_resp; L26: field 10 has no member ----
 
 void sess_oper_resp_to_codec(
     mava_tum_sess_oper_resp &response, statistics_slots &slots, const tum_nal_data_sess_oper_resp &record)
@@ -48,10 +48,10 @@ void sess_oper_resp_to_codec(
     put_text<7>(response, response.field_7, record.field_7);
     put_text<8>(response, response.field_8, record.field_8);
     subscriber_stats_to_codec(response.field_9, slots, record.field_9);
-    mark_present<9>(response); // also when they are empty
+    mark_present<9>(response); // L36: also when they are empty
 }
 
-// No bit of `response` guards the statistics, on purpose: when their decode failed part-way they are not marked
+// L16: no bit of `response` guards the statistics: when their decode failed part-way they are not marked
 // present, yet what they held before the fault is delivered.
 void sess_oper_resp_from_codec(tum_nal_data_sess_oper_resp &record, const mava_tum_sess_oper_resp &response)
 {
