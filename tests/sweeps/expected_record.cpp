@@ -159,8 +159,7 @@ void remove_field(field_value &field)
     field.texts.clear();
     if (field.kind == field_kind::records)
         field.records.clear();
-    for (record_value &nested : field.records)
-        std::for_each(nested.fields.begin(), nested.fields.end(), remove_field);
+    std::for_each(field.records.begin(), field.records.end(), clear_fields);
 }
 
 void keep_elements(field_value &field, std::size_t count)
@@ -207,6 +206,11 @@ std::vector<uint64_t> expect_free(record_value &record, bool alias)
     for (field_value &field : record.fields)
         expect_release(field, alias, released);
     return released;
+}
+
+void clear_fields(record_value &record)
+{
+    std::for_each(record.fields.begin(), record.fields.end(), remove_field);
 }
 
 record_value sent_before_cut(const record_value &sent, std::size_t cut, int32_t &result)

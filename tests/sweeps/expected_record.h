@@ -34,6 +34,9 @@ int32_t expect_duplicate(record_value &record, const record_value &source, alloc
 // Returns the sizes of the blocks in the order in which they are given back.
 std::vector<uint64_t> expect_free(record_value &record, bool alias);
 
+// Leaves the record without content, but with its spare mask bits.
+void clear_fields(record_value &record);
+
 // What of `sent` a decoder delivers when the wire ends after `cut` bytes: `sent` without the fields that are not
 // complete. `result` becomes the decoder's result code.
 record_value sent_before_cut(const record_value &sent, std::size_t cut, int32_t &result);
