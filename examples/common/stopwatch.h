@@ -1,4 +1,4 @@
-// Adds up the time spent in calls of the library, and nothing else.
+// Adds up the time spent in measured calls, and nothing else.
 #ifndef EXAMPLES_STOPWATCH_H
 #define EXAMPLES_STOPWATCH_H
 
@@ -21,6 +21,9 @@ public:
 
     // "1,200 sessions, 600,000 bytes, encoded in 1.3 ms = 923,076 sessions per second"
     std::string report(size_t sessions, size_t bytes, const char *verb) const;
+
+    // "1.30 ms"
+    std::string milliseconds() const;
 
 private:
     using clock = std::chrono::steady_clock;

@@ -1,0 +1,83 @@
+// Messages to and from the other process: each in a frame (frame_stream.h) whose first byte is the message_kind.
+//
+//   +-----------------+--------+-----------------+
+//   | length, 4 bytes | kind   | message         |  the length counts the kind and the message
+//   +-----------------+--------+-----------------+
+#ifndef RECONCILIATION_MESSAGE_CHANNEL_H
+#define RECONCILIATION_MESSAGE_CHANNEL_H
+
+#include "frame_stream.h"
+#include "message_kind.h"
+#include "stopwatch.h"
+
+#include <array>
+
+namespace examples::reconciliation
+{
+
+// The bytes are those of the messages, without length and kind.
+struct traffic {
+    size_t messages = 0, bytes = 0;
+};
+
+class message_channel
+{
+public:
+    message_channel(int reading_fd, int writing_fd);
+
+    // `encode` is the adapter of the message, called once. Throws stream_error when the message cannot be sent.
+    template <typename Record>
+    void send(message_kind kind, const Record &record, uint64_t (*encode)(const Record *, uint8_t *, uint32_t))
+    {
+        const uint64_t size = m_in_library.measure(
+            [&] { return encode(&record, m_outgoing.data() + 1, static_cast<uint32_t>(m_outgoing.size() - 1)); });
+        send_encoded(kind, size);
+    }
+
+    // Waits for the next message, and returns false when the other process has closed its stream instead.
+    bool next();
+
+    // Of the message that next() found.
+    message_kind kind() const;
+    std::span<const uint8_t> message() const;
+
+    // `decode` is the adapter of the message that next() found, called once.
+    template <typename Record>
+    void read(Record &record, void (*decode)(const uint8_t *, uint32_t, Record *))
+    {
+        m_in_library.measure([&] { decode(message().data(), static_cast<uint32_t>(message().size()), &record); });
+    }
+
+    // Waits for the next message, which must be of this kind. Throws stream_error otherwise.
+    void expect(message_kind wanted);
+
+    // The same, and decodes it.
+    template <typename Record>
+    void receive(message_kind wanted, Record &record, void (*decode)(const uint8_t *, uint32_t, Record *))
+    {
+        expect(wanted);
+        read(record, decode);
+    }
+
+    // Both directions together: no kind goes both ways.
+    const traffic &traffic_of(message_kind which) const;
+
+    // Time in the adapters.
+    const stopwatch &in_library() const
+    {
+        return m_in_library;
+    }
+
+private:
+    void send_encoded(message_kind kind, uint64_t size);
+    void count(message_kind which, size_t bytes);
+
+    int m_reading_fd, m_writing_fd;
+    std::vector<uint8_t> m_outgoing, m_incoming;
+    stopwatch m_in_library;
+    std::array<traffic, message_kinds> m_traffic{};
+};
+
+} // namespace examples::reconciliation
+
+#endif
