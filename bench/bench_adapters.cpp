@@ -1,7 +1,7 @@
 // An application record to wire bytes and back. Ours is one call; a user of protobuf fills a message from the
 // application record and serialises it, or parses a message and reads it into the application record.
 #include "bench_operations.h"
-#include "peers/peer_arena.h"
+#include "peers/protobuf/peer_arena.h"
 
 namespace bench
 {

@@ -1,6 +1,6 @@
 // Wire bytes to a record of the caller's, and giving the record's memory back.
 #include "bench_operations.h"
-#include "peers/peer_arena.h"
+#include "peers/protobuf/peer_arena.h"
 
 namespace bench
 {

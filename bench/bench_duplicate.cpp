@@ -1,7 +1,7 @@
 // A deep copy of a record, and giving the copy's memory back.
 #include "bench_operations.h"
 #include "calloc_callbacks.h"
-#include "peers/peer_arena.h"
+#include "peers/protobuf/peer_arena.h"
 
 namespace bench
 {

@@ -1,6 +1,6 @@
 // A filled record to wire bytes.
 #include "bench_operations.h"
-#include "peers/peer_arena.h"
+#include "peers/protobuf/peer_arena.h"
 
 namespace bench
 {

@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 
 namespace bench
 {
@@ -11,6 +12,12 @@ namespace bench
 class bump_allocator
 {
 public:
+    // The block is not touched before it is handed out: pages that nobody needs cost nothing.
+    explicit bump_allocator(uint64_t block_bytes = 256 * 1024)
+        : block_bytes_(block_bytes), block_(new unsigned char[block_bytes])
+    {
+    }
+
     // Everything handed out before is void from here on.
     void reset()
     {
@@ -30,17 +37,19 @@ private:
     void *take(uint64_t size)
     {
         const uint64_t rounded = (size + alignment - 1) & ~(alignment - 1);
-        if (size > sizeof block_ || rounded > sizeof block_ - used_bytes_)
+        if (size > block_bytes_ || rounded > block_bytes_ - used_bytes_)
             return nullptr;
-        void *taken = block_ + used_bytes_;
+        void *taken = block_.get() + used_bytes_;
         used_bytes_ += rounded;
         return taken;
     }
 
+    // Which `new` grants, too.
     static constexpr uint64_t alignment = alignof(std::max_align_t);
 
     uint64_t used_bytes_ = 0;
-    alignas(alignment) unsigned char block_[256 * 1024];
+    uint64_t block_bytes_;
+    std::unique_ptr<unsigned char[]> block_;
 };
 
 } // namespace bench

@@ -3,8 +3,8 @@
 #define MAVA_TUM_BENCH_MESSAGE_KINDS_H
 
 #include "mava_tum.h"
-#include "peers/routes_peer.h"
-#include "peers/session_peer.h"
+#include "peers/protobuf/routes_peer.h"
+#include "peers/protobuf/session_peer.h"
 
 namespace bench
 {

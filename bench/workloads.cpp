@@ -117,11 +117,13 @@ void fill_full_qos_entry(tum_nal_data_qos_element &entry, unsigned number)
     set_numbered_text(entry.text_3, "policy-residential-fibre", number);
     set_numbered_text(entry.text_4,
         "service=video,burst=128000,rate=250000000,mode=two-rate-three-colour,"
-        "exceed=remark,violate=drop,account=separate,aggregate=port,class",
+        "exceed=remark,violate=drop,account=separate,aggregate=port,burst-excess=256000,"
+        "overhead=ethernet-two-tags,match=dscp-af41-af42-af43,report-interval=300,class",
         number);
     set_numbered_text(entry.text_5,
         "parent=port-shaper-10g,weight=40,priority=high,queue-limit=64000,"
-        "random-detect=dscp,minimum=20,maximum=60,child",
+        "random-detect=dscp,minimum=20,maximum=60,buffer-share=dynamic,delay-target=20ms,"
+        "burst-tolerance=4096,shaping=hierarchical,fallback=best-effort,child",
         number);
     entry.value_6 = 46;
     entry.value_7 = static_cast<uint16_t>(1000 + number);

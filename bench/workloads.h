@@ -17,7 +17,7 @@ namespace bench
 void fill_typical_session(tum_nal_data_session_context &record);
 
 // Every member that can travel, in its longest usual form: eight QoS entries with six texts each, four routes of each
-// family, L2TP over IPv6, all lists, redirect, intercept. About 4.5 kB.
+// family, L2TP over IPv6, all lists, redirect, intercept. About 6 kB.
 void fill_full_session(tum_nal_data_session_context &record);
 
 // A batch of fifty routes of each family, every member set. About 11 kB.

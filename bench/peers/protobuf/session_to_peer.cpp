@@ -1,6 +1,6 @@
-#include "peers/peer_fields.h"
-#include "peers/routes_peer.h"
-#include "peers/session_peer.h"
+#include "peers/protobuf/peer_fields.h"
+#include "peers/protobuf/routes_peer.h"
+#include "peers/protobuf/session_peer.h"
 
 namespace bench
 {

@@ -1,6 +1,6 @@
-#include "peers/routes_peer.h"
+#include "peers/protobuf/routes_peer.h"
 
-#include "peers/peer_fields.h"
+#include "peers/protobuf/peer_fields.h"
 
 namespace bench
 {

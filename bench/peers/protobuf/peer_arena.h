@@ -4,6 +4,7 @@
 
 #include <google/protobuf/arena.h>
 
+#include <cstddef>
 #include <vector>
 
 namespace bench
@@ -12,7 +13,7 @@ namespace bench
 class peer_arena
 {
 public:
-    peer_arena() : block_(256 * 1024), arena_(options_for(block_)) {}
+    explicit peer_arena(size_t block_bytes = 256 * 1024) : block_(block_bytes), arena_(options_for(block_)) {}
 
     // The message lives until `reset`.
     template <class Message>
