@@ -1,0 +1,229 @@
+#include "model/check_message.h"
+
+#include "model/check_encode.h"
+#include "model/model.h"
+#include "model/record_changes.h"
+#include "model/record_compare.h"
+
+#include <cstring>
+
+namespace mava_tum_model
+{
+
+namespace
+{
+
+// Every record of the library fits; aligned for any member.
+constexpr std::size_t largest_record = 656;
+
+struct record_memory {
+    alignas(8) uint8_t bytes[largest_record];
+};
+
+// One side of a comparison: a record, and the memory that it was given.
+struct side {
+    explicit side(const failure_plan &plan) : log(plan) {}
+
+    record_memory record;
+    block_log log;
+};
+
+// The library's record and the model's, made by the same operation.
+struct both_sides {
+    explicit both_sides(const failure_plan &plan) : library(plan), model(plan) {}
+
+    void fill(const message &of, random_source &random)
+    {
+        std::memset(library.record.bytes, 0, of.record_bytes);
+        if (random.one_in(2))
+            fill_members(of, library.record.bytes);
+        std::memcpy(model.record.bytes, library.record.bytes, of.record_bytes);
+    }
+
+    std::string compare_results(const message &of, int32_t expected, int32_t actual)
+    {
+        if (expected != actual)
+            return "result: expected " + std::to_string(expected) + ", actual " + std::to_string(actual);
+        const std::string calls = block_log::compare_allocations(library.log, model.log);
+        return calls.empty() ? compare_contents(of) : calls;
+    }
+
+    std::string compare_contents(const message &of)
+    {
+        return compare_records(of, {library.record.bytes, model.record.bytes}, library.log, model.log);
+    }
+
+    std::string free(const message &of, const library_message &functions, uint32_t flags)
+    {
+        const memory_sink library_sink = library.log.sink();
+        functions.free(library.record.bytes, library_sink.release, library_sink.context, flags);
+        model_free(of, model.record.bytes, model.log.sink(), flags);
+        const std::string calls = block_log::compare_releases(library.log, model.log);
+        return calls.empty() ? compare_contents(of) : calls;
+    }
+
+    side library;
+    side model;
+};
+
+std::string in_hex(std::span<const uint8_t> bytes)
+{
+    static const char digits[] = "0123456789ABCDEF";
+    std::string text;
+    for (uint8_t byte : bytes) {
+        text += digits[byte >> 4];
+        text += digits[byte & 15];
+    }
+    return text;
+}
+
+class message_check
+{
+public:
+    explicit message_check(const message_case &checked, const message &of)
+        : checked_(checked), of_(of), library_(library_message_at(checked.message_index)), random_(checked.seed),
+          decoded_(checked.decode_plan)
+    {
+    }
+
+    std::string run();
+    std::string decode();
+
+private:
+    std::string duplicate_and_encode();
+    std::string encode(const uint8_t *record, const char *what);
+    std::string free_twice(both_sides &records, uint32_t flags, const char *what);
+    std::string report(const char *operation, const std::string &found) const;
+    failure_plan some_plan();
+
+    const message_case &checked_;
+    const message &of_;
+    const library_message &library_;
+    random_source random_;
+    both_sides decoded_;
+};
+
+std::string message_check::report(const char *operation, const std::string &found) const
+{
+    if (found.empty())
+        return "";
+    return std::string(of_.name) + " " + operation + ": " + found + "\n  wire " + in_hex(checked_.wire) + "\n  case " +
+           in_hex(case_bytes(checked_));
+}
+
+failure_plan message_check::some_plan()
+{
+    const uint32_t call = static_cast<uint32_t>(1 + random_.below(12));
+    switch (random_.below(8)) {
+    case 0:
+        return {failing::once, call};
+    case 1:
+        return {failing::from_then, call};
+    case 2:
+        return {failing::no_allocator, 0};
+    default:
+        return {};
+    }
+}
+
+std::string message_check::decode()
+{
+    decoded_.fill(of_, random_);
+    const memory_source source = decoded_.library.log.source();
+    const int32_t actual = library_.decode(decoded_.library.record.bytes, checked_.wire.data(), checked_.wire.size(),
+        source.allocate, source.context, checked_.flags);
+    const int32_t expected = model_decode(of_, decoded_.model.record.bytes, checked_.wire.data(), checked_.wire.size(),
+        decoded_.model.log.source(), checked_.flags);
+    return report("decode", decoded_.compare_results(of_, expected, actual));
+}
+
+std::string message_check::encode(const uint8_t *record, const char *what)
+{
+    return report(what, check_encodes(of_, library_, record, random_));
+}
+
+// The second call finds nothing more to give back, unless bytes fields were left for it.
+std::string message_check::free_twice(both_sides &records, uint32_t flags, const char *what)
+{
+    std::string found = records.free(of_, library_, flags);
+    if (found.empty() && random_.one_in(2))
+        found = records.free(of_, library_, flags);
+    return report(what, found);
+}
+
+std::string message_check::duplicate_and_encode()
+{
+    // A copy that may be changed without losing a block. It is made by the model from what was just compared.
+    side source({});
+    std::memset(source.record.bytes, 0, of_.record_bytes);
+    model_duplicate(of_, source.record.bytes, decoded_.library.record.bytes, source.log.source());
+    if (random_.one_in(2))
+        change_record(of_, source.record.bytes, random_);
+
+    both_sides copies(some_plan());
+    copies.fill(of_, random_);
+    const memory_source memory = copies.library.log.source();
+    const int32_t actual =
+        library_.duplicate(copies.library.record.bytes, source.record.bytes, memory.allocate, memory.context);
+    const int32_t expected =
+        model_duplicate(of_, copies.model.record.bytes, source.record.bytes, copies.model.log.source());
+    std::string found = report("duplicate", copies.compare_results(of_, expected, actual));
+    if (found.empty())
+        found = free_twice(copies, static_cast<uint32_t>(random_.one_in(4)), "free of a duplicate");
+    if (found.empty() && random_.one_in(8))
+        claim_huge_length(of_, source.record.bytes, random_);
+    if (found.empty())
+        found = encode(source.record.bytes, "encode of a changed record");
+    return found;
+}
+
+std::string message_check::run()
+{
+    std::string found = decode();
+    if (found.empty())
+        found = encode(decoded_.library.record.bytes, "encode of the decoded record");
+    if (found.empty() && !random_.one_in(3))
+        found = duplicate_and_encode();
+    if (found.empty())
+        found = free_twice(decoded_, random_.one_in(8) ? ~checked_.flags : checked_.flags, "free");
+    return found;
+}
+
+} // namespace
+
+bool read_case(std::span<const uint8_t> bytes, message_case &read)
+{
+    if (bytes.size() < case_header_bytes)
+        return false;
+    read.message_index = bytes[0] % all_messages().size();
+    read.flags = bytes[1];
+    read.decode_plan = {static_cast<failing>(bytes[2] % 5), bytes[3]};
+    uint32_t seed = 0;
+    std::memcpy(&seed, bytes.data() + 4, sizeof seed);
+    read.seed = seed;
+    read.wire = bytes.subspan(case_header_bytes);
+    return true;
+}
+
+wire_bytes case_bytes(const message_case &from)
+{
+    wire_bytes bytes = {static_cast<uint8_t>(from.message_index), static_cast<uint8_t>(from.flags),
+        static_cast<uint8_t>(from.decode_plan.when), static_cast<uint8_t>(from.decode_plan.at)};
+    const uint32_t seed = static_cast<uint32_t>(from.seed);
+    bytes.resize(case_header_bytes);
+    std::memcpy(bytes.data() + 4, &seed, sizeof seed);
+    bytes.insert(bytes.end(), from.wire.begin(), from.wire.end());
+    return bytes;
+}
+
+std::string check_message(const message_case &checked)
+{
+    return message_check(checked, *all_messages()[checked.message_index]).run();
+}
+
+std::string check_decode(const message_case &checked, const message &model_of)
+{
+    return message_check(checked, model_of).decode();
+}
+
+} // namespace mava_tum_model

@@ -1,0 +1,38 @@
+// One input through one message, in the library and in the model: decode, encode, duplicate and free, everything that
+// a caller could see compared.
+#pragma once
+
+#include "model/block_log.h"
+#include "model/library_calls.h"
+#include "model/schema.h"
+#include "model/wire_maker.h"
+
+#include <cstdint>
+#include <span>
+#include <string>
+
+namespace mava_tum_model
+{
+
+struct message_case {
+    std::size_t message_index = 0;
+    uint32_t flags = 0; // decode: the alias bit, and others that mean nothing
+    failure_plan decode_plan;
+    uint64_t seed = 0; // what happens after the decode
+    std::span<const uint8_t> wire;
+};
+
+// A case as bytes: eight that say how, then the wire. Shorter input is no case.
+constexpr std::size_t case_header_bytes = 8;
+bool read_case(std::span<const uint8_t> bytes, message_case &read);
+wire_bytes case_bytes(const message_case &from);
+
+// Empty if the library did what the model predicts; otherwise message, operation, member, expected and actual, and the
+// case in hex.
+std::string check_message(const message_case &checked);
+
+// The decode alone, and its free. `model_of` stands in for the message's own schema: a test of the comparison itself
+// passes one that is wrong.
+std::string check_decode(const message_case &checked, const message &model_of);
+
+} // namespace mava_tum_model

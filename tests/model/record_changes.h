@@ -1,0 +1,22 @@
+// Records that no decode makes but a caller may: bits without content, content without bits, null texts, lists cut
+// short, any spare bits. Nothing that a caller may not pass.
+#pragma once
+
+#include "model/random_source.h"
+#include "model/schema.h"
+
+#include <cstdint>
+
+namespace mava_tum_model
+{
+
+// Pointers are only replaced by null or by constants: the record's owner keeps the blocks.
+void change_record(const message &of, uint8_t *record, random_source &random);
+
+// One bytes field claims a length of more than 32 bits. For an encode into a shorter buffer, which never reads it.
+bool claim_huge_length(const message &of, uint8_t *record, random_source &random);
+
+// Before a call: values, pointers and masks hold ones at every depth, what is between members holds zero.
+void fill_members(const message &of, uint8_t *record);
+
+} // namespace mava_tum_model
