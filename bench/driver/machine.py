@@ -1,0 +1,43 @@
+"""Where and with what a run was made: figures without this say nothing."""
+
+import os
+import pathlib
+import platform
+import re
+import shlex
+import subprocess
+import sys
+
+
+def _processor():
+    for line in pathlib.Path("/proc/cpuinfo").read_text(encoding="utf-8").splitlines():
+        if line.startswith("model name"):
+            return f"{line.split(': ', 1)[1]}, {os.cpu_count()} threads"
+    return platform.machine()
+
+
+def _cache_entries(build):
+    text = (pathlib.Path(build) / "CMakeCache.txt").read_text(encoding="utf-8")
+    return dict(re.findall(r"^(CMAKE_\w+):\w+=(.*)$", text, re.MULTILINE))
+
+
+def _compiler(path):
+    return subprocess.run([path, "--version"], capture_output=True, text=True, check=True).stdout.splitlines()[0]
+
+
+def _flags(cache, language):
+    build_type = cache["CMAKE_BUILD_TYPE"].upper()
+    return f"{cache[f'CMAKE_{language}_FLAGS']} {cache[f'CMAKE_{language}_FLAGS_{build_type}']}".strip()
+
+
+def describe(build, versions):
+    cache = _cache_entries(build)
+    return {
+        "processor": _processor(),
+        "system": f"{platform.system()} {platform.release()}, {platform.freedesktop_os_release()['PRETTY_NAME']}",
+        "load": f"{os.getloadavg()[0]:.2f} in the last minute, before the run",
+        "C++ compiler": f"{_compiler(cache['CMAKE_CXX_COMPILER'])}, {_flags(cache, 'CXX')}",
+        "C compiler": f"{_compiler(cache['CMAKE_C_COMPILER'])}, {_flags(cache, 'C')}",
+        "peers": "; ".join(versions),
+        "command": shlex.join(sys.argv),
+    }

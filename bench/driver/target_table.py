@@ -1,0 +1,67 @@
+"""The project's goals for its speed beside what was measured. Goals, not assertions: nothing fails over them."""
+
+import json
+import pathlib
+import statistics
+
+from measurements import spread
+from plan import WORKLOAD_OF_NAME, WORKLOADS
+from result_table import print_aligned
+
+TARGETS_FILE = pathlib.Path(__file__).parent.parent / "peers" / "targets.json"
+
+
+def _verdict(measurements, goal, content_set, workload, bar):
+    key = (workload, content_set, goal["operation"], goal["side"])
+    against = [
+        (other.get("workload", workload), content_set, other.get("operation", goal["operation"]), other["side"])
+        for other in goal["against"]
+    ]
+    verdict = {"goal": goal["title"], "workload": workload, "set": content_set, "bar": bar}
+    if not all(measurements.has(each) for each in (key, *against)):
+        return verdict | {"verdict": "not measured"}
+    ratios = measurements.times_as_fast(key, against)
+    measured = statistics.median(ratios)
+    return verdict | {
+        "measured": round(measured, 3),
+        "spread": round(spread(ratios), 3),
+        "verdict": "met" if measured >= bar else "not met",
+    }
+
+
+def judge(measurements):
+    """One verdict for each bar of each goal."""
+    goals = json.loads(TARGETS_FILE.read_text(encoding="utf-8"))["goals"]
+    return [
+        _verdict(measurements, goal, content_set, workload, bar)
+        for goal in goals
+        for content_set, bars in goal["bars"].items()
+        for workload, bar in bars.items()
+    ]
+
+
+def _cell_text(verdict):
+    if verdict is None:
+        return ""
+    if "measured" not in verdict:
+        return f"?/{verdict['bar']:g}"
+    return f"{verdict['measured']:.2f}/{verdict['bar']:g} {verdict['verdict']}"
+
+
+def _rows(verdicts, workloads):
+    rows = {}
+    for verdict in verdicts:
+        row = rows.setdefault((verdict["goal"], verdict["set"]), {})
+        row[verdict["workload"]] = verdict
+    for (goal, content_set), row in rows.items():
+        yield [goal, content_set, *(_cell_text(row.get(workload)) for workload in workloads)]
+
+
+def print_targets(verdicts):
+    named = {verdict["workload"] for verdict in verdicts}
+    workloads = [workload.name for workload in WORKLOADS if workload.name in named]
+    labels = [WORKLOAD_OF_NAME[name].title for name in workloads]
+    print("\nGoals: measured / wanted, as times as fast as what the row names (? where it was not measured)")
+    print_aligned([["goal", "set", *labels], *_rows(verdicts, workloads)])
+    counts = {word: sum(v["verdict"] == word for v in verdicts) for word in ("met", "not met", "not measured")}
+    print("\n" + ", ".join(f"{count} {word}" for word, count in counts.items()))
