@@ -90,6 +90,38 @@ TEST(interop_departures, a_list_in_two_runs_is_refused_where_the_runtime_appends
     }
 }
 
+TEST(interop_departures, a_list_of_texts_in_two_runs_is_refused_where_the_runtime_appends)
+{
+    const char *wire = "2A 01 41  10 07  2A 01 42";
+    decoded<mava_tum_sess_svc_start> ours(wire);
+    EXPECT_EQ(ours.result, MAVA_TUM_TRUNCATED);
+    EXPECT_EQ(ours.present(), fields(2, 5));
+    ASSERT_EQ(ours.record.field_5_count, 1u);
+    EXPECT_STREQ(ours.record.field_5[0], "A");
+
+    mava_tum_interop::sess_svc_start theirs;
+    EXPECT_TRUE(peer_accepts(theirs, wire));
+    ASSERT_EQ(theirs.field_5_size(), 2);
+    EXPECT_EQ(theirs.field_5(1), "B");
+}
+
+TEST(interop_departures, a_later_text_of_a_list_counts_whatever_its_wire_type_where_the_runtime_takes_it_for_unknown)
+{
+    const char *wire = "2A 01 41  28 02 08 02";
+    decoded<mava_tum_sess_svc_start> ours(wire);
+    EXPECT_EQ(ours.result, MAVA_TUM_OK);
+    ASSERT_EQ(ours.record.field_5_count, 2u);
+    EXPECT_STREQ(ours.record.field_5[1], "\x08\x02");
+    EXPECT_EQ(ours.present(), fields(5));
+
+    // The runtime reads 28 02 as an unknown varint and 08 02 as field 1.
+    mava_tum_interop::sess_svc_start theirs;
+    EXPECT_TRUE(peer_accepts(theirs, wire));
+    EXPECT_EQ(theirs.field_5_size(), 1);
+    EXPECT_EQ(theirs.field_1(), 2u);
+    EXPECT_FALSE(theirs.unknown_fields().empty());
+}
+
 TEST(interop_departures, a_second_text_is_refused_where_the_runtime_takes_the_last)
 {
     const char *wire = "12 01 41  12 01 42";

@@ -2,38 +2,17 @@
 #pragma once
 
 #include "sweeps/message_fields.h"
+#include "sweeps/record_memory.h"
 #include "sweeps/record_value.h"
 
 #include <algorithm>
 #include <cstring>
 #include <limits>
-#include <memory>
 #include <new>
 #include <vector>
 
 namespace mava_tum_test
 {
-
-// Owns what a filled record points to. Blocks have their exact size, so that the address sanitizer sees a byte too
-// many.
-class record_memory
-{
-public:
-    void *new_block(std::size_t size)
-    {
-        blocks_.emplace_back(::operator new(size));
-        return blocks_.back().get();
-    }
-
-private:
-    struct block_delete {
-        void operator()(void *block) const
-        {
-            ::operator delete(block);
-        }
-    };
-    std::vector<std::unique_ptr<void, block_delete>> blocks_;
-};
 
 template <class record_type>
 record_value read_record(const record_type &record);

@@ -3,6 +3,7 @@
 #include "support/guarded_buffer.h"
 #include "support/recording_allocator.h"
 #include "sweeps/expected_decode.h"
+#include "sweeps/expected_wire.h"
 #include "sweeps/hostile_inputs.h"
 #include "sweeps/message_list.h"
 #include "sweeps/record_storage.h"
@@ -41,6 +42,7 @@ protected:
         EXPECT_EQ(result, expected_result);
         EXPECT_TRUE(is_same_record(record.value(), expected));
         EXPECT_EQ(memory.requested_sizes(), run.plan.sizes);
+        check_encode(record, wire_of(expected).bytes);
 
         GetParam().free(record.get(), recording_allocator::release, memory.context(), flags);
         EXPECT_EQ(memory.outstanding_count(), run.dropped_blocks);
@@ -71,6 +73,14 @@ protected:
     }
 
 private:
+    // What was decoded, also before a failure, can be sent on.
+    void check_encode(record_storage &record, const byte_vector &expected)
+    {
+        byte_vector again(expected.size());
+        EXPECT_EQ(GetParam().encode(record.get(), again.data(), again.size(), nullptr, nullptr, 0), expected.size());
+        EXPECT_EQ(again, expected);
+    }
+
     // Directly before the inaccessible page.
     uint8_t *place(const byte_vector &wire)
     {
