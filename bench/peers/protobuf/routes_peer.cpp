@@ -7,10 +7,6 @@ namespace bench
 namespace
 {
 
-// Received texts are cut to these sizes, NUL included, although the arrays are larger.
-constexpr size_t short_text_limit = 33;
-constexpr size_t long_text_limit = 65;
-
 // What both families hold alike.
 template <class Route, class Message>
 void fill_common(const Route &route, Message &message)
@@ -32,12 +28,12 @@ template <class Message, class Route>
 void read_common(const Message &message, Route &route)
 {
     route.field_1 = message.field_1();
-    copy_text(route.field_2, short_text_limit, message.field_2());
+    copy_text(route.field_2, short_route_text_limit, message.field_2());
     route.field_4 = static_cast<uint8_t>(message.field_4());
-    copy_text(route.field_6, short_text_limit, message.field_6());
+    copy_text(route.field_6, short_route_text_limit, message.field_6());
     route.field_7 = message.field_7();
     route.field_8 = message.field_8();
-    copy_text(route.field_9, long_text_limit, message.field_9());
+    copy_text(route.field_9, long_route_text_limit, message.field_9());
 }
 
 } // namespace

@@ -9,11 +9,6 @@ namespace
 
 using application = tum_nal_data_session_context;
 
-bool has_feature(const application &record, uint32_t features)
-{
-    return (record.feature_mask & features) != 0;
-}
-
 void fill_v6(const application &record, peer::SubscriberV6 &message)
 {
     message.set_field_1(record.ipv6_value_1);
