@@ -71,10 +71,11 @@ public:
     static constexpr std::size_t guard_bytes = 64;
     static constexpr uint8_t guard_pattern = 0xA5;
 
-    explicit guarded_buffer(std::size_t size, uint8_t fill = 0x5A) : whole_(guard_bytes, guard_pattern)
+    // Sized once: g++ 12 warns falsely about vectors that grow by inserting at their end.
+    explicit guarded_buffer(std::size_t size, uint8_t fill = 0x5A) : whole_(guard_bytes + size + guard_bytes, fill)
     {
-        whole_.insert(whole_.end(), size, fill);
-        whole_.insert(whole_.end(), guard_bytes, guard_pattern);
+        std::fill_n(whole_.begin(), guard_bytes, guard_pattern);
+        std::fill_n(whole_.end() - guard_bytes, guard_bytes, guard_pattern);
     }
 
     uint8_t *data()
