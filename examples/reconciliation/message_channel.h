@@ -29,7 +29,7 @@ public:
     template <typename Record>
     void send(message_kind kind, const Record &record, uint64_t (*encode)(const Record *, uint8_t *, uint32_t))
     {
-        const uint64_t size = m_in_library.measure(
+        const uint64_t size = m_in_adapters.measure(
             [&] { return encode(&record, m_outgoing.data() + 1, static_cast<uint32_t>(m_outgoing.size() - 1)); });
         send_encoded(kind, size);
     }
@@ -45,7 +45,7 @@ public:
     template <typename Record>
     void read(Record &record, void (*decode)(const uint8_t *, uint32_t, Record *))
     {
-        m_in_library.measure([&] { decode(message().data(), static_cast<uint32_t>(message().size()), &record); });
+        m_in_adapters.measure([&] { decode(message().data(), static_cast<uint32_t>(message().size()), &record); });
     }
 
     // Waits for the next message, which must be of this kind. Throws stream_error otherwise.
@@ -62,10 +62,10 @@ public:
     // Both directions together: no kind goes both ways.
     const traffic &traffic_of(message_kind which) const;
 
-    // Time in the adapters.
-    const stopwatch &in_library() const
+    // Time in the adapters of what was sent and received.
+    const stopwatch &in_adapters() const
     {
-        return m_in_library;
+        return m_in_adapters;
     }
 
 private:
@@ -74,7 +74,7 @@ private:
 
     int m_reading_fd, m_writing_fd;
     std::vector<uint8_t> m_outgoing, m_incoming;
-    stopwatch m_in_library;
+    stopwatch m_in_adapters;
     std::array<traffic, message_kinds> m_traffic{};
 };
 

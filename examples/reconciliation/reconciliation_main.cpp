@@ -56,11 +56,11 @@ bool reconcile_with(const child_process &receiver, const session_set &sessions)
     keeper side(sessions, channel);
     stopwatch run;
     const run_totals totals = run.measure([&] { return side.reconcile(); });
-    const std::string in_library = channel.in_library().milliseconds();
+    const std::string in_adapters = channel.in_adapters().milliseconds();
     const session_set held = side.receive_held_sessions();
     std::cout << describe(totals, sessions) << "\n"
               << describe(channel) << "\nkeeper (process " << getpid() << "): the run took " << run.milliseconds()
-              << ", " << in_library << " of them in the library\n";
+              << ", " << in_adapters << " of them in the adapters\n";
     return report_differences(sessions, held);
 }
 
