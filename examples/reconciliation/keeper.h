@@ -4,8 +4,7 @@
 //   rec_start_req: so many sessions there are              ->
 //                                                          <-  rec_start_res: so many were in my store
 //   rec_sess_req: up to 30 sessions and their fingerprints ->
-//                                                          <-  rec_sess_res: those of them that I lack or hold
-//                                                          otherwise
+//                                                          <-  rec_sess_res: those that I lack or hold otherwise
 //   ... until all sessions have been named, then:
 //   rec_sess_req: none                                     ->
 //                                                          <-  rec_sess_res: up to 30 that I hold and you did not name
