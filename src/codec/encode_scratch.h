@@ -36,9 +36,6 @@ struct encode_scratch {
 
 inline constexpr uint32_t scratch_block_bytes = 8192;
 
-// The most that a short block takes with its tag and length.
-inline constexpr int64_t max_short_put_bytes = 2 + 1 + short_block_bytes;
-
 // Hands [begin, at) over. Returns begin, or null when the buffer is too short.
 uint8_t *hand_over(encode_scratch &scratch, const uint8_t *at);
 
@@ -49,12 +46,15 @@ uint8_t *make_room(encode_scratch &scratch, uint8_t *at, bool top);
 uint8_t *put_any_block(uint8_t *at, uint32_t tag, uint32_t tag_bytes, const void *data, uint64_t length,
     encode_scratch &scratch, bool top);
 
-// The same; what nearly every block is takes no detour.
+// The most that a short block takes with its length. The slack has room for every short block.
+inline constexpr uint32_t max_short_put_bytes = 1 + short_block_bytes;
+
+// The same; what nearly every block is takes no detour and needs no room.
 template <uint32_t tag_bytes>
-[[gnu::noinline]] inline uint8_t *put_block(
+[[gnu::always_inline]] inline uint8_t *put_block(
     uint8_t *at, uint32_t tag, const void *data, uint64_t length, encode_scratch &scratch, bool top)
 {
-    if (length > short_block_bytes || scratch.limit - at < max_short_put_bytes) [[unlikely]]
+    if (length > short_block_bytes) [[unlikely]]
         return put_any_block(at, tag, tag_bytes, data, length, scratch, top);
     store_little_endian(at, tag | length << 8 * tag_bytes);
     at += tag_bytes + 1;

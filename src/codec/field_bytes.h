@@ -68,7 +68,8 @@ struct bytes : field_key<Number, wire_type::length_delimited> {
     using key = field_key<Number, wire_type::length_delimited>;
     using owner = typename member_of<Member>::record;
 
-    static constexpr uint32_t max_put_bytes = key::tag_bytes + max_varint32_bytes;
+    static constexpr uint32_t max_head_bytes = key::tag_bytes + max_varint32_bytes;
+    static constexpr uint32_t max_put_bytes = key::tag_bytes + max_short_put_bytes;
     static constexpr bool is_scalar = false;
     static constexpr bool holds_bytes = true;
     static constexpr bool asks_for_room = true;

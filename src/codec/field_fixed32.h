@@ -17,6 +17,7 @@ struct fixed32 : field_key<Number, wire_type::fixed32> {
     using owner = typename member_of<Member>::record;
 
     static constexpr uint32_t max_put_bytes = key::tag_bytes + fixed32_bytes;
+    static constexpr uint32_t max_head_bytes = max_put_bytes;
 
     [[gnu::always_inline]] static void reset(owner &record)
     {

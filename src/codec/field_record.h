@@ -13,10 +13,10 @@ namespace mava_tum
 {
 
 // Bodies of records with this much in scalars alone are usually longer than a length of one byte can say.
-inline constexpr uint32_t long_body_put_bytes = 192;
+inline constexpr uint32_t long_body_head_bytes = 192;
 
 template <class Record>
-inline constexpr uint32_t length_gap_bytes = max_put_bytes<Record>() > long_body_put_bytes ? 2 : 1;
+inline constexpr uint32_t length_gap_bytes = max_head_bytes<Record>() > long_body_head_bytes ? 2 : 1;
 
 // Flat records of a few fields are put inline: their bodies are shorter than a call.
 inline constexpr uint32_t max_inline_fields = 3;
@@ -60,6 +60,8 @@ struct record : field_key<Number, wire_type::length_delimited> {
     using nested = typename member_of<Member>::value;
 
     static constexpr uint32_t max_put_bytes = key::tag_bytes + max_length_gap_bytes + mava_tum::max_put_bytes<nested>();
+    static constexpr uint32_t max_head_bytes =
+        key::tag_bytes + max_length_gap_bytes + mava_tum::max_head_bytes<nested>();
     static constexpr bool is_scalar = false;
     static constexpr bool holds_bytes = mava_tum::holds_bytes<nested>();
     static constexpr bool asks_for_room = mava_tum::asks_for_room<nested>();

@@ -89,6 +89,8 @@ struct record_array : field_key<Number, wire_type::length_delimited> {
     // Each element asks for room first, so the elements count once.
     static constexpr uint32_t max_put_bytes =
         key::tag_bytes + max_length_gap_bytes + mava_tum::max_put_bytes<element>();
+    static constexpr uint32_t max_head_bytes =
+        key::tag_bytes + max_length_gap_bytes + mava_tum::max_head_bytes<element>();
     static constexpr bool is_scalar = false;
     static constexpr bool holds_bytes = mava_tum::holds_bytes<element>();
     static constexpr bool asks_for_room = true;

@@ -23,6 +23,7 @@ struct varint : field_key<Number, wire_type::varint> {
     static_assert(is_wide || std::is_same_v<value, uint32_t>);
 
     static constexpr uint32_t max_put_bytes = key::tag_bytes + (is_wide ? max_varint64_bytes : max_varint32_bytes);
+    static constexpr uint32_t max_head_bytes = max_put_bytes;
 
     [[gnu::always_inline]] static void reset(owner &record)
     {

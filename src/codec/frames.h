@@ -37,6 +37,10 @@ uint8_t *put_fields(field_list<Field...>, const Record &record, uint8_t *at, enc
 template <class Record>
 constexpr uint32_t max_put_bytes();
 
+// Encode: the same without the payloads of texts and bytes: how large a record of its kind is.
+template <class Record>
+constexpr uint32_t max_head_bytes();
+
 // Encode: the exact size. In gather mode the contents of bytes fields do not count.
 template <class Record>
 uint64_t count_record(const Record &record, bool gather);

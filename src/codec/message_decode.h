@@ -183,13 +183,12 @@ template <class Record>
         return decode_rounds<Record>(record, {at, end, 0, 0, MAVA_TUM_OK}, context);
 }
 
-// The decode behind the adapters, into a scratch record of theirs: it aliases the input, clears the whole record, and
-// gives back what a second occurrence of a nested record replaces.
+// The decode behind the adapters, into a cleared scratch record of theirs: it aliases the input and gives back what a
+// second occurrence of a nested record replaces.
 template <class Record>
 void decode_for_adapter(
     Record &record, const uint8_t *data, uint64_t length, mava_tum_alloc_fn alloc_fn, mava_tum_release_fn release_fn)
 {
-    record = {};
     if (length != 0)
         decode_record(record, data, data + length, {{alloc_fn, nullptr}, MAVA_TUM_ALIAS, release_fn});
 }

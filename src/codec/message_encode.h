@@ -20,6 +20,18 @@ constexpr uint32_t max_put_bytes()
     return sum_of_put_bytes(fields_of<Record>{});
 }
 
+template <class... Field>
+constexpr uint32_t sum_of_head_bytes(field_list<Field...>)
+{
+    return (0 + ... + Field::max_head_bytes);
+}
+
+template <class Record>
+constexpr uint32_t max_head_bytes()
+{
+    return sum_of_head_bytes(fields_of<Record>{});
+}
+
 template <class Record, class... Field>
 [[gnu::always_inline]] inline bool any_has_content(field_list<Field...>, const Record &record)
 {

@@ -1,7 +1,6 @@
-// What the decode adapters call: a decode into a scratch record of theirs, which need not be initialised. It clears the
-// whole record first and aliases the input. Unlike the exported decoders, it gives back what a nested record holds
-// before a second occurrence is decoded over it, so that the exported free, called with the alias bit, leaves nothing
-// behind.
+// What the decode adapters call: a decode into a scratch record of theirs, which they have zeroed. It aliases the input.
+// Unlike the exported decoders, it gives back what a nested record holds before a second occurrence is decoded over it,
+// so that the exported free, called with the alias bit, leaves nothing behind.
 #pragma once
 
 #include "mava_tum/reconciliation.h"
