@@ -7,6 +7,21 @@
  *     mava_tum_<message>_duplicate    deep copy                   returns MAVA_TUM_OK or MAVA_TUM_NO_MEMORY
  *     mava_tum_<message>_free_ext     gives back what the record owns; never the record itself
  *
+ *     messages                                                                      header
+ *     subscriber_v4, subscriber_v6, ppp_data, l2tp_data, vlan_info, session_data    subscriber_records.h
+ *     subscriber_qos, _acl, _httpr, _li, _urpf, _icmp, _mtu, _acct,                 feature_records.h
+ *         subscriber_route_ipv4, subscriber_route_ipv6
+ *     session_context, session_delete, sess_oper_resp                               session_messages.h
+ *     stats, service_stats, subscriber_stats                                        statistics.h
+ *     sub_route, subscriber_route_resp                                              routes.h
+ *     rec_start_req, rec_complete_req, rec_resp, rec_session_state, rec_sess_req,   reconciliation.h
+ *         rec_sess_resp, rec_sess_replay_req, _fail, _resp, sess_svc_start
+ *     srg_group_rec_start_req, _resp, _complete_req, srg_group_data,                redundancy_group.h
+ *         srg_group_rec_replay_req, srg_group_rec_replay_resp
+ *
+ * A function may take a parameter that its message has no use for (an allocator without memory to own, flags without
+ * bytes fields): it is ignored. A record pointer must not be null unless the function says so.
+ *
  * The wire is the protobuf binary format (https://protobuf.dev/programming-guides/encoding/): varint, fixed32 and
  * length-delimited fields; no groups, no zigzag, no packed fields. All functions are pure: they keep no state, log
  * nothing, start no thread, and touch only their arguments, so any number of threads may call them on distinct
@@ -16,13 +31,16 @@
  *   Value fields stand in field-number order; `presence_mask` is the last member. Field number n owns bit n-1 of the
  *   mask. A decode sets the bit of each field that it stores; an encode writes a scalar, a bytes field, a text or an
  *   array only when its bit is set. Bits that belong to no field ("spare") are kept as they are by every function.
- *     varint, fixed32   an unsigned integer in host byte order.
- *     bytes             a `mava_tum_bytes`: pointer and length in bytes. Length 0 is a value like any other.
+ *     varint, fixed32   an unsigned integer in host byte order. An IPv4 address is held so that its four bytes stand on
+ *                       the wire in network order: 192.0.2.1 is 0x010200C0, on every host.
+ *     bytes             a `mava_tum_bytes`: pointer and length in bytes. Length 0 is a value like any other. Do not
+ *                       write through the pointer of a record decoded with the alias bit: it is the input.
  *     text              a `char *` to a NUL-terminated copy; null when absent. Neither length nor character set is
  *                       limited; a NUL inside the wire bytes ends the text early for whoever reads it.
  *     record            another message's record, held inline. It is written when its bit is set or when it has
  *                       content of its own.
- *     array of ...      a pointer to `<name>_count` contiguous elements, in wire order. No maximum.
+ *     array of ...      a pointer to `<name>_count` contiguous elements, in wire order. No maximum. An array of texts
+ *                       may hold nulls after a duplicate that ran out of memory; an encode leaves them out.
  *   Before an encode or a duplicate, zero the record (`= {0}`) and then set fields and their bits.
  *
  * Decoding
@@ -43,12 +61,17 @@
  *   capacity of `segments` in elements, on return the number of pieces, which may be larger. Without the alias bit
  *   that is one piece, the whole output (none if it is empty). With it, each bytes field that is not empty is a piece
  *   of its own that points at the record's memory; the result counts only the bytes in `buffer`, and lengths written
- *   in front of nested records count only those too. That mode is for callers who lay out the pieces themselves.
+ *   in front of nested records count only those too. A record's next piece starts where its own last one ended, so it
+ *   covers the bytes of nested records in between again: the pieces one after another are not the message. That mode is
+ *   for callers who lay out the pieces themselves.
  *
  * Ownership
  *   A record owns its texts and arrays always, its bytes fields unless it was decoded with the alias bit. After
- *   `_free_ext` released a bytes field, the field's length and bit remain: decode into the record anew or zero it
- *   before using it again. */
+ *   `_free_ext` released a bytes field, the field's length and bit remain (counts of arrays become 0): decode into the
+ *   record anew or zero it before using it again. `release_fn` must not be null while the record owns anything.
+ *   A duplicate that cannot obtain a block goes on and returns MAVA_TUM_NO_MEMORY: what the block was for is empty and
+ *   absent. An array that was obtained keeps all its elements, its count and its bit, also when some of them are
+ *   incomplete in this way. */
 #ifndef MAVA_TUM_CODEC_CONTRACT_H
 #define MAVA_TUM_CODEC_CONTRACT_H
 
@@ -67,14 +90,15 @@ extern "C" {
 /* Results of `_decode_ext` and `_duplicate`. The values are part of the ABI. */
 enum {
     MAVA_TUM_OK = 0,
-    /* The input ends inside a tag or a value, a length runs past its end, or a bytes field, a text or an array occurs
-     * a second time. */
+    /* The input ends inside a tag or a value, or a length runs past its end; or, which is no truncation, a bytes field,
+     * a text or an array occurs a second time. */
     MAVA_TUM_TRUNCATED = -1,
     /* An unknown field has wire type 3, 4, 6 or 7, which cannot be skipped. */
     MAVA_TUM_UNSUPPORTED_WIRE_TYPE = -2,
     /* A known field arrives with another wire type than its own. */
     MAVA_TUM_WRONG_WIRE_TYPE = -3,
-    /* `alloc_fn` returned null, or is null where a block is needed. */
+    /* `alloc_fn` returned null, or is null where a block is needed; or a text has 2^32 - 1 bytes, whose block of length
+     * + 1 is computed in 32 bits and asked for with size 0. */
     MAVA_TUM_NO_MEMORY = -4
 };
 

@@ -42,7 +42,7 @@ MAVA_TUM_API uint64_t mava_tum_subscriber_qos_encode_ext(const mava_tum_subscrib
 
 /* Copies `source` into `destination`, whose earlier pointers are overwritten without being released. Every owned
  * block is copied through `alloc_fn`. Returns MAVA_TUM_OK, or MAVA_TUM_NO_MEMORY when some block could not be copied:
- * that field is then empty and absent, all others are copied. */
+ * what it was for is then empty and absent, all else is copied. */
 MAVA_TUM_API int32_t mava_tum_subscriber_qos_duplicate(mava_tum_subscriber_qos *destination,
     const mava_tum_subscriber_qos *source, mava_tum_alloc_fn alloc_fn, void *alloc_ctx);
 
@@ -76,7 +76,7 @@ MAVA_TUM_API uint64_t mava_tum_subscriber_acl_encode_ext(const mava_tum_subscrib
 
 /* Copies `source` into `destination`, whose earlier pointers are overwritten without being released. Every owned
  * block is copied through `alloc_fn`. Returns MAVA_TUM_OK, or MAVA_TUM_NO_MEMORY when some block could not be copied:
- * that field is then empty and absent, all others are copied. */
+ * what it was for is then empty and absent, all else is copied. */
 MAVA_TUM_API int32_t mava_tum_subscriber_acl_duplicate(mava_tum_subscriber_acl *destination,
     const mava_tum_subscriber_acl *source, mava_tum_alloc_fn alloc_fn, void *alloc_ctx);
 
@@ -107,7 +107,7 @@ MAVA_TUM_API uint64_t mava_tum_subscriber_httpr_encode_ext(const mava_tum_subscr
 
 /* Copies `source` into `destination`, whose earlier pointers are overwritten without being released. Every owned
  * block is copied through `alloc_fn`. Returns MAVA_TUM_OK, or MAVA_TUM_NO_MEMORY when some block could not be copied:
- * that field is then empty and absent, all others are copied. */
+ * what it was for is then empty and absent, all else is copied. */
 MAVA_TUM_API int32_t mava_tum_subscriber_httpr_duplicate(mava_tum_subscriber_httpr *destination,
     const mava_tum_subscriber_httpr *source, mava_tum_alloc_fn alloc_fn, void *alloc_ctx);
 
@@ -146,8 +146,8 @@ MAVA_TUM_API uint64_t mava_tum_subscriber_li_encode_ext(const mava_tum_subscribe
 
 /* Copies `source` into `destination`, whose earlier pointers are overwritten without being released. Every owned
  * block is copied through `alloc_fn`, also those that `source` aliases: free the copy with the alias bit clear.
- * Returns MAVA_TUM_OK, or MAVA_TUM_NO_MEMORY when some block could not be copied: that field is then empty and
- * absent, all others are copied. */
+ * Returns MAVA_TUM_OK, or MAVA_TUM_NO_MEMORY when some block could not be copied: what it was for is then empty and
+ * absent, all else is copied. */
 MAVA_TUM_API int32_t mava_tum_subscriber_li_duplicate(mava_tum_subscriber_li *destination,
     const mava_tum_subscriber_li *source, mava_tum_alloc_fn alloc_fn, void *alloc_ctx);
 
@@ -293,7 +293,7 @@ MAVA_TUM_API uint64_t mava_tum_subscriber_route_ipv4_encode_ext(const mava_tum_s
 
 /* Copies `source` into `destination`, whose earlier pointers are overwritten without being released. Every owned
  * block is copied through `alloc_fn`. Returns MAVA_TUM_OK, or MAVA_TUM_NO_MEMORY when some block could not be copied:
- * that field is then empty and absent, all others are copied. */
+ * what it was for is then empty and absent, all else is copied. */
 MAVA_TUM_API int32_t mava_tum_subscriber_route_ipv4_duplicate(mava_tum_subscriber_route_ipv4 *destination,
     const mava_tum_subscriber_route_ipv4 *source, mava_tum_alloc_fn alloc_fn, void *alloc_ctx);
 
@@ -333,8 +333,8 @@ MAVA_TUM_API uint64_t mava_tum_subscriber_route_ipv6_encode_ext(const mava_tum_s
 
 /* Copies `source` into `destination`, whose earlier pointers are overwritten without being released. Every owned
  * block is copied through `alloc_fn`, also those that `source` aliases: free the copy with the alias bit clear.
- * Returns MAVA_TUM_OK, or MAVA_TUM_NO_MEMORY when some block could not be copied: that field is then empty and
- * absent, all others are copied. */
+ * Returns MAVA_TUM_OK, or MAVA_TUM_NO_MEMORY when some block could not be copied: what it was for is then empty and
+ * absent, all else is copied. */
 MAVA_TUM_API int32_t mava_tum_subscriber_route_ipv6_duplicate(mava_tum_subscriber_route_ipv6 *destination,
     const mava_tum_subscriber_route_ipv6 *source, mava_tum_alloc_fn alloc_fn, void *alloc_ctx);
 

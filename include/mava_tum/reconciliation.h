@@ -36,7 +36,7 @@ MAVA_TUM_API uint64_t mava_tum_rec_start_req_encode_ext(const mava_tum_rec_start
 
 /* Copies `source` into `destination`, whose earlier pointers are overwritten without being released. Every owned
  * block is copied through `alloc_fn`. Returns MAVA_TUM_OK, or MAVA_TUM_NO_MEMORY when some block could not be copied:
- * that field is then empty and absent, all others are copied. */
+ * what it was for is then empty and absent, all else is copied. */
 MAVA_TUM_API int32_t mava_tum_rec_start_req_duplicate(mava_tum_rec_start_req *destination,
     const mava_tum_rec_start_req *source, mava_tum_alloc_fn alloc_fn, void *alloc_ctx);
 
@@ -69,7 +69,7 @@ MAVA_TUM_API uint64_t mava_tum_rec_complete_req_encode_ext(const mava_tum_rec_co
 
 /* Copies `source` into `destination`, whose earlier pointers are overwritten without being released. Every owned
  * block is copied through `alloc_fn`. Returns MAVA_TUM_OK, or MAVA_TUM_NO_MEMORY when some block could not be copied:
- * that field is then empty and absent, all others are copied. */
+ * what it was for is then empty and absent, all else is copied. */
 MAVA_TUM_API int32_t mava_tum_rec_complete_req_duplicate(mava_tum_rec_complete_req *destination,
     const mava_tum_rec_complete_req *source, mava_tum_alloc_fn alloc_fn, void *alloc_ctx);
 
@@ -101,7 +101,7 @@ MAVA_TUM_API uint64_t mava_tum_rec_resp_encode_ext(const mava_tum_rec_resp *reco
 
 /* Copies `source` into `destination`, whose earlier pointers are overwritten without being released. Every owned
  * block is copied through `alloc_fn`. Returns MAVA_TUM_OK, or MAVA_TUM_NO_MEMORY when some block could not be copied:
- * that field is then empty and absent, all others are copied. */
+ * what it was for is then empty and absent, all else is copied. */
 MAVA_TUM_API int32_t mava_tum_rec_resp_duplicate(
     mava_tum_rec_resp *destination, const mava_tum_rec_resp *source, mava_tum_alloc_fn alloc_fn, void *alloc_ctx);
 
@@ -167,7 +167,7 @@ MAVA_TUM_API uint64_t mava_tum_rec_sess_req_encode_ext(const mava_tum_rec_sess_r
 
 /* Copies `source` into `destination`, whose earlier pointers are overwritten without being released. Every owned
  * block is copied through `alloc_fn`. Returns MAVA_TUM_OK, or MAVA_TUM_NO_MEMORY when some block could not be copied:
- * that field is then empty and absent, all others are copied. */
+ * what it was for is then empty and absent, all else is copied. */
 MAVA_TUM_API int32_t mava_tum_rec_sess_req_duplicate(mava_tum_rec_sess_req *destination,
     const mava_tum_rec_sess_req *source, mava_tum_alloc_fn alloc_fn, void *alloc_ctx);
 
@@ -201,7 +201,7 @@ MAVA_TUM_API uint64_t mava_tum_rec_sess_resp_encode_ext(const mava_tum_rec_sess_
 
 /* Copies `source` into `destination`, whose earlier pointers are overwritten without being released. Every owned
  * block is copied through `alloc_fn`. Returns MAVA_TUM_OK, or MAVA_TUM_NO_MEMORY when some block could not be copied:
- * that field is then empty and absent, all others are copied. */
+ * what it was for is then empty and absent, all else is copied. */
 MAVA_TUM_API int32_t mava_tum_rec_sess_resp_duplicate(mava_tum_rec_sess_resp *destination,
     const mava_tum_rec_sess_resp *source, mava_tum_alloc_fn alloc_fn, void *alloc_ctx);
 
@@ -239,8 +239,8 @@ MAVA_TUM_API uint64_t mava_tum_rec_sess_replay_req_encode_ext(const mava_tum_rec
 
 /* Copies `source` into `destination`, whose earlier pointers are overwritten without being released. Every owned
  * block is copied through `alloc_fn`, also those that `source` aliases: free the copy with the alias bit clear.
- * Returns MAVA_TUM_OK, or MAVA_TUM_NO_MEMORY when some block could not be copied: that field is then empty and
- * absent, all others are copied. */
+ * Returns MAVA_TUM_OK, or MAVA_TUM_NO_MEMORY when some block could not be copied: what it was for is then empty and
+ * absent, all else is copied. */
 MAVA_TUM_API int32_t mava_tum_rec_sess_replay_req_duplicate(mava_tum_rec_sess_replay_req *destination,
     const mava_tum_rec_sess_replay_req *source, mava_tum_alloc_fn alloc_fn, void *alloc_ctx);
 
@@ -274,7 +274,7 @@ MAVA_TUM_API uint64_t mava_tum_rec_sess_replay_fail_encode_ext(const mava_tum_re
 
 /* Copies `source` into `destination`, whose earlier pointers are overwritten without being released. Every owned
  * block is copied through `alloc_fn`. Returns MAVA_TUM_OK, or MAVA_TUM_NO_MEMORY when some block could not be copied:
- * that field is then empty and absent, all others are copied. */
+ * what it was for is then empty and absent, all else is copied. */
 MAVA_TUM_API int32_t mava_tum_rec_sess_replay_fail_duplicate(mava_tum_rec_sess_replay_fail *destination,
     const mava_tum_rec_sess_replay_fail *source, mava_tum_alloc_fn alloc_fn, void *alloc_ctx);
 
@@ -310,7 +310,7 @@ MAVA_TUM_API uint64_t mava_tum_sess_svc_start_encode_ext(const mava_tum_sess_svc
 
 /* Copies `source` into `destination`, whose earlier pointers are overwritten without being released. Every owned
  * block is copied through `alloc_fn`. Returns MAVA_TUM_OK, or MAVA_TUM_NO_MEMORY when some block could not be copied:
- * that field is then empty and absent, all others are copied. */
+ * what it was for is then empty and absent, all else is copied. */
 MAVA_TUM_API int32_t mava_tum_sess_svc_start_duplicate(mava_tum_sess_svc_start *destination,
     const mava_tum_sess_svc_start *source, mava_tum_alloc_fn alloc_fn, void *alloc_ctx);
 
@@ -347,7 +347,7 @@ MAVA_TUM_API uint64_t mava_tum_rec_sess_replay_resp_encode_ext(const mava_tum_re
 
 /* Copies `source` into `destination`, whose earlier pointers are overwritten without being released. Every owned
  * block is copied through `alloc_fn`. Returns MAVA_TUM_OK, or MAVA_TUM_NO_MEMORY when some block could not be copied:
- * that field is then empty and absent, all others are copied. */
+ * what it was for is then empty and absent, all else is copied. */
 MAVA_TUM_API int32_t mava_tum_rec_sess_replay_resp_duplicate(mava_tum_rec_sess_replay_resp *destination,
     const mava_tum_rec_sess_replay_resp *source, mava_tum_alloc_fn alloc_fn, void *alloc_ctx);
 

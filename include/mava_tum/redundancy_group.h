@@ -118,7 +118,7 @@ MAVA_TUM_API uint64_t mava_tum_srg_group_data_encode_ext(const mava_tum_srg_grou
 
 /* Copies `source` into `destination`, whose earlier pointers are overwritten without being released. Every owned
  * block is copied through `alloc_fn`. Returns MAVA_TUM_OK, or MAVA_TUM_NO_MEMORY when some block could not be copied:
- * that field is then empty and absent, all others are copied. */
+ * what it was for is then empty and absent, all else is copied. */
 MAVA_TUM_API int32_t mava_tum_srg_group_data_duplicate(mava_tum_srg_group_data *destination,
     const mava_tum_srg_group_data *source, mava_tum_alloc_fn alloc_fn, void *alloc_ctx);
 
@@ -153,7 +153,7 @@ MAVA_TUM_API uint64_t mava_tum_srg_group_rec_replay_req_encode_ext(const mava_tu
 
 /* Copies `source` into `destination`, whose earlier pointers are overwritten without being released. Every owned
  * block is copied through `alloc_fn`. Returns MAVA_TUM_OK, or MAVA_TUM_NO_MEMORY when some block could not be copied:
- * that field is then empty and absent, all others are copied. */
+ * what it was for is then empty and absent, all else is copied. */
 MAVA_TUM_API int32_t mava_tum_srg_group_rec_replay_req_duplicate(mava_tum_srg_group_rec_replay_req *destination,
     const mava_tum_srg_group_rec_replay_req *source, mava_tum_alloc_fn alloc_fn, void *alloc_ctx);
 
@@ -189,7 +189,7 @@ MAVA_TUM_API uint64_t mava_tum_srg_group_rec_replay_resp_encode_ext(const mava_t
 
 /* Copies `source` into `destination`, whose earlier pointers are overwritten without being released. Every owned
  * block is copied through `alloc_fn`. Returns MAVA_TUM_OK, or MAVA_TUM_NO_MEMORY when some block could not be copied:
- * that field is then empty and absent, all others are copied. */
+ * what it was for is then empty and absent, all else is copied. */
 MAVA_TUM_API int32_t mava_tum_srg_group_rec_replay_resp_duplicate(mava_tum_srg_group_rec_replay_resp *destination,
     const mava_tum_srg_group_rec_replay_resp *source, mava_tum_alloc_fn alloc_fn, void *alloc_ctx);
 

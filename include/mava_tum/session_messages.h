@@ -62,8 +62,8 @@ MAVA_TUM_API uint64_t mava_tum_session_context_encode_ext(const mava_tum_session
 
 /* Copies `source` into `destination`, whose earlier pointers are overwritten without being released. Every owned
  * block is copied through `alloc_fn`, also those that `source` aliases: free the copy with the alias bit clear.
- * Returns MAVA_TUM_OK, or MAVA_TUM_NO_MEMORY when some block could not be copied: that field is then empty and
- * absent, all others are copied. */
+ * Returns MAVA_TUM_OK, or MAVA_TUM_NO_MEMORY when some block could not be copied: what it was for is then empty and
+ * absent, all else is copied. */
 MAVA_TUM_API int32_t mava_tum_session_context_duplicate(mava_tum_session_context *destination,
     const mava_tum_session_context *source, mava_tum_alloc_fn alloc_fn, void *alloc_ctx);
 
@@ -136,8 +136,8 @@ MAVA_TUM_API uint64_t mava_tum_sess_oper_resp_encode_ext(const mava_tum_sess_ope
 
 /* Copies `source` into `destination`, whose earlier pointers are overwritten without being released. Every owned
  * block is copied through `alloc_fn`, also those that `source` aliases: free the copy with the alias bit clear.
- * Returns MAVA_TUM_OK, or MAVA_TUM_NO_MEMORY when some block could not be copied: that field is then empty and
- * absent, all others are copied. */
+ * Returns MAVA_TUM_OK, or MAVA_TUM_NO_MEMORY when some block could not be copied: what it was for is then empty and
+ * absent, all else is copied. */
 MAVA_TUM_API int32_t mava_tum_sess_oper_resp_duplicate(mava_tum_sess_oper_resp *destination,
     const mava_tum_sess_oper_resp *source, mava_tum_alloc_fn alloc_fn, void *alloc_ctx);
 

@@ -73,7 +73,7 @@ MAVA_TUM_API uint64_t mava_tum_service_stats_encode_ext(const mava_tum_service_s
 
 /* Copies `source` into `destination`, whose earlier pointers are overwritten without being released. Every owned
  * block is copied through `alloc_fn`. Returns MAVA_TUM_OK, or MAVA_TUM_NO_MEMORY when some block could not be copied:
- * that field is then empty and absent, all others are copied. */
+ * what it was for is then empty and absent, all else is copied. */
 MAVA_TUM_API int32_t mava_tum_service_stats_duplicate(mava_tum_service_stats *destination,
     const mava_tum_service_stats *source, mava_tum_alloc_fn alloc_fn, void *alloc_ctx);
 
@@ -115,7 +115,7 @@ MAVA_TUM_API uint64_t mava_tum_subscriber_stats_encode_ext(const mava_tum_subscr
 
 /* Copies `source` into `destination`, whose earlier pointers are overwritten without being released. Every owned
  * block is copied through `alloc_fn`. Returns MAVA_TUM_OK, or MAVA_TUM_NO_MEMORY when some block could not be copied:
- * that field is then empty and absent, all others are copied. */
+ * what it was for is then empty and absent, all else is copied. */
 MAVA_TUM_API int32_t mava_tum_subscriber_stats_duplicate(mava_tum_subscriber_stats *destination,
     const mava_tum_subscriber_stats *source, mava_tum_alloc_fn alloc_fn, void *alloc_ctx);
 

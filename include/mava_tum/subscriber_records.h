@@ -66,8 +66,8 @@ MAVA_TUM_API uint64_t mava_tum_subscriber_v6_encode_ext(const mava_tum_subscribe
 
 /* Copies `source` into `destination`, whose earlier pointers are overwritten without being released. Every owned
  * block is copied through `alloc_fn`, also those that `source` aliases: free the copy with the alias bit clear.
- * Returns MAVA_TUM_OK, or MAVA_TUM_NO_MEMORY when some block could not be copied: that field is then empty and
- * absent, all others are copied. */
+ * Returns MAVA_TUM_OK, or MAVA_TUM_NO_MEMORY when some block could not be copied: what it was for is then empty and
+ * absent, all else is copied. */
 MAVA_TUM_API int32_t mava_tum_subscriber_v6_duplicate(mava_tum_subscriber_v6 *destination,
     const mava_tum_subscriber_v6 *source, mava_tum_alloc_fn alloc_fn, void *alloc_ctx);
 
@@ -105,8 +105,8 @@ MAVA_TUM_API uint64_t mava_tum_ppp_data_encode_ext(const mava_tum_ppp_data *reco
 
 /* Copies `source` into `destination`, whose earlier pointers are overwritten without being released. Every owned
  * block is copied through `alloc_fn`, also those that `source` aliases: free the copy with the alias bit clear.
- * Returns MAVA_TUM_OK, or MAVA_TUM_NO_MEMORY when some block could not be copied: that field is then empty and
- * absent, all others are copied. */
+ * Returns MAVA_TUM_OK, or MAVA_TUM_NO_MEMORY when some block could not be copied: what it was for is then empty and
+ * absent, all else is copied. */
 MAVA_TUM_API int32_t mava_tum_ppp_data_duplicate(
     mava_tum_ppp_data *destination, const mava_tum_ppp_data *source, mava_tum_alloc_fn alloc_fn, void *alloc_ctx);
 
@@ -157,8 +157,8 @@ MAVA_TUM_API uint64_t mava_tum_l2tp_data_encode_ext(const mava_tum_l2tp_data *re
 
 /* Copies `source` into `destination`, whose earlier pointers are overwritten without being released. Every owned
  * block is copied through `alloc_fn`, also those that `source` aliases: free the copy with the alias bit clear.
- * Returns MAVA_TUM_OK, or MAVA_TUM_NO_MEMORY when some block could not be copied: that field is then empty and
- * absent, all others are copied. */
+ * Returns MAVA_TUM_OK, or MAVA_TUM_NO_MEMORY when some block could not be copied: what it was for is then empty and
+ * absent, all else is copied. */
 MAVA_TUM_API int32_t mava_tum_l2tp_data_duplicate(
     mava_tum_l2tp_data *destination, const mava_tum_l2tp_data *source, mava_tum_alloc_fn alloc_fn, void *alloc_ctx);
 
@@ -226,8 +226,8 @@ MAVA_TUM_API uint64_t mava_tum_session_data_encode_ext(const mava_tum_session_da
 
 /* Copies `source` into `destination`, whose earlier pointers are overwritten without being released. Every owned
  * block is copied through `alloc_fn`, also those that `source` aliases: free the copy with the alias bit clear.
- * Returns MAVA_TUM_OK, or MAVA_TUM_NO_MEMORY when some block could not be copied: that field is then empty and
- * absent, all others are copied. */
+ * Returns MAVA_TUM_OK, or MAVA_TUM_NO_MEMORY when some block could not be copied: what it was for is then empty and
+ * absent, all else is copied. */
 MAVA_TUM_API int32_t mava_tum_session_data_duplicate(mava_tum_session_data *destination,
     const mava_tum_session_data *source, mava_tum_alloc_fn alloc_fn, void *alloc_ctx);
 

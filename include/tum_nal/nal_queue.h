@@ -34,10 +34,11 @@ MAVA_TUM_API void nal_queue_enqueue(nal_queue_t *queue, nal_queue_node_t *node);
 /* Takes the node at the head out and returns it, free. Returns null when the queue is empty. */
 MAVA_TUM_API nal_queue_node_t *nal_queue_dequeue(nal_queue_t *queue);
 
-/* Takes `node` out, wherever it stands. Returns 1 when it was taken out and is free now; 0 when it was in no queue, or
- * when `queue` is empty, and then the node is not touched.
- * It does not check that the node belongs to this queue: a node inside another one is unlinked from its neighbours
- * there, 1 is returned and the count of `queue` goes down, while head, tail and count of the other queue stay. */
+/* Takes `node` out, wherever it stands. Returns 1 when it was taken out and is free now; 0 when `queue` is empty, and
+ * then the node is not touched, or when the node has no neighbour and is not the only node of this queue: it is free,
+ * or alone in another queue and stays there. It does not check that the node belongs to this queue: a node inside
+ * another one is unlinked from its neighbours there, 1 is returned and the count of `queue` goes down, while head, tail
+ * and count of the other queue stay. */
 MAVA_TUM_API int32_t nal_queue_delete(nal_queue_t *queue, nal_queue_node_t *node);
 
 #ifdef __cplusplus

@@ -72,7 +72,9 @@ typedef struct tum_nal_data_qos_element {
 } tum_nal_data_qos_element;
 
 /* A subscriber session. The comment beside a member says when it is sent: "always", "non-zero" (a text: not empty), a
- * bit of the feature mask, or several of these together. 8848 bytes. */
+ * bit of the feature mask, or several of these together; the comment above a group holds for all of it, and its members
+ * are then sent also when zero unless they say otherwise. A message always holds session data with a PPP record, both
+ * of which may be empty. 8848 bytes. */
 typedef struct tum_nal_data_session_context {
     uint32_t session_value_1; /* always; see TUM_NAL_SESSION_KIND_... */
     uint32_t session_value_2; /* always */
@@ -82,18 +84,18 @@ typedef struct tum_nal_data_session_context {
     uint8_t reserved_6[20];
     uint32_t session_value_7; /* always */
 
-    /* IPv4: FEATURE_IPV4 and `ipv4_address` non-zero. */
+    /* IPv4: TUM_NAL_FEATURE_IPV4 and `ipv4_address` non-zero. */
     uint32_t ipv4_value_1;
     uint32_t ipv4_address; /* host byte order */
     uint32_t reserved_10;
 
     /* IPv6. The two values go with their part in both directions. */
-    uint32_t ipv6_value_1; /* any of FEATURE_IPV6_PART_2, _3, _4, _6 */
+    uint32_t ipv6_value_1; /* any of TUM_NAL_FEATURE_IPV6_PART_2, _3, _4, _6 */
     uint32_t reserved_11;
-    uint8_t ipv6_part_2[16]; /* FEATURE_IPV6_PART_2 */
-    uint8_t ipv6_part_3[16]; /* FEATURE_IPV6_PART_3 */
-    uint8_t ipv6_part_4[16]; /* FEATURE_IPV6_PART_4 */
-    uint8_t ipv6_part_6[16]; /* FEATURE_IPV6_PART_6 */
+    uint8_t ipv6_part_2[16]; /* TUM_NAL_FEATURE_IPV6_PART_2 */
+    uint8_t ipv6_part_3[16]; /* TUM_NAL_FEATURE_IPV6_PART_3 */
+    uint8_t ipv6_part_4[16]; /* TUM_NAL_FEATURE_IPV6_PART_4 */
+    uint8_t ipv6_part_6[16]; /* TUM_NAL_FEATURE_IPV6_PART_6 */
     uint8_t ipv6_value_5;    /* with `ipv6_part_3` */
     uint8_t ipv6_value_7;    /* with `ipv6_part_6` */
 
@@ -101,14 +103,14 @@ typedef struct tum_nal_data_session_context {
     uint64_t session_data_value_2; /* non-zero */
 
     /* PPP. */
-    uint32_t ppp_value_1;      /* FEATURE_PPP_1_4 and non-zero */
-    uint32_t ppp_value_2;      /* FEATURE_PPP_2_3 and non-zero */
-    uint32_t ppp_value_3;      /* FEATURE_PPP_2_3 and non-zero */
-    uint32_t ppp_value_4;      /* FEATURE_PPP_1_4 and non-zero */
-    uint8_t ppp_identifier[9]; /* FEATURE_PPP_IDENTIFIER */
+    uint32_t ppp_value_1;      /* TUM_NAL_FEATURE_PPP_1_4 and non-zero */
+    uint32_t ppp_value_2;      /* TUM_NAL_FEATURE_PPP_2_3 and non-zero */
+    uint32_t ppp_value_3;      /* TUM_NAL_FEATURE_PPP_2_3 and non-zero */
+    uint32_t ppp_value_4;      /* TUM_NAL_FEATURE_PPP_1_4 and non-zero */
+    uint8_t ppp_identifier[9]; /* TUM_NAL_FEATURE_PPP_IDENTIFIER */
     uint16_t ppp_value_6;      /* non-zero */
 
-    /* L2TP: FEATURE_L2TP and what stands beside the member. */
+    /* L2TP: TUM_NAL_FEATURE_L2TP and what stands beside the member. */
     uint32_t l2tp_kind;      /* also when zero; TUM_NAL_L2TP_... */
     uint32_t l2tp_ipv4_2;    /* kind IPV4 and non-zero; host byte order */
     uint32_t l2tp_ipv4_3;    /* kind IPV4 and non-zero; host byte order */
@@ -134,26 +136,26 @@ typedef struct tum_nal_data_session_context {
     char session_label[33];         /* non-zero */
     char session_text[65];          /* non-zero */
     uint16_t session_value_9;       /* non-zero, and `session_value_1` equal to 4 */
-    uint16_t vlan_value_1;          /* FEATURE_VLAN_1 */
-    uint16_t vlan_value_2;          /* FEATURE_VLAN_2 */
+    uint16_t vlan_value_1;          /* TUM_NAL_FEATURE_VLAN_1 */
+    uint16_t vlan_value_2;          /* TUM_NAL_FEATURE_VLAN_2 */
     uint32_t session_data_value_11; /* non-zero */
 
-    /* QoS: FEATURE_QOS and a count above zero. */
+    /* QoS: TUM_NAL_FEATURE_QOS and a count above zero. */
     tum_nal_data_qos_element qos[TUM_NAL_SESSION_QOS_ENTRIES];
     uint8_t qos_count;
 
-    /* Access lists: FEATURE_ACL; a text when not empty. */
+    /* Access lists: TUM_NAL_FEATURE_ACL; a text when not empty. */
     uint32_t acl_value_1;
     char acl_text_2[65];
     char acl_text_3[65];
     char acl_text_4[65];
     char acl_text_5[65];
 
-    /* HTTP redirect: FEATURE_REDIRECT; the text when not empty. */
+    /* HTTP redirect: TUM_NAL_FEATURE_REDIRECT; the text when not empty. */
     uint32_t redirect_value_1;
     char redirect_text_2[256];
 
-    /* Lawful intercept: FEATURE_INTERCEPT; the addresses when not zero. */
+    /* Lawful intercept: TUM_NAL_FEATURE_INTERCEPT; the addresses when not zero. */
     uint32_t intercept_value_1;
     uint32_t intercept_value_2;
     uint16_t intercept_value_3;
@@ -163,21 +165,21 @@ typedef struct tum_nal_data_session_context {
     uint32_t intercept_ipv4_address; /* host byte order */
     uint8_t intercept_ipv6_address[16];
 
-    uint32_t urpf_1_value_1; /* FEATURE_URPF_1 */
-    uint32_t urpf_1_value_2; /* FEATURE_URPF_1 */
-    uint32_t urpf_2_value_1; /* FEATURE_URPF_2 */
-    uint32_t urpf_2_value_2; /* FEATURE_URPF_2 */
-    uint32_t icmp_1_value;   /* FEATURE_ICMP_1 */
-    uint32_t icmp_2_value;   /* FEATURE_ICMP_2 */
-    uint32_t mtu_1_value;    /* FEATURE_MTU_1 */
-    uint32_t mtu_2_value;    /* FEATURE_MTU_2 */
-    uint32_t mtu_3_value;    /* FEATURE_MTU_3 */
+    uint32_t urpf_1_value_1; /* TUM_NAL_FEATURE_URPF_1 */
+    uint32_t urpf_1_value_2; /* TUM_NAL_FEATURE_URPF_1 */
+    uint32_t urpf_2_value_1; /* TUM_NAL_FEATURE_URPF_2 */
+    uint32_t urpf_2_value_2; /* TUM_NAL_FEATURE_URPF_2 */
+    uint32_t icmp_1_value;   /* TUM_NAL_FEATURE_ICMP_1 */
+    uint32_t icmp_2_value;   /* TUM_NAL_FEATURE_ICMP_2 */
+    uint32_t mtu_1_value;    /* TUM_NAL_FEATURE_MTU_1 */
+    uint32_t mtu_2_value;    /* TUM_NAL_FEATURE_MTU_2 */
+    uint32_t mtu_3_value;    /* TUM_NAL_FEATURE_MTU_3 */
 
-    uint32_t accounting_flags;   /* FEATURE_ACCOUNTING; TUM_NAL_ACCOUNTING_... */
-    uint32_t accounting_value_2; /* FEATURE_ACCOUNTING and ACCOUNTING_VALUE_2 */
-    uint32_t accounting_value_3; /* FEATURE_ACCOUNTING and ACCOUNTING_VALUE_3 */
+    uint32_t accounting_flags;   /* TUM_NAL_FEATURE_ACCOUNTING; TUM_NAL_ACCOUNTING_... */
+    uint32_t accounting_value_2; /* TUM_NAL_FEATURE_ACCOUNTING and TUM_NAL_ACCOUNTING_VALUE_2 */
+    uint32_t accounting_value_3; /* TUM_NAL_FEATURE_ACCOUNTING and TUM_NAL_ACCOUNTING_VALUE_3 */
 
-    /* Routes: FEATURE_IPV4_ROUTES, FEATURE_IPV6_ROUTES and a count above zero. */
+    /* Routes: TUM_NAL_FEATURE_IPV4_ROUTES, TUM_NAL_FEATURE_IPV6_ROUTES and a count above zero. */
     uint8_t ipv4_route_count;
     uint8_t ipv6_route_count;
     tum_nal_data_ipv4_route ipv4_routes[TUM_NAL_SESSION_IPV4_ROUTES];

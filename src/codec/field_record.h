@@ -22,7 +22,7 @@ inline constexpr uint32_t length_gap_bytes = max_head_bytes<Record>() > long_bod
 inline constexpr uint32_t max_inline_fields = 3;
 
 template <class Record>
-inline constexpr bool is_put_inline = is_flat<Record> &&field_count<Record> <= max_inline_fields;
+inline constexpr bool is_put_inline = is_flat<Record> && (field_count<Record> <= max_inline_fields);
 
 // The body of `nested` behind its tag and a gap for its length.
 template <class Nested>

@@ -81,13 +81,11 @@ template <uint32_t index>
     if (at == end)
         return {nullptr, 0};
     add_varint_byte<4>(at, value, byte);
-    while (byte >= varint_continues)
-        [[unlikely]]
-        {
-            if (at == end)
-                return {nullptr, 0};
-            byte = *at++; // L1: further bytes are stepped over, however many
-        }
+    while (byte >= varint_continues) {
+        if (at == end)
+            return {nullptr, 0};
+        byte = *at++; // L1: further bytes are stepped over, however many
+    }
     return {at, value};
 }
 
