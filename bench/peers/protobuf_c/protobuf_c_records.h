@@ -1,0 +1,81 @@
+// Application records to and from protobuf-c's messages, by the rules of the adapters. A message is a tree of pointers:
+// the nested messages of one that is filled lie in a structure of parts beside it, so that nothing is allocated.
+#ifndef MAVA_TUM_BENCH_PROTOBUF_C_RECORDS_H
+#define MAVA_TUM_BENCH_PROTOBUF_C_RECORDS_H
+
+#include "session.pb-c.h"
+
+#include "tum_nal/nal_reconciliation.h"
+#include "tum_nal/nal_redundancy_group.h"
+
+namespace bench
+{
+
+template <class Message, unsigned Slots>
+struct list_parts {
+    Message messages[Slots];
+    Message *pointers[Slots];
+};
+
+struct session_parts {
+    Bench__Peer__SubscriberV4 v4;
+    Bench__Peer__SubscriberV6 v6;
+    Bench__Peer__SessionData session_data;
+    Bench__Peer__PppData ppp;
+    Bench__Peer__L2tpData l2tp;
+    Bench__Peer__VlanInfo vlan;
+    list_parts<Bench__Peer__SubscriberQos, TUM_NAL_SESSION_QOS_ENTRIES> qos;
+    Bench__Peer__SubscriberAcl acl;
+    Bench__Peer__SubscriberHttpr httpr;
+    Bench__Peer__SubscriberLi li;
+    Bench__Peer__SubscriberUrpf urpf[2];
+    Bench__Peer__SubscriberIcmp icmp[2];
+    Bench__Peer__SubscriberMtu mtu[3];
+    Bench__Peer__SubscriberAcct acct;
+    list_parts<Bench__Peer__SubscriberRouteIpv4, TUM_NAL_SESSION_IPV4_ROUTES> ipv4_routes;
+    list_parts<Bench__Peer__SubscriberRouteIpv6, TUM_NAL_SESSION_IPV6_ROUTES> ipv6_routes;
+};
+
+struct routes_parts {
+    list_parts<Bench__Peer__SubscriberRouteIpv4, TUM_NAL_SUB_ROUTE_IPV4_ROUTES> ipv4_routes;
+    list_parts<Bench__Peer__SubscriberRouteIpv6, TUM_NAL_SUB_ROUTE_IPV6_ROUTES> ipv6_routes;
+};
+
+struct statistics_parts {
+    list_parts<Bench__Peer__ServiceStats, TUM_NAL_STATS_SERVICES> services;
+    Bench__Peer__Stats service_blocks[TUM_NAL_STATS_SERVICES];
+    Bench__Peer__Stats blocks[3];
+};
+
+struct states_parts {
+    list_parts<Bench__Peer__RecSessionState, TUM_NAL_REC_SESSION_STATES> states;
+};
+
+struct no_parts {
+};
+
+// The message is initialised on entry. It points into record and parts afterwards.
+void fill_peer(const tum_nal_data_session_context &record, Bench__Peer__SessionContext &message, session_parts &parts);
+void fill_peer(const tum_nal_data_sub_route &record, Bench__Peer__SubRoute &message, routes_parts &parts);
+void fill_peer(
+    const tum_nal_data_subscriber_stats &record, Bench__Peer__SubscriberStats &message, statistics_parts &parts);
+void fill_peer(const tum_nal_data_rec_sess_req &record, Bench__Peer__RecSessReq &message, states_parts &parts);
+void fill_peer(
+    const tum_nal_data_srg_group_rec_start_req &record, Bench__Peer__SrgGroupRecStartReq &message, no_parts &parts);
+
+// Overwrite the whole record.
+void read_peer(const Bench__Peer__SessionContext &message, tum_nal_data_session_context &record);
+void read_peer(const Bench__Peer__SubRoute &message, tum_nal_data_sub_route &record);
+void read_peer(const Bench__Peer__SubscriberStats &message, tum_nal_data_subscriber_stats &record);
+void read_peer(const Bench__Peer__RecSessReq &message, tum_nal_data_rec_sess_req &record);
+void read_peer(const Bench__Peer__SrgGroupRecStartReq &message, tum_nal_data_srg_group_rec_start_req &record);
+
+// Of a session, too. The route is zero before it is read into.
+void fill_peer(const tum_nal_data_ipv4_route &route, Bench__Peer__SubscriberRouteIpv4 &message);
+void fill_peer(const tum_nal_data_ipv6_route &route, Bench__Peer__SubscriberRouteIpv6 &message);
+void read_peer(const Bench__Peer__SubscriberRouteIpv4 &message, tum_nal_data_ipv4_route &route);
+void read_peer(const Bench__Peer__SubscriberRouteIpv6 &message, tum_nal_data_ipv6_route &route);
+
+} // namespace bench
+
+#endif

@@ -1,0 +1,197 @@
+#include "peers/protobuf_c/protobuf_c_fields.h"
+#include "peers/protobuf_c/protobuf_c_records.h"
+
+namespace bench
+{
+namespace
+{
+
+using application = tum_nal_data_session_context;
+
+void read_v6(const Bench__Peer__SubscriberV6 &message, application &record)
+{
+    record.ipv6_value_1 = message.field_1;
+    take_bytes(record.ipv6_part_2, message.field_2);
+    take_bytes(record.ipv6_part_3, message.field_3);
+    take_bytes(record.ipv6_part_4, message.field_4);
+    take_bytes(record.ipv6_part_6, message.field_6);
+    record.ipv6_value_5 = static_cast<uint8_t>(message.field_5);
+    record.ipv6_value_7 = static_cast<uint8_t>(message.field_7);
+}
+
+void read_addresses(const Bench__Peer__SessionContext &message, application &record)
+{
+    if (message.subscriber_v4 != nullptr) {
+        record.ipv4_value_1 = message.subscriber_v4->field_1;
+        record.ipv4_address = swap_ipv4(message.subscriber_v4->ipv4_address);
+    }
+    if (message.subscriber_v6 != nullptr)
+        read_v6(*message.subscriber_v6, record);
+}
+
+void read_ppp(const Bench__Peer__PppData &message, application &record)
+{
+    record.ppp_value_1 = message.field_1;
+    record.ppp_value_2 = message.field_2;
+    record.ppp_value_3 = message.field_3;
+    record.ppp_value_4 = message.field_4;
+    take_bytes(record.ppp_identifier, message.field_5);
+    record.ppp_value_6 = static_cast<uint16_t>(message.field_6);
+}
+
+void read_l2tp(const Bench__Peer__L2tpData &message, application &record)
+{
+    record.l2tp_kind = message.field_1;
+    record.l2tp_ipv4_2 = swap_ipv4(message.field_2);
+    record.l2tp_ipv4_3 = swap_ipv4(message.field_3);
+    take_bytes(record.l2tp_ipv6_4, message.field_4);
+    take_bytes(record.l2tp_ipv6_5, message.field_5);
+    record.l2tp_value_6 = static_cast<uint16_t>(message.field_6);
+    record.l2tp_value_7 = static_cast<uint16_t>(message.field_7);
+    record.l2tp_value_8 = static_cast<uint16_t>(message.field_8);
+    record.l2tp_value_9 = static_cast<uint16_t>(message.field_9);
+    record.l2tp_value_10 = static_cast<uint8_t>(message.field_10);
+    record.l2tp_value_11 = message.field_11;
+    record.l2tp_value_12 = message.field_12;
+    record.l2tp_value_13 = message.field_13;
+    record.l2tp_value_14 = message.field_14;
+    record.l2tp_value_15 = message.field_15;
+    record.l2tp_value_16 = message.field_16;
+    record.l2tp_value_17 = message.field_17;
+    record.l2tp_value_18 = message.field_18;
+    take_text(record.l2tp_name, message.field_19);
+}
+
+void read_session_data(const Bench__Peer__SessionData &message, application &record)
+{
+    record.session_data_value_1 = message.field_1;
+    record.session_data_value_2 = message.field_2;
+    if (message.ppp != nullptr)
+        read_ppp(*message.ppp, record);
+    if (message.l2tp != nullptr)
+        read_l2tp(*message.l2tp, record);
+    take_text(record.session_name, message.field_5);
+    take_bytes(record.session_identifier, message.field_6);
+    take_text(record.session_label, message.field_7);
+    take_text(record.session_text, message.field_8);
+    record.session_value_9 = static_cast<uint16_t>(message.field_9);
+    if (message.vlan != nullptr) {
+        record.vlan_value_1 = static_cast<uint16_t>(message.vlan->field_1);
+        record.vlan_value_2 = static_cast<uint16_t>(message.vlan->field_2);
+    }
+    record.session_data_value_11 = message.field_11;
+}
+
+void read_qos(const Bench__Peer__SubscriberQos &message, tum_nal_data_qos_element &entry)
+{
+    entry.value_1 = message.field_1;
+    entry.value_2 = message.field_2;
+    take_text(entry.text_3, message.field_3);
+    take_text(entry.text_4, message.field_4);
+    take_text(entry.text_5, message.field_5);
+    entry.value_6 = static_cast<uint16_t>(message.field_6);
+    entry.value_7 = static_cast<uint16_t>(message.field_7);
+    entry.value_8 = message.field_8;
+    take_text(entry.text_10, message.field_10);
+    take_text(entry.text_11, message.field_11);
+    take_text(entry.text_12, message.field_12);
+}
+
+void read_acl(const Bench__Peer__SubscriberAcl &message, application &record)
+{
+    record.acl_value_1 = message.field_1;
+    take_text(record.acl_text_2, message.field_2);
+    take_text(record.acl_text_3, message.field_3);
+    take_text(record.acl_text_4, message.field_4);
+    take_text(record.acl_text_5, message.field_5);
+}
+
+void read_intercept(const Bench__Peer__SubscriberLi &message, application &record)
+{
+    record.intercept_value_1 = message.field_1;
+    record.intercept_value_2 = message.field_2;
+    record.intercept_value_3 = static_cast<uint16_t>(message.field_3);
+    take_bytes(record.intercept_identifier, message.field_4);
+    record.intercept_value_5 = message.field_5;
+    record.intercept_value_6 = message.field_6;
+    record.intercept_ipv4_address = swap_ipv4(message.field_7);
+    take_bytes(record.intercept_ipv6_address, message.field_8);
+}
+
+void read_lists(const Bench__Peer__SessionContext &message, application &record)
+{
+    record.qos_count = slots_taken<uint8_t>(message.n_qos, record.qos);
+    for (unsigned i = 0; i < record.qos_count; ++i)
+        read_qos(*message.qos[i], record.qos[i]);
+    if (message.acl != nullptr)
+        read_acl(*message.acl, record);
+    if (message.httpr != nullptr) {
+        record.redirect_value_1 = message.httpr->field_1;
+        take_text(record.redirect_text_2, message.httpr->field_2);
+    }
+    if (message.li != nullptr)
+        read_intercept(*message.li, record);
+}
+
+void read_urpf(const Bench__Peer__SubscriberUrpf *message, uint32_t &value_1, uint32_t &value_2)
+{
+    if (message != nullptr) {
+        value_1 = message->field_1;
+        value_2 = message->field_2;
+    }
+}
+
+// ICMP or MTU.
+template <class Message>
+void read_check(const Message *message, uint32_t &value)
+{
+    if (message != nullptr)
+        value = message->field_1;
+}
+
+void read_checks(const Bench__Peer__SessionContext &message, application &record)
+{
+    read_urpf(message.urpf_1, record.urpf_1_value_1, record.urpf_1_value_2);
+    read_urpf(message.urpf_2, record.urpf_2_value_1, record.urpf_2_value_2);
+    read_check(message.icmp_1, record.icmp_1_value);
+    read_check(message.icmp_2, record.icmp_2_value);
+    read_check(message.mtu_1, record.mtu_1_value);
+    read_check(message.mtu_2, record.mtu_2_value);
+    read_check(message.mtu_3, record.mtu_3_value);
+    if (message.acct != nullptr) {
+        record.accounting_flags = message.acct->field_1;
+        record.accounting_value_2 = message.acct->field_2;
+        record.accounting_value_3 = message.acct->field_3;
+    }
+}
+
+void read_routes(const Bench__Peer__SessionContext &message, application &record)
+{
+    record.ipv4_route_count = slots_taken<uint8_t>(message.n_route_ipv4, record.ipv4_routes);
+    for (unsigned i = 0; i < record.ipv4_route_count; ++i)
+        read_peer(*message.route_ipv4[i], record.ipv4_routes[i]);
+    record.ipv6_route_count = slots_taken<uint8_t>(message.n_route_ipv6, record.ipv6_routes);
+    for (unsigned i = 0; i < record.ipv6_route_count; ++i)
+        read_peer(*message.route_ipv6[i], record.ipv6_routes[i]);
+}
+
+} // namespace
+
+void read_peer(const Bench__Peer__SessionContext &message, tum_nal_data_session_context &record)
+{
+    std::memset(&record, 0, sizeof record);
+    record.session_value_1 = message.field_1;
+    record.session_value_2 = message.field_2;
+    record.session_value_3 = message.field_3;
+    record.session_value_4 = message.field_4;
+    record.feature_mask = message.feature_mask;
+    record.session_value_7 = message.field_7;
+    read_addresses(message, record);
+    if (message.session_data != nullptr)
+        read_session_data(*message.session_data, record);
+    read_lists(message, record);
+    read_checks(message, record);
+    read_routes(message, record);
+}
+
+} // namespace bench
