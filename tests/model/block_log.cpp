@@ -40,6 +40,14 @@ bool block_log::fails(uint64_t size) const
     }
 }
 
+std::size_t block_log::outstanding() const
+{
+    std::size_t count = 0;
+    for (const block &given : blocks_)
+        count += given.live ? 1 : 0;
+    return count;
+}
+
 void *block_log::allocate(uint64_t size, void *context)
 {
     block_log &log = *static_cast<block_log *>(context);

@@ -55,6 +55,9 @@ public:
         return blocks_[index].size;
     }
 
+    // Blocks given and not yet given back.
+    std::size_t outstanding() const;
+
     bool made_any_call() const
     {
         return !blocks_.empty();

@@ -1,0 +1,185 @@
+#include "check_adapter.h"
+
+#include "adapters.h"
+#include "calloc_log.h"
+#include "model/model.h"
+#include "model/random_source.h"
+#include "support/guarded_buffer.h"
+
+#include <algorithm>
+#include <cstring>
+#include <vector>
+
+namespace mava_tum_fuzz
+{
+
+namespace
+{
+
+using namespace mava_tum_model;
+
+constexpr std::size_t largest_application_record = 17620;
+constexpr std::size_t largest_codec_record = 656;
+
+// `size` bytes directly before an inaccessible page.
+uint8_t *before_the_page(std::size_t size)
+{
+    static mava_tum_test::page_end_buffer memory(largest_application_record);
+    return memory.data() + memory.size() - size;
+}
+
+class adapter_check
+{
+public:
+    explicit adapter_check(const adapter_case &checked)
+        : checked_(checked), adapter_(adapter_at(checked.adapter_index)),
+          message_(message_of_adapter(checked.adapter_index)), random_(checked.seed)
+    {
+    }
+
+    std::string run();
+
+private:
+    std::string receive(uint8_t fill, std::vector<uint8_t> &received);
+    void place_record_to_send(const std::vector<uint8_t> &received);
+    std::string send();
+    std::string check_message_sent(const std::vector<uint8_t> &wire);
+    std::string check_cut(const uint8_t *codec_record, uint64_t size);
+
+    const adapter_case &checked_;
+    const adapter &adapter_;
+    const message &message_;
+    random_source random_;
+    uint8_t *sent_ = nullptr;
+};
+
+std::string adapter_check::receive(uint8_t fill, std::vector<uint8_t> &received)
+{
+    uint8_t *record = before_the_page(adapter_.received_bytes);
+    std::memset(record, fill, adapter_.received_bytes);
+    block_log asked(checked_.plan);
+    {
+        const calloc_log live(asked);
+        adapter_.decode(checked_.wire.data(), static_cast<uint32_t>(checked_.wire.size()), record);
+    }
+    received.assign(record, record + adapter_.received_bytes);
+    if (asked.outstanding() != 0)
+        return std::to_string(asked.outstanding()) + " blocks were never freed";
+
+    alignas(8) uint8_t codec_record[largest_codec_record] = {};
+    block_log predicted(checked_.plan);
+    model_decode(message_, codec_record, checked_.wire.data(), checked_.wire.size(), predicted.source(), alias_flag);
+    return block_log::compare_allocations(asked, predicted);
+}
+
+// Texts must keep their NUL: bytes that are zero stay so, others become anything.
+void adapter_check::place_record_to_send(const std::vector<uint8_t> &received)
+{
+    sent_ = before_the_page(adapter_.sent_bytes);
+    if (adapter_.to_sent != nullptr)
+        adapter_.to_sent(sent_, std::vector<uint8_t>(received).data());
+    else
+        std::copy(received.begin(), received.end(), sent_);
+    if (random_.one_in(2))
+        return;
+    for (std::size_t index = 0; index < adapter_.sent_bytes; ++index) {
+        if (sent_[index] != 0 && random_.one_in(8))
+            sent_[index] = static_cast<uint8_t>(random_.one_in(6) ? 0 : random_.next() | 1);
+    }
+}
+
+std::string adapter_check::send()
+{
+    const std::vector<uint8_t> before(sent_, sent_ + adapter_.sent_bytes);
+    block_log asked;
+    uint64_t size = 0;
+    std::vector<uint8_t> wire;
+    {
+        const calloc_log live(asked);
+        size = adapter_.encode(sent_, nullptr, 0);
+    }
+    wire.resize(size);
+    {
+        const calloc_log live(asked);
+        if (adapter_.encode(sent_, wire.data(), static_cast<uint32_t>(size)) != size)
+            return "two sizes for one record";
+    }
+    if (asked.made_any_call())
+        return "an encode allocated";
+    if (!std::equal(before.begin(), before.end(), sent_))
+        return "an encode wrote into its record";
+    return check_message_sent(wire);
+}
+
+std::string adapter_check::check_message_sent(const std::vector<uint8_t> &wire)
+{
+    alignas(8) uint8_t codec_record[largest_codec_record] = {};
+    block_log blocks;
+    const int32_t result = model_decode(message_, codec_record, wire.data(), wire.size(), blocks.source(), 0);
+    if (result != 0)
+        return "what was sent decodes with result " + std::to_string(result);
+    std::vector<uint8_t> again(wire.size());
+    encode_output output = {again.data(), again.data(), again.size(), nullptr, nullptr};
+    if (model_encode(message_, codec_record, output, 0) != wire.size() || again != wire)
+        return "what was sent is not what the model writes of it";
+    return check_cut(codec_record, wire.size());
+}
+
+std::string adapter_check::check_cut(const uint8_t *codec_record, uint64_t size)
+{
+    constexpr std::size_t margin = 16;
+    const uint64_t capacity = random_.below(size + 2);
+    std::vector<uint8_t> actual(capacity + 2 * margin, 0xEE);
+    std::vector<uint8_t> expected = actual;
+    const encode_output output = {expected.data() + margin, expected.data() + margin, capacity, nullptr, nullptr};
+    model_encode(message_, codec_record, output, 0);
+    if (adapter_.encode(sent_, actual.data() + margin, static_cast<uint32_t>(capacity)) != size)
+        return "another size for a short buffer";
+    return actual == expected ? "" : "other bytes in a buffer of " + std::to_string(capacity);
+}
+
+std::string adapter_check::run()
+{
+    std::vector<uint8_t> received;
+    std::vector<uint8_t> received_again;
+    std::string found = receive(0xDD, received);
+    if (found.empty())
+        found = receive(0x22, received_again);
+    if (found.empty() && received != received_again)
+        found = "bytes of the record were left as they were";
+    if (found.empty()) {
+        place_record_to_send(received);
+        found = send();
+    }
+    return found.empty() ? found : std::string(adapter_.name) + ": " + found;
+}
+
+} // namespace
+
+const message &message_of_adapter(std::size_t index)
+{
+    return *find_message(adapter_at(index).message);
+}
+
+bool read_adapter_case(std::span<const uint8_t> bytes, adapter_case &read)
+{
+    constexpr std::size_t header_bytes = 8;
+    if (bytes.size() < header_bytes)
+        return false;
+    // An adapter cannot be without an allocator, and asks for no empty block.
+    constexpr failing plans[] = {failing::never, failing::once, failing::from_then};
+    read.adapter_index = bytes[0] % adapter_count;
+    read.plan = {plans[bytes[2] % std::size(plans)], bytes[3]};
+    uint32_t seed = 0;
+    std::memcpy(&seed, bytes.data() + 4, sizeof seed);
+    read.seed = seed;
+    read.wire = bytes.subspan(header_bytes);
+    return true;
+}
+
+std::string check_adapter(const adapter_case &checked)
+{
+    return adapter_check(checked).run();
+}
+
+} // namespace mava_tum_fuzz

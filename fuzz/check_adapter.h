@@ -1,0 +1,36 @@
+// One input through one adapter, both ways.
+#pragma once
+
+#include "model/block_log.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <span>
+#include <string>
+
+namespace mava_tum_fuzz
+{
+
+constexpr std::size_t adapter_count = 19;
+
+// The message that the adapter sends and receives.
+const mava_tum_model::message &message_of_adapter(std::size_t index);
+
+struct adapter_case {
+    std::size_t adapter_index = 0;
+    mava_tum_model::failure_plan plan; // of calloc during the decode
+    uint64_t seed = 0;                 // how the received record is changed before it is sent, and where it is cut
+    std::span<const uint8_t> wire;
+};
+
+// Eight bytes that say how, then the wire. Shorter input is no case.
+bool read_adapter_case(std::span<const uint8_t> bytes, adapter_case &read);
+
+// Empty if all of this holds, otherwise what does not:
+// receiving: nothing outside the record is touched, every byte of it is written, the blocks asked for are those that
+// the model predicts for the message, and all are given back; sending: nothing is allocated, the record is only read,
+// the bytes are a complete message that the model decodes and writes again to the same bytes, and a short buffer
+// receives of them what the model puts there.
+std::string check_adapter(const adapter_case &checked);
+
+} // namespace mava_tum_fuzz
