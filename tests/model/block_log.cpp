@@ -60,10 +60,16 @@ void *block_log::allocate(uint64_t size, void *context)
 
 std::size_t block_log::index_of(const void *pointer) const
 {
+    const std::size_t live = find(pointer, true);
+    return live != unknown ? live : find(pointer, false);
+}
+
+std::size_t block_log::find(const void *pointer, bool live) const
+{
     const std::size_t count = blocks_.size();
     for (std::size_t step = 0; step < count; ++step) {
         const std::size_t index = (last_found_ + step) % count;
-        if (blocks_[index].memory == pointer) {
+        if (blocks_[index].memory == pointer && blocks_[index].live == live) {
             last_found_ = index;
             return index;
         }

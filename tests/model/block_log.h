@@ -47,7 +47,8 @@ public:
 
     static constexpr std::size_t unknown = SIZE_MAX;
 
-    // The number of the call that gave this block.
+    // The number of the call that gave this block. An address may be given again after its release: what is live counts
+    // first.
     std::size_t index_of(const void *pointer) const;
 
     uint64_t size_of_block(std::size_t index) const
@@ -85,6 +86,7 @@ private:
     };
 
     bool fails(uint64_t size) const;
+    std::size_t find(const void *pointer, bool live) const;
     static std::string describe(const release_call &call);
 
     failure_plan plan_;
