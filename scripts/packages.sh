@@ -11,6 +11,8 @@ program_of_package() {
     ninja-build) echo ninja ;;
     pkg-config) echo pkg-config ;;
     protobuf-compiler) echo protoc ;;
+    protobuf-c-compiler) echo protoc-gen-c ;;
+    python3) echo python3 ;;
     esac
 }
 
