@@ -16,7 +16,8 @@ LEFT = 190  # room for the names of the workloads
 RIGHT = 60  # room for the figure behind the longest bar
 BAR = 13
 GAP = 14
-TOP = 64
+TOP = 76  # room for the title and two lines of legend
+LONGEST = 10  # a peer that takes longer gets a bar that is cut: the others would be too short to compare
 
 
 class Drawing:
@@ -41,12 +42,15 @@ class Drawing:
         path.write_text("\n".join([*self._parts, "</svg>"]) + "\n", encoding="utf-8")
 
 
-def _legend(drawing, sides, y):
-    x = LEFT
+def _legend(drawing, sides):
+    x, y = LEFT, 44
     for side in sides:
+        width = 24 + 6.5 * len(side)
+        if x + width > WIDTH:
+            x, y = LEFT, y + 16
         drawing.rectangle(x, y - 9, 10, 10, COLOURS[side])
         drawing.text(x + 14, y, side, size=11)
-        x += 24 + 6.5 * len(side)
+        x += width
 
 
 def _multiples(measurements, cells, operation):
@@ -69,19 +73,20 @@ def _plot_operation(measurements, cells, operation, content_set, directory):
     groups = _multiples(measurements, [cell for cell in cells if cell.set == content_set], operation)
     if not groups:
         return
-    longest = max(max(sides.values()) for _, sides in groups)
+    longest = min(LONGEST, max(max(sides.values()) for _, sides in groups))
     height = TOP + sum(GAP + BAR * len(sides) for _, sides in groups) + GAP
     drawing = Drawing(WIDTH, height)
     title, baseline = OPERATIONS[operation]
     drawing.text(16, 24, f"{title}, {content_set} content: time as a multiple of {baseline} (shorter is faster)", size=15)
-    _legend(drawing, [side for side in SIDES if any(side in sides for _, sides in groups)], 46)
+    _legend(drawing, [side for side in SIDES if any(side in sides for _, sides in groups)])
     y = TOP
     for cell, sides in groups:
         drawing.text(LEFT - 8, y + BAR * len(sides) / 2 + 4, cell.workload.title, anchor="end")
         for side, multiple in sides.items():
-            width = (WIDTH - LEFT - RIGHT) * multiple / longest
+            width = (WIDTH - LEFT - RIGHT) * min(multiple, longest) / longest
             drawing.rectangle(LEFT, y, width, BAR - 2, COLOURS[side])
-            drawing.text(LEFT + width + 4, y + BAR - 4, f"{multiple:.2f}", size=10)
+            cut = " (cut)" if multiple > longest else ""
+            drawing.text(LEFT + width + 4, y + BAR - 4, f"{multiple:.2f}{cut}", size=10)
             y += BAR
         y += GAP
     drawing.write(directory / f"{operation.replace('_', '-')}-{content_set}.svg")
@@ -96,7 +101,7 @@ def _replay_lines(measurements, cells, operation):
             key = (cell.workload.name, cell.set, operation, side)
             if measurements.has(key):
                 lines.setdefault(side, []).append((sessions, measurements.median(key)))
-    return lines
+    return {side: points for side, points in lines.items() if len(points) > 1}
 
 
 def _plot_replay(measurements, cells, operation, directory):
@@ -109,7 +114,7 @@ def _plot_replay(measurements, cells, operation, directory):
     drawing = Drawing(WIDTH, height)
     title = OPERATIONS[operation][0]
     drawing.text(16, 24, f"{title} of a replay: nanoseconds per session by sessions in the message", size=15)
-    _legend(drawing, lines, 46)
+    _legend(drawing, lines)
 
     def place(sessions, time):
         share = math.log10(sessions) / max(1.0, math.log10(most))
