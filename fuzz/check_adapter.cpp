@@ -77,7 +77,7 @@ void adapter_check::place_record_to_send(const std::vector<uint8_t> &received)
 {
     sent_ = before_the_page(adapter_.sent_bytes);
     if (adapter_.to_sent != nullptr)
-        adapter_.to_sent(sent_, std::vector<uint8_t>(received).data());
+        adapter_.to_sent(sent_, received.data());
     else
         std::copy(received.begin(), received.end(), sent_);
     if (random_.one_in(2))
