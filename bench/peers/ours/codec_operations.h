@@ -55,28 +55,28 @@ void add_decode(suite &operations, uint32_t flags)
     const corpus &content = operations.content();
     auto memory = std::make_shared<bump_allocator>(bump_bytes_for(content.longest_wire()));
     auto record = std::make_shared<record_type>();
-    const auto wire_after = [&content, flags](size_t i) {
-        record_type decoded = {};
-        Codec::decode(decoded, content.wires[i].data(), content.wires[i].size(), heap, flags);
-        std::vector<uint8_t> wire = wire_of<Codec>(decoded);
-        Codec::free(decoded, heap, flags);
-        return wire;
-    };
     const auto decode_free = [&content, record, flags](size_t i, const our_allocator &allocator) {
         const std::vector<uint8_t> &wire = content.wires[i];
         const int32_t result = Codec::decode(*record, wire.data(), wire.size(), allocator, flags);
         Codec::free(*record, allocator, flags);
         return result == MAVA_TUM_OK;
     };
+    const auto wire_after = [&content, record, flags](size_t i, const our_allocator &allocator) {
+        Codec::decode(*record, content.wires[i].data(), content.wires[i].size(), allocator, flags);
+        std::vector<uint8_t> wire = wire_of<Codec>(*record);
+        Codec::free(*record, allocator, flags);
+        return wire;
+    };
+    const auto emptied = [memory] {
+        memory->reset();
+        return of_bump(*memory);
+    };
     operations.add(
-        "decode", "ours bump",
-        [decode_free, memory](size_t i) {
-            memory->reset();
-            return decode_free(i, of_bump(*memory));
-        },
-        wire_after);
+        "decode", "ours bump", [=](size_t i) { return decode_free(i, emptied()); },
+        [=](size_t i) { return wire_after(i, emptied()); });
     operations.add(
-        "decode", "ours calloc", [decode_free](size_t i) { return decode_free(i, heap); }, wire_after);
+        "decode", "ours calloc", [=](size_t i) { return decode_free(i, heap); },
+        [=](size_t i) { return wire_after(i, heap); });
 }
 
 // Into a buffer with room to spare, into one of exactly the size, and the question for the size.
