@@ -50,7 +50,7 @@ void __wrap_free(void *pointer)
 {
     using namespace mava_tum_fuzz;
     mava_tum_model::block_log *log = std::exchange(live_log, nullptr);
-    if (log != nullptr && log->index_of(pointer) != mava_tum_model::block_log::unknown)
+    if (log != nullptr && pointer != nullptr && log->index_of(pointer) != mava_tum_model::block_log::unknown)
         mava_tum_model::block_log::release(pointer, log);
     else
         __real_free(pointer);

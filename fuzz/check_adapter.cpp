@@ -63,6 +63,8 @@ std::string adapter_check::receive(uint8_t fill, std::vector<uint8_t> &received)
         adapter_.decode(checked_.wire.data(), static_cast<uint32_t>(checked_.wire.size()), record);
     }
     received.assign(record, record + adapter_.received_bytes);
+    if (asked.released_wrongly())
+        return "a block was freed twice";
     if (asked.outstanding() != 0)
         return std::to_string(asked.outstanding()) + " blocks were never freed";
 

@@ -48,6 +48,15 @@ std::size_t block_log::outstanding() const
     return count;
 }
 
+bool block_log::released_wrongly() const
+{
+    for (const release_call &call : releases_) {
+        if (!call.was_live)
+            return true;
+    }
+    return false;
+}
+
 void *block_log::allocate(uint64_t size, void *context)
 {
     block_log &log = *static_cast<block_log *>(context);

@@ -59,6 +59,9 @@ public:
     // Blocks given and not yet given back.
     std::size_t outstanding() const;
 
+    // Whether a pointer was released that was not live: a block for the second time, or one of somebody else.
+    bool released_wrongly() const;
+
     bool made_any_call() const
     {
         return !blocks_.empty();

@@ -111,7 +111,9 @@ TEST(comparison, sees_a_block_released_twice)
     block_log::release(ours, &library);
     block_log::release(theirs, &model);
     EXPECT_EQ(block_log::compare_releases(library, model), "");
+    EXPECT_FALSE(library.released_wrongly());
     block_log::release(ours, &library);
+    EXPECT_TRUE(library.released_wrongly());
     EXPECT_EQ(
         block_log::compare_releases(library, model), "release call 2: expected no such call, actual block 1 again");
 }
