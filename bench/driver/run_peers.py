@@ -24,7 +24,7 @@ from target_table import judge, print_targets
 def parse_arguments():
     parser = argparse.ArgumentParser(prog="bench/run", description="Measures the library beside its peers.")
     parser.add_argument("--build", required=True, help=argparse.SUPPRESS)  # bench/run gives it
-    parser.add_argument("--quick", action="store_true", help="some two minutes instead of some fifteen")
+    parser.add_argument("--quick", action="store_true", help="some two minutes instead of ten to fifteen")
     parser.add_argument("--json", type=pathlib.Path, help="write machine, all rounds and goals to this file")
     parser.add_argument("--plots", type=pathlib.Path, help="write SVG plots into this directory")
     parser.add_argument("--only", action="append", default=[], help="a workload by name or label; may be repeated")

@@ -77,7 +77,8 @@ def _plot_operation(measurements, cells, operation, content_set, directory):
     height = TOP + sum(GAP + BAR * len(sides) for _, sides in groups) + GAP
     drawing = Drawing(WIDTH, height)
     title, baseline = OPERATIONS[operation]
-    drawing.text(16, 24, f"{title}, {content_set} content: time as a multiple of {baseline} (shorter is faster)", size=15)
+    heading = f"{title}, {content_set} content: time as a multiple of {baseline} (shorter is faster)"
+    drawing.text(16, 24, heading, size=15)
     _legend(drawing, [side for side in SIDES if any(side in sides for _, sides in groups)])
     y = TOP
     for cell, sides in groups:
