@@ -1,7 +1,7 @@
 // What a target is made of: the question (fuzz_<question>.cpp), the mutator, and an engine or replay_main.cpp.
 #pragma once
 
-#include "model/schema.h"
+#include "model/message_tables.h"
 
 #include <cstddef>
 #include <cstdint>

@@ -1,5 +1,5 @@
 // What the restarted receiver makes of the keeper's messages. The keeper here is a script; what the receiver answers is
-// covered by test_reconciliation.cpp, where a real one has to agree.
+// covered by test_reconciliation_program.cpp, where a real one has to agree.
 #include "restarted_receiver.h"
 #include "scripted_messages.h"
 

@@ -2,8 +2,8 @@
 #pragma once
 
 #include "model/library_calls.h"
+#include "model/message_tables.h"
 #include "model/random_source.h"
-#include "model/schema.h"
 
 #include <cstdint>
 #include <string>

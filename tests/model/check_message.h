@@ -4,7 +4,7 @@
 
 #include "model/block_log.h"
 #include "model/library_calls.h"
-#include "model/schema.h"
+#include "model/message_tables.h"
 #include "model/wire_maker.h"
 
 #include <cstdint>

@@ -2,7 +2,7 @@
 // Compares the library with the model for every input of exactly <length> bytes, on all cores, or for every capacity
 // of every seed's encode. Prints a line per message and a total; exits with 1 at the first difference.
 #include "model/exhaustive.h"
-#include "model/schema.h"
+#include "model/message_tables.h"
 
 #include <algorithm>
 #include <atomic>

@@ -2,7 +2,7 @@
 // independent of the library. The four calls take what the library's take, with the message as a value.
 #pragma once
 
-#include "model/schema.h"
+#include "model/message_tables.h"
 
 #include <cstdint>
 

@@ -1,7 +1,7 @@
 // Members of records as raw memory: a base address and an offset, read and written bytewise.
 #pragma once
 
-#include "model/schema.h"
+#include "model/message_tables.h"
 
 #include <cstdint>
 #include <cstring>

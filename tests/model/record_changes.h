@@ -2,8 +2,8 @@
 // short, any spare bits. Nothing that a caller may not pass.
 #pragma once
 
+#include "model/message_tables.h"
 #include "model/random_source.h"
-#include "model/schema.h"
 
 #include <cstdint>
 

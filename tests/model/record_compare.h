@@ -3,7 +3,7 @@
 #pragma once
 
 #include "model/block_log.h"
-#include "model/schema.h"
+#include "model/message_tables.h"
 
 #include <cstdint>
 #include <string>

@@ -1,8 +1,8 @@
 // Wire bytes from the schema: valid ones for seeds, and ones that are wrong in the ways wire bytes can be wrong.
 #pragma once
 
+#include "model/message_tables.h"
 #include "model/random_source.h"
-#include "model/schema.h"
 
 #include <cstdint>
 #include <vector>

@@ -1,4 +1,4 @@
-#include "model/schema.h"
+#include "model/message_tables.h"
 
 #include <array>
 
