@@ -10,6 +10,7 @@
 //
 //     number, type, tag, bit       constants
 //     max_put_bytes                the most that `put` writes without asking for room
+//     max_head_bytes               the same without the payloads of texts and bytes
 //     reset(record)                decode: the empty value
 //     read(...)                    decode: one occurrence, or one run of an array
 //     put(...)                     encode: the fast writer, into the scratch
