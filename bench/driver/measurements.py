@@ -23,6 +23,13 @@ class Measurements:
         key = (cell.workload.name, cell.set, operation, side)
         self._rounds[key][round_number] = nanoseconds / cell.workload.sessions
 
+    def restore(self, key, rounds):
+        """`rounds` as `rounds(key)` gave them: nanoseconds per session by round."""
+        self._rounds[key].update(rounds)
+
+    def rounds(self, key):
+        return dict(self._rounds[key])
+
     def has(self, key):
         return key in self._rounds
 

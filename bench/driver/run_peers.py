@@ -6,19 +6,19 @@ other in random order, each in a new process. A ratio is taken within its round.
 """
 
 import argparse
-import json
 import pathlib
 import random
 import sys
 import tempfile
 
 import machine
-from measurements import Measurements, spread
+from measurements import Measurements
 from plan import PEERS, cells
 from programs import Disagreement, Programs
 from result_table import print_results
+from run_file import write_run
 from svg_plot import write_plots
-from target_table import judge, print_targets
+from target_table import judge, print_targets, ratios_to_proto2
 
 
 def parse_arguments():
@@ -83,25 +83,11 @@ class Run:
         return self._order.sample(items, len(items))
 
 
-def results_as_json(measurements):
-    return [
-        {
-            "workload": key[0], "set": key[1], "operation": key[2], "side": key[3],
-            "nanoseconds": round(measurements.median(key), 3),
-            "spread": round(spread(measurements.values(key)), 4),
-            "rounds": measurements.values(key),
-        }
-        for key in sorted(measurements.keys())
-    ]
-
-
 def report(run, description):
     print_results(run.measurements, run.cells)
-    verdicts = judge(run.measurements)
-    print_targets(verdicts)
+    print_targets(judge(run.measurements), ratios_to_proto2(run.measurements))
     if run.arguments.json:
-        document = {"machine": description, "results": results_as_json(run.measurements), "goals": verdicts}
-        run.arguments.json.write_text(json.dumps(document, indent=1) + "\n", encoding="utf-8")
+        write_run(run.arguments.json, description, run.measurements)
     if run.arguments.plots:
         write_plots(run.measurements, run.cells, run.arguments.plots)
 

@@ -4,6 +4,7 @@
 #define MAVA_TUM_BENCH_MESSAGE_SOURCES_H
 
 #include "peers/protobuf/peer_arena.h"
+#include "peers/protobuf/peer_language.h"
 
 namespace bench
 {
@@ -12,7 +13,7 @@ template <class Message>
 class new_message
 {
 public:
-    static constexpr const char *side = "protobuf new";
+    static constexpr const char *side = MAVA_TUM_BENCH_PROTOBUF_SIDE " new";
 
     explicit new_message(size_t /*arena_bytes*/) {}
 
@@ -28,7 +29,7 @@ template <class Message>
 class reused_message
 {
 public:
-    static constexpr const char *side = "protobuf reused";
+    static constexpr const char *side = MAVA_TUM_BENCH_PROTOBUF_SIDE " reused";
 
     explicit reused_message(size_t /*arena_bytes*/) {}
 
@@ -47,7 +48,7 @@ template <class Message>
 class arena_message
 {
 public:
-    static constexpr const char *side = "protobuf arena";
+    static constexpr const char *side = MAVA_TUM_BENCH_PROTOBUF_SIDE " arena";
 
     explicit arena_message(size_t arena_bytes) : arena_(arena_bytes) {}
 

@@ -130,11 +130,13 @@ void add_codec(suite &operations)
 {
     add_decode<Message, new_message>(operations);
     add_decode<Message, reused_message>(operations);
-    add_decode<Message, arena_message>(operations);
+    if constexpr (peer_uses_arena)
+        add_decode<Message, arena_message>(operations);
     add_encode<Message>(operations);
     add_duplicate<Message, new_message>(operations);
     add_duplicate<Message, reused_message>(operations);
-    add_duplicate<Message, arena_message>(operations);
+    if constexpr (peer_uses_arena)
+        add_duplicate<Message, arena_message>(operations);
 }
 
 template <class Message, class Application>
@@ -143,7 +145,8 @@ void add_all(suite &operations)
     add_codec<Message>(operations);
     add_adapter<Message, Application, new_message>(operations);
     add_adapter<Message, Application, reused_message>(operations);
-    add_adapter<Message, Application, arena_message>(operations);
+    if constexpr (peer_uses_arena)
+        add_adapter<Message, Application, arena_message>(operations);
 }
 
 } // namespace bench

@@ -1,4 +1,4 @@
-// protobuf C++: messages generated from session.proto, the ordinary runtime.
+// protobuf C++: messages generated from session.proto, as proto3 or as proto2, the ordinary runtime.
 #include "peers/harness/peer_program.h"
 #include "peers/harness/workload_names.h"
 #include "peers/protobuf/reconciliation_peer.h"
@@ -16,7 +16,7 @@ std::string peer_version()
 {
     constexpr int version = GOOGLE_PROTOBUF_VERSION;
     return "protobuf C++ " + std::to_string(version / 1000000) + "." + std::to_string(version / 1000 % 1000) + "." +
-           std::to_string(version % 1000);
+           std::to_string(version % 1000) + " with " + peer_language;
 }
 
 void add_operations(suite &operations)
