@@ -48,6 +48,22 @@ std::size_t block_log::outstanding() const
     return count;
 }
 
+uint64_t block_log::outstanding_bytes() const
+{
+    uint64_t bytes = 0;
+    for (const block &given : blocks_)
+        bytes += given.live ? given.size : 0;
+    return bytes;
+}
+
+uint64_t block_log::asked_bytes() const
+{
+    uint64_t bytes = 0;
+    for (const block &asked : blocks_)
+        bytes += asked.size;
+    return bytes;
+}
+
 bool block_log::released_wrongly() const
 {
     for (const release_call &call : releases_) {

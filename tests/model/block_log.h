@@ -56,8 +56,16 @@ public:
         return blocks_[index].size;
     }
 
-    // Blocks given and not yet given back.
+    // Blocks given and not yet given back, and their bytes.
     std::size_t outstanding() const;
+    uint64_t outstanding_bytes() const;
+
+    // Calls so far and the bytes that they asked for.
+    std::size_t calls() const
+    {
+        return blocks_.size();
+    }
+    uint64_t asked_bytes() const;
 
     // Whether a pointer was released that was not live: a block for the second time, or one of somebody else.
     bool released_wrongly() const;
