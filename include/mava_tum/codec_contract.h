@@ -25,7 +25,7 @@
  * The wire is the protobuf binary format (https://protobuf.dev/programming-guides/encoding/): varint, fixed32 and
  * length-delimited fields; no groups, no zigzag, no packed fields. All functions are pure: they keep no state, log
  * nothing, start no thread, and touch only their arguments, so any number of threads may call them on distinct
- * records. None of them throws.
+ * records. None of them throws. What a call writes must not overlap what it reads.
  *
  * Records
  *   Value fields stand in field-number order; `presence_mask` is the last member. Field number n owns bit n-1 of the
@@ -33,8 +33,9 @@
  *   array only when its bit is set. Bits that belong to no field ("spare") are kept as they are by every function.
  *     varint, fixed32   an unsigned integer in host byte order. An IPv4 address is held so that its four bytes stand on
  *                       the wire in network order: 192.0.2.1 is 0x010200C0, on every host.
- *     bytes             a `mava_tum_bytes`: pointer and length in bytes. Length 0 is a value like any other. Do not
- *                       write through the pointer of a record decoded with the alias bit: it is the input.
+ *     bytes             a `mava_tum_bytes`: pointer and length in bytes. Length 0 is a value like any other; the
+ *                       pointer is then not null after a decode, and null after a duplicate. Do not write through the
+ *                       pointer of a record decoded with the alias bit: it is the input.
  *     text              a `char *` to a NUL-terminated copy; null when absent. Neither length nor character set is
  *                       limited; a NUL inside the wire bytes ends the text early for whoever reads it.
  *     record            another message's record, held inline. It is written when its bit is set or when it has
@@ -48,22 +49,25 @@
  *   dropped, so call `_free_ext` first on a record that owns memory. `data` may be null when `length` is 0.
  *   Scalars and records: the last occurrence wins; records are not merged. A second occurrence of a bytes field, of a
  *   text, or of an array after another field has come in between, is an error. When a record occurs twice, the memory
- *   that its first occurrence obtained is dropped. Unknown fields are skipped. On failure the record keeps all fields
- *   decoded before it, with their memory: call `_free_ext` all the same.
+ *   that its first occurrence obtained is dropped. Unknown fields are skipped; one of fixed width or with a length may
+ *   end beyond the input, and the message then ends with success. On failure the record keeps all fields decoded before
+ *   it, with their memory: call `_free_ext` all the same.
  *   The codec puts no limit on counts and lengths: a list of empty elements asks for many times its size on the wire
  *   (at most 328 times, for session contexts inside a replay). Bound the input, or give an `alloc_fn` with a budget.
  *
  * Encoding
  *   Call with buffer null and length 0 to learn the size. When `length` is too small, single bytes are written up to
  *   it, a text or bytes field that does not fit whole is left out whole, and the full size is still returned. Nothing
- *   is written beyond the returned size.
+ *   is written beyond the returned size. Lengths on the wire have 32 bits: of a text, bytes field or record of 2^32
+ *   bytes or more the low 32 bits are written, and nobody can read the message.
  *   `segments` and `segment_count`, both optional, receive the output as pieces: on entry `*segment_count` is the
- *   capacity of `segments` in elements, on return the number of pieces, which may be larger. Without the alias bit
- *   that is one piece, the whole output (none if it is empty). With it, each bytes field that is not empty is a piece
- *   of its own that points at the record's memory; the result counts only the bytes in `buffer`, and lengths written
- *   in front of nested records count only those too. A record's next piece starts where its own last one ended, so it
- *   covers the bytes of nested records in between again: the pieces one after another are not the message. That mode is
- *   for callers who lay out the pieces themselves.
+ *   capacity of `segments` in elements, on return the number of pieces, which may be larger: those above the capacity
+ *   are only counted, as all are when `segments` is null. Without the alias bit that is one piece, the whole output
+ *   (none if it is empty). With it, each bytes field that is not empty is a piece of its own that points at the
+ *   record's memory; the result counts only the bytes in `buffer`, and lengths written in front of nested records count
+ *   only those too. A record's next piece starts where its own last one ended, so it covers the bytes of nested records
+ *   in between again: the pieces one after another are not the message. That mode is for callers who lay out the pieces
+ *   themselves.
  *
  * Ownership
  *   A record owns its texts and arrays always, its bytes fields unless it was decoded with the alias bit. After
@@ -97,8 +101,9 @@ enum {
     MAVA_TUM_UNSUPPORTED_WIRE_TYPE = -2,
     /* A known field arrives with another wire type than its own. */
     MAVA_TUM_WRONG_WIRE_TYPE = -3,
-    /* `alloc_fn` returned null, or is null where a block is needed; or a text has 2^32 - 1 bytes, whose block of length
-     * + 1 is computed in 32 bits and asked for with size 0. */
+    /* `alloc_fn` returned null, or is null where a block is needed; or an array has more than 2^32 - 1 elements; or a
+     * text has 2^32 - 1 bytes, whose block of length + 1 is computed in 32 bits and asked for with size 0: should
+     * `alloc_fn` give such a block, it is dropped. */
     MAVA_TUM_NO_MEMORY = -4
 };
 
@@ -107,8 +112,9 @@ enum {
  * encode: bytes fields become segments of their own. free: bytes fields are not released. */
 enum { MAVA_TUM_ALIAS = 1 };
 
-/* Returns a block of at least `size` bytes, aligned for any record, or null. `alloc_ctx` comes from the caller,
- * unchanged. `size` may be 0 (an empty bytes field); null then counts as a failure too. */
+/* Returns a block of at least `size` bytes, aligned for any record, or null. Its content does not matter. `alloc_ctx`
+ * comes from the caller, unchanged. `size` may be 0 (an empty bytes field); null then counts as a failure too. Like the
+ * release callback it must return, and must not touch the record or the input at work. */
 typedef void *(*mava_tum_alloc_fn)(uint64_t size, void *alloc_ctx);
 
 /* Gives back one block that the allocator callback returned. Never called with null. */
