@@ -12,20 +12,20 @@
  *
  * Encode
  *   Returns the size of the message in bytes, also when `capacity` (bytes) is smaller: the output was then cut and
- *   must not be sent. `buffer` may be null when `capacity` is 0. Nothing is written beyond the returned size, nothing
- *   is allocated, and `record` is only read. A count above the number of slots is taken as the number of slots. Every
- *   char array must contain a NUL: an array without one is read beyond its end.
+ *   must not be sent. `buffer` may be null when `capacity` is 0; it must not overlap `record`. Nothing is written
+ *   beyond the returned size, nothing is allocated, and `record` is only read. A count above the number of slots is
+ *   taken as the number of slots. Every char array must contain a NUL: an array without one is read beyond its end.
  *
  * Decode
  *   `record` is always overwritten as a whole: absent fields are zero. Nothing is reported: of a malformed message the
- *   fields before the fault arrive, the rest is zero. Texts longer than their array, or than the record says that it
- *   takes, are cut, with a NUL; values wider than their member keep their low bits; of a list longer than its array (a
- *   count in 8 bits is first taken modulo 256) the first elements arrive and the count says how many; of a bytes value
- *   longer than its array the first bytes arrive, a shorter one is followed by zeros. `data` may be null when `length`
- *   is 0; it must not overlap `record`.
- *   Memory for texts and arrays is obtained from calloc and given back through free before the call returns; when it
- *   runs out, the message counts as malformed at that field. The amount is bounded by the message, not by the record:
- *   bound `length`.
+ *   fields before the fault arrive, also those of the nested record that it lies in, but nothing of the list that it
+ *   lies in; the rest is zero. Texts longer than their array, or than the record says that it takes, are cut, with a
+ *   NUL; values wider than their member keep their low bits; of a list longer than its array (a count in 8 bits is
+ *   first taken modulo 256) the first elements arrive and the count says how many; of a bytes value longer than its
+ *   array the first bytes arrive, a shorter one is followed by zeros. `data` may be null when `length` is 0; it must
+ * not overlap `record`. Memory for texts and arrays is obtained from calloc and given back through free before the call
+ * returns; when it runs out, the message counts as malformed at that field. The amount is bounded by the message, not
+ * by the record: bound `length`.
  *
  * Stack
  *   An encode adapter needs at most 12 KiB and the codec records of its slots (session context: 2 KiB more, routes:

@@ -18,7 +18,8 @@ typedef struct tum_nal_data_stats_block {
     uint32_t counter[TUM_NAL_STATS_COUNTERS];
 } tum_nal_data_stats_block;
 
-/* A service. Its name is always sent, an empty one too. */
+/* A service. Its name and its statistics are always sent: an empty name too, and statistics that are all zero as an
+ * empty record. */
 typedef struct tum_nal_data_service_entry {
     char name[65];
     tum_nal_data_stats_block stats;
