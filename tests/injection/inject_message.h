@@ -1,0 +1,28 @@
+// Decode and duplicate of one message with a failing allocator, in the library and in the model: result, every member
+// kept, the calls of the allocator with their sizes, the blocks outstanding; then the same of the free that follows.
+#pragma once
+
+#include "injection/injection.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <span>
+#include <string>
+
+namespace mava_tum_injection
+{
+
+// Empty if the library did what the model predicts.
+std::string inject_decode(
+    std::size_t message_index, std::span<const uint8_t> wire, uint32_t flags, const injection &failing_call);
+
+// `source` is a record of the message.
+std::string inject_duplicate(std::size_t message_index, const uint8_t *source, const injection &failing_call);
+
+// No failure, then every call that the operation makes failing, once and for ever.
+void fail_decode(std::size_t message_index, std::span<const uint8_t> wire, uint32_t flags, injection_tally &tally);
+
+// The source is what `wire` decodes to, as far as it decodes; `seed` may change it as only a caller can.
+void fail_duplicate(std::size_t message_index, std::span<const uint8_t> wire, uint64_t seed, injection_tally &tally);
+
+} // namespace mava_tum_injection

@@ -1,0 +1,30 @@
+// What can run out of memory: 40 decodes, 40 duplicates, 19 decode adapters. Each gets inputs from a fixed seed until
+// enough of its calls have failed.
+#pragma once
+
+#include "injection/injection.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace mava_tum_injection
+{
+
+enum class operation : uint8_t { decode, duplicate, adapter };
+
+struct injection_subject {
+    operation what;
+    std::size_t index; // of the message, or of the adapter
+    std::string name;
+    bool asks_for_memory; // some field, at some depth, is bytes, text or a list
+};
+
+const std::vector<injection_subject> &all_injection_subjects();
+
+// All seeds, then mutated and random wires, until `injections` calls failed: whole inputs, so it may be some more. A
+// subject that asks for no memory gets its seeds alone. Stops at the first input with a deviation.
+injection_tally inject(const injection_subject &tested, uint64_t injections);
+
+} // namespace mava_tum_injection
