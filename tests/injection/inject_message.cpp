@@ -23,11 +23,16 @@ struct record_memory {
     alignas(8) uint8_t bytes[largest_record] = {};
 };
 
-std::string difference(const char *what, uint64_t expected, uint64_t actual)
+std::string difference(const char *what, int64_t expected, int64_t actual)
 {
     if (expected == actual)
         return "";
     return std::string(what) + ": expected " + std::to_string(expected) + ", actual " + std::to_string(actual);
+}
+
+int64_t blocks_of(const block_log &log)
+{
+    return static_cast<int64_t>(log.outstanding());
 }
 
 // The library's record and the model's, and the memory that each was given.
@@ -74,11 +79,11 @@ public:
 private:
     std::string compare(const char *operation, int32_t expected, int32_t actual) const
     {
-        std::string found = difference("result", static_cast<uint64_t>(expected), static_cast<uint64_t>(actual));
+        std::string found = difference("result", expected, actual);
         if (found.empty())
             found = block_log::compare_allocations(library_log_, model_log_);
         if (found.empty())
-            found = difference("blocks outstanding", model_log_.outstanding(), library_log_.outstanding());
+            found = difference("blocks outstanding", blocks_of(model_log_), blocks_of(library_log_));
         if (found.empty())
             found = compare_records(of_, {library_.bytes, model_.bytes}, library_log_, model_log_);
         return named(operation, found);
