@@ -24,6 +24,11 @@ public:
         used_bytes_ = 0;
     }
 
+    uint64_t used_bytes() const
+    {
+        return used_bytes_;
+    }
+
     // The allocator callback; `allocator` is the bump_allocator.
     static void *allocate(uint64_t size, void *allocator)
     {

@@ -11,7 +11,7 @@ class Disagreement(Exception):
 
 class Programs:
     def __init__(self, build):
-        self._directory = pathlib.Path(build) / "bench" / "peers"
+        self._directory = pathlib.Path(build) / "bench"
 
     def path(self, name):
         return self._directory / f"mava_tum_bench_{name}"
@@ -35,6 +35,10 @@ class Programs:
         """(operation, side, nanoseconds per message)"""
         command = [self.path(peer), corpus, "time", samples, milliseconds, seed]
         return [(operation, side, float(time)) for operation, side, time in self._rows(command)]
+
+    def rows(self, program, arguments):
+        """What one of the programs without a corpus prints."""
+        return self._rows([self.path(program), *arguments])
 
     def _rows(self, command):
         return [line.split("\t") for line in self._output(command).splitlines()]

@@ -1,5 +1,5 @@
-// The adapters: one call each way. With them the floor of a decode adapter, which owes one calloc and one free to each
-// text and array of the message.
+// The adapters: one call each way. With them the floor of a decode adapter, and of a decode with calloc, which owe one
+// calloc and one free to each text and array of the message.
 #ifndef MAVA_TUM_BENCH_ADAPTER_OPERATIONS_H
 #define MAVA_TUM_BENCH_ADAPTER_OPERATIONS_H
 
@@ -29,13 +29,13 @@ std::vector<std::vector<uint64_t>> block_sizes(const corpus &content)
     return sizes;
 }
 
-// Only the heap's share: no byte is decoded.
+// Only the heap's share of a decode: no byte is decoded.
 template <class Codec>
-void add_heap_floor(suite &operations)
+void add_heap_floor(suite &operations, const char *operation)
 {
     auto sizes = std::make_shared<std::vector<std::vector<uint64_t>>>(block_sizes<Codec>(operations.content()));
     auto blocks = std::make_shared<std::vector<void *>>();
-    operations.add_floor("decode_adapter", "heap calls", [sizes, blocks](size_t i) {
+    operations.add_floor(operation, "heap calls", [sizes, blocks](size_t i) {
         blocks->clear();
         for (const uint64_t size : (*sizes)[i])
             blocks->push_back(std::calloc(1, size));

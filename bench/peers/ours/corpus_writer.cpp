@@ -1,145 +1,8 @@
-// Makes a corpus with our library:
+// Writes a corpus for the peers to work on:
 //   mava_tum_bench_corpus <file> <workload> <set> <first number> <messages>
-// The fixed set has one message, whatever the numbers. A message's content depends on workload, set and number only.
-#include "peers/content/content.h"
-#include "peers/harness/workload_names.h"
-#include "peers/ours/codec_operations.h"
-#include "workloads.h"
+#include "peers/ours/corpus_content.h"
 
 #include <cstdio>
-
-namespace bench
-{
-namespace
-{
-
-template <class Application>
-struct filler {
-    void (*fixed)(Application &);
-    void (*realistic)(random_source &, Application &);
-    void (*random)(random_source &, Application &);
-};
-
-struct window {
-    uint64_t first;
-    uint64_t count;
-};
-
-template <class Application>
-void fill(const filler<Application> &fill, const std::string &set, uint64_t number, Application &record)
-{
-    random_source random(number + 1);
-    if (set == "fixed")
-        fill.fixed(record);
-    else if (set == "realistic")
-        fill.realistic(random, record);
-    else
-        fill.random(random, record);
-}
-
-template <class Application>
-void append(std::vector<uint8_t> &bytes, const Application &record)
-{
-    const auto *begin = reinterpret_cast<const uint8_t *>(&record);
-    bytes.insert(bytes.end(), begin, begin + sizeof record);
-}
-
-template <class Adapter>
-void add_messages(corpus &content, const filler<typename Adapter::application> &from, const window &numbers)
-{
-    using application = typename Adapter::application;
-    content.application_bytes = sizeof(application);
-    auto record = std::make_unique<application>();
-    for (uint64_t i = 0; i < (content.set == "fixed" ? 1 : numbers.count); ++i) {
-        std::memset(static_cast<void *>(record.get()), 0, sizeof *record);
-        fill(from, content.set, numbers.first + i, *record);
-        append(content.sent, *record);
-        std::vector<uint8_t> wire(Adapter::encode(record.get(), nullptr, 0));
-        Adapter::encode(record.get(), wire.data(), static_cast<uint32_t>(wire.size()));
-        Adapter::decode(wire.data(), static_cast<uint32_t>(wire.size()), record.get());
-        append(content.received, *record);
-        content.wires.push_back(std::move(wire));
-    }
-}
-
-std::vector<uint8_t> typical_session_wire()
-{
-    auto record = std::make_unique<tum_nal_data_session_context>();
-    fill_typical_session(*record);
-    std::vector<uint8_t> wire(session_adapter::encode(record.get(), nullptr, 0));
-    session_adapter::encode(record.get(), wire.data(), static_cast<uint32_t>(wire.size()));
-    return wire;
-}
-
-// All sessions are the typical one, so that the cost per session compares with that of a session alone.
-void add_replay(corpus &content, uint64_t session_count)
-{
-    const std::vector<uint8_t> wire = typical_session_wire();
-    mava_tum_session_context session = {};
-    mava_tum_session_context_decode_ext(&session, wire.data(), wire.size(), allocate_zeroed, nullptr, MAVA_TUM_ALIAS);
-    std::vector<mava_tum_session_context> sessions(session_count, session);
-    char text[] = "bng-north-07.example.net";
-    mava_tum_rec_sess_replay_req request = {};
-    request.field_1 = 17;
-    request.field_2 = 3;
-    request.field_3 = 4711;
-    request.field_4 = sessions.data();
-    request.field_4_count = static_cast<uint32_t>(session_count);
-    request.field_5 = 1;
-    request.field_6 = text;
-    request.presence_mask = 0x3F; // all six fields
-    content.wires.push_back(wire_of<replay_codec>(request));
-    mava_tum_session_context_free_ext(&session, release_allocated, nullptr, MAVA_TUM_ALIAS);
-}
-
-// A session of its numbers and 64 KiB in its one field of no fixed size. No nested records: encoding in pieces leaves
-// the bytes fields out of their lengths, and what it writes is then no message.
-void add_large_bytes(corpus &content)
-{
-    std::vector<uint8_t> large(64 * 1024);
-    random_source random(1);
-    for (uint8_t &byte : large)
-        byte = static_cast<uint8_t>(random.bits());
-    mava_tum_session_context session = {};
-    session.field_1 = 4;
-    session.field_2 = 0x2A01;
-    session.field_3 = 4711;
-    session.field_4 = 1;
-    session.field_6 = {large.data(), large.size()};
-    session.field_7 = 86400;
-    session.presence_mask = 0x6F; // all of these
-    content.wires.push_back(wire_of<session_codec>(session));
-}
-
-bool add_workload(corpus &content, const window &numbers)
-{
-    const std::string &workload = content.workload;
-    if (workload == typical_session)
-        add_messages<session_adapter>(
-            content, {fill_typical_session, fill_realistic_typical_session, fill_random_typical_session}, numbers);
-    else if (workload == full_session)
-        add_messages<session_adapter>(
-            content, {fill_full_session, fill_realistic_full_session, fill_random_full_session}, numbers);
-    else if (workload == route_batch)
-        add_messages<routes_adapter>(
-            content, {fill_route_batch, fill_realistic_route_batch, fill_random_route_batch}, numbers);
-    else if (workload == subscriber_stats)
-        add_messages<stats_adapter>(
-            content, {fill_subscriber_stats, fill_realistic_subscriber_stats, fill_random_subscriber_stats}, numbers);
-    else if (workload == session_states)
-        add_messages<states_adapter>(
-            content, {fill_session_states, fill_realistic_session_states, fill_random_session_states}, numbers);
-    else if (workload == group_start && content.set == "fixed")
-        add_messages<group_start_adapter>(content, {fill_group_start, nullptr, nullptr}, numbers);
-    else if (is_replay(workload) && content.set == "fixed")
-        add_replay(content, std::stoull(workload.substr(std::strlen(replay))));
-    else if (is_large_bytes(workload) && content.set == "fixed")
-        add_large_bytes(content);
-    return content.message_count() != 0;
-}
-
-} // namespace
-} // namespace bench
 
 int main(int argc, char **argv)
 {
@@ -150,8 +13,7 @@ int main(int argc, char **argv)
     bench::corpus content;
     content.workload = argv[2];
     content.set = argv[3];
-    const bool known_set = content.set == "fixed" || content.set == "realistic" || content.set == "random";
-    if (!known_set || !bench::add_workload(content, {std::stoull(argv[4]), std::stoull(argv[5])})) {
+    if (!bench::fill_corpus(content, {std::stoull(argv[4]), std::stoull(argv[5])})) {
         std::fprintf(stderr, "%s: no messages for workload %s, set %s\n", argv[0], argv[2], argv[3]);
         return 2;
     }

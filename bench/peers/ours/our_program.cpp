@@ -14,7 +14,13 @@ void add_all(suite &operations)
 {
     add_codec<Codec>(operations);
     add_adapter<Adapter>(operations);
-    add_heap_floor<Codec>(operations);
+    add_heap_floor<Codec>(operations, "decode_adapter");
+}
+
+void add_replay(suite &operations)
+{
+    add_codec<replay_codec>(operations);
+    add_heap_floor<replay_codec>(operations, "decode");
 }
 
 void add_large_bytes(suite &operations)
@@ -49,7 +55,7 @@ void add_operations(suite &operations)
     else if (workload == group_start)
         add_all<group_start_codec, group_start_adapter>(operations);
     else if (is_replay(workload))
-        add_codec<replay_codec>(operations);
+        add_replay(operations);
     else if (is_large_bytes(workload))
         add_large_bytes(operations);
 }

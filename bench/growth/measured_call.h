@@ -1,0 +1,44 @@
+// One call of the library, ready to be repeated on one input.
+#ifndef MAVA_TUM_BENCH_MEASURED_CALL_H
+#define MAVA_TUM_BENCH_MEASURED_CALL_H
+
+#include "bump_allocator.h"
+#include "model/library_calls.h"
+#include "growth/wire_pieces.h"
+
+#include <memory>
+
+namespace bench
+{
+
+class measured_call
+{
+public:
+    virtual ~measured_call() = default;
+
+    // `wire` must outlive the calls. Returns false if the call would not go through the whole of it.
+    virtual bool prepare(const wire_bytes &wire) = 0;
+    virtual void call() = 0;
+
+    // The memory that the call takes from its allocator, if that can be told.
+    virtual uint64_t memory_bytes() const = 0;
+};
+
+// Decode and free, with the alias bit and an allocator that is emptied before each call.
+std::unique_ptr<measured_call> decode_call(const mava_tum_model::library_message &of);
+
+// Encode of the record that a decode of the input brings, into a buffer of exactly the size.
+std::unique_ptr<measured_call> encode_call(const mava_tum_model::library_message &of);
+
+struct decode_adapter {
+    const char *message;
+    uint64_t record_bytes;
+    void (*decode)(const uint8_t *data, uint32_t length, void *record);
+};
+
+const std::vector<decode_adapter> &decode_adapters();
+std::unique_ptr<measured_call> adapter_call(const decode_adapter &adapter);
+
+} // namespace bench
+
+#endif

@@ -1,0 +1,22 @@
+// Makes a corpus with our library.
+#ifndef MAVA_TUM_BENCH_CORPUS_CONTENT_H
+#define MAVA_TUM_BENCH_CORPUS_CONTENT_H
+
+#include "peers/harness/corpus.h"
+
+namespace bench
+{
+
+// By their numbers. The fixed set has one message, whatever the numbers.
+struct message_window {
+    uint64_t first;
+    uint64_t count;
+};
+
+// Fills in the messages of the workload and set that `content` names: what is in a message depends on workload, set and
+// number only. Returns false if there are none of that name.
+bool fill_corpus(corpus &content, const message_window &numbers);
+
+} // namespace bench
+
+#endif
