@@ -26,7 +26,8 @@ wire_bytes input_of(const growing_input &input, size_t bytes);
 // The inputs that make a decoder work hardest for each byte.
 std::vector<growing_input> worst_inputs(const mava_tum_model::message &of);
 
-// Messages that nest as deeply as they can: one value that grows at the bottom, and elements that each go to the bottom.
+// Messages that nest as deeply as they can: one value that grows at the bottom, and elements that each go to the
+// bottom.
 std::vector<growing_input> deepest_inputs(const mava_tum_model::message &of);
 
 } // namespace bench

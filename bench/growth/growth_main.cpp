@@ -2,9 +2,9 @@
 //   mava_tum_bench_growth <largest input in bytes> <milliseconds per sample>
 // A line per measurement: operation, message, kind of input, bytes of input, nanoseconds; separated by tabs. Exits with
 // 1 when a call does not go through the whole of its input.
-#include "peers/harness/stopwatch.h"
 #include "growth/growing_input.h"
 #include "growth/measured_call.h"
+#include "peers/harness/stopwatch.h"
 
 #include <cstdio>
 #include <cstdlib>
@@ -61,8 +61,8 @@ size_t largest_input(const limits &within, const growing_input &input, measured_
     return largest;
 }
 
-void measure(const char *operation, const char *name, const growing_input &input, size_t largest,
-    const limits &within, measured_call &call)
+void measure(const char *operation, const char *name, const growing_input &input, size_t largest, const limits &within,
+    measured_call &call)
 {
     for (size_t bytes = largest >> doublings; bytes <= largest; bytes *= 2) {
         const wire_bytes wire = input_of(input, bytes);

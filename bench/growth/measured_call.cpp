@@ -104,8 +104,7 @@ private:
 class adapter_decoding final : public measured_call
 {
 public:
-    explicit adapter_decoding(const decode_adapter &adapter)
-        : adapter_(adapter), record_(adapter.record_bytes / 8 + 1)
+    explicit adapter_decoding(const decode_adapter &adapter) : adapter_(adapter), record_(adapter.record_bytes / 8 + 1)
     {
     }
 

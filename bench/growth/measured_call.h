@@ -3,8 +3,8 @@
 #define MAVA_TUM_BENCH_MEASURED_CALL_H
 
 #include "bump_allocator.h"
-#include "model/library_calls.h"
 #include "growth/wire_pieces.h"
+#include "model/library_calls.h"
 
 #include <memory>
 
