@@ -36,6 +36,11 @@ class Programs:
         command = [self.path(peer), corpus, "time", samples, milliseconds, seed]
         return [(operation, side, float(time)) for operation, side, time in self._rows(command)]
 
+    def time_cold(self, peer, corpus, calls, seed):
+        """(operation, side, nanoseconds with warm caches, nanoseconds with cold ones)"""
+        rows = self._rows([self.path(peer), corpus, "cold", calls, seed])
+        return [(operation, side, float(warm), float(cold)) for operation, side, warm, cold in rows]
+
     def rows(self, program, arguments):
         """What one of the programs without a corpus prints."""
         return self._rows([self.path(program), *arguments])

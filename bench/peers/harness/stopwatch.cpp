@@ -1,4 +1,5 @@
 #include "peers/harness/stopwatch.h"
+#include "peers/harness/other_work.h"
 
 #include <algorithm>
 #include <cmath>
@@ -14,6 +15,52 @@ double processor_nanoseconds()
     timespec time;
     clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
     return static_cast<double>(time.tv_sec) * 1e9 + static_cast<double>(time.tv_nsec);
+}
+
+double median(std::vector<double> values)
+{
+    const auto middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
+    std::ranges::nth_element(values, middle);
+    return *middle;
+}
+
+double clock_nanoseconds()
+{
+    timespec time;
+    clock_gettime(CLOCK_MONOTONIC, &time);
+    return static_cast<double>(time.tv_sec) * 1e9 + static_cast<double>(time.tv_nsec);
+}
+
+double single_pass_nanoseconds(timed_operation &operation)
+{
+    const double begin = clock_nanoseconds();
+    operation.run(1);
+    return clock_nanoseconds() - begin;
+}
+
+// What taking the time takes.
+class no_operation final : public timed_operation
+{
+public:
+    void run(uint64_t passes) override
+    {
+        keep(passes);
+    }
+};
+
+single_call median_calls(timed_operation &operation, unsigned calls)
+{
+    constexpr uint64_t warming_passes = 30;
+    other_work between;
+    std::vector<double> warm(calls);
+    std::vector<double> cold(calls);
+    for (unsigned i = 0; i < calls; ++i) {
+        between.run();
+        cold[i] = single_pass_nanoseconds(operation);
+        operation.run(warming_passes);
+        warm[i] = single_pass_nanoseconds(operation);
+    }
+    return {median(warm), median(cold)};
 }
 
 double run_nanoseconds(timed_operation &operation, uint64_t passes)
@@ -44,8 +91,15 @@ double time_operation(timed_operation &operation, size_t message_count, const sa
     std::vector<double> samples(how.samples);
     for (double &sample : samples)
         sample = run_nanoseconds(operation, passes);
-    std::ranges::nth_element(samples, samples.begin() + samples.size() / 2);
-    return samples[samples.size() / 2] / static_cast<double>(passes) / static_cast<double>(message_count);
+    return median(samples) / static_cast<double>(passes) / static_cast<double>(message_count);
+}
+
+single_call time_single_calls(timed_operation &operation, unsigned calls)
+{
+    no_operation nothing;
+    const single_call overhead = median_calls(nothing, calls);
+    const single_call taken = median_calls(operation, calls);
+    return {taken.warm - overhead.warm, taken.cold - overhead.cold};
 }
 
 } // namespace bench

@@ -1,4 +1,5 @@
-// Times an operation by the thread's own processor time: others on the machine slow it down, but are not counted.
+// Times an operation: many passes by the thread's own processor time (others on the machine slow it down, but are not
+// counted), or single ones with cold caches by the clock.
 #ifndef MAVA_TUM_BENCH_STOPWATCH_H
 #define MAVA_TUM_BENCH_STOPWATCH_H
 
@@ -14,6 +15,14 @@ struct sampling {
 
 // Nanoseconds per message.
 double time_operation(timed_operation &operation, size_t message_count, const sampling &how);
+
+struct single_call {
+    double warm; // nanoseconds of one pass right after many others
+    double cold; // of one pass after other work; see other_work.h
+};
+
+// Medians, less what taking the time takes. By the clock: the thread's own time is too coarse for a single call.
+single_call time_single_calls(timed_operation &operation, unsigned calls);
 
 } // namespace bench
 

@@ -1,0 +1,31 @@
+// What a process does between two calls of a codec, as far as caches notice: it walks other data and runs other code.
+// Afterwards nothing of the codec is left in the first two levels of caches, and little in the branch predictors; the
+// last level may still hold it.
+#ifndef MAVA_TUM_BENCH_OTHER_WORK_H
+#define MAVA_TUM_BENCH_OTHER_WORK_H
+
+#include <cstdint>
+#include <vector>
+
+namespace bench
+{
+
+class other_work
+{
+public:
+    // More than the second-level caches of today's processors, of data; more than any first-level cache, of code.
+    static constexpr uint64_t data_bytes = 6 * 1024 * 1024;
+    static constexpr uint64_t code_bytes = 128 * 1024; // at least
+
+    other_work() : data_(data_bytes / sizeof(uint64_t)) {}
+
+    void run();
+
+private:
+    std::vector<uint64_t> data_;
+    uint64_t sum_ = 1;
+};
+
+} // namespace bench
+
+#endif
