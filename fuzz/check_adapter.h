@@ -21,6 +21,7 @@ struct adapter_case {
     mava_tum_model::failure_plan plan; // of calloc during the decode
     uint64_t seed = 0;                 // how the received record is changed before it is sent, and where it is cut
     std::span<const uint8_t> wire;
+    bool every_part = true; // otherwise one of the operations after the first decode, chosen by `seed`
 };
 
 // Eight bytes that say how, then the wire. Shorter input is no case.

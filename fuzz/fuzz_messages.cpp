@@ -13,17 +13,18 @@ const mava_tum_model::message &message_of_input(uint8_t first_byte)
     return *mava_tum_model::all_messages()[first_byte % mava_tum_model::all_messages().size()];
 }
 
-} // namespace mava_tum_fuzz
-
-extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, std::size_t size)
+bool check_input(std::span<const uint8_t> bytes, depth how)
 {
     mava_tum_model::message_case read;
-    if (!mava_tum_model::read_case({data, size}, read))
-        return -1;
+    if (!mava_tum_model::read_case(bytes, read))
+        return false;
+    read.every_part = how == depth::every_part;
     const std::string found = mava_tum_model::check_message(read);
     if (!found.empty()) {
         std::fprintf(stderr, "%s\n", found.c_str());
         std::abort();
     }
-    return 0;
+    return true;
 }
+
+} // namespace mava_tum_fuzz

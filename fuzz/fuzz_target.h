@@ -5,6 +5,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <span>
 
 namespace mava_tum_fuzz
 {
@@ -12,6 +13,10 @@ namespace mava_tum_fuzz
 // The message whose wire follows the eight bytes that start each input.
 const mava_tum_model::message &message_of_input(uint8_t first_byte);
 
-} // namespace mava_tum_fuzz
+// The engine checks one operation after the decode in each execution; a replay also checks all of them.
+enum class depth { one_part, every_part };
 
-extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, std::size_t size);
+// Stops the program, with a description, where the library does something else than the model. False: not a case.
+bool check_input(std::span<const uint8_t> bytes, depth how);
+
+} // namespace mava_tum_fuzz

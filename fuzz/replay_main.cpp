@@ -26,7 +26,9 @@ void replay(const fs::path &file)
     const std::unique_ptr<uint8_t[]> exact(new uint8_t[bytes.size()]);
     std::copy(bytes.begin(), bytes.end(), exact.get());
     std::fprintf(stderr, "%s\r", file.filename().c_str());
-    LLVMFuzzerTestOneInput(exact.get(), bytes.size());
+    const std::span<const uint8_t> input(exact.get(), bytes.size());
+    mava_tum_fuzz::check_input(input, mava_tum_fuzz::depth::one_part);
+    mava_tum_fuzz::check_input(input, mava_tum_fuzz::depth::every_part);
 }
 
 std::size_t replay_all(const fs::path &path)

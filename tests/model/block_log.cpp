@@ -2,6 +2,7 @@
 
 #include <cstdlib>
 #include <cstring>
+#include <new>
 
 namespace mava_tum_model
 {
@@ -21,8 +22,21 @@ block_log::~block_log()
 {
     for (const block &left : blocks_) {
         if (left.live)
-            std::free(left.memory);
+            give_back(left.memory);
     }
+}
+
+uint8_t *block_log::obtain(uint64_t size) const
+{
+    return static_cast<uint8_t *>(memory_ == block_memory::watched ? std::malloc(size) : ::operator new(size));
+}
+
+void block_log::give_back(void *memory) const
+{
+    if (memory_ == block_memory::watched)
+        std::free(memory);
+    else
+        ::operator delete(memory);
 }
 
 bool block_log::fails(uint64_t size) const
@@ -76,7 +90,7 @@ bool block_log::released_wrongly() const
 void *block_log::allocate(uint64_t size, void *context)
 {
     block_log &log = *static_cast<block_log *>(context);
-    uint8_t *memory = log.fails(size) || size > largest_block ? nullptr : static_cast<uint8_t *>(std::malloc(size));
+    uint8_t *memory = log.fails(size) || size > largest_block ? nullptr : log.obtain(size);
     if (memory != nullptr)
         std::memset(memory, fresh_byte, size);
     log.blocks_.push_back({memory, size, memory != nullptr});
@@ -110,7 +124,7 @@ void block_log::release(void *pointer, void *context)
     log.releases_.push_back({index, pointer, live});
     if (live) {
         log.blocks_[index].live = false;
-        std::free(pointer);
+        log.give_back(pointer);
     }
 }
 
@@ -126,7 +140,7 @@ std::string block_log::compare_allocations(const block_log &library, const block
         return "allocator call " + std::to_string(index + 1) + ": expected " + size_at(model) + ", actual " +
                size_at(library);
     }
-    return "";
+    return {};
 }
 
 std::string block_log::describe(const release_call &call)
@@ -148,7 +162,7 @@ std::string block_log::compare_releases(const block_log &library, const block_lo
         return "release call " + std::to_string(index + 1) + ": expected " + released(model) + ", actual " +
                released(library);
     }
-    return "";
+    return {};
 }
 
 } // namespace mava_tum_model

@@ -24,10 +24,16 @@ struct failure_plan {
     uint32_t at = 0;
 };
 
+// Where blocks come from. What the library was given has to be watched by sanitizers; the model's blocks need not be.
+enum class block_memory : uint8_t { watched, plain };
+
 class block_log
 {
 public:
-    explicit block_log(failure_plan plan = {}) : plan_(plan) {}
+    explicit block_log(failure_plan plan = {}, block_memory memory = block_memory::watched)
+        : plan_(plan), memory_(memory)
+    {
+    }
     block_log(const block_log &) = delete;
     block_log &operator=(const block_log &) = delete;
     ~block_log();
@@ -97,10 +103,13 @@ private:
     };
 
     bool fails(uint64_t size) const;
+    uint8_t *obtain(uint64_t size) const;
+    void give_back(void *memory) const;
     std::size_t find(const void *pointer, bool live) const;
     static std::string describe(const release_call &call);
 
     failure_plan plan_;
+    block_memory memory_;
     std::vector<block> blocks_;
     std::vector<release_call> releases_;
     mutable std::size_t last_found_ = 0; // blocks are looked up nearly in order

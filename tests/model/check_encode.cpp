@@ -43,7 +43,7 @@ std::string difference(const std::string &what, uint64_t expected, uint64_t actu
 std::string compare_bytes(const guarded_output &library, const guarded_output &model)
 {
     if (library.memory == model.memory)
-        return "";
+        return {};
     const auto [at, expected] = std::mismatch(library.memory.begin(), library.memory.end(), model.memory.begin());
     const std::ptrdiff_t position = at - library.memory.begin() - static_cast<std::ptrdiff_t>(guard_bytes);
     return difference("byte " + std::to_string(position) + " of the buffer", *expected, *at);
@@ -61,7 +61,7 @@ std::string compare_pieces(
             return difference(name + " data", reinterpret_cast<uintptr_t>(expected[index].data),
                 reinterpret_cast<uintptr_t>(actual[index].data));
     }
-    return "";
+    return {};
 }
 
 } // namespace
@@ -133,17 +133,17 @@ std::string describe(const encode_case &checked)
 } // namespace
 
 std::string check_encodes(
-    const message &of, const library_message &library, const uint8_t *record, random_source &random)
+    const message &of, const library_message &library, const uint8_t *record, random_source &random, int rounds)
 {
     // What the model says of the size is compared in each case; here it only chooses capacities.
     const uint64_t size = std::min<uint64_t>(model_encode(of, record, {}, 0), 1 << 20);
-    for (int round = 0; round < 3; ++round) {
+    for (int round = 0; round < rounds; ++round) {
         const encode_case chosen = some_case(size, random);
         const std::string found = check_encode(of, library, record, chosen);
         if (!found.empty())
             return found + describe(chosen);
     }
-    return "";
+    return {};
 }
 
 } // namespace mava_tum_model

@@ -25,8 +25,8 @@ struct encode_case {
 std::string check_encode(
     const message &of, const library_message &library, const uint8_t *record, const encode_case &checked);
 
-// Several capacities and piece capacities, chosen at random among those where something changes.
+// `rounds` capacities and piece capacities, chosen at random among those where something changes.
 std::string check_encodes(
-    const message &of, const library_message &library, const uint8_t *record, random_source &random);
+    const message &of, const library_message &library, const uint8_t *record, random_source &random, int rounds);
 
 } // namespace mava_tum_model

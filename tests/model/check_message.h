@@ -20,6 +20,7 @@ struct message_case {
     failure_plan decode_plan;
     uint64_t seed = 0; // what happens after the decode
     std::span<const uint8_t> wire;
+    bool every_part = true; // otherwise one of the operations after the decode, chosen by `seed`
 };
 
 // A case as bytes: eight that say how, then the wire. Shorter input is no case.

@@ -38,7 +38,7 @@ std::string value_at(const record_pair &records, uint32_t offset)
     const value_type expected = load<value_type>(records.model, offset);
     const value_type actual = load<value_type>(records.library, offset);
     if (expected == actual)
-        return "";
+        return {};
     std::ostringstream text;
     text << std::hex << "expected 0x" << +expected << ", actual 0x" << +actual;
     return text.str();
@@ -62,11 +62,11 @@ std::string comparison::pointer(const record_pair &records, uint32_t offset)
     const uint8_t *expected = load_pointer(records.model, offset);
     const uint8_t *actual = load_pointer(records.library, offset);
     if (expected == actual)
-        return "";
+        return {};
     const std::size_t index =
         expected == nullptr || actual == nullptr ? block_log::unknown : model_log_.index_of(expected);
     if (index != block_log::unknown && library_log_.index_of(actual) == index)
-        return "";
+        return {};
     return "expected " + describe(expected, model_log_) + ", actual " + describe(actual, library_log_);
 }
 
@@ -80,7 +80,7 @@ std::string comparison::bytes_member(const field &described, const record_pair &
     const uint8_t *expected = load_pointer(records.model, described.offset);
     const uint8_t *actual = load_pointer(records.library, described.offset);
     if (expected == actual || std::memcmp(expected, actual, load_bytes_length(records.model, described)) == 0)
-        return "";
+        return {};
     return ": other bytes";
 }
 
@@ -94,7 +94,7 @@ std::string comparison::text_at(const record_pair &records, uint32_t offset)
     const uint8_t *actual = load_pointer(records.library, offset);
     if (expected == actual ||
         std::memcmp(expected, actual, model_log_.size_of_block(model_log_.index_of(expected))) == 0)
-        return "";
+        return {};
     return ": other text";
 }
 
@@ -116,7 +116,7 @@ std::string comparison::array_member(const field &described, const record_pair &
         element.library += element_bytes(described);
         element.model += element_bytes(described);
     }
-    return "";
+    return {};
 }
 
 std::string comparison::member(const field &described, const record_pair &records)
@@ -152,7 +152,7 @@ std::string comparison::record(const message &of, const record_pair &records)
     const uint32_t expected = load_mask(of, records.model);
     const uint32_t actual = load_mask(of, records.library);
     if (expected == actual)
-        return "";
+        return {};
     std::ostringstream text;
     text << std::hex << ".presence_mask: expected 0x" << expected << ", actual 0x" << actual;
     return text.str();
