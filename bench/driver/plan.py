@@ -35,7 +35,7 @@ WORKLOAD_OF_NAME = {workload.name: workload for workload in WORKLOADS}
 
 # In the order of the columns.
 SIDES = (
-    "ours", "ours bump", "ours calloc", "memcpy", "heap calls",
+    "ours", "ours bump", "ours arena", "ours calloc", "memcpy", "heap calls",
     "protobuf reused", "protobuf new", "protobuf arena", "proto2 reused", "proto2 new",
     "protozero", "nanopb", "protobuf-c malloc", "protobuf-c bump",
 )

@@ -2,6 +2,7 @@
 #include "peers/harness/peer_program.h"
 #include "peers/harness/workload_names.h"
 #include "peers/ours/adapter_operations.h"
+#include "peers/ours/arena_operations.h"
 #include "peers/ours/gather_operations.h"
 
 namespace bench
@@ -13,6 +14,7 @@ template <class Codec, class Adapter>
 void add_all(suite &operations)
 {
     add_codec<Codec>(operations);
+    add_arena_decode<Codec>(operations, MAVA_TUM_ALIAS);
     add_adapter<Adapter>(operations);
     add_heap_floor<Codec>(operations, "decode_adapter");
 }
