@@ -1,7 +1,11 @@
 # Instrumented builds: everything in the tree is built alike, library, tests and examples.
 if(MAVA_TUM_SANITIZE)
-    add_compile_options(-fsanitize=address,undefined,leak -fno-sanitize-recover=all -fno-omit-frame-pointer)
-    add_link_options(-fsanitize=address,undefined,leak -fno-sanitize-recover=all)
+    set(sanitizers "${MAVA_TUM_SANITIZE}")
+    if(sanitizers MATCHES "^(ON|TRUE|YES|1)$")
+        set(sanitizers address,undefined,leak)
+    endif()
+    add_compile_options(-fsanitize=${sanitizers} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    add_link_options(-fsanitize=${sanitizers} -fno-sanitize-recover=all)
 endif()
 # clang counts lines, branches and conditions (MC/DC) of the library's own files, wherever they are compiled; gcc counts
 # all files.

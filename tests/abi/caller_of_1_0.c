@@ -119,7 +119,8 @@ static void statistics(void)
 static void routes(void)
 {
     GUARDED(mava_tum_sub_route) in;
-    mava_tum_subscriber_route_ipv4 elements[2] = {{.field_1 = 11, .presence_mask = 1}, {.field_1 = 12, .presence_mask = 1}};
+    mava_tum_subscriber_route_ipv4 elements[2] = {
+        {.field_1 = 11, .presence_mask = 1}, {.field_1 = 12, .presence_mask = 1}};
     const mava_tum_sub_route sent = {
         .ipv4_routes = elements, .ipv4_route_count = 2, .field_6 = 5, .presence_mask = 0x28};
     LAY_OUT(in);
