@@ -1,0 +1,178 @@
+#!/usr/bin/env python3
+"""Puts every mutant of src/codec and of the queue into a copy of the tree, at once: see mutant_switch.h.
+
+    mutate_sources.py <copy of the project> <mutants.json>
+
+Rewrites the sources in the copy, drops what no compiler takes, and writes down what each mutant is.
+"""
+import glob
+import json
+import os
+import re
+import shutil
+import subprocess
+import sys
+from concurrent.futures import ThreadPoolExecutor
+
+import find_mutants
+
+COMPILER = "clang++-19"
+SWITCH = os.path.join(os.path.dirname(os.path.abspath(__file__)), "mutant_switch.h")
+MUTATED = ["src/codec/*.h", "src/codec/*.cpp", "src/nal/nal_queue.cpp"]
+# Each template is seen in the sources that instantiate it.
+COMPILED = ["src/codec/*.cpp", "src/messages/*.cpp", "src/nal/nal_queue.cpp"]
+
+
+def arguments_in(root):
+    return ["-std=c++20", "-w", f"-I{root}/include", f"-I{root}/src"]
+
+
+def expand(root, patterns):
+    return sorted(path for pattern in patterns for path in glob.glob(os.path.join(root, pattern)))
+
+
+def find_all(root, files):
+    """path -> sites. A header may be read through many sources; its first reading is as good as any."""
+    found = {}
+    for source in expand(root, COMPILED):
+        left = {path: name for path, name in files.items() if path not in found}
+        found.update(find_mutants.find_sites(source, left, arguments_in(root)))
+    return found
+
+
+def number_sites(found):
+    number = 1
+    for sites in found.values():
+        for site in sites:
+            site.first = number
+            number += len(site.changes)
+    return number - 1
+
+
+def edits_of(sites):
+    """(from, to, text) in the order in which they are written. At one position what ends there comes first, the
+    innermost first; then what starts there, the outermost first."""
+    edits = []
+    for order, site in enumerate(sites):
+        if site.dropped:
+            continue
+        number = site.first
+        edits.append(((site.start, 1, -site.end, order), site.start, site.before.format(number)))
+        edits.append(((site.end, 0, -site.start, -order), site.end, site.after.format(number)))
+        if site.operator:
+            start, end, text = site.operator
+            edits.append(((start, 2, 0, 0), end, text.format(number)))
+    return sorted(edits, key=lambda edit: edit[0])
+
+
+def without_forced_inlining(text):
+    """Mutants make functions large: inlined everywhere, they would take a compiler an hour. Same length, so that
+    positions stay."""
+    attribute = "[[gnu::always_inline]]"
+    return text.replace(attribute, " " * len(attribute))
+
+
+def rewrite(path, text, sites):
+    """Writes the mutated file. Returns (position in it, position in the original) pairs, to find errors again."""
+    pieces, positions, written, at = [], [], 0, 0
+
+    def put(piece, original):
+        nonlocal written
+        positions.append((written, original))
+        pieces.append(piece)
+        written += len(piece)
+
+    put('#include "mutant_switch.h"\n', 0)
+    for (start, *_), end, inserted in edits_of(sites):
+        put(text[at:start], at)
+        put(inserted, start)
+        at = end
+    put(text[at:], at)
+    with open(path, "w", encoding="latin-1") as stream:
+        stream.write("".join(pieces))
+    return positions
+
+
+def errors_of(root, source):
+    """(file, line, column) of each error, and of the place that instantiated the function it is in."""
+    command = [COMPILER, "-fsyntax-only", "-ferror-limit=0", "-Wno-c++11-narrowing",
+               *arguments_in(root), source]
+    output = subprocess.run(command, capture_output=True, text=True, check=False).stderr
+    return re.findall(r"^(/[^:\n]+):(\d+):(\d+): (?:fatal )?error: (.*)", output, re.M)
+
+
+def original_position(path, positions, line, column):
+    with open(path, encoding="latin-1") as stream:
+        lines = stream.read().splitlines(keepends=True)
+    at = sum(len(each) for each in lines[:line - 1]) + column - 1
+    written, original = [pair for pair in positions if pair[0] <= at][-1]
+    following = [pair[1] for pair in positions if pair[0] > at]
+    return min(original + at - written, following[0] if following else original + at - written)
+
+
+def drop_at(sites, at):
+    """Drops the innermost site around the position. False when there is none."""
+    around = [site for site in sites if not site.dropped and site.start <= at <= site.end]
+    if not around:
+        return False
+    min(around, key=lambda site: site.end - site.start).dropped = True
+    return True
+
+
+def drop_what_does_not_compile(root, found, texts):
+    """Writes the files again and again until all compile."""
+    with ThreadPoolExecutor(int(os.environ.get("MUTATION_JOBS", os.cpu_count()))) as pool:
+        while True:
+            positions = {path: rewrite(path, texts[path], sites) for path, sites in found.items()}
+            errors = set()
+            for batch in pool.map(lambda source: errors_of(root, source), expand(root, COMPILED)):
+                errors.update(batch)
+            if not errors:
+                return
+            dropped = False
+            for path, line, column, message in sorted(errors):
+                if path not in found:
+                    continue
+                at = original_position(path, positions[path], int(line), int(column))
+                dropped |= drop_at(found[path], at)
+                print(f"not compiled: {os.path.relpath(path, root)}:{texts[path].count(chr(10), 0, at) + 1}: {message}")
+            if not dropped:
+                raise SystemExit(f"no mutant to blame for {sorted(errors)[:3]}")
+
+
+def describe(found, texts):
+    """number -> what people need to know; `key` stays the same when lines move."""
+    mutants, seen = {}, {}
+    for path, sites in found.items():
+        for site in sites:
+            original = " ".join(texts[path][site.start:site.end].split())
+            for index, change in enumerate(site.changes):
+                key = f"{os.path.basename(site.file)} {site.function}: {original} [{change}]"
+                seen[key] = seen.get(key, 0) + 1
+                mutants[site.first + index] = {
+                    "key": key if seen[key] == 1 else f"{key} #{seen[key]}", "file": site.file,
+                    "line": texts[path].count("\n", 0, site.start) + 1, "function": site.function,
+                    "compiles": not site.dropped}
+    return mutants
+
+
+def main():
+    root, result = os.path.abspath(sys.argv[1]), sys.argv[2]
+    files = {path: os.path.relpath(path, root) for path in expand(root, MUTATED)}
+    texts = {}
+    for path in files:
+        with open(path, encoding="latin-1") as stream:
+            texts[path] = without_forced_inlining(stream.read())
+    shutil.copy(SWITCH, os.path.join(root, "src"))
+    found = find_all(root, files)
+    count = number_sites(found)
+    drop_what_does_not_compile(root, found, texts)
+    mutants = describe(found, texts)
+    with open(result, "w", encoding="utf-8") as stream:
+        json.dump(mutants, stream, indent=1)
+    compiled = sum(mutant["compiles"] for mutant in mutants.values())
+    print(f"{count} mutants, {count - compiled} of them do not compile")
+
+
+if __name__ == "__main__":
+    main()
