@@ -28,8 +28,8 @@ struct adapter_case {
 bool read_adapter_case(std::span<const uint8_t> bytes, adapter_case &read);
 
 // Empty if all of this holds, otherwise what does not:
-// receiving: nothing outside the record is touched, every byte of it is written, the blocks asked for are those that
-// the model predicts for the message, and all are given back; sending: nothing is allocated, the record is only read,
+// receiving: nothing outside the record is touched, every byte of it is the one that the model predicts, and so are the
+// blocks asked for, and all are given back; sending: nothing is allocated, the record is only read,
 // the bytes are a complete message that the model decodes and writes again to the same bytes, and a short buffer
 // receives of them what the model puts there.
 std::string check_adapter(const adapter_case &checked);

@@ -1,0 +1,19 @@
+// What a decode adapter has to leave in its application record, predicted from the model's codec record.
+#pragma once
+
+#include "model/application_layout.h"
+
+#include <cstdint>
+#include <string>
+
+namespace mava_tum_model
+{
+
+// `codec_record` is what the model's decode left, after success or failure. Writes extent_of(layout).bytes.
+void model_receive(
+    const message &of, const uint8_t *codec_record, const application_layout &layout, uint8_t *application_record);
+
+// The member that the byte at `offset` belongs to, as field numbers: "10.4.2", or "11[3].12" inside a list.
+std::string member_at(const application_layout &layout, uint32_t offset);
+
+} // namespace mava_tum_model
