@@ -3,6 +3,8 @@
 import collections
 import math
 
+from measurements import significant
+
 # The exponent is fitted over the largest sizes: in small inputs the fixed cost of a call still shows.
 FITTED_SIZES = 6
 LINEAR_UP_TO = 1.15
@@ -46,7 +48,7 @@ def judged(growth):
             "exponent": round(exponent(points), 3),
             "nanoseconds_per_byte": round(nanoseconds_per_byte(points), 3),
             "linear": exponent(points) <= LINEAR_UP_TO,
-            "points": points,
+            "points": [(size, significant(time)) for size, time in points],
         }
         for (operation, message, kind), points in growth.series()
     ]

@@ -16,6 +16,13 @@ def _processor():
     return platform.machine()
 
 
+def _commit():
+    """Of the tree this stands in; "-dirty" when it has changes that are in no commit. A copy without git has none."""
+    command = ["git", "-C", str(pathlib.Path(__file__).parent), "describe", "--always", "--dirty", "--exclude=*"]
+    done = subprocess.run(command, capture_output=True, text=True, check=False)
+    return done.stdout.strip() or "unknown"
+
+
 def _cache_entries(build):
     text = (pathlib.Path(build) / "CMakeCache.txt").read_text(encoding="utf-8")
     return dict(re.findall(r"^(CMAKE_\w+):\w+=(.*)$", text, re.MULTILINE))
@@ -33,6 +40,7 @@ def _flags(cache, language):
 def describe(build, versions):
     cache = _cache_entries(build)
     return {
+        "commit": _commit(),
         "processor": _processor(),
         "system": f"{platform.system()} {platform.release()}, {platform.freedesktop_os_release()['PRETTY_NAME']}",
         "load": f"{os.getloadavg()[0]:.2f} in the last minute, before the run",

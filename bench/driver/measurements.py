@@ -4,6 +4,11 @@ import collections
 import statistics
 
 
+def significant(value):
+    """Four digits: more is noise, and makes files long."""
+    return float(f"{value:.4g}")
+
+
 def spread(values):
     """How far the middle half of the values lies apart, as a share of their median."""
     if len(values) < 2:
@@ -23,12 +28,9 @@ class Measurements:
         key = (cell.workload.name, cell.set, operation, side)
         self._rounds[key][round_number] = nanoseconds / cell.workload.sessions
 
-    def restore(self, key, rounds):
-        """`rounds` as `rounds(key)` gave them: nanoseconds per session by round."""
-        self._rounds[key].update(rounds)
-
-    def rounds(self, key):
-        return dict(self._rounds[key])
+    def restore(self, key, values):
+        """`values` as `values(key)` gave them. Every peer runs in every round, so their order is that of the rounds."""
+        self._rounds[key].update(enumerate(values))
 
     def has(self, key):
         return key in self._rounds

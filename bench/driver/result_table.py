@@ -45,12 +45,16 @@ def _row(measurements, cell, operation, sides):
     return [cell.title, f"{size:,.0f}", *times, f"{worst:.0%}"]
 
 
+def result_rows(measurements, cells, operation):
+    """Title row and rows; empty if nothing was measured."""
+    sides = _sides_of(measurements, operation)
+    rows = [row for row in (_row(measurements, cell, operation, sides) for cell in cells) if row]
+    return [["workload", "bytes", *sides, "spread"], *rows] if rows else []
+
+
 def print_results(measurements, cells):
     for operation, (title, baseline) in OPERATIONS.items():
-        sides = _sides_of(measurements, operation)
-        rows = [_row(measurements, cell, operation, sides) for cell in cells]
-        rows = [row for row in rows if row]
-        if not rows:
-            continue
-        print(f"\n{title}: nanoseconds per session (in brackets: times as long as {baseline})")
-        print_aligned([["workload", "bytes", *sides, "spread"], *rows])
+        rows = result_rows(measurements, cells, operation)
+        if rows:
+            print(f"\n{title}: nanoseconds per session (in brackets: times as long as {baseline})")
+            print_aligned(rows)

@@ -2,7 +2,7 @@
 
 import json
 
-from measurements import Measurements, spread
+from measurements import Measurements, significant, spread
 from plan import cells
 from target_table import judge, ratios_to_proto2
 
@@ -11,9 +11,9 @@ def _results(measurements):
     return [
         {
             "workload": key[0], "set": key[1], "operation": key[2], "side": key[3],
-            "nanoseconds": round(measurements.median(key), 3),
+            "nanoseconds": significant(measurements.median(key)),
             "spread": round(spread(measurements.values(key)), 4),
-            "rounds": {number: round(time, 2) for number, time in measurements.rounds(key).items()},
+            "rounds": [significant(time) for time in measurements.values(key)],
         }
         for key in sorted(measurements.keys())
     ]
@@ -49,6 +49,6 @@ def read_run(path):
         measurements.wire_bytes[cell_of[entry["workload"], entry["set"]]] = entry["bytes"]
     for entry in document["results"]:
         key = (entry["workload"], entry["set"], entry["operation"], entry["side"])
-        measurements.restore(key, {int(number): time for number, time in entry["rounds"].items()})
+        measurements.restore(key, entry["rounds"])
     measured = [cell for cell in cells() if cell in measurements.wire_bytes]
     return document["machine"], measurements, measured

@@ -11,6 +11,7 @@ import tempfile
 
 import machine
 from growth import Growth, judged
+from measurements import significant
 from plan import Cell, Workload
 from programs import Disagreement, Programs
 from result_table import print_aligned
@@ -84,7 +85,7 @@ def as_json(description, replay, threads, series, judgements):
         "verdicts": judgements,
         "threads": threads,
         "replay": [
-            {"sessions": sessions, "operation": operation, "side": side, "rounds": [round(time, 2) for time in values]}
+            {"sessions": sessions, "operation": operation, "side": side, "rounds": [significant(time) for time in values]}
             for sessions, times in sorted(replay.items())
             for (operation, side), values in sorted(times.items())
         ],
