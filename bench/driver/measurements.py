@@ -6,7 +6,8 @@ import statistics
 
 def significant(value):
     """Four digits: more is noise, and makes files long."""
-    return float(f"{value:.4g}")
+    rounded = float(f"{value:.4g}")
+    return int(rounded) if rounded >= 1000 else rounded
 
 
 def spread(values):

@@ -28,7 +28,10 @@ COLD_SIDES = ("ours", "ours bump", "ours calloc", "protobuf reused", "protobuf n
 
 
 def _machine(description):
-    return "\n".join(f"- {name}: {text}" for name, text in description.items())
+    lines = [f"- {name}: {text}" for name, text in description.items()]
+    if "--quick" in description["command"]:
+        lines.append("- **a quick run: to look at, not to quote**")
+    return "\n".join(lines)
 
 
 def _contract_rows(measurements, cells):

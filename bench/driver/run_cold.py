@@ -24,7 +24,7 @@ def parse_arguments():
     parser.add_argument("--quick", action="store_true", help="some ten seconds instead of two minutes")
     parser.add_argument("--json", type=pathlib.Path, help="write machine and all rounds to this file")
     arguments = parser.parse_args()
-    arguments.rounds, arguments.calls = (2, 30) if arguments.quick else (7, 200)
+    arguments.rounds, arguments.calls = (2, 30) if arguments.quick else (7, 100)
     return arguments
 
 

@@ -29,7 +29,7 @@ def parse_arguments():
     parser.add_argument("--plots", type=pathlib.Path, help="write SVG plots into this directory")
     arguments = parser.parse_args()
     arguments.rounds = 1 if arguments.quick else 7
-    arguments.growth_rounds = 1 if arguments.quick else 3
+    arguments.growth_rounds = 2 if arguments.quick else 3
     arguments.milliseconds = 2 if arguments.quick else 8
     return arguments
 

@@ -38,8 +38,9 @@ void time_all(const suite &operations, const sampling &how, unsigned seed)
 
 void time_all_cold(const suite &operations, unsigned calls, unsigned seed)
 {
+    const single_call_timer timer(calls);
     for (timed_operation *operation : shuffled(operations, seed)) {
-        const single_call call = time_single_calls(*operation, calls);
+        const single_call call = timer.time(*operation);
         std::printf("%s\t%s\t%.1f\t%.1f\n", operation->name.c_str(), operation->side.c_str(), call.warm, call.cold);
     }
 }

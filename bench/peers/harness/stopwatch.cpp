@@ -94,12 +94,16 @@ double time_operation(timed_operation &operation, size_t message_count, const sa
     return median(samples) / static_cast<double>(passes) / static_cast<double>(message_count);
 }
 
-single_call time_single_calls(timed_operation &operation, unsigned calls)
+single_call_timer::single_call_timer(unsigned calls) : calls_(calls)
 {
     no_operation nothing;
-    const single_call overhead = median_calls(nothing, calls);
-    const single_call taken = median_calls(operation, calls);
-    return {taken.warm - overhead.warm, taken.cold - overhead.cold};
+    overhead_ = median_calls(nothing, calls_);
+}
+
+single_call single_call_timer::time(timed_operation &operation) const
+{
+    const single_call taken = median_calls(operation, calls_);
+    return {taken.warm - overhead_.warm, taken.cold - overhead_.cold};
 }
 
 } // namespace bench

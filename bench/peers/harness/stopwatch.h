@@ -21,8 +21,19 @@ struct single_call {
     double cold; // of one pass after other work; see other_work.h
 };
 
-// Medians, less what taking the time takes. By the clock: the thread's own time is too coarse for a single call.
-single_call time_single_calls(timed_operation &operation, unsigned calls);
+// Times calls one by one, by the clock: the thread's own time is too coarse for that.
+class single_call_timer
+{
+public:
+    explicit single_call_timer(unsigned calls);
+
+    // Medians, less what taking the time takes.
+    single_call time(timed_operation &operation) const;
+
+private:
+    unsigned calls_;
+    single_call overhead_;
+};
 
 } // namespace bench
 
