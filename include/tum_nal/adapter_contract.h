@@ -29,8 +29,7 @@
  *   bound `length`.
  *
  * Stack
- *   An encode adapter needs at most 12 KiB and the codec records of its slots (session context: 2 KiB more, routes:
- *   8 KiB more), a decode adapter at most 4 KiB.
+ *   An encode adapter needs at most 12 KiB, a decode adapter at most 4 KiB.
  *
  * Threads may call adapters at the same time on distinct records and buffers. */
 #ifndef TUM_NAL_ADAPTER_CONTRACT_H

@@ -5,6 +5,7 @@
 #include "codec/segments.h"
 #include "codec/wire_types.h"
 
+#include <bit>
 #include <cstdint>
 
 namespace mava_tum
@@ -12,10 +13,7 @@ namespace mava_tum
 
 constexpr uint64_t varint_bytes(uint64_t value)
 {
-    uint64_t bytes = 1;
-    for (; value >= varint_continues; value >>= 7)
-        ++bytes;
-    return bytes;
+    return static_cast<uint64_t>(std::bit_width(value | 1) + 6) / 7;
 }
 
 // The position after a payload; one that would wrap around leaves it where it is.

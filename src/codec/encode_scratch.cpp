@@ -53,8 +53,10 @@ uint8_t *put_any_block(
 
 uint8_t *move_body_and_put_length(uint8_t *body, uint32_t gap_bytes, const uint8_t *at)
 {
-    const uint64_t length = static_cast<uint64_t>(at - body);
     uint8_t *const gap = body - gap_bytes;
+    if (at < body) // void: a description that found no room goes on before the body
+        return gap;
+    const uint64_t length = static_cast<uint64_t>(at - body);
     const uint32_t length_bytes = length < varint_continues ? 1 : 2; // the scratch holds less than 2^14 bytes
     memmove(gap + length_bytes, body, length);
     if (length_bytes == 1) {

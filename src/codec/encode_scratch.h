@@ -23,6 +23,7 @@ struct encode_scratch {
     uint8_t *buffer;   // the caller's
     uint64_t capacity; // of `buffer` in bytes; 0: only the size is wanted
     uint64_t handed_over;
+    bool failed = false; // a description found no room, and what it has written since is void
 
     // An element of the message itself starts anew at the scratch's front once this much has been written, so that
     // a large message stays within the nearest cache; a nested one cannot, since lengths before it are still open.

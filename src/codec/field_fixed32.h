@@ -37,22 +37,44 @@ struct fixed32 : field_key<Number, wire_type::fixed32> {
     [[gnu::always_inline]] static uint8_t *put(
         const owner &record, uint32_t present, uint8_t *at, encode_scratch &, bool)
     {
-        if ((present & key::bit) == 0)
-            return at;
-        return put_fixed32(at, wire_tag(key::tag), key::tag_bytes, record.*Member);
+        return (present & key::bit) != 0 ? put_value(at, record.*Member) : at;
     }
 
-    static uint64_t count(const owner &, uint32_t present, bool, uint64_t position)
+    [[gnu::always_inline]] static uint8_t *put_value(uint8_t *at, uint32_t value)
     {
-        return present & key::bit ? position + key::tag_bytes + fixed32_bytes : position;
+        return put_fixed32(at, wire_tag(key::tag), key::tag_bytes, value);
+    }
+
+    [[gnu::always_inline]] static uint8_t *store(const owner &record, uint32_t present, uint8_t *at)
+    {
+        return (present & key::bit) != 0 ? store_value(at, record.*Member) : at;
+    }
+
+    [[gnu::always_inline]] static uint8_t *store_value(uint8_t *at, uint32_t value)
+    {
+        return store_fixed32(store_varint(at, key::tag), value);
+    }
+
+    [[gnu::always_inline]] static uint64_t value_bytes(uint32_t)
+    {
+        return key::tag_bytes + fixed32_bytes;
+    }
+
+    [[gnu::always_inline]] static uint64_t count(const owner &record, uint32_t present, bool, uint64_t position)
+    {
+        return present & key::bit ? position + value_bytes(record.*Member) : position;
     }
 
     static void write(const owner &record, uint32_t present, counting_writer &writer)
     {
-        if ((present & key::bit) == 0)
-            return;
+        if (present & key::bit)
+            write_value(writer, record.*Member);
+    }
+
+    static void write_value(counting_writer &writer, uint32_t value)
+    {
         writer.varint(key::tag);
-        writer.fixed32(record.*Member);
+        writer.fixed32(value);
     }
 
     [[gnu::always_inline]] static bool copy(owner &destination, const owner &source, const block_source &, uint32_t &)

@@ -18,12 +18,6 @@ inline constexpr uint32_t long_body_head_bytes = 192;
 template <class Record>
 inline constexpr uint32_t length_gap_bytes = max_head_bytes<Record>() > long_body_head_bytes ? 2 : 1;
 
-// Flat records of a few fields are put inline: their bodies are shorter than a call.
-inline constexpr uint32_t max_inline_fields = 3;
-
-template <class Record>
-inline constexpr bool is_put_inline = is_flat<Record> && (field_count<Record> <= max_inline_fields);
-
 // The body of `nested` behind its tag and a gap for its length.
 template <class Nested>
 [[gnu::always_inline]] inline uint8_t *put_nested_record(

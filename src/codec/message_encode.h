@@ -66,13 +66,14 @@ template <class Record, class... Field>
 }
 
 template <class Record>
-[[gnu::noinline]] uint8_t *put_record(const Record &record, uint8_t *at, encode_scratch &scratch, bool top)
+[[gnu::noinline, gnu::noclone]] uint8_t *put_record(
+    const Record &record, uint8_t *at, encode_scratch &scratch, bool top)
 {
     return put_fields(fields_of<Record>{}, record, at, scratch, top);
 }
 
 template <class Record, class... Field>
-uint64_t count_fields(field_list<Field...>, const Record &record, bool gather)
+[[gnu::always_inline]] inline uint64_t count_fields(field_list<Field...>, const Record &record, bool gather)
 {
     const uint32_t present = record.presence_mask;
     uint64_t position = 0;
@@ -81,7 +82,7 @@ uint64_t count_fields(field_list<Field...>, const Record &record, bool gather)
 }
 
 template <class Record>
-[[gnu::noinline, gnu::cold]] uint64_t count_record(const Record &record, bool gather)
+[[gnu::noinline, gnu::noclone, gnu::cold]] uint64_t count_record(const Record &record, bool gather)
 {
     return count_fields(fields_of<Record>{}, record, gather);
 }
@@ -94,7 +95,7 @@ void write_fields(field_list<Field...>, const Record &record, counting_writer &w
 }
 
 template <class Record>
-[[gnu::noinline, gnu::cold]] void write_record(const Record &record, counting_writer &writer)
+[[gnu::noinline, gnu::noclone, gnu::cold]] void write_record(const Record &record, counting_writer &writer)
 {
     write_fields(fields_of<Record>{}, record, writer);
 }
@@ -136,17 +137,45 @@ inline void report_one_piece(const encode_target &target, uint64_t length)
     *target.segment_count = pieces.count;
 }
 
+// How much of the scratch may be filled before the slack, and the whole of it.
+template <class Record>
+inline constexpr uint32_t block_room = asks_for_room<Record>() ? scratch_block_bytes : 0;
+
+template <class Record>
+inline constexpr uint32_t scratch_bytes = block_room<Record> + max_put_bytes<Record>() + spill_bytes;
+
+// Messages of a few scalars: the size first, then byte by byte into the buffer. Through the scratch they take twice as
+// long, since the copy has to wait for the stores of the fields.
+template <class Record, class... Field>
+[[gnu::always_inline]] inline void store_fields(field_list<Field...>, const Record &record, uint8_t *at)
+{
+    const uint32_t present = record.presence_mask;
+    ((at = Field::store(record, present, at)), ...);
+}
+
+template <class Record>
+uint64_t encode_few_scalars(const Record &record, const encode_target &target)
+{
+    const uint64_t bytes = count_fields(fields_of<Record>{}, record, false);
+    if (bytes > target.length && target.length != 0)
+        return encode_exactly(record, target);
+    if (target.length != 0)
+        store_fields(fields_of<Record>{}, record, target.buffer);
+    report_one_piece(target, bytes);
+    return bytes;
+}
+
 // The exported encoders.
 template <class Record>
 uint64_t encode_message(const Record &record, const encode_target &target)
 {
-    constexpr uint32_t block_room = asks_for_room<Record>() ? scratch_block_bytes : 0;
-    constexpr uint32_t scratch_bytes = block_room + max_put_bytes<Record>() + spill_bytes;
-    static_assert(scratch_bytes < 1u << 14, "a body's length takes at most two bytes");
+    static_assert(scratch_bytes<Record> < 1u << 14, "a body's length takes at most two bytes");
     if (target.gathers())
         return encode_exactly(record, target);
-    uint8_t storage[scratch_bytes];
-    encode_scratch scratch{storage, storage + block_room, target.buffer, target.length, 0};
+    if constexpr (is_put_inline<Record>)
+        return encode_few_scalars(record, target);
+    uint8_t storage[scratch_bytes<Record>];
+    encode_scratch scratch{storage, storage + block_room<Record>, target.buffer, target.length, 0};
     const uint8_t *const at = put_record(record, storage, scratch, true);
     if (at == nullptr || hand_over(scratch, at) == nullptr)
         return encode_exactly(record, target);

@@ -14,7 +14,10 @@
 //     reset(record)                decode: the empty value
 //     read(...)                    decode: one occurrence, or one run of an array
 //     put(...)                     encode: the fast writer, into the scratch
+//     store(...)                   encode: scalars only, byte by byte into the caller's buffer
 //     count(...), write(...)       encode: the exact writer, for short buffers and pieces
+//     put_value, store_value,      scalars only: the same for a value that is in no record (direct_encode.h)
+//     value_bytes, write_value
 //     copy(...)                    duplicate
 //     release(...)                 free
 #pragma once
@@ -106,6 +109,12 @@ constexpr bool all_scalar(field_list<Field...>)
 
 template <class Record>
 inline constexpr bool is_flat = all_scalar(fields_of<Record>{});
+
+// Flat records of a few fields are put inline: their bodies are shorter than a call.
+inline constexpr uint32_t max_inline_fields = 3;
+
+template <class Record>
+inline constexpr bool is_put_inline = is_flat<Record> && (field_count<Record> <= max_inline_fields);
 
 // Such messages have the alias bit.
 template <class Record>

@@ -12,7 +12,7 @@
 namespace mava_tum
 {
 
-inline constexpr uint32_t spill_bytes = 8;
+inline constexpr uint32_t spill_bytes = 16;
 
 [[gnu::always_inline]] inline void store_little_endian(uint8_t *at, uint64_t word)
 {
@@ -92,6 +92,25 @@ inline constexpr std::array<varint_shape, 32> varint_shapes = make_varint_shapes
 {
     store_little_endian(at, prefix | uint64_t{value} << 8 * prefix_bytes);
     return at + prefix_bytes + fixed32_bytes;
+}
+
+// ---- the same byte by byte, straight into the caller's buffer ----
+
+template <class Value>
+[[gnu::always_inline]] inline uint8_t *store_varint(uint8_t *at, Value value)
+{
+    for (; value >= varint_continues; value >>= 7)
+        *at++ = static_cast<uint8_t>(value | varint_continues);
+    *at++ = static_cast<uint8_t>(value);
+    return at;
+}
+
+[[gnu::always_inline]] inline uint8_t *store_fixed32(uint8_t *at, uint32_t value)
+{
+    if (std::endian::native == std::endian::big)
+        value = __builtin_bswap32(value);
+    memcpy(at, &value, sizeof value);
+    return at + sizeof value;
 }
 
 } // namespace mava_tum

@@ -1,14 +1,15 @@
 // The two frames that every adapter is built on.
 //
-//     encode   application record --to_codec--> scratch codec record --_encode_ext--> the caller's buffer
+//     encode   application record --a description of its fields--> the caller's buffer
 //     decode   wire bytes --decode--> scratch codec record --from_codec--> application record, then _free_ext
 //
-// The scratch record lives on the stack of the one call. When encoding it borrows from the application record and
-// nothing is allocated; when decoding its bytes fields point into the input, its texts and arrays are blocks from
-// calloc, all of which are given back before the call returns.
+// An encode builds no codec record and allocates nothing. A decode's scratch record lives on the stack of the one call;
+// its bytes fields point into the input, its texts and arrays are blocks from calloc, all of which are given back
+// before the call returns.
 #pragma once
 
 #include "mava_tum/codec_contract.h"
+#include "messages/described_encode.h"
 #include "messages/owned_decode.h"
 
 #include <cstdint>
@@ -37,34 +38,6 @@ inline void free_block(void *pointer, void *)
 [[gnu::noinline]] inline void clear_scratch(void *scratch, size_t bytes)
 {
     memset(scratch, 0, bytes);
-}
-
-// `to_codec` fills a cleared record; `slots` holds the elements of its lists. The scratch record is cleared as a whole
-// because the encoder reads the presence mask of a nested record even when the parent does not mark it. The slots are
-// not: each is cleared when it is used. `Flags` is what the encoder takes behind its segments: the flags, here 0, or
-// nothing if the message holds no bytes field.
-template <class Codec, class Slots, class Application, class... Flags>
-uint64_t encode_frame(const Application *record, uint8_t *buffer, uint32_t capacity,
-    void (*to_codec)(Codec &, Slots &, const Application &),
-    uint64_t (*encode_ext)(const Codec *, uint8_t *, uint64_t, mava_tum_segment *, uint32_t *, Flags...))
-{
-    Codec scratch;
-    clear_scratch(&scratch, sizeof scratch);
-    Slots slots;
-    to_codec(scratch, slots, *record);
-    return encode_ext(&scratch, buffer, capacity, nullptr, nullptr, Flags{}...);
-}
-
-// The same for a message without lists.
-template <class Codec, class Application, class... Flags>
-uint64_t encode_frame(const Application *record, uint8_t *buffer, uint32_t capacity,
-    void (*to_codec)(Codec &, const Application &),
-    uint64_t (*encode_ext)(const Codec *, uint8_t *, uint64_t, mava_tum_segment *, uint32_t *, Flags...))
-{
-    Codec scratch;
-    clear_scratch(&scratch, sizeof scratch);
-    to_codec(scratch, *record);
-    return encode_ext(&scratch, buffer, capacity, nullptr, nullptr, Flags{}...);
 }
 
 // Frees a scratch record, whatever its free function takes: nothing more where the record owns no memory, the callback,

@@ -1,14 +1,33 @@
-// The data of one group, as it stands in the replay of a redundancy group. `..._to_codec` expects a cleared codec
-// record and borrows from the entry; `..._from_codec` expects a cleared entry and copies.
+// The data of one group, as it stands in the replay of a redundancy group: its way to the wire, and its way back into a
+// cleared entry.
 #pragma once
 
 #include "mava_tum/redundancy_group.h"
+#include "nal/convert_rows.h"
 #include "tum_nal/nal_redundancy_group.h"
 
 namespace mava_tum
 {
 
-void group_data_to_codec(mava_tum_srg_group_data &group, const tum_nal_data_group_data &entry);
-void group_data_from_codec(tum_nal_data_group_data &entry, const mava_tum_srg_group_data &group);
+struct group_data_fields {
+    template <class Fields>
+    static void describe(Fields &fields, const tum_nal_data_group_data &entry)
+    {
+        put_nonzero<1>(fields, entry.field_1);
+        put_nonzero<2>(fields, entry.field_2);
+        put_nonzero<3>(fields, entry.field_3);
+        put_nonzero<4>(fields, entry.field_4);
+        put_text<5>(fields, entry.field_5);
+    }
+};
+
+inline void group_data_from_codec(tum_nal_data_group_data &entry, const mava_tum_srg_group_data &group)
+{
+    take<1>(entry.field_1, group, group.field_1);
+    take<2>(entry.field_2, group, group.field_2);
+    take<3>(entry.field_3, group, group.field_3);
+    take<4>(entry.field_4, group, group.field_4);
+    take_text<5>(entry.field_5, group, group.field_5);
+}
 
 } // namespace mava_tum

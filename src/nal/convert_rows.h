@@ -1,13 +1,14 @@
-// The rows that the converters between application records and codec records are made of, one line each:
+// The rows that the converters between application records and the wire are made of, one line each:
 //
-//     put...<n>(codec record, its field n, application value)    stores the value and sets bit n-1 of the presence mask
-//     take...<n>(application member, codec record, its field n)  copies the value when that bit is set
+//     put...<n>(fields, application value)                       sends the value as field n
+//     take...<n>(application member, codec record, its field n)  copies the value when the record marks it present
 //
-// A `put` borrows: texts and bytes of the codec record point into the application record. A `take` copies, and leaves
-// a member whose field is absent as it is: zero.
+// A `put` stands in the description of a message, in the order of the field numbers, and stores nothing between: from
+// the application record to the wire. A `take` copies, and leaves a member whose field is absent as it is: zero.
 #pragma once
 
 #include "mava_tum/codec_contract.h"
+#include "messages/described_encode.h"
 #include "nal/bounded_text.h"
 #include "nal/ipv4_order.h"
 
@@ -20,72 +21,43 @@ namespace mava_tum
 
 // ---- presence ----
 
-constexpr uint32_t presence_bit(unsigned field_number)
-{
-    return 1u << (field_number - 1);
-}
-
 template <unsigned FieldNumber, class Record>
 bool is_present(const Record &record)
 {
     return (record.presence_mask & presence_bit(FieldNumber)) != 0;
 }
 
-template <unsigned FieldNumber, class Record>
-void mark_present(Record &record)
+// ---- application -> wire ----
+
+template <unsigned FieldNumber, class Fields, class Value>
+[[gnu::always_inline]] inline void put(Fields &fields, Value value)
 {
-    using mask = decltype(record.presence_mask);
-    static_assert(FieldNumber >= 1 && FieldNumber <= 8 * sizeof(mask));
-    record.presence_mask = static_cast<mask>(record.presence_mask | presence_bit(FieldNumber));
+    fields.template value<FieldNumber>(value);
 }
 
-// L31: some messages are marked whole instead of field by field, spare bits included. No encoder looks at those, and a
-// text or a list is still left out when there is none.
-constexpr uint8_t every_presence_bit = 0xFF;
-
-template <class Record>
-void mark_all_present(Record &record)
-{
-    static_assert(sizeof(record.presence_mask) == sizeof(every_presence_bit));
-    record.presence_mask = every_presence_bit;
-}
-
-// ---- application -> codec ----
-
-template <unsigned FieldNumber, class Record, class Field, class Value>
-void put(Record &record, Field &field, Value value)
-{
-    static_assert(sizeof(Value) <= sizeof(Field));
-    field = value;
-    mark_present<FieldNumber>(record);
-}
-
-template <unsigned FieldNumber, class Record, class Field, class Value>
-void put_nonzero(Record &record, Field &field, Value value)
+template <unsigned FieldNumber, class Fields, class Value>
+[[gnu::always_inline]] inline void put_nonzero(Fields &fields, Value value)
 {
     if (value != 0)
-        put<FieldNumber>(record, field, value);
+        put<FieldNumber>(fields, value);
 }
 
-template <unsigned FieldNumber, class Record>
-void put_ipv4(Record &record, uint32_t &field, uint32_t host_order)
+template <unsigned FieldNumber, class Fields>
+[[gnu::always_inline]] inline void put_ipv4(Fields &fields, uint32_t host_order)
 {
-    put<FieldNumber>(record, field, swap_ipv4_order(host_order));
+    put<FieldNumber>(fields, swap_ipv4_order(host_order));
 }
 
-template <unsigned FieldNumber, class Record>
-void put_ipv4_nonzero(Record &record, uint32_t &field, uint32_t host_order)
+template <unsigned FieldNumber, class Fields>
+[[gnu::always_inline]] inline void put_ipv4_nonzero(Fields &fields, uint32_t host_order)
 {
-    put_nonzero<FieldNumber>(record, field, swap_ipv4_order(host_order));
+    put_nonzero<FieldNumber>(fields, swap_ipv4_order(host_order));
 }
 
-// The encoder only reads through the pointers of a record, so borrowing from a const application record is sound.
-template <unsigned FieldNumber, class Record, size_t Size>
-void put_bytes(Record &record, mava_tum_bytes &field, const uint8_t (&array)[Size])
+template <unsigned FieldNumber, class Fields, size_t Size>
+[[gnu::always_inline]] inline void put_bytes(Fields &fields, const uint8_t (&array)[Size])
 {
-    field.data = const_cast<uint8_t *>(array);
-    field.length = Size;
-    mark_present<FieldNumber>(record);
+    fields.template block<FieldNumber>(array, Size);
 }
 
 inline bool is_zero_ipv6(const uint8_t (&address)[16])
@@ -95,66 +67,51 @@ inline bool is_zero_ipv6(const uint8_t (&address)[16])
     return (halves[0] | halves[1]) == 0;
 }
 
-template <unsigned FieldNumber, class Record>
-void put_ipv6_nonzero(Record &record, mava_tum_bytes &field, const uint8_t (&address)[16])
+template <unsigned FieldNumber, class Fields>
+[[gnu::always_inline]] inline void put_ipv6_nonzero(Fields &fields, const uint8_t (&address)[16])
 {
     if (!is_zero_ipv6(address))
-        put_bytes<FieldNumber>(record, field, address);
+        put_bytes<FieldNumber>(fields, address);
 }
 
-// An empty text is absent, whatever follows its NUL. One without a NUL is the caller's error: the encoder measures it
-// with strlen.
-template <unsigned FieldNumber, class Record, size_t Size>
-void put_text(Record &record, char *&field, const char (&array)[Size])
+// L33: present also when it is empty. One without a NUL is the caller's error: it is measured with strlen.
+template <unsigned FieldNumber, class Fields, size_t Size>
+[[gnu::always_inline]] inline void put_text_always(Fields &fields, const char (&array)[Size])
 {
-    if (array[0] == '\0')
-        return;
-    field = const_cast<char *>(array);
-    mark_present<FieldNumber>(record);
+    fields.template text<FieldNumber>(array);
 }
 
-// L33: present also when it is empty.
-template <unsigned FieldNumber, class Record, size_t Size>
-void put_text_always(Record &record, char *&field, const char (&array)[Size])
+// An empty text is absent, whatever follows its NUL.
+template <unsigned FieldNumber, class Fields, size_t Size>
+[[gnu::always_inline]] inline void put_text(Fields &fields, const char (&array)[Size])
 {
-    field = const_cast<char *>(array);
-    mark_present<FieldNumber>(record);
+    if (array[0] != '\0')
+        put_text_always<FieldNumber>(fields, array);
 }
 
-// L18: a count above the number of slots is taken as the number of slots. Only the slots in use are cleared: of fifty,
-// most calls need a few. No element, no field. `fill_slot(i)` converts element i into its slot.
-template <unsigned FieldNumber, class Record, class Codec, size_t Slots, class FillSlot>
-void put_slots(
-    Record &record, Codec *&field, uint32_t &field_count, Codec (&slots)[Slots], uint32_t count, FillSlot fill_slot)
+// A nested record, sent also when nothing of it is.
+template <unsigned FieldNumber, class Description, class Fields, class Source>
+[[gnu::always_inline]] inline void put_record(Fields &fields, const Source &source)
 {
-    const uint32_t used = count < Slots ? count : Slots;
-    if (used == 0)
-        return;
-    for (uint32_t i = 0; i < used; ++i) {
-        slots[i] = {};
-        fill_slot(i);
-    }
-    field = slots;
-    field_count = used;
-    mark_present<FieldNumber>(record);
+    fields.template record<FieldNumber, Description>(source);
 }
 
-template <unsigned FieldNumber, class Record, class Codec, class Entry, size_t Slots>
-void put_list(Record &record, Codec *&field, uint32_t &field_count, Codec (&slots)[Slots],
-    const Entry (&entries)[Slots], uint32_t count, void (*entry_to_codec)(Codec &, const Entry &))
+// L18: a count above the number of entries is taken as the number of entries.
+template <unsigned FieldNumber, class Description, class Fields, class Entry, size_t Entries>
+[[gnu::always_inline]] inline void put_list(Fields &fields, const Entry (&entries)[Entries], uint32_t count)
 {
-    put_slots<FieldNumber>(
-        record, field, field_count, slots, count, [&](uint32_t i) { entry_to_codec(slots[i], entries[i]); });
+    const uint32_t used = count < Entries ? count : Entries;
+    for (uint32_t i = 0; i < used; ++i)
+        fields.template element<FieldNumber, Description>(entries[i]);
 }
 
-// The same for elements that hold lists themselves: each comes with slots of its own.
-template <unsigned FieldNumber, class Record, class Codec, class Nested, class Entry, size_t Slots>
-void put_list(Record &record, Codec *&field, uint32_t &field_count, Codec (&slots)[Slots],
-    Nested (&nested_slots)[Slots], const Entry (&entries)[Slots], uint32_t count,
-    void (*entry_to_codec)(Codec &, Nested &, const Entry &))
+// The same for texts. L33: as many are sent as are counted, empty ones too: the receiver counts them.
+template <unsigned FieldNumber, class Fields, size_t Size, size_t Entries>
+[[gnu::always_inline]] inline void put_texts(Fields &fields, const char (&entries)[Entries][Size], uint32_t count)
 {
-    put_slots<FieldNumber>(record, field, field_count, slots, count,
-        [&](uint32_t i) { entry_to_codec(slots[i], nested_slots[i], entries[i]); });
+    const uint32_t used = count < Entries ? count : Entries;
+    for (uint32_t i = 0; i < used; ++i)
+        fields.template text_element<FieldNumber>(entries[i]);
 }
 
 // ---- codec -> application ----

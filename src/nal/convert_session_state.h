@@ -1,14 +1,29 @@
-// One session state, as it stands in the batches of a reconciliation. `..._to_codec` expects a cleared codec record,
-// `..._from_codec` a cleared entry.
+// One session state, as it stands in the batches of a reconciliation: its way to the wire, and its way back into a
+// cleared entry.
 #pragma once
 
 #include "mava_tum/reconciliation.h"
+#include "nal/convert_rows.h"
 #include "tum_nal/nal_reconciliation.h"
 
 namespace mava_tum
 {
 
-void session_state_to_codec(mava_tum_rec_session_state &state, const tum_nal_data_session_state &entry);
-void session_state_from_codec(tum_nal_data_session_state &entry, const mava_tum_rec_session_state &state);
+struct session_state_fields {
+    template <class Fields>
+    static void describe(Fields &fields, const tum_nal_data_session_state &entry)
+    {
+        put<1>(fields, entry.field_1);
+        put<2>(fields, entry.field_2);
+        put<3>(fields, entry.field_3);
+    }
+};
+
+inline void session_state_from_codec(tum_nal_data_session_state &entry, const mava_tum_rec_session_state &state)
+{
+    take<1>(entry.field_1, state, state.field_1);
+    take<2>(entry.field_2, state, state.field_2);
+    take<3>(entry.field_3, state, state.field_3);
+}
 
 } // namespace mava_tum

@@ -1,23 +1,121 @@
 // A subscriber's statistics, as they stand in a message of their own, in the answer to an operation and in a replay
-// failure.
+// failure: their way to the wire, and their way back into a cleared application record.
 #pragma once
 
 #include "mava_tum/statistics.h"
+#include "nal/convert_rows.h"
 #include "tum_nal/nal_statistics.h"
 
 namespace mava_tum
 {
 
-// The elements that the codec record of one subscriber's statistics points to while it is encoded. Need not be cleared.
-struct statistics_slots {
-    mava_tum_service_stats services[TUM_NAL_STATS_SERVICES];
+// ---- a block of counters ----
+
+struct stats_block_fields {
+    template <class Fields>
+    static void describe(Fields &fields, const tum_nal_data_stats_block &block)
+    {
+        put_nonzero<1>(fields, block.counter[0]);
+        put_nonzero<2>(fields, block.counter[1]);
+        put_nonzero<3>(fields, block.counter[2]);
+        put_nonzero<4>(fields, block.counter[3]);
+        put_nonzero<5>(fields, block.counter[4]);
+        put_nonzero<6>(fields, block.counter[5]);
+        put_nonzero<7>(fields, block.counter[6]);
+        put_nonzero<8>(fields, block.counter[7]);
+        put_nonzero<9>(fields, block.counter[8]);
+        put_nonzero<10>(fields, block.counter[9]);
+        put_nonzero<11>(fields, block.counter[10]);
+        put_nonzero<12>(fields, block.counter[11]);
+        put_nonzero<13>(fields, block.counter[12]);
+        put_nonzero<14>(fields, block.counter[13]);
+        put_nonzero<15>(fields, block.counter[14]);
+        put_nonzero<16>(fields, block.counter[15]);
+        put_nonzero<17>(fields, block.counter[16]);
+        put_nonzero<18>(fields, block.counter[17]);
+    }
 };
 
-// Fills `stats`, which must be cleared. It points into `slots` and `record` afterwards: both must outlive it.
-void subscriber_stats_to_codec(
-    mava_tum_subscriber_stats &stats, statistics_slots &slots, const tum_nal_data_subscriber_stats &record);
+inline void stats_block_from_codec(tum_nal_data_stats_block &block, const mava_tum_stats &stats)
+{
+    take<1>(block.counter[0], stats, stats.field_1);
+    take<2>(block.counter[1], stats, stats.field_2);
+    take<3>(block.counter[2], stats, stats.field_3);
+    take<4>(block.counter[3], stats, stats.field_4);
+    take<5>(block.counter[4], stats, stats.field_5);
+    take<6>(block.counter[5], stats, stats.field_6);
+    take<7>(block.counter[6], stats, stats.field_7);
+    take<8>(block.counter[7], stats, stats.field_8);
+    take<9>(block.counter[8], stats, stats.field_9);
+    take<10>(block.counter[9], stats, stats.field_10);
+    take<11>(block.counter[10], stats, stats.field_11);
+    take<12>(block.counter[11], stats, stats.field_12);
+    take<13>(block.counter[12], stats, stats.field_13);
+    take<14>(block.counter[13], stats, stats.field_14);
+    take<15>(block.counter[14], stats, stats.field_15);
+    take<16>(block.counter[15], stats, stats.field_16);
+    take<17>(block.counter[16], stats, stats.field_17);
+    take<18>(block.counter[17], stats, stats.field_18);
+}
 
-// Copies what `stats` holds into `record`, which must be cleared.
-void subscriber_stats_from_codec(tum_nal_data_subscriber_stats &record, const mava_tum_subscriber_stats &stats);
+// ---- a service ----
+
+struct service_entry_fields {
+    template <class Fields>
+    static void describe(Fields &fields, const tum_nal_data_service_entry &entry)
+    {
+        put_text_always<1>(fields, entry.name);
+        put_record<2, stats_block_fields>(fields, entry.stats); // L36: also when it is empty
+    }
+};
+
+inline void service_entry_from_codec(tum_nal_data_service_entry &entry, const mava_tum_service_stats &service)
+{
+    take_text<1>(entry.name, service, service.field_1);
+    stats_block_from_codec(entry.stats, service.field_2);
+}
+
+// ---- a subscriber ----
+
+// L30: a block travels by the value before it. Not a slip but the message format: that value is itself sent in front of
+// block 7 only; before blocks 10 and 12 it is a switch, and fields 9 and 11 are never sent.
+struct subscriber_stats_fields {
+    template <class Fields>
+    static void describe(Fields &fields, const tum_nal_data_subscriber_stats &record)
+    {
+        put_nonzero<1>(fields, record.value_1);
+        put_nonzero<2>(fields, record.value_2);
+        put_nonzero<3>(fields, record.value_3);
+        put_nonzero<4>(fields, record.value_4);
+        put_nonzero<5>(fields, record.value_5);
+        put_nonzero<6>(fields, record.value_6);
+        if (record.value_6 != 0)
+            put_record<7, stats_block_fields>(fields, record.block_7);
+        put_list<8, service_entry_fields>(fields, record.services, record.service_count);
+        if (record.block_10_switch != 0)
+            put_record<10, stats_block_fields>(fields, record.block_10);
+        if (record.block_12_switch != 0)
+            put_record<12, stats_block_fields>(fields, record.block_12);
+    }
+};
+
+// L16: no bit of `stats` guards a block: one whose decode failed part-way is not marked present, yet its
+// counters before the fault are delivered. Fields 9 and 11, which we never send, arrive in the two switches.
+inline void subscriber_stats_from_codec(tum_nal_data_subscriber_stats &record, const mava_tum_subscriber_stats &stats)
+{
+    take<1>(record.value_1, stats, stats.field_1);
+    take<2>(record.value_2, stats, stats.field_2);
+    take<3>(record.value_3, stats, stats.field_3);
+    take<4>(record.value_4, stats, stats.field_4);
+    take<5>(record.value_5, stats, stats.field_5);
+    take<6>(record.value_6, stats, stats.field_6);
+    stats_block_from_codec(record.block_7, stats.field_7);
+    take_list<8>(
+        record.services, record.service_count, stats, stats.field_8, stats.field_8_count, service_entry_from_codec);
+    take<9>(record.block_10_switch, stats, stats.field_9);
+    stats_block_from_codec(record.block_10, stats.field_10);
+    take<11>(record.block_12_switch, stats, stats.field_11);
+    stats_block_from_codec(record.block_12, stats.field_12);
+}
 
 } // namespace mava_tum

@@ -13,17 +13,18 @@ namespace mava_tum
 namespace
 {
 
-// ---- rec_start_req ----
+// ---- rec_start_req; L31: as the other messages here, it sends its zeros ----
 
-void rec_start_req_to_codec(mava_tum_rec_start_req &request, const tum_nal_data_rec_start_req &record)
-{
-    put<1>(request, request.field_1, record.field_1);
-    put<2>(request, request.field_2, record.field_2);
-    put<3>(request, request.field_3, record.field_3);
-    put_text<4>(request, request.field_4, record.field_4);
-    if (is_present<4>(request))
-        mark_all_present(request);
-}
+struct rec_start_req_fields {
+    template <class Fields>
+    static void describe(Fields &fields, const tum_nal_data_rec_start_req &record)
+    {
+        put<1>(fields, record.field_1);
+        put<2>(fields, record.field_2);
+        put<3>(fields, record.field_3);
+        put_text<4>(fields, record.field_4);
+    }
+};
 
 // L28: not a slip but what receivers rely on: what was sent third arrives first, and fields 1 and 2 are dropped.
 void rec_start_req_from_codec(tum_nal_data_rec_start_req &record, const mava_tum_rec_start_req &request)
@@ -34,15 +35,16 @@ void rec_start_req_from_codec(tum_nal_data_rec_start_req &record, const mava_tum
 
 // ---- rec_complete_req ----
 
-void rec_complete_req_to_codec(mava_tum_rec_complete_req &request, const tum_nal_data_rec_complete_req &record)
-{
-    put<1>(request, request.field_1, record.field_1);
-    put<2>(request, request.field_2, record.field_2);
-    put<3>(request, request.field_3, record.field_3);
-    put_text<4>(request, request.field_4, record.field_4);
-    if (is_present<4>(request))
-        mark_all_present(request);
-}
+struct rec_complete_req_fields {
+    template <class Fields>
+    static void describe(Fields &fields, const tum_nal_data_rec_complete_req &record)
+    {
+        put<1>(fields, record.field_1);
+        put<2>(fields, record.field_2);
+        put<3>(fields, record.field_3);
+        put_text<4>(fields, record.field_4);
+    }
+};
 
 void rec_complete_req_from_codec(tum_nal_data_rec_complete_req &record, const mava_tum_rec_complete_req &request)
 {
@@ -54,14 +56,15 @@ void rec_complete_req_from_codec(tum_nal_data_rec_complete_req &record, const ma
 
 // ---- rec_start_res and rec_complete_res; L34: one message, rec_resp ----
 
-void rec_res_to_codec(mava_tum_rec_resp &response, const tum_nal_data_rec_res &record)
-{
-    put<1>(response, response.field_1, record.field_1);
-    put_text<2>(response, response.field_2, record.field_2);
-    put<3>(response, response.field_3, record.field_3);
-    if (is_present<2>(response))
-        mark_all_present(response);
-}
+struct rec_res_fields {
+    template <class Fields>
+    static void describe(Fields &fields, const tum_nal_data_rec_res &record)
+    {
+        put<1>(fields, record.field_1);
+        put_text<2>(fields, record.field_2);
+        put<3>(fields, record.field_3);
+    }
+};
 
 void rec_res_from_codec(tum_nal_data_rec_res &record, const mava_tum_rec_resp &response)
 {
@@ -72,21 +75,18 @@ void rec_res_from_codec(tum_nal_data_rec_res &record, const mava_tum_rec_resp &r
 
 // ---- rec_sess_req ----
 
-struct session_state_slots {
-    mava_tum_rec_session_state states[TUM_NAL_REC_SESSION_STATES];
-};
-
 // L32: field 6 goes one way: it is received, never sent.
-void rec_sess_req_to_codec(
-    mava_tum_rec_sess_req &request, session_state_slots &slots, const tum_nal_data_rec_sess_req &record)
-{
-    put<1>(request, request.field_1, record.field_1);
-    put<2>(request, request.field_2, record.field_2);
-    put_list<3>(request, request.field_3, request.field_3_count, slots.states, record.field_3, record.field_3_count,
-        session_state_to_codec);
-    put_text<4>(request, request.field_4, record.field_4);
-    put_text<5>(request, request.field_5, record.field_5);
-}
+struct rec_sess_req_fields {
+    template <class Fields>
+    static void describe(Fields &fields, const tum_nal_data_rec_sess_req &record)
+    {
+        put<1>(fields, record.field_1);
+        put<2>(fields, record.field_2);
+        put_list<3, session_state_fields>(fields, record.field_3, record.field_3_count);
+        put_text<4>(fields, record.field_4);
+        put_text<5>(fields, record.field_5);
+    }
+};
 
 void rec_sess_req_from_codec(tum_nal_data_rec_sess_req &record, const mava_tum_rec_sess_req &request)
 {
@@ -101,16 +101,16 @@ void rec_sess_req_from_codec(tum_nal_data_rec_sess_req &record, const mava_tum_r
 
 // ---- rec_sess_res: the message rec_sess_resp ----
 
-void rec_sess_res_to_codec(
-    mava_tum_rec_sess_resp &response, session_state_slots &slots, const tum_nal_data_rec_sess_res &record)
-{
-    mark_all_present(response);
-    put<1>(response, response.field_1, record.field_1);
-    put_list<2>(response, response.field_2, response.field_2_count, slots.states, record.field_2, record.field_2_count,
-        session_state_to_codec);
-    put<3>(response, response.field_3, record.field_3);
-    put<4>(response, response.field_4, record.field_4);
-}
+struct rec_sess_res_fields {
+    template <class Fields>
+    static void describe(Fields &fields, const tum_nal_data_rec_sess_res &record)
+    {
+        put<1>(fields, record.field_1);
+        put_list<2, session_state_fields>(fields, record.field_2, record.field_2_count);
+        put<3>(fields, record.field_3);
+        put<4>(fields, record.field_4);
+    }
+};
 
 void rec_sess_res_from_codec(tum_nal_data_rec_sess_res &record, const mava_tum_rec_sess_resp &response)
 {
@@ -128,8 +128,7 @@ void rec_sess_res_from_codec(tum_nal_data_rec_sess_res &record, const mava_tum_r
 extern "C" uint64_t tum_nal_data_gpb_encode_tum_rec_start_req(
     const tum_nal_data_rec_start_req *record, uint8_t *buffer, uint32_t capacity)
 {
-    return mava_tum::encode_frame(
-        record, buffer, capacity, mava_tum::rec_start_req_to_codec, mava_tum_rec_start_req_encode_ext);
+    return mava_tum::encode_directly<mava_tum_rec_start_req, mava_tum::rec_start_req_fields>(*record, buffer, capacity);
 }
 
 extern "C" void tum_nal_data_gpb_decode_tum_rec_start_req(
@@ -141,7 +140,7 @@ extern "C" void tum_nal_data_gpb_decode_tum_rec_start_req(
 extern "C" uint64_t tum_nal_data_gpb_encode_tum_rec_start_res(
     const tum_nal_data_rec_res *record, uint8_t *buffer, uint32_t capacity)
 {
-    return mava_tum::encode_frame(record, buffer, capacity, mava_tum::rec_res_to_codec, mava_tum_rec_resp_encode_ext);
+    return mava_tum::encode_directly<mava_tum_rec_resp, mava_tum::rec_res_fields>(*record, buffer, capacity);
 }
 
 extern "C" void tum_nal_data_gpb_decode_tum_rec_start_res(
@@ -153,8 +152,8 @@ extern "C" void tum_nal_data_gpb_decode_tum_rec_start_res(
 extern "C" uint64_t tum_nal_data_gpb_encode_tum_rec_complete_req(
     const tum_nal_data_rec_complete_req *record, uint8_t *buffer, uint32_t capacity)
 {
-    return mava_tum::encode_frame(
-        record, buffer, capacity, mava_tum::rec_complete_req_to_codec, mava_tum_rec_complete_req_encode_ext);
+    return mava_tum::encode_directly<mava_tum_rec_complete_req, mava_tum::rec_complete_req_fields>(
+        *record, buffer, capacity);
 }
 
 extern "C" void tum_nal_data_gpb_decode_tum_rec_complete_req(
@@ -167,7 +166,7 @@ extern "C" void tum_nal_data_gpb_decode_tum_rec_complete_req(
 extern "C" uint64_t tum_nal_data_gpb_encode_tum_rec_complete_res(
     const tum_nal_data_rec_res *record, uint8_t *buffer, uint32_t capacity)
 {
-    return mava_tum::encode_frame(record, buffer, capacity, mava_tum::rec_res_to_codec, mava_tum_rec_resp_encode_ext);
+    return mava_tum::encode_directly<mava_tum_rec_resp, mava_tum::rec_res_fields>(*record, buffer, capacity);
 }
 
 extern "C" void tum_nal_data_gpb_decode_tum_rec_complete_res(
@@ -179,8 +178,7 @@ extern "C" void tum_nal_data_gpb_decode_tum_rec_complete_res(
 extern "C" uint64_t tum_nal_data_gpb_encode_tum_rec_sess_req(
     const tum_nal_data_rec_sess_req *record, uint8_t *buffer, uint32_t capacity)
 {
-    return mava_tum::encode_frame(
-        record, buffer, capacity, mava_tum::rec_sess_req_to_codec, mava_tum_rec_sess_req_encode_ext);
+    return mava_tum::encode_directly<mava_tum_rec_sess_req, mava_tum::rec_sess_req_fields>(*record, buffer, capacity);
 }
 
 extern "C" void tum_nal_data_gpb_decode_tum_rec_sess_req(
@@ -192,8 +190,7 @@ extern "C" void tum_nal_data_gpb_decode_tum_rec_sess_req(
 extern "C" uint64_t tum_nal_data_gpb_encode_tum_rec_sess_res(
     const tum_nal_data_rec_sess_res *record, uint8_t *buffer, uint32_t capacity)
 {
-    return mava_tum::encode_frame(
-        record, buffer, capacity, mava_tum::rec_sess_res_to_codec, mava_tum_rec_sess_resp_encode_ext);
+    return mava_tum::encode_directly<mava_tum_rec_sess_resp, mava_tum::rec_sess_res_fields>(*record, buffer, capacity);
 }
 
 extern "C" void tum_nal_data_gpb_decode_tum_rec_sess_res(

@@ -20,22 +20,18 @@ namespace
 using replay_request_to_send = tum_nal_data_rec_sess_replay_req_encode;
 using replay_request_received = tum_nal_data_rec_sess_replay_req_decode;
 
-struct replay_request_slots {
-    mava_tum_session_context sessions[TUM_NAL_REC_REPLAY_SESSIONS];
-    session_context_slots session_slots[TUM_NAL_REC_REPLAY_SESSIONS];
+struct rec_sess_replay_req_fields {
+    template <class Fields>
+    static void describe(Fields &fields, const replay_request_to_send &record)
+    {
+        put<1>(fields, record.field_1);
+        put<2>(fields, record.field_2);
+        put<3>(fields, record.field_3);
+        put_list<4, session_context_fields>(fields, record.field_4, record.field_4_count);
+        put<5>(fields, record.field_5);
+        put_text<6>(fields, record.field_6);
+    }
 };
-
-void rec_sess_replay_req_to_codec(
-    mava_tum_rec_sess_replay_req &request, replay_request_slots &slots, const replay_request_to_send &record)
-{
-    put<1>(request, request.field_1, record.field_1);
-    put<2>(request, request.field_2, record.field_2);
-    put<3>(request, request.field_3, record.field_3);
-    put_list<4>(request, request.field_4, request.field_4_count, slots.sessions, slots.session_slots, record.field_4,
-        record.field_4_count, session_context_to_codec);
-    put<5>(request, request.field_5, record.field_5);
-    put_text<6>(request, request.field_6, record.field_6);
-}
 
 void rec_sess_replay_req_from_codec(replay_request_received &record, const mava_tum_rec_sess_replay_req &request)
 {
@@ -50,14 +46,15 @@ void rec_sess_replay_req_from_codec(replay_request_received &record, const mava_
 
 // ---- a session that could not be replayed ----
 
-void replay_failure_to_codec(
-    mava_tum_rec_sess_replay_fail &failure, statistics_slots &slots, const tum_nal_data_replay_failure &entry)
-{
-    put<1>(failure, failure.field_1, entry.field_1);
-    put<2>(failure, failure.field_2, entry.field_2);
-    subscriber_stats_to_codec(failure.field_3, slots, entry.field_3);
-    mark_present<3>(failure); // L36: also when they are empty
-}
+struct replay_failure_fields {
+    template <class Fields>
+    static void describe(Fields &fields, const tum_nal_data_replay_failure &entry)
+    {
+        put<1>(fields, entry.field_1);
+        put<2>(fields, entry.field_2);
+        put_record<3, subscriber_stats_fields>(fields, entry.field_3); // L36: also when they are empty
+    }
+};
 
 // L16: the bit of field 3 is not asked: what is in the statistics is delivered.
 void replay_failure_from_codec(tum_nal_data_replay_failure &entry, const mava_tum_rec_sess_replay_fail &failure)
@@ -71,31 +68,22 @@ void replay_failure_from_codec(tum_nal_data_replay_failure &entry, const mava_tu
 
 using service_name = char[65];
 
-struct service_start_slots {
-    char *names[TUM_NAL_REC_SERVICE_NAMES];
-};
-
-// L33: as many names are sent as the entry counts, empty ones too: the receiver counts them.
-void service_name_to_codec(char *&name, const service_name &entry)
-{
-    name = const_cast<char *>(entry);
-}
-
 void service_name_from_codec(service_name &entry, char *const &name)
 {
     copy_bounded_text(entry, sizeof(entry), name);
 }
 
-void service_start_to_codec(
-    mava_tum_sess_svc_start &start, service_start_slots &slots, const tum_nal_data_service_start &entry)
-{
-    put<1>(start, start.field_1, entry.field_1);
-    put<2>(start, start.field_2, entry.field_2);
-    put<3>(start, start.field_3, entry.field_3);
-    put<4>(start, start.field_4, entry.field_4);
-    put_list<5>(start, start.field_5, start.field_5_count, slots.names, entry.field_5, entry.field_5_count,
-        service_name_to_codec);
-}
+struct service_start_fields {
+    template <class Fields>
+    static void describe(Fields &fields, const tum_nal_data_service_start &entry)
+    {
+        put<1>(fields, entry.field_1);
+        put<2>(fields, entry.field_2);
+        put<3>(fields, entry.field_3);
+        put<4>(fields, entry.field_4);
+        put_texts<5>(fields, entry.field_5, entry.field_5_count);
+    }
+};
 
 void service_start_from_codec(tum_nal_data_service_start &entry, const mava_tum_sess_svc_start &start)
 {
@@ -109,24 +97,17 @@ void service_start_from_codec(tum_nal_data_service_start &entry, const mava_tum_
 
 // ---- rec_sess_replay_resp ----
 
-struct replay_response_slots {
-    mava_tum_rec_sess_replay_fail failures[TUM_NAL_REC_REPLAY_FAILURES];
-    statistics_slots failure_slots[TUM_NAL_REC_REPLAY_FAILURES];
-    mava_tum_sess_svc_start starts[TUM_NAL_REC_SERVICE_STARTS];
-    service_start_slots start_slots[TUM_NAL_REC_SERVICE_STARTS];
+struct rec_sess_replay_resp_fields {
+    template <class Fields>
+    static void describe(Fields &fields, const tum_nal_data_rec_sess_replay_resp &record)
+    {
+        put<1>(fields, record.field_1);
+        put_list<2, replay_failure_fields>(fields, record.field_2, record.field_2_count);
+        put_list<3, service_start_fields>(fields, record.field_3, record.field_3_count);
+        put_text<4>(fields, record.field_4);
+        put<5>(fields, record.field_5);
+    }
 };
-
-void rec_sess_replay_resp_to_codec(mava_tum_rec_sess_replay_resp &response, replay_response_slots &slots,
-    const tum_nal_data_rec_sess_replay_resp &record)
-{
-    put<1>(response, response.field_1, record.field_1);
-    put_list<2>(response, response.field_2, response.field_2_count, slots.failures, slots.failure_slots, record.field_2,
-        record.field_2_count, replay_failure_to_codec);
-    put_list<3>(response, response.field_3, response.field_3_count, slots.starts, slots.start_slots, record.field_3,
-        record.field_3_count, service_start_to_codec);
-    put_text<4>(response, response.field_4, record.field_4);
-    put<5>(response, response.field_5, record.field_5);
-}
 
 void rec_sess_replay_resp_from_codec(
     tum_nal_data_rec_sess_replay_resp &record, const mava_tum_rec_sess_replay_resp &response)
@@ -147,8 +128,8 @@ void rec_sess_replay_resp_from_codec(
 extern "C" uint64_t tum_nal_data_gpb_encode_tum_rec_sess_replay_req(
     const tum_nal_data_rec_sess_replay_req_encode *record, uint8_t *buffer, uint32_t capacity)
 {
-    return mava_tum::encode_frame(
-        record, buffer, capacity, mava_tum::rec_sess_replay_req_to_codec, mava_tum_rec_sess_replay_req_encode_ext);
+    return mava_tum::encode_directly<mava_tum_rec_sess_replay_req, mava_tum::rec_sess_replay_req_fields>(
+        *record, buffer, capacity);
 }
 
 extern "C" void tum_nal_data_gpb_decode_tum_rec_sess_replay_req(
@@ -161,8 +142,8 @@ extern "C" void tum_nal_data_gpb_decode_tum_rec_sess_replay_req(
 extern "C" uint64_t tum_nal_data_gpb_encode_tum_rec_sess_replay_resp(
     const tum_nal_data_rec_sess_replay_resp *record, uint8_t *buffer, uint32_t capacity)
 {
-    return mava_tum::encode_frame(
-        record, buffer, capacity, mava_tum::rec_sess_replay_resp_to_codec, mava_tum_rec_sess_replay_resp_encode_ext);
+    return mava_tum::encode_directly<mava_tum_rec_sess_replay_resp, mava_tum::rec_sess_replay_resp_fields>(
+        *record, buffer, capacity);
 }
 
 extern "C" void tum_nal_data_gpb_decode_tum_rec_sess_replay_resp(

@@ -12,16 +12,17 @@ namespace mava_tum
 namespace
 {
 
-// ---- srg_group_rec_start_req; L35: the only one of these messages that sends its zeros ----
+// ---- srg_group_rec_start_req; L31, L35: the only one of these messages that sends its zeros ----
 
-void srg_group_rec_start_req_to_codec(
-    mava_tum_srg_group_rec_start_req &request, const tum_nal_data_srg_group_rec_start_req &record)
-{
-    mark_all_present(request);
-    put<1>(request, request.field_1, record.field_1);
-    put<2>(request, request.field_2, record.field_2);
-    put<3>(request, request.field_3, record.field_3);
-}
+struct srg_group_rec_start_req_fields {
+    template <class Fields>
+    static void describe(Fields &fields, const tum_nal_data_srg_group_rec_start_req &record)
+    {
+        put<1>(fields, record.field_1);
+        put<2>(fields, record.field_2);
+        put<3>(fields, record.field_3);
+    }
+};
 
 void srg_group_rec_start_req_from_codec(
     tum_nal_data_srg_group_rec_start_req &record, const mava_tum_srg_group_rec_start_req &request)
@@ -33,11 +34,14 @@ void srg_group_rec_start_req_from_codec(
 
 // ---- srg_group_rec_resp ----
 
-void srg_group_rec_resp_to_codec(mava_tum_srg_group_rec_resp &response, const tum_nal_data_srg_group_rec_resp &record)
-{
-    put_nonzero<1>(response, response.field_1, record.field_1);
-    put_nonzero<2>(response, response.field_2, record.field_2);
-}
+struct srg_group_rec_resp_fields {
+    template <class Fields>
+    static void describe(Fields &fields, const tum_nal_data_srg_group_rec_resp &record)
+    {
+        put_nonzero<1>(fields, record.field_1);
+        put_nonzero<2>(fields, record.field_2);
+    }
+};
 
 void srg_group_rec_resp_from_codec(tum_nal_data_srg_group_rec_resp &record, const mava_tum_srg_group_rec_resp &response)
 {
@@ -47,13 +51,15 @@ void srg_group_rec_resp_from_codec(tum_nal_data_srg_group_rec_resp &record, cons
 
 // ---- srg_group_rec_complete_req ----
 
-void srg_group_rec_complete_req_to_codec(
-    mava_tum_srg_group_rec_complete_req &request, const tum_nal_data_srg_group_rec_complete_req &record)
-{
-    put_nonzero<1>(request, request.field_1, record.field_1);
-    put_nonzero<2>(request, request.field_2, record.field_2);
-    put_nonzero<3>(request, request.field_3, record.field_3);
-}
+struct srg_group_rec_complete_req_fields {
+    template <class Fields>
+    static void describe(Fields &fields, const tum_nal_data_srg_group_rec_complete_req &record)
+    {
+        put_nonzero<1>(fields, record.field_1);
+        put_nonzero<2>(fields, record.field_2);
+        put_nonzero<3>(fields, record.field_3);
+    }
+};
 
 void srg_group_rec_complete_req_from_codec(
     tum_nal_data_srg_group_rec_complete_req &record, const mava_tum_srg_group_rec_complete_req &request)
@@ -65,19 +71,16 @@ void srg_group_rec_complete_req_from_codec(
 
 // ---- srg_group_rec_replay_req ----
 
-struct group_slots {
-    mava_tum_srg_group_data groups[TUM_NAL_SRG_GROUPS];
+struct srg_group_rec_replay_req_fields {
+    template <class Fields>
+    static void describe(Fields &fields, const tum_nal_data_srg_group_rec_replay_req &record)
+    {
+        put_nonzero<1>(fields, record.field_1);
+        put_nonzero<2>(fields, record.field_2);
+        put_list<3, group_data_fields>(fields, record.field_3, record.field_3_count);
+        put_nonzero<4>(fields, record.field_4);
+    }
 };
-
-void srg_group_rec_replay_req_to_codec(
-    mava_tum_srg_group_rec_replay_req &request, group_slots &slots, const tum_nal_data_srg_group_rec_replay_req &record)
-{
-    put_nonzero<1>(request, request.field_1, record.field_1);
-    put_nonzero<2>(request, request.field_2, record.field_2);
-    put_list<3>(request, request.field_3, request.field_3_count, slots.groups, record.field_3, record.field_3_count,
-        group_data_to_codec);
-    put_nonzero<4>(request, request.field_4, record.field_4);
-}
 
 void srg_group_rec_replay_req_from_codec(
     tum_nal_data_srg_group_rec_replay_req &record, const mava_tum_srg_group_rec_replay_req &request)
@@ -91,21 +94,16 @@ void srg_group_rec_replay_req_from_codec(
 
 // ---- srg_group_rec_replay_resp ----
 
-struct two_lists_of_group_slots {
-    mava_tum_srg_group_data field_2[TUM_NAL_SRG_GROUPS];
-    mava_tum_srg_group_data field_3[TUM_NAL_SRG_GROUPS];
+struct srg_group_rec_replay_resp_fields {
+    template <class Fields>
+    static void describe(Fields &fields, const tum_nal_data_srg_group_rec_replay_resp &record)
+    {
+        put_nonzero<1>(fields, record.field_1);
+        put_list<2, group_data_fields>(fields, record.field_2, record.field_2_count);
+        put_list<3, group_data_fields>(fields, record.field_3, record.field_3_count);
+        put_nonzero<4>(fields, record.field_4);
+    }
 };
-
-void srg_group_rec_replay_resp_to_codec(mava_tum_srg_group_rec_replay_resp &response, two_lists_of_group_slots &slots,
-    const tum_nal_data_srg_group_rec_replay_resp &record)
-{
-    put_nonzero<1>(response, response.field_1, record.field_1);
-    put_list<2>(response, response.field_2, response.field_2_count, slots.field_2, record.field_2, record.field_2_count,
-        group_data_to_codec);
-    put_list<3>(response, response.field_3, response.field_3_count, slots.field_3, record.field_3, record.field_3_count,
-        group_data_to_codec);
-    put_nonzero<4>(response, response.field_4, record.field_4);
-}
 
 void srg_group_rec_replay_resp_from_codec(
     tum_nal_data_srg_group_rec_replay_resp &record, const mava_tum_srg_group_rec_replay_resp &response)
@@ -125,8 +123,8 @@ void srg_group_rec_replay_resp_from_codec(
 extern "C" uint64_t tum_nal_data_gpb_encode_tum_srg_group_rec_start_req(
     const tum_nal_data_srg_group_rec_start_req *record, uint8_t *buffer, uint32_t capacity)
 {
-    return mava_tum::encode_frame(record, buffer, capacity, mava_tum::srg_group_rec_start_req_to_codec,
-        mava_tum_srg_group_rec_start_req_encode_ext);
+    return mava_tum::encode_directly<mava_tum_srg_group_rec_start_req, mava_tum::srg_group_rec_start_req_fields>(
+        *record, buffer, capacity);
 }
 
 extern "C" void tum_nal_data_gpb_decode_tum_srg_group_rec_start_req(
@@ -139,8 +137,8 @@ extern "C" void tum_nal_data_gpb_decode_tum_srg_group_rec_start_req(
 extern "C" uint64_t tum_nal_data_gpb_encode_tum_srg_group_rec_resp(
     const tum_nal_data_srg_group_rec_resp *record, uint8_t *buffer, uint32_t capacity)
 {
-    return mava_tum::encode_frame(
-        record, buffer, capacity, mava_tum::srg_group_rec_resp_to_codec, mava_tum_srg_group_rec_resp_encode_ext);
+    return mava_tum::encode_directly<mava_tum_srg_group_rec_resp, mava_tum::srg_group_rec_resp_fields>(
+        *record, buffer, capacity);
 }
 
 extern "C" void tum_nal_data_gpb_decode_tum_srg_group_rec_resp(
@@ -153,8 +151,8 @@ extern "C" void tum_nal_data_gpb_decode_tum_srg_group_rec_resp(
 extern "C" uint64_t tum_nal_data_gpb_encode_tum_srg_group_rec_complete_req(
     const tum_nal_data_srg_group_rec_complete_req *record, uint8_t *buffer, uint32_t capacity)
 {
-    return mava_tum::encode_frame(record, buffer, capacity, mava_tum::srg_group_rec_complete_req_to_codec,
-        mava_tum_srg_group_rec_complete_req_encode_ext);
+    return mava_tum::encode_directly<mava_tum_srg_group_rec_complete_req, mava_tum::srg_group_rec_complete_req_fields>(
+        *record, buffer, capacity);
 }
 
 extern "C" void tum_nal_data_gpb_decode_tum_srg_group_rec_complete_req(
@@ -167,8 +165,8 @@ extern "C" void tum_nal_data_gpb_decode_tum_srg_group_rec_complete_req(
 extern "C" uint64_t tum_nal_data_gpb_encode_tum_srg_group_rec_replay_req(
     const tum_nal_data_srg_group_rec_replay_req *record, uint8_t *buffer, uint32_t capacity)
 {
-    return mava_tum::encode_frame(record, buffer, capacity, mava_tum::srg_group_rec_replay_req_to_codec,
-        mava_tum_srg_group_rec_replay_req_encode_ext);
+    return mava_tum::encode_directly<mava_tum_srg_group_rec_replay_req, mava_tum::srg_group_rec_replay_req_fields>(
+        *record, buffer, capacity);
 }
 
 extern "C" void tum_nal_data_gpb_decode_tum_srg_group_rec_replay_req(
@@ -181,8 +179,8 @@ extern "C" void tum_nal_data_gpb_decode_tum_srg_group_rec_replay_req(
 extern "C" uint64_t tum_nal_data_gpb_encode_tum_srg_group_rec_replay_resp(
     const tum_nal_data_srg_group_rec_replay_resp *record, uint8_t *buffer, uint32_t capacity)
 {
-    return mava_tum::encode_frame(record, buffer, capacity, mava_tum::srg_group_rec_replay_resp_to_codec,
-        mava_tum_srg_group_rec_replay_resp_encode_ext);
+    return mava_tum::encode_directly<mava_tum_srg_group_rec_replay_resp, mava_tum::srg_group_rec_replay_resp_fields>(
+        *record, buffer, capacity);
 }
 
 extern "C" void tum_nal_data_gpb_decode_tum_srg_group_rec_replay_resp(

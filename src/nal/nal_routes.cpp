@@ -12,22 +12,18 @@ namespace mava_tum
 namespace
 {
 
-struct sub_route_slots {
-    mava_tum_subscriber_route_ipv4 ipv4_routes[TUM_NAL_SUB_ROUTE_IPV4_ROUTES];
-    mava_tum_subscriber_route_ipv6 ipv6_routes[TUM_NAL_SUB_ROUTE_IPV6_ROUTES];
+struct sub_route_fields {
+    template <class Fields>
+    static void describe(Fields &fields, const tum_nal_data_sub_route &record)
+    {
+        put<1>(fields, record.field_1);
+        put<2>(fields, record.field_2);
+        put<3>(fields, record.field_3);
+        put_list<4, ipv4_route_fields>(fields, record.ipv4_routes, record.ipv4_route_count);
+        put_list<5, ipv6_route_fields>(fields, record.ipv6_routes, record.ipv6_route_count);
+        put<6>(fields, record.field_6);
+    }
 };
-
-void sub_route_to_codec(mava_tum_sub_route &batch, sub_route_slots &slots, const tum_nal_data_sub_route &record)
-{
-    put<1>(batch, batch.field_1, record.field_1);
-    put<2>(batch, batch.field_2, record.field_2);
-    put<3>(batch, batch.field_3, record.field_3);
-    put_list<4>(batch, batch.ipv4_routes, batch.ipv4_route_count, slots.ipv4_routes, record.ipv4_routes,
-        record.ipv4_route_count, ipv4_route_to_codec);
-    put_list<5>(batch, batch.ipv6_routes, batch.ipv6_route_count, slots.ipv6_routes, record.ipv6_routes,
-        record.ipv6_route_count, ipv6_route_to_codec);
-    put<6>(batch, batch.field_6, record.field_6);
-}
 
 void sub_route_from_codec(tum_nal_data_sub_route &record, const mava_tum_sub_route &batch)
 {
@@ -41,14 +37,16 @@ void sub_route_from_codec(tum_nal_data_sub_route &record, const mava_tum_sub_rou
     take<6>(record.field_6, batch, batch.field_6);
 }
 
-void subscriber_route_resp_to_codec(
-    mava_tum_subscriber_route_resp &response, const tum_nal_data_subscriber_route_resp &record)
-{
-    put<1>(response, response.field_1, record.field_1);
-    put<2>(response, response.field_2, record.field_2);
-    put_text<3>(response, response.field_3, record.field_3);
-    put_text<4>(response, response.field_4, record.field_4);
-}
+struct subscriber_route_resp_fields {
+    template <class Fields>
+    static void describe(Fields &fields, const tum_nal_data_subscriber_route_resp &record)
+    {
+        put<1>(fields, record.field_1);
+        put<2>(fields, record.field_2);
+        put_text<3>(fields, record.field_3);
+        put_text<4>(fields, record.field_4);
+    }
+};
 
 void subscriber_route_resp_from_codec(
     tum_nal_data_subscriber_route_resp &record, const mava_tum_subscriber_route_resp &response)
@@ -66,8 +64,7 @@ void subscriber_route_resp_from_codec(
 extern "C" uint64_t tum_nal_data_gpb_encode_tum_sub_route(
     const tum_nal_data_sub_route *record, uint8_t *buffer, uint32_t capacity)
 {
-    return mava_tum::encode_frame(
-        record, buffer, capacity, mava_tum::sub_route_to_codec, mava_tum_sub_route_encode_ext);
+    return mava_tum::encode_directly<mava_tum_sub_route, mava_tum::sub_route_fields>(*record, buffer, capacity);
 }
 
 extern "C" void tum_nal_data_gpb_decode_tum_sub_route(
@@ -79,8 +76,8 @@ extern "C" void tum_nal_data_gpb_decode_tum_sub_route(
 extern "C" uint64_t tum_nal_data_gpb_encode_tum_subscriber_route_resp(
     const tum_nal_data_subscriber_route_resp *record, uint8_t *buffer, uint32_t capacity)
 {
-    return mava_tum::encode_frame(
-        record, buffer, capacity, mava_tum::subscriber_route_resp_to_codec, mava_tum_subscriber_route_resp_encode_ext);
+    return mava_tum::encode_directly<mava_tum_subscriber_route_resp, mava_tum::subscriber_route_resp_fields>(
+        *record, buffer, capacity);
 }
 
 extern "C" void tum_nal_data_gpb_decode_tum_subscriber_route_resp(

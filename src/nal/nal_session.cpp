@@ -14,16 +14,19 @@ namespace
 
 // ---- session_delete ----
 
-void session_delete_to_codec(mava_tum_session_delete &request, const tum_nal_data_session_delete &record)
-{
-    // L27: sent up to its largest known value, 0 included; a larger one is left out, and the receiver reads 0.
-    if (record.field_1 <= TUM_NAL_SESSION_DELETE_MAX_FIELD_1)
-        put<1>(request, request.field_1, record.field_1);
-    put_nonzero<2>(request, request.field_2, record.field_2);
-    put_nonzero<3>(request, request.field_3, record.field_3);
-    put_nonzero<4>(request, request.field_4, record.field_4);
-    put_nonzero<5>(request, request.field_5, record.field_5);
-}
+struct session_delete_fields {
+    template <class Fields>
+    static void describe(Fields &fields, const tum_nal_data_session_delete &record)
+    {
+        // L27: sent up to its largest known value, 0 included; a larger one is left out, and the receiver reads 0.
+        if (record.field_1 <= TUM_NAL_SESSION_DELETE_MAX_FIELD_1)
+            put<1>(fields, record.field_1);
+        put_nonzero<2>(fields, record.field_2);
+        put_nonzero<3>(fields, record.field_3);
+        put_nonzero<4>(fields, record.field_4);
+        put_nonzero<5>(fields, record.field_5);
+    }
+};
 
 void session_delete_from_codec(tum_nal_data_session_delete &record, const mava_tum_session_delete &request)
 {
@@ -36,20 +39,21 @@ void session_delete_from_codec(tum_nal_data_session_delete &record, const mava_t
 
 // ---- sess_oper_resp; L26: field 10 has no member ----
 
-void sess_oper_resp_to_codec(
-    mava_tum_sess_oper_resp &response, statistics_slots &slots, const tum_nal_data_sess_oper_resp &record)
-{
-    put<1>(response, response.field_1, record.field_1);
-    put_nonzero<2>(response, response.field_2, record.field_2);
-    put_nonzero<3>(response, response.field_3, record.field_3);
-    put_nonzero<4>(response, response.field_4, record.field_4);
-    put_nonzero<5>(response, response.field_5, record.field_5);
-    put_text<6>(response, response.field_6, record.field_6);
-    put_text<7>(response, response.field_7, record.field_7);
-    put_text<8>(response, response.field_8, record.field_8);
-    subscriber_stats_to_codec(response.field_9, slots, record.field_9);
-    mark_present<9>(response); // L36: also when they are empty
-}
+struct sess_oper_resp_fields {
+    template <class Fields>
+    static void describe(Fields &fields, const tum_nal_data_sess_oper_resp &record)
+    {
+        put<1>(fields, record.field_1);
+        put_nonzero<2>(fields, record.field_2);
+        put_nonzero<3>(fields, record.field_3);
+        put_nonzero<4>(fields, record.field_4);
+        put_nonzero<5>(fields, record.field_5);
+        put_text<6>(fields, record.field_6);
+        put_text<7>(fields, record.field_7);
+        put_text<8>(fields, record.field_8);
+        put_record<9, subscriber_stats_fields>(fields, record.field_9); // L36: also when they are empty
+    }
+};
 
 // L16: no bit of `response` guards the statistics: when their decode failed part-way they are not marked
 // present, yet what they held before the fault is delivered.
@@ -73,8 +77,8 @@ void sess_oper_resp_from_codec(tum_nal_data_sess_oper_resp &record, const mava_t
 extern "C" uint64_t tum_nal_data_gpb_encode_tum_session_delete(
     const tum_nal_data_session_delete *record, uint8_t *buffer, uint32_t capacity)
 {
-    return mava_tum::encode_frame(
-        record, buffer, capacity, mava_tum::session_delete_to_codec, mava_tum_session_delete_encode_ext);
+    return mava_tum::encode_directly<mava_tum_session_delete, mava_tum::session_delete_fields>(
+        *record, buffer, capacity);
 }
 
 extern "C" void tum_nal_data_gpb_decode_tum_session_delete(
@@ -86,8 +90,8 @@ extern "C" void tum_nal_data_gpb_decode_tum_session_delete(
 extern "C" uint64_t tum_nal_data_gpb_encode_tum_sess_oper_resp(
     const tum_nal_data_sess_oper_resp *record, uint8_t *buffer, uint32_t capacity)
 {
-    return mava_tum::encode_frame(
-        record, buffer, capacity, mava_tum::sess_oper_resp_to_codec, mava_tum_sess_oper_resp_encode_ext);
+    return mava_tum::encode_directly<mava_tum_sess_oper_resp, mava_tum::sess_oper_resp_fields>(
+        *record, buffer, capacity);
 }
 
 extern "C" void tum_nal_data_gpb_decode_tum_sess_oper_resp(

@@ -8,8 +8,8 @@
 extern "C" uint64_t tum_nal_data_gpb_encode_tum_session_context(
     const tum_nal_data_session_context *record, uint8_t *buffer, uint32_t capacity)
 {
-    return mava_tum::encode_frame(
-        record, buffer, capacity, mava_tum::session_context_to_codec, mava_tum_session_context_encode_ext);
+    return mava_tum::encode_directly<mava_tum_session_context, mava_tum::session_context_fields>(
+        *record, buffer, capacity);
 }
 
 extern "C" void tum_nal_data_gpb_decode_tum_session_context(

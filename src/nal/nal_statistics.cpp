@@ -8,8 +8,8 @@
 extern "C" uint64_t tum_nal_data_gpb_encode_tum_subscriber_stats(
     const tum_nal_data_subscriber_stats *record, uint8_t *buffer, uint32_t capacity)
 {
-    return mava_tum::encode_frame(
-        record, buffer, capacity, mava_tum::subscriber_stats_to_codec, mava_tum_subscriber_stats_encode_ext);
+    return mava_tum::encode_directly<mava_tum_subscriber_stats, mava_tum::subscriber_stats_fields>(
+        *record, buffer, capacity);
 }
 
 extern "C" void tum_nal_data_gpb_decode_tum_subscriber_stats(
