@@ -226,6 +226,16 @@ TEST(wire_read, a_cut_length_is_truncated_input)
     }
 }
 
+TEST(wire_read, a_length_that_is_missing_altogether_is_truncated_input)
+{
+    for (const char *hex : {"12", "08 01 12"}) {
+        decoded<mava_tum_subscriber_v6> aliased(hex, {.flags = MAVA_TUM_ALIAS});
+        EXPECT_EQ(aliased.result, MAVA_TUM_TRUNCATED) << hex;
+        decoded<mava_tum_subscriber_acl> text(hex);
+        EXPECT_EQ(text.result, MAVA_TUM_TRUNCATED) << hex;
+    }
+}
+
 TEST(wire_read, an_empty_span_decodes_without_looking_at_its_pointer)
 {
     mava_tum_session_data record;

@@ -3,7 +3,8 @@
 A mutant is one small change: a comparison turned round or moved by one, an operator exchanged for its counterpart, a
 whole number one higher or lower, a condition or truth value negated, a call or an assignment left out, a return of the
 empty value. Only what runs is changed: constant variables, template arguments, array bounds, static_assert and
-`if constexpr` stay. A template is one place, however many messages instantiate it.
+`if constexpr` stay, and so does the number in `return {nullptr, 0}`: beside a null position there is no value. A template
+is one place, however many messages instantiate it.
 """
 import re
 from dataclasses import dataclass
@@ -122,6 +123,8 @@ class Finder:
     # ---- statements ----
 
     def visit_statement(self, cursor):
+        if self.text_of(cursor) == "return {nullptr, 0}":
+            return
         if cursor.kind == CursorKind.RETURN_STMT:
             self.leave_early(cursor)
         elif self.has_effect(cursor):

@@ -20,7 +20,7 @@ COMPILER = "clang++-19"
 SWITCH = os.path.join(os.path.dirname(os.path.abspath(__file__)), "mutant_switch.h")
 MUTATED = ["src/codec/*.h", "src/codec/*.cpp", "src/nal/nal_queue.cpp"]
 # Each template is seen in the sources that instantiate it.
-COMPILED = ["src/codec/*.cpp", "src/messages/*.cpp", "src/nal/nal_queue.cpp"]
+COMPILED = ["src/*/*.cpp"]
 
 
 def arguments_in(root):
@@ -68,8 +68,9 @@ def edits_of(sites):
 def without_forced_inlining(text):
     """Mutants make functions large: inlined everywhere, they would take a compiler an hour. Same length, so that
     positions stay."""
-    attribute = "[[gnu::always_inline]]"
-    return text.replace(attribute, " " * len(attribute))
+    for attribute in (r"\[\[gnu::(?:always_inline|flatten)\]\]", r", gnu::(?:always_inline|flatten)(?=[],])"):
+        text = re.sub(attribute, lambda found: " " * len(found.group()), text)
+    return text
 
 
 def rewrite(path, text, sites):

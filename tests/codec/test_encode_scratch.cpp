@@ -1,0 +1,76 @@
+// Messages that do not fit the scratch in which an encode starts, against bytes that an independent builder wrote.
+#include "support/record_calls.h"
+#include "support/wire_builder.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <string>
+#include <vector>
+
+namespace mava_tum_test
+{
+namespace
+{
+
+TEST(encode_scratch, a_nested_record_with_more_texts_than_fit_is_written_whole)
+{
+    for (std::size_t count : {1u, 100u, 130u, 140u, 400u, 2000u}) {
+        wire_builder service;
+        service.varint(1, 1);
+        for (std::size_t i = 0; i < count; ++i)
+            service.text(5, std::string(60, static_cast<char>('a' + i % 26)));
+        wire_builder wire;
+        wire.varint(1, 1).length_delimited(3, service).length_delimited(3, service).text(4, "end");
+        decoded<mava_tum_rec_sess_replay_resp> got(wire);
+        ASSERT_EQ(got.result, MAVA_TUM_OK);
+        EXPECT_TRUE(encoded(got.record) == wire.bytes()) << count << " texts";
+    }
+}
+
+// A short buffer receives a block whole or not at all, and all else byte by byte.
+struct wire_piece {
+    byte_vector bytes;
+    bool is_block;
+};
+
+std::string expected_hex(const std::vector<wire_piece> &pieces, std::size_t capacity)
+{
+    write_trace expected;
+    for (const wire_piece &piece : pieces) {
+        const bool fits = expected.bytes.size() + piece.bytes.size() <= capacity;
+        for (uint8_t byte : piece.bytes) {
+            expected.bytes.push_back(byte);
+            expected.written.push_back(fits || !piece.is_block);
+        }
+    }
+    expected.bytes.resize(capacity);
+    expected.written.resize(capacity, false);
+    return hex_of(expected);
+}
+
+// The second block does not fit the scratch behind the first; the buffer ends before, in and behind each of them.
+TEST(encode_scratch, a_block_behind_a_long_one_is_written_whole_or_not_at_all)
+{
+    const std::size_t first = 8000;
+    for (std::size_t second : {300u, 9000u}) {
+        const byte_vector x(first, 'x'), y(second, 'y');
+        const wire_builder first_head = wire_builder().tag(3, wire_type::length_delimited).bare_varint(first);
+        const wire_builder second_head = wire_builder().tag(4, wire_type::length_delimited).bare_varint(second);
+        const std::vector<wire_piece> pieces = {{first_head.bytes(), false}, {x, true}, {second_head.bytes(), false},
+            {y, true}, {wire_builder().varint(6, 1).bytes(), false}};
+        byte_vector wire;
+        for (const wire_piece &piece : pieces)
+            wire.insert(wire.end(), piece.bytes.begin(), piece.bytes.end());
+        decoded<mava_tum_subscriber_qos> got(wire);
+        ASSERT_EQ(got.result, MAVA_TUM_OK);
+        EXPECT_TRUE(encoded(got.record) == wire);
+        for (std::size_t capacity : {second, first + 2, first + 3, first + 6, first + 200, first + second + 5,
+                 first + second + 6, first + second + 7})
+            EXPECT_TRUE(hex_of(encode_trace(got.record, capacity, wire.size())) == expected_hex(pieces, capacity))
+                << second << " into " << capacity;
+    }
+}
+
+} // namespace
+} // namespace mava_tum_test
