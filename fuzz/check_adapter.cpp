@@ -3,6 +3,7 @@
 #include "adapters.h"
 #include "calloc_log.h"
 #include "model/application_receive.h"
+#include "model/application_send.h"
 #include "model/model.h"
 #include "model/random_source.h"
 #include "support/guarded_buffer.h"
@@ -34,15 +35,20 @@ uint8_t *before_the_page(std::size_t size)
     return memory.data() + memory.size() - size;
 }
 
-const application_layout &layout_of_adapter(std::size_t index)
+struct adapter_layouts {
+    const application_layout *received;
+    const application_layout *sent;
+};
+
+const adapter_layouts &layouts_of_adapter(std::size_t index)
 {
     static const auto layouts = [] {
-        std::array<const application_layout *, adapter_count> found;
+        std::array<adapter_layouts, adapter_count> found;
         for (std::size_t each = 0; each < adapter_count; ++each)
-            found[each] = received_layout(adapter_at(each).name);
+            found[each] = {received_layout(adapter_at(each).name), sent_layout(adapter_at(each).name)};
         return found;
     }();
-    return *layouts[index];
+    return layouts[index];
 }
 
 // What a short check does after the first decode: one of these.
@@ -53,7 +59,7 @@ class adapter_check
 public:
     explicit adapter_check(const adapter_case &checked)
         : checked_(checked), adapter_(adapter_at(checked.adapter_index)),
-          message_(message_of_adapter(checked.adapter_index)), layout_(layout_of_adapter(checked.adapter_index)),
+          message_(message_of_adapter(checked.adapter_index)), layouts_(layouts_of_adapter(checked.adapter_index)),
           random_(checked.seed)
     {
     }
@@ -70,13 +76,12 @@ private:
     std::string compare_received(const uint8_t *codec_record);
     void place_record_to_send();
     std::string send();
-    std::string check_message_sent(const std::vector<uint8_t> &wire);
-    std::string check_cut(const uint8_t *codec_record, uint64_t size);
+    std::string compare_sent(uint64_t size, uint64_t capacity);
 
     const adapter_case &checked_;
     const adapter &adapter_;
     const message &message_;
-    const application_layout &layout_;
+    const adapter_layouts &layouts_;
     random_source random_;
     uint8_t *sent_ = nullptr;
     uint64_t part_ = part_count;
@@ -85,21 +90,22 @@ private:
     static inline std::vector<uint8_t> received_;
     static inline std::vector<uint8_t> expected_;
     static inline std::vector<uint8_t> before_send_;
+    static inline std::vector<uint8_t> sent_bytes_;
 };
 
 // Every byte: also those that the adapter has to clear.
 std::string adapter_check::compare_received(const uint8_t *codec_record)
 {
-    const uint32_t size = extent_of(layout_).bytes;
+    const uint32_t size = layouts_.received->extent.bytes;
     if (size != adapter_.received_bytes)
         return "the record has " + std::to_string(adapter_.received_bytes) + " bytes, expected " + std::to_string(size);
     expected_.resize(size);
-    model_receive(message_, codec_record, layout_, expected_.data());
+    model_receive(message_, codec_record, *layouts_.received, expected_.data());
     if (received_ == expected_)
         return {};
     const auto [expected, actual] = std::mismatch(expected_.begin(), expected_.end(), received_.begin());
-    return "received " + member_at(layout_, static_cast<uint32_t>(expected - expected_.begin())) + ": expected " +
-           std::to_string(*expected) + ", actual " + std::to_string(*actual);
+    return "received " + member_at(*layouts_.received, static_cast<uint32_t>(expected - expected_.begin())) +
+           ": expected " + std::to_string(*expected) + ", actual " + std::to_string(*actual);
 }
 
 std::string adapter_check::receive()
@@ -141,57 +147,40 @@ void adapter_check::place_record_to_send()
     }
 }
 
+// Into exactly the size that is needed, or a part of it, or more.
 std::string adapter_check::send()
 {
     before_send_.assign(sent_, sent_ + adapter_.sent_bytes);
     block_log asked;
-    uint64_t size = 0;
-    std::vector<uint8_t> wire;
-    {
-        const calloc_log live(asked);
-        size = adapter_.encode(sent_, nullptr, 0);
-    }
-    wire.assign(size + guard_bytes, untouched);
-    {
-        const calloc_log live(asked);
-        if (adapter_.encode(sent_, wire.data(), static_cast<uint32_t>(size)) != size)
-            return "two sizes for one record";
-    }
-    if (std::count(wire.end() - guard_bytes, wire.end(), untouched) != guard_bytes)
-        return "an encode wrote behind its buffer";
-    wire.resize(size);
+    const calloc_log live(asked);
+    const uint64_t size = adapter_.encode(sent_, nullptr, 0);
+    const uint64_t capacity = wants(part_cut) ? random_.below(size + 2) : size;
+    sent_bytes_.assign(capacity + 2 * guard_bytes, untouched);
+    if (adapter_.encode(sent_, sent_bytes_.data() + guard_bytes, static_cast<uint32_t>(capacity)) != size)
+        return "two sizes for one record";
     if (asked.made_any_call())
         return "an encode allocated";
     if (!std::equal(before_send_.begin(), before_send_.end(), sent_))
         return "an encode wrote into its record";
-    return check_message_sent(wire);
+    return compare_sent(size, capacity);
 }
 
-std::string adapter_check::check_message_sent(const std::vector<uint8_t> &wire)
+std::string adapter_check::compare_sent(uint64_t size, uint64_t capacity)
 {
     alignas(8) uint8_t codec_record[largest_codec_record] = {};
-    block_log blocks({}, block_memory::plain);
-    const int32_t result = model_decode(message_, codec_record, wire.data(), wire.size(), blocks.source(), 0);
-    if (result != 0)
-        return "what was sent decodes with result " + std::to_string(result);
-    std::vector<uint8_t> again(wire.size());
-    encode_output output = {again.data(), again.data(), again.size(), nullptr, nullptr};
-    if (model_encode(message_, codec_record, output, 0) != wire.size() || again != wire)
-        return "what was sent is not what the model writes of it";
-    return wants(part_cut) ? check_cut(codec_record, wire.size()) : std::string();
-}
-
-std::string adapter_check::check_cut(const uint8_t *codec_record, uint64_t size)
-{
-    const uint64_t capacity = random_.below(size + 2);
-    std::vector<uint8_t> actual(capacity + 2 * guard_bytes, untouched);
-    std::vector<uint8_t> expected = actual;
-    uint8_t *model_bytes = expected.data() + guard_bytes;
-    const encode_output output = {model_bytes, model_bytes, capacity, nullptr, nullptr};
-    model_encode(message_, codec_record, output, 0);
-    if (adapter_.encode(sent_, actual.data() + guard_bytes, static_cast<uint32_t>(capacity)) != size)
-        return "another size for a short buffer";
-    return actual == expected ? "" : "other bytes in a buffer of " + std::to_string(capacity);
+    send_scratch scratch;
+    model_send(message_, codec_record, *layouts_.sent, sent_, scratch);
+    expected_.assign(capacity + 2 * guard_bytes, untouched);
+    uint8_t *buffer = expected_.data() + guard_bytes;
+    const uint64_t expected_size =
+        model_encode(message_, codec_record, {buffer, buffer, capacity, nullptr, nullptr}, 0);
+    if (size != expected_size)
+        return "sent " + std::to_string(size) + " bytes, expected " + std::to_string(expected_size);
+    if (sent_bytes_ == expected_)
+        return {};
+    const auto [expected, actual] = std::mismatch(expected_.begin(), expected_.end(), sent_bytes_.begin());
+    return "sent byte " + std::to_string(expected - expected_.begin() - guard_bytes) + " of " +
+           std::to_string(capacity) + ": expected " + std::to_string(*expected) + ", actual " + std::to_string(*actual);
 }
 
 std::string adapter_check::run()

@@ -29,9 +29,8 @@ bool read_adapter_case(std::span<const uint8_t> bytes, adapter_case &read);
 
 // Empty if all of this holds, otherwise what does not:
 // receiving: nothing outside the record is touched, every byte of it is the one that the model predicts, and so are the
-// blocks asked for, and all are given back; sending: nothing is allocated, the record is only read,
-// the bytes are a complete message that the model decodes and writes again to the same bytes, and a short buffer
-// receives of them what the model puts there.
+// blocks asked for, and all are given back; sending: nothing is allocated, the record is only read, and the size and the
+// bytes, into a buffer of any capacity, are those that the model predicts.
 std::string check_adapter(const adapter_case &checked);
 
 } // namespace mava_tum_fuzz

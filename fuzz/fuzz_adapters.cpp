@@ -1,4 +1,4 @@
-// Do the 19 adapters keep to their record, give every block back, and send what the model can read?
+// Do the 19 adapters receive and send what the model predicts, keep to their record, and give every block back?
 #include "check_adapter.h"
 #include "fuzz_target.h"
 

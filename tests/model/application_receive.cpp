@@ -1,9 +1,9 @@
 #include "model/application_receive.h"
 
+#include "model/application_path.h"
 #include "model/raw_memory.h"
 
 #include <algorithm>
-#include <cstdlib>
 
 namespace mava_tum_model
 {
@@ -11,34 +11,20 @@ namespace mava_tum_model
 namespace
 {
 
-const field &field_numbered(const message &of, uint8_t number)
-{
-    for (const field &member : of.fields) {
-        if (member.number == number)
-            return member;
-    }
-    std::abort(); // a mistake in the tables
-}
-
-// Where a path ends: the innermost message, its record, and the field.
-struct path_end {
+// Where a value stands in a codec record that is there.
+struct received_value {
     const message *of;
     const uint8_t *record;
     const field *leaf;
 };
 
-path_end walk(const message &of, const uint8_t *record, const field_path &path)
+received_value value_at(const message &of, const uint8_t *record, const slot &member)
 {
-    path_end end = {&of, record, &field_numbered(of, path.numbers[0])};
-    for (std::size_t step = 1; step < std::size(path.numbers) && path.numbers[step] != 0; ++step) {
-        end.record += end.leaf->offset;
-        end.of = end.leaf->nested;
-        end.leaf = &field_numbered(*end.of, path.numbers[step]);
-    }
-    return end;
+    const path_end end = walk(of, member.path);
+    return {end.of, record + end.record_offset, end.leaf};
 }
 
-bool arrives(const path_end &end, const slot &member)
+bool arrives(const received_value &end, const slot &member)
 {
     const field &decides = member.presence_of == 0 ? *end.leaf : field_numbered(*end.of, member.presence_of);
     return is_present(*end.of, end.record, decides);
@@ -62,7 +48,7 @@ void put_number(uint8_t *at, uint64_t value, uint32_t bytes)
     }
 }
 
-void receive_number(const path_end &end, const slot &member, uint8_t *at)
+void receive_number(const received_value &end, const slot &member, uint8_t *at)
 {
     const bool wide = end.leaf->kind == field_kind::varint64;
     const uint64_t value =
@@ -70,7 +56,7 @@ void receive_number(const path_end &end, const slot &member, uint8_t *at)
     put_number(at, value, member.bytes);
 }
 
-void receive_address(const path_end &end, uint8_t *at)
+void receive_address(const received_value &end, uint8_t *at)
 {
     for (uint32_t index = 0; index < 4; ++index)
         at[index] = end.record[end.leaf->offset + 3 - index];
@@ -84,7 +70,7 @@ void receive_text(const uint8_t *text, uint32_t limit, uint8_t *at)
     at[index] = 0;
 }
 
-void receive_bytes(const path_end &end, const slot &member, uint8_t *at)
+void receive_bytes(const received_value &end, const slot &member, uint8_t *at)
 {
     const uint64_t length = std::min<uint64_t>(load_bytes_length(end.record, *end.leaf), member.bytes);
     const uint8_t *content = load_pointer(end.record, end.leaf->offset);
@@ -93,21 +79,21 @@ void receive_bytes(const path_end &end, const slot &member, uint8_t *at)
 }
 
 // First what fits the count's own width, of that what fits the slots.
-uint32_t elements_received(const path_end &end, uint32_t count_bytes, uint32_t slots)
+uint32_t elements_received(const received_value &end, uint32_t count_bytes, uint32_t slots)
 {
     uint64_t count = load<uint32_t>(end.record, end.leaf->count_offset);
     count %= uint64_t{1} << (8 * count_bytes);
     return static_cast<uint32_t>(std::min<uint64_t>(count, slots));
 }
 
-void receive_list(const path_end &end, const slot &member, uint8_t *at);
+void receive_list(const received_value &end, const slot &member, uint8_t *at);
 void receive_members(const message &of, const uint8_t *record, const application_layout &layout, uint8_t *application);
 
 void receive_slot(const message &of, const uint8_t *record, const slot &member, uint8_t *at)
 {
-    if (member.kind == slot_kind::gap)
+    if (member.kind == slot_kind::gap || member.kind == slot_kind::mark)
         return;
-    const path_end end = walk(of, record, member.path);
+    const received_value end = value_at(of, record, member);
     if (member.kind == slot_kind::part) {
         receive_members(*end.leaf->nested, end.record + end.leaf->offset, *member.element, at);
         return;
@@ -136,24 +122,16 @@ void receive_slot(const message &of, const uint8_t *record, const slot &member, 
     }
 }
 
-uint32_t aligned(uint32_t offset, uint32_t alignment)
-{
-    return (offset + alignment - 1) / alignment * alignment;
-}
-
 // Into zeros: what does not arrive is not touched.
 void receive_members(const message &of, const uint8_t *record, const application_layout &layout, uint8_t *application)
 {
-    uint32_t offset = 0;
-    for (const slot &member : layout.slots) {
-        const layout_extent extent = extent_of(member);
-        offset = aligned(offset, extent.alignment);
+    for_each_slot(layout, [&](const slot &member, uint32_t offset) {
         receive_slot(of, record, member, application + offset);
-        offset += extent.bytes;
-    }
+        return true;
+    });
 }
 
-void receive_list(const path_end &end, const slot &member, uint8_t *at)
+void receive_list(const received_value &end, const slot &member, uint8_t *at)
 {
     const uint32_t count = elements_received(end, member.count_bytes, member.slots);
     const uint32_t stride = extent_of(member).bytes / member.slots;
@@ -195,21 +173,19 @@ std::string inside_slot(const slot &member, uint32_t offset)
 void model_receive(
     const message &of, const uint8_t *codec_record, const application_layout &layout, uint8_t *application_record)
 {
-    std::memset(application_record, 0, extent_of(layout).bytes);
+    std::memset(application_record, 0, layout.extent.bytes);
     receive_members(of, codec_record, layout, application_record);
 }
 
 std::string member_at(const application_layout &layout, uint32_t offset)
 {
-    uint32_t start = 0;
-    for (const slot &member : layout.slots) {
-        const layout_extent extent = extent_of(member);
-        start = aligned(start, extent.alignment);
-        if (offset >= start && offset < start + extent.bytes)
-            return member.kind == slot_kind::gap ? "unused bytes" : inside_slot(member, offset - start);
-        start += extent.bytes;
-    }
-    return "padding";
+    std::string found = "padding";
+    for_each_slot(layout, [&](const slot &member, uint32_t start) {
+        if (offset >= start && offset < start + extent_of(member).bytes)
+            found = member.kind == slot_kind::gap ? "unused bytes" : inside_slot(member, offset - start);
+        return true;
+    });
+    return found;
 }
 
 } // namespace mava_tum_model

@@ -9,7 +9,7 @@
 namespace mava_tum_model
 {
 
-// `codec_record` is what the model's decode left, after success or failure. Writes extent_of(layout).bytes.
+// `codec_record` is what the model's decode left, after success or failure. Writes layout.extent.bytes.
 void model_receive(
     const message &of, const uint8_t *codec_record, const application_layout &layout, uint8_t *application_record);
 

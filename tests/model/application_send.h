@@ -1,0 +1,27 @@
+// What an encode adapter has to send of an application record: the codec record that the model then encodes.
+#pragma once
+
+#include "model/application_layout.h"
+
+#include <cstdint>
+#include <memory>
+#include <vector>
+
+namespace mava_tum_model
+{
+
+// Room for the elements of lists; the codec record points into it, and into the application record.
+class send_scratch
+{
+public:
+    uint8_t *zeroed(std::size_t bytes);
+
+private:
+    std::vector<std::unique_ptr<uint64_t[]>> blocks_;
+};
+
+// `codec_record` is all zero before.
+void model_send(const message &of, uint8_t *codec_record, const application_layout &layout,
+    const uint8_t *application_record, send_scratch &scratch);
+
+} // namespace mava_tum_model
