@@ -1,0 +1,91 @@
+# shellcheck shell=bash disable=SC2034,SC2154
+# Sourced by matrix: what each platform is. A function sets, for its platform,
+#   packages      Debian packages beyond those of the ordinary tests
+#   configure     arguments of cmake, for googletest and for the library with its tests
+#   sanitizers    with what both are instrumented, as the compiler wants it; empty for nothing
+#   flags         of the compiler, for both
+#   left_out      folders of tests that it does not have, each with the reason
+#   targets       what is built; everything if empty. A platform with targets of its own has a run_<platform>
+#   runner        what the test programs are started by; empty if they run by themselves
+# and exports what the programs read from their environment.
+readonly all_platforms=(address undefined memory thread valgrind i686 aarch64 s390x)
+
+# Without the optimisations that would remove what a sanitizer is to look at. All others are optimised as for release.
+readonly clang=(-DCMAKE_C_COMPILER=clang-19 -DCMAKE_CXX_COMPILER=clang++-19
+    "-DCMAKE_C_FLAGS_RELWITHDEBINFO=-O1 -g1" "-DCMAKE_CXX_FLAGS_RELWITHDEBINFO=-O1 -g1")
+
+platform_address() {
+    packages=(clang-19 libclang-rt-19-dev libprotobuf-dev protobuf-compiler)
+    configure=("${clang[@]}")
+    sanitizers=address,leak
+    export ASAN_OPTIONS=detect_leaks=1:detect_stack_use_after_return=1:strict_string_checks=1
+}
+
+platform_undefined() {
+    packages=(clang-19 libclang-rt-19-dev libprotobuf-dev protobuf-compiler)
+    configure=("${clang[@]}")
+    sanitizers=undefined,implicit-conversion,local-bounds
+    flags=-fsanitize-ignorelist=$PWD/tools/check/matrix_ignored_conversions.txt
+    export UBSAN_OPTIONS=print_stacktrace=1
+}
+
+# The C++ runtime library is not instrumented: what it writes would count as never written, and the first stream that
+# googletest opens would end each program. So the programs are others, which use no stream: they compare the library
+# with the model, and the comparison reads every byte that comes out. Templates of the runtime library are compiled into
+# them. The GoogleTest programs are asked the same question by valgrind.
+platform_memory() {
+    packages=(clang-19 libclang-rt-19-dev)
+    configure=("${clang[@]}")
+    sanitizers=memory
+    flags="-D_GLIBCXX_EXTERN_TEMPLATE=0 -fsanitize-memory-track-origins=1"
+    targets=(check_exhaustive replay_by_stdio_messages replay_by_stdio_adapters)
+    left_out=("interop: it needs the protobuf runtime, which is not instrumented")
+}
+
+run_memory() {
+    local question length
+    for question in messages adapters; do
+        run_plain "replay_$question" xargs "$build/tests/memory/replay_by_stdio_$question" \
+            < <(find "fuzz/corpus/$question" -type f | sort)
+    done
+    run_plain capacities "$build/tests/model/check_exhaustive" capacities
+    for length in 0 1 2; do
+        run_plain "inputs_of_$length" "$build/tests/model/check_exhaustive" inputs "$length"
+    done
+    remark="instead of the GoogleTest programs, which valgrind looks at: $(tail -qn 1 "$results"/*.log | paste -sd';')"
+}
+
+platform_thread() {
+    packages=(clang-19 libclang-rt-19-dev libprotobuf-dev protobuf-compiler)
+    configure=("${clang[@]}")
+    sanitizers=thread
+    export TSAN_OPTIONS=second_deadlock_stack=1
+}
+
+platform_valgrind() {
+    packages=(valgrind libprotobuf-dev protobuf-compiler)
+    runner=(valgrind --error-exitcode=99 --leak-check=full "--errors-for-leak-kinds=definite,indirect"
+        --child-silent-after-fork=yes --log-file="$results/valgrind.%p.log")
+}
+
+platform_i686() {
+    packages=(g++-i686-linux-gnu)
+    configure=(-DCMAKE_TOOLCHAIN_FILE="$PWD/cmake/toolchains/i686-linux-gnu.cmake")
+    left_out=("interop: there is no protobuf runtime among the cross compiler's packages")
+}
+
+platform_aarch64() {
+    emulated aarch64
+}
+
+platform_s390x() {
+    emulated s390x
+}
+
+emulated() {
+    packages=("g++-$1-linux-gnu" qemu-user)
+    configure=(-DCMAKE_TOOLCHAIN_FILE="$PWD/cmake/toolchains/$1-linux-gnu.cmake")
+    runner=("qemu-$1" -L "/usr/$1-linux-gnu")
+    left_out=("interop: there is no protobuf runtime among the cross compiler's packages"
+        "examples: their tests start other programs, and the emulator would not start with these")
+}
