@@ -3,8 +3,10 @@
 #include "adapters.h"
 #include "calloc_log.h"
 #include "check_adapter.h"
+#include "model/application_receive.h"
 #include "model/model.h"
 
+#include <algorithm>
 #include <vector>
 
 namespace mava_tum_injection
@@ -21,25 +23,26 @@ using mava_tum_fuzz::message_of_adapter;
 
 constexpr std::size_t largest_codec_record = 656;
 
-// Beforehand every byte of the record is `fill`.
-std::vector<uint8_t> receive(const adapter &tested, std::span<const uint8_t> wire, uint8_t fill, block_log &blocks)
+constexpr uint8_t not_written = 0xDD;
+
+// Beforehand no byte of the record is zero.
+std::vector<uint8_t> receive(const adapter &tested, std::span<const uint8_t> wire, block_log &blocks)
 {
-    std::vector<uint8_t> record(tested.received_bytes, fill);
+    std::vector<uint8_t> record(tested.received_bytes, not_written);
     const calloc_log live(blocks);
     tested.decode(wire.data(), static_cast<uint32_t>(wire.size()), record.data());
     return record;
 }
 
-// A message of the fields that the model keeps of `wire` when memory runs out as `blocks` says. What a nested record
-// received before its own fault is in it: an encode writes such a record although its parent does not mark it, and an
-// adapter delivers it (L16).
-std::vector<uint8_t> what_is_kept(const message &of, std::span<const uint8_t> wire, block_log &blocks)
+// The application record that the model makes of `wire` when memory runs out as `blocks` says.
+std::vector<uint8_t> predict(
+    const message &of, const application_layout &layout, std::span<const uint8_t> wire, block_log &blocks)
 {
-    alignas(8) uint8_t record[largest_codec_record] = {};
-    model_decode(of, record, wire.data(), wire.size(), blocks.source(), alias_flag);
-    std::vector<uint8_t> kept(model_encode(of, record, {}, 0));
-    model_encode(of, record, {kept.data(), kept.data(), kept.size(), nullptr, nullptr}, 0);
-    return kept;
+    alignas(8) uint8_t codec_record[largest_codec_record] = {};
+    model_decode(of, codec_record, wire.data(), wire.size(), blocks.source(), alias_flag);
+    std::vector<uint8_t> record(layout.extent.bytes);
+    model_receive(of, codec_record, layout, record.data());
+    return record;
 }
 
 std::string compare_blocks(const block_log &asked, const block_log &predicted)
@@ -51,14 +54,17 @@ std::string compare_blocks(const block_log &asked, const block_log &predicted)
     return block_log::compare_allocations(asked, predicted);
 }
 
-std::string compare_members(const std::vector<uint8_t> &expected, const std::vector<uint8_t> &actual)
+std::string compare_members(
+    const application_layout &layout, const std::vector<uint8_t> &expected, const std::vector<uint8_t> &actual)
 {
-    for (std::size_t offset = 0; offset < expected.size(); ++offset) {
-        if (expected[offset] != actual[offset])
-            return "byte " + std::to_string(offset) + " of the record: expected " + std::to_string(expected[offset]) +
-                   ", actual " + std::to_string(actual[offset]);
-    }
-    return "";
+    if (expected.size() != actual.size())
+        return "the record has " + std::to_string(actual.size()) + " bytes, expected " +
+               std::to_string(expected.size());
+    const auto [wanted, found] = std::mismatch(expected.begin(), expected.end(), actual.begin());
+    if (wanted == expected.end())
+        return "";
+    return member_at(layout, static_cast<uint32_t>(wanted - expected.begin())) + ": expected " +
+           std::to_string(*wanted) + ", actual " + std::to_string(*found);
 }
 
 } // namespace
@@ -66,16 +72,14 @@ std::string compare_members(const std::vector<uint8_t> &expected, const std::vec
 std::string inject_adapter(std::size_t adapter_index, std::span<const uint8_t> wire, const injection &failing_call)
 {
     const adapter &tested = adapter_at(adapter_index);
+    const application_layout &layout = *received_layout(tested.name);
     block_log predicted(failing_call.model);
-    const std::vector<uint8_t> kept = what_is_kept(message_of_adapter(adapter_index), wire, predicted);
-    block_log undisturbed;
-    const std::vector<uint8_t> expected = receive(tested, kept, 0x22, undisturbed);
-
+    const std::vector<uint8_t> expected = predict(message_of_adapter(adapter_index), layout, wire, predicted);
     block_log asked(failing_call.library);
-    const std::vector<uint8_t> actual = receive(tested, wire, 0xDD, asked);
+    const std::vector<uint8_t> actual = receive(tested, wire, asked);
     std::string found = compare_blocks(asked, predicted);
     if (found.empty())
-        found = compare_members(expected, actual);
+        found = compare_members(layout, expected, actual);
     return found.empty() ? found : std::string(tested.name) + " adapter: " + found;
 }
 

@@ -12,8 +12,7 @@ namespace mava_tum_injection
 {
 
 // Empty if all of this holds: calloc was asked for the sizes that the model predicts under the same failure; every
-// block was freed, once; the application record holds, byte for byte, what the adapter delivers of a message with
-// exactly the fields that the model kept, received without any failure; nothing in it was left as it was.
+// block was freed, once; every byte of the application record is what the model makes of the fields that it kept.
 std::string inject_adapter(std::size_t adapter_index, std::span<const uint8_t> wire, const injection &failing_call);
 
 // No failure, then every call that the decode makes failing, once and for ever.
