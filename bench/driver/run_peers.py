@@ -32,12 +32,12 @@ def parse_arguments():
     parser.add_argument("--rounds", type=int, help="default 20, quick 4")
     parser.add_argument("--messages", type=int, help="in a round's window; default 1000, quick 400")
     parser.add_argument("--samples", type=int, default=3, help="of each operation in a process")
-    parser.add_argument("--milliseconds", type=float, help="of a sample; default 6, quick 2")
+    parser.add_argument("--milliseconds", type=float, help="of a sample; default 5, quick 2")
     parser.add_argument("--seed", type=int, default=1, help="of the order of everything")
     arguments = parser.parse_args()
     arguments.rounds = arguments.rounds or (4 if arguments.quick else 20)
     arguments.messages = arguments.messages or (400 if arguments.quick else 1000)
-    arguments.milliseconds = arguments.milliseconds or (2 if arguments.quick else 6)
+    arguments.milliseconds = arguments.milliseconds or (2 if arguments.quick else 5)
     return arguments
 
 
