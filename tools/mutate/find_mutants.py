@@ -265,7 +265,7 @@ def find_sites(source, files, arguments):
 def top_level(cursor):
     """What stands in the file's namespaces, which have no part in a function's name."""
     for child in cursor.get_children():
-        if child.kind in (CursorKind.NAMESPACE, CursorKind.LINKAGE_SPEC, CursorKind.UNEXPOSED_DECL):
+        if child.kind in (CursorKind.NAMESPACE, CursorKind.LINKAGE_SPEC):
             yield from top_level(child)
-        else:
+        elif child.kind != CursorKind.UNEXPOSED_DECL:  # a template of a constant
             yield child
