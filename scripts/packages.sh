@@ -8,6 +8,7 @@ program_of_package() {
     case $1 in
     cmake) echo cmake ;;
     g++) echo g++ ;;
+    clang) echo clang++ ;;
     ninja-build) echo ninja ;;
     pkg-config) echo pkg-config ;;
     protobuf-compiler) echo protoc ;;
