@@ -107,7 +107,7 @@ def _instruction_blocks():
     rows = [["operation", *(WORKLOAD_OF_NAME[name].title for name in workloads)]]
     for operation in operations:
         cells = (counts.get((workload, *operation)) for workload in workloads)
-        rows.append([", ".join(operation), *(f"{cell[0]:,} + {cell[1]:,}" if cell else "-" for cell in cells)])
+        rows.append([", ".join(operation), *(f"{cell.library:,} + {cell.c_library:,}" if cell else "-" for cell in cells)])
     yield "instructions", f"{environment}:\n\n" + markdown.table(rows)
 
 
