@@ -37,7 +37,16 @@ def _flags(cache, language):
     return f"{cache[f'CMAKE_{language}_FLAGS']} {cache[f'CMAKE_{language}_FLAGS_{build_type}']}".strip()
 
 
-def describe(build, versions):
+def _options():
+    """Those the user gave: the scripts put --build and its folder before them, and files are named without folders."""
+    given = sys.argv[1:]
+    if given[:1] == ["--build"]:
+        given = given[2:]
+    return [pathlib.Path(word).name if word.startswith("/") else word for word in given]
+
+
+def describe(command, build, versions):
+    """`command` is the script that the user called; where it built and stands is nobody's business."""
     cache = _cache_entries(build)
     return {
         "commit": _commit(),
@@ -47,5 +56,5 @@ def describe(build, versions):
         "C++ compiler": f"{_compiler(cache['CMAKE_CXX_COMPILER'])}, {_flags(cache, 'CXX')}",
         "C compiler": f"{_compiler(cache['CMAKE_C_COMPILER'])}, {_flags(cache, 'C')}",
         "peers": "; ".join(versions),
-        "command": shlex.join(sys.argv),
+        "command": shlex.join([command, *_options()]),
     }

@@ -60,7 +60,7 @@ def main():
     arguments = parse_arguments()
     programs = Programs(arguments.build)
     versions = [programs.version(peer) for peer in programs.present(PEERS)]
-    description = machine.describe(arguments.build, versions)
+    description = machine.describe("bench/cold", arguments.build, versions)
     for name, text in description.items():
         print(f"{name + ':':<14} {text}")
     with tempfile.TemporaryDirectory(prefix="mava_tum_bench_") as directory:

@@ -100,7 +100,7 @@ def as_json(description, replay, threads, series, judgements):
 def main():
     arguments = parse_arguments()
     programs = Programs(arguments.build)
-    description = machine.describe(arguments.build, [programs.version(peer) for peer in ("ours", "copy")])
+    description = machine.describe("bench/scale", arguments.build, [programs.version(peer) for peer in ("ours", "copy")])
     for name, text in description.items():
         print(f"{name + ':':<14} {text}")
     with tempfile.TemporaryDirectory(prefix="mava_tum_bench_") as directory:
