@@ -217,9 +217,8 @@ bool read_adapter_case(std::span<const uint8_t> bytes, adapter_case &read)
     constexpr failing plans[] = {failing::never, failing::once, failing::from_then};
     read.adapter_index = bytes[0] % adapter_count;
     read.plan = {plans[bytes[2] % std::size(plans)], bytes[3]};
-    uint32_t seed = 0;
-    std::memcpy(&seed, bytes.data() + 4, sizeof seed);
-    read.seed = seed;
+    // The lowest byte first, on every machine.
+    read.seed = bytes[4] | uint32_t{bytes[5]} << 8 | uint32_t{bytes[6]} << 16 | uint32_t{bytes[7]} << 24;
     read.wire = bytes.subspan(header_bytes);
     return true;
 }

@@ -225,9 +225,8 @@ bool read_case(std::span<const uint8_t> bytes, message_case &read)
     read.message_index = bytes[0] % all_messages().size();
     read.flags = bytes[1];
     read.decode_plan = {static_cast<failing>(bytes[2] % 5), bytes[3]};
-    uint32_t seed = 0;
-    std::memcpy(&seed, bytes.data() + 4, sizeof seed);
-    read.seed = seed;
+    // The lowest byte first, on every machine: recorded inputs mean the same everywhere.
+    read.seed = bytes[4] | uint32_t{bytes[5]} << 8 | uint32_t{bytes[6]} << 16 | uint32_t{bytes[7]} << 24;
     read.wire = bytes.subspan(case_header_bytes);
     return true;
 }
@@ -236,9 +235,8 @@ wire_bytes case_bytes(const message_case &from)
 {
     wire_bytes bytes = {static_cast<uint8_t>(from.message_index), static_cast<uint8_t>(from.flags),
         static_cast<uint8_t>(from.decode_plan.when), static_cast<uint8_t>(from.decode_plan.at)};
-    const uint32_t seed = static_cast<uint32_t>(from.seed);
-    bytes.resize(case_header_bytes);
-    std::memcpy(bytes.data() + 4, &seed, sizeof seed);
+    for (int shift = 0; shift < 32; shift += 8)
+        bytes.push_back(static_cast<uint8_t>(from.seed >> shift));
     bytes.insert(bytes.end(), from.wire.begin(), from.wire.end());
     return bytes;
 }
