@@ -24,7 +24,8 @@ HEAP_FUNCTIONS = ("calloc", "malloc", "realloc", "free")
 Counts = collections.namedtuple("Counts", "library heap_calls c_library")
 NOTHING = Counts(0, 0, 0)
 # The plainest copies and string functions: otherwise the C library chooses them by processor.
-PLAIN_C_LIBRARY = "glibc.cpu.hwcaps=-AVX512F,-AVX512VL,-AVX512BW,-AVX2,-AVX,-BMI1,-BMI2,-ERMS,-FSRM,-SSSE3,-SSE4_1,-SSE4_2"
+NOT_USED = "AVX512F AVX512VL AVX512BW AVX2 AVX BMI1 BMI2 ERMS FSRM SSSE3 SSE4_1 SSE4_2".split()
+PLAIN_C_LIBRARY = "glibc.cpu.hwcaps=" + ",".join("-" + feature for feature in NOT_USED)
 
 
 def environment_of(program):

@@ -5,6 +5,7 @@ import pathlib
 import platform
 import re
 import shlex
+import shutil
 import subprocess
 import sys
 
@@ -16,11 +17,21 @@ def _processor():
     return platform.machine()
 
 
+# What a change in makes the library another one than the commit's.
+LIBRARY = ("src", "include", "cmake", "CMakeLists.txt")
+
+
+def _git(*words):
+    if not shutil.which("git"):
+        return ""
+    root = pathlib.Path(__file__).resolve().parents[2]
+    return subprocess.run(["git", "-C", root, *words], capture_output=True, text=True, check=False).stdout.strip()
+
+
 def _commit():
-    """Of the tree this stands in; "-dirty" when it has changes that are in no commit. A copy without git has none."""
-    command = ["git", "-C", str(pathlib.Path(__file__).parent), "describe", "--always", "--dirty", "--exclude=*"]
-    done = subprocess.run(command, capture_output=True, text=True, check=False)
-    return done.stdout.strip() or "unknown"
+    """The one checked out, and whether the library has changes that are in no commit. A copy without git has none."""
+    changed = " with changes" if _git("status", "--porcelain", "--", *LIBRARY) else ""
+    return (_git("rev-parse", "--short", "HEAD") or "unknown") + changed
 
 
 def _cache_entries(build):

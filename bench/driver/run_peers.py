@@ -97,7 +97,8 @@ def main():
         run = Run(parse_arguments(), directory)
         if not run.cells:
             sys.exit("bench/run: no workload of that name")
-        description = machine.describe("bench/run", run.arguments.build, [run.programs.version(peer) for peer in run.peers])
+        versions = [run.programs.version(peer) for peer in run.peers]
+        description = machine.describe("bench/run", run.arguments.build, versions)
         for name, text in description.items():
             print(f"{name + ':':<14} {text}")
         for peer in run.missing:

@@ -85,7 +85,8 @@ def as_json(description, replay, threads, series, judgements):
         "verdicts": judgements,
         "threads": threads,
         "replay": [
-            {"sessions": sessions, "operation": operation, "side": side, "rounds": [significant(time) for time in values]}
+            {"sessions": sessions, "operation": operation, "side": side,
+             "rounds": [significant(time) for time in values]}
             for sessions, times in sorted(replay.items())
             for (operation, side), values in sorted(times.items())
         ],

@@ -6,7 +6,8 @@ import statistics
 from plan import OPERATIONS, SIDES
 
 COLOURS = {
-    "ours": "#1b4f8a", "ours bump": "#1b4f8a", "ours arena": "#3a6ca8", "ours calloc": "#5b8fc9", "memcpy": "#999999", "heap calls": "#bbbbbb",
+    "ours": "#1b4f8a", "ours bump": "#1b4f8a", "ours arena": "#3a6ca8", "ours calloc": "#5b8fc9",
+    "memcpy": "#999999", "heap calls": "#bbbbbb",
     "protobuf reused": "#b3541e", "protobuf new": "#d98a4e", "protobuf arena": "#eec39a",
     "proto2 reused": "#a03d5c", "proto2 new": "#d99bb0",
     "protozero": "#3c7a3c", "nanopb": "#8a5fa8", "protobuf-c malloc": "#a8975f", "protobuf-c bump": "#d6c88f",
