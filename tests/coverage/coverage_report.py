@@ -3,13 +3,15 @@
 A template counts once: its instantiations are copies of one place, and so are the copies that a fold expression makes
 of its pattern. A line was executed, a branch went one way, when some copy did. A condition is covered when in some copy
 its independence was shown (a pair of executions in which it alone decided): the union of the pairs, never a pair whose
-halves come from two copies. What the compiler folds to a constant in every copy is no branch and no condition."""
+halves come from two copies. What the compiler folds to a constant in every copy is no branch and no condition.
+
+The report has to show instantiations on their own too: where they differ in shape, the merged view takes a line that one
+of them discards for one that never ran."""
 
 import re
 from dataclasses import dataclass, field
 
-NESTING = re.compile(r"^[ |]*(?=Branch|Condition|C\d+-Pair|-|\|)")
-LINE = re.compile(r"^ *(\d+)\| *([0-9.]+[kMGTPEZY]?)\|")
+LINE = re.compile(r"^ *(?:\| +)?(\d+)\| *([0-9.]+[kMGTPEZY]?)\|")  # also inside the view of one instantiation
 BRANCH = re.compile(r"Branch \((\d+):(\d+)\): \[(.*)\]$")
 COUNTS = re.compile(r"True: ([^,]+), False: (.+)$")
 DECISION = re.compile(r"---> MC/DC Decision Region")

@@ -115,6 +115,11 @@ class CheckCoverage(unittest.TestCase):
         second = instance(taken=3, second="True: 3, False: 0")
         self.assertEqual(self.check(first + second), 0)
 
+    def test_a_line_that_one_instance_discards_and_another_executes_is_covered(self):
+        merged = instance(taken=0)
+        alone = "".join(f"  |  {line}\n" for line in instance(taken=3).splitlines())
+        self.assertEqual(self.check(merged + "  | int choose<1>(int, int):\n" + alone), 0)
+
     def test_what_is_constant_is_no_branch_and_no_condition(self):
         self.assertEqual(self.check(instance(second="Folded - Ignored", pair="constant folded")), 0)
         self.assertIn("branches 100.00 % (2 of 2), conditions (MC/DC) 100.00 % (1 of 1)", self.last_line())
