@@ -1,0 +1,129 @@
+// Is the exact encoder that is proved that of the library? Every capacity, values and payloads at the edges, positions
+// that wrap around: the same position, and the same bytes in the buffer and around it.
+#include "codec/counting_writer.h"
+#include "support/guarded_buffer.h"
+
+extern "C" {
+#include "proofs/proof_counting_writer.h"
+}
+
+#include <gtest/gtest.h>
+
+#include <functional>
+
+namespace mava_tum_test
+{
+
+namespace
+{
+
+using library_writer = mava_tum::counting_writer;
+using proved_writer = ::counting_writer;
+
+// The same calls of both.
+struct script {
+    std::function<void(library_writer &)> library;
+    std::function<void(proved_writer &)> proved;
+};
+
+void expect_same(const script &calls, std::size_t capacity, uint64_t position)
+{
+    guarded_buffer expected(capacity);
+    guarded_buffer proved(capacity);
+    library_writer library = {expected.data(), capacity, false, {}, position};
+    proved_writer transcription = {proved.data(), capacity, position};
+    calls.library(library);
+    calls.proved(transcription);
+    ASSERT_EQ(transcription.position, library.position) << capacity << " bytes, from " << position;
+    ASSERT_EQ(proved.content(), expected.content()) << capacity << " bytes, from " << position;
+    ASSERT_TRUE(proved.guards_intact() && expected.guards_intact()) << capacity << " bytes, from " << position;
+}
+
+// From each position of a buffer, into each capacity, and from the positions where a sum wraps around.
+void expect_same_everywhere(const script &calls, std::size_t longest_bytes)
+{
+    for (std::size_t capacity = 0; capacity <= longest_bytes + 1; ++capacity) {
+        for (uint64_t position = 0; position <= capacity + 1; ++position) {
+            expect_same(calls, capacity, position);
+            expect_same(calls, capacity, ~position);
+        }
+    }
+}
+
+std::vector<uint64_t> edge_values()
+{
+    std::vector<uint64_t> values = {0, 1, ~uint64_t{0}};
+    for (uint32_t bits = 1; bits < 64; ++bits)
+        values.insert(values.end(), {(uint64_t{1} << bits) - 1, uint64_t{1} << bits, (uint64_t{1} << bits) + 1});
+    return values;
+}
+
+TEST(proof_counting_writer, single_values_are_written_as_by_the_library)
+{
+    for (const uint64_t value : edge_values()) {
+        const auto low = static_cast<uint32_t>(value);
+        const auto byte = static_cast<uint8_t>(value);
+        expect_same_everywhere({[&](library_writer &writer) { writer.byte(byte); },
+                                   [&](proved_writer &writer) { proof_writer_byte(&writer, byte); }},
+            1);
+        expect_same_everywhere({[&](library_writer &writer) { writer.varint(value); },
+                                   [&](proved_writer &writer) { proof_writer_varint(&writer, value); }},
+            10);
+        expect_same_everywhere({[&](library_writer &writer) { writer.fixed32(low); },
+                                   [&](proved_writer &writer) { proof_writer_fixed32(&writer, low); }},
+            4);
+    }
+}
+
+TEST(proof_counting_writer, blocks_are_written_as_by_the_library)
+{
+    const byte_vector payload = bytes_of("C0 C1 C2 C3 C4 C5 C6 C7 C8 C9");
+    for (const uint32_t tag : {0x0Au, 0x7Fu, 0x80u, 0xFFFFFFFFu}) {
+        for (std::size_t length = 0; length <= payload.size(); ++length) {
+            for (const uint8_t *data : {payload.data(), static_cast<const uint8_t *>(nullptr)}) {
+                expect_same_everywhere(
+                    {[&](library_writer &writer) { writer.block(tag, data, length); },
+                        [&](proved_writer &writer) { proof_writer_block(&writer, tag, data, length); }},
+                    length + 6);
+            }
+        }
+    }
+}
+
+TEST(proof_counting_writer, lengths_without_a_payload_are_counted_as_by_the_library)
+{
+    for (const uint64_t length : edge_values()) {
+        expect_same_everywhere({[&](library_writer &writer) { writer.block(0x12, nullptr, length); },
+                                   [&](proved_writer &writer) { proof_writer_block(&writer, 0x12, nullptr, length); }},
+            8);
+    }
+}
+
+TEST(proof_counting_writer, a_nested_writer_has_the_rest_of_the_buffer_as_in_the_library)
+{
+    uint8_t buffer[8];
+    for (uint64_t length = 0; length <= sizeof buffer; ++length) {
+        for (uint64_t position : {uint64_t{0}, uint64_t{1}, length - 1, length, length + 1, ~uint64_t{0}}) {
+            const library_writer library = {buffer, length, false, {}, position};
+            const proved_writer transcription = {buffer, length, position};
+            const library_writer expected = library.nested(true);
+            const proved_writer proved = proof_writer_nested(&transcription);
+            EXPECT_EQ(proved.buffer, expected.buffer) << length << ", " << position;
+            EXPECT_EQ(proved.length, expected.length) << length << ", " << position;
+            EXPECT_EQ(proved.position, expected.position) << length << ", " << position;
+        }
+    }
+}
+
+TEST(proof_counting_writer, sizes_are_counted_as_by_the_library)
+{
+    for (const uint64_t value : edge_values()) {
+        EXPECT_EQ(proof_varint_bytes(value), mava_tum::varint_bytes(value)) << value;
+        for (const uint64_t other : edge_values())
+            EXPECT_EQ(proof_advance(value, other), mava_tum::advance(value, other)) << value << " and " << other;
+    }
+}
+
+} // namespace
+
+} // namespace mava_tum_test

@@ -1,0 +1,21 @@
+// A thread with a small stack of known content, which shows afterwards how much of it a call has used.
+#pragma once
+
+#include <cstddef>
+#include <functional>
+#include <vector>
+
+namespace mava_tum_test
+{
+
+inline constexpr std::size_t painted_stack_bytes = 64 * 1024;
+
+struct stack_use {
+    std::size_t call_bytes = 0;   // the deepest of the calls, from the thread's own frame down
+    std::size_t thread_bytes = 0; // the same and what the thread itself stands on, from the top of the stack
+};
+
+// Makes the calls one after the other on a new thread. Below its stack lies an inaccessible page.
+stack_use measure_stack_use(const std::vector<std::function<void()>> &calls);
+
+} // namespace mava_tum_test
