@@ -28,6 +28,18 @@ TEST(encode_scratch, a_nested_record_with_more_texts_than_fit_is_written_whole)
     }
 }
 
+TEST(encode_scratch, an_array_of_more_short_elements_than_fit_is_written_whole)
+{
+    for (uint64_t count : {50u, 200u, 900u, 3000u}) {
+        wire_builder wire;
+        for (uint64_t i = 0; i < count; ++i)
+            wire.length_delimited(3, wire_builder().varint(1, 1).varint(2, UINT32_MAX - i).varint(3, UINT32_MAX));
+        decoded<mava_tum_rec_sess_req> got(wire);
+        ASSERT_EQ(got.result, MAVA_TUM_OK);
+        EXPECT_TRUE(encoded(got.record) == wire.bytes()) << count << " elements";
+    }
+}
+
 // A short buffer receives a block whole or not at all, and all else byte by byte.
 struct wire_piece {
     byte_vector bytes;

@@ -30,7 +30,7 @@ MEMORY_BYTES = 8 << 30
 # Run by the compiler alone; the tool stops when a program reaches one of them after all.
 COMPILE_TIME_FUNCTIONS = {
     "all_scalar", "any_asks_for_room", "asks_for_room", "is_well_formed", "make_varint_shapes", "max_head_bytes",
-    "max_put_bytes", "presence_bit", "presence_bits_up_to", "sum_of_head_bytes", "sum_of_put_bytes", "tag_of"}
+    "max_put_bytes", "presence_bits_up_to", "sum_of_head_bytes", "sum_of_put_bytes", "tag_of"}
 
 
 class Program:
