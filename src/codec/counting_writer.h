@@ -13,7 +13,8 @@ namespace mava_tum
 
 constexpr uint64_t varint_bytes(uint64_t value)
 {
-    return static_cast<uint64_t>(std::bit_width(value | 1) + 6) / 7;
+    const uint64_t bits = static_cast<uint32_t>(std::bit_width(value | 1));
+    return (bits * 9 + 64) / 64; // a division by 7, rounded up, that holds for up to 64 bits
 }
 
 // The position after a payload; one that would wrap around leaves it where it is.

@@ -100,7 +100,8 @@ template <class Record>
     write_fields(fields_of<Record>{}, record, writer);
 }
 
-// What the caller passes beside the record.
+// What the caller passes beside the record. By value: an address would put it, and a frame with a guard, into functions
+// that need neither.
 struct encode_target {
     uint8_t *buffer;
     uint64_t length;
@@ -115,7 +116,7 @@ struct encode_target {
 };
 
 template <class Record>
-[[gnu::noinline, gnu::cold]] uint64_t encode_exactly(const Record &record, const encode_target &target)
+[[gnu::noinline, gnu::cold]] uint64_t encode_exactly(const Record &record, encode_target target)
 {
     counting_writer writer{target.buffer, target.length, target.gathers(),
         segment_list::for_caller(target.segments, target.segment_count)};
@@ -126,15 +127,19 @@ template <class Record>
     return writer.position;
 }
 
-// Without gather mode, the output is one piece.
-inline void report_one_piece(const encode_target &target, uint64_t length)
+[[gnu::noinline, gnu::cold]] inline void add_one_piece(encode_target target, uint64_t length)
 {
-    if (target.segment_count == nullptr)
-        return;
     segment_list pieces = segment_list::for_caller(target.segments, target.segment_count);
     if (length != 0)
         pieces.add(target.buffer, length);
     *target.segment_count = pieces.count;
+}
+
+// Without gather mode, the output is one piece.
+[[gnu::always_inline]] inline void report_one_piece(encode_target target, uint64_t length)
+{
+    if (target.segment_count != nullptr) [[unlikely]]
+        add_one_piece(target, length);
 }
 
 // How much of the scratch may be filled before the slack, and the whole of it.
@@ -154,7 +159,7 @@ template <class Record, class... Field>
 }
 
 template <class Record>
-uint64_t encode_few_scalars(const Record &record, const encode_target &target)
+[[gnu::always_inline]] inline uint64_t encode_few_scalars(const Record &record, encode_target target)
 {
     const uint64_t bytes = count_fields(fields_of<Record>{}, record, false);
     if (bytes > target.length && target.length != 0)
@@ -167,7 +172,7 @@ uint64_t encode_few_scalars(const Record &record, const encode_target &target)
 
 // The exported encoders.
 template <class Record>
-uint64_t encode_message(const Record &record, const encode_target &target)
+[[gnu::always_inline]] inline uint64_t encode_message(const Record &record, encode_target target)
 {
     static_assert(scratch_bytes<Record> < 1u << 14, "a body's length takes at most two bytes");
     if (target.gathers())
