@@ -149,7 +149,7 @@ class Finder:
     def leave_early(self, cursor):
         """return: with the empty value instead, unless it is that already or a literal, which has mutants itself."""
         value = re.sub(r"^return\s*", "", self.text_of(cursor)).strip()
-        if value == "" or re.fullmatch(r"(true|false|nullptr|-?\d\w*|\{((nullptr|0|false)(, )?)*\})", value):
+        if value == "" or re.fullmatch(r"(true|false|nullptr|MAVA_TUM_OK|-?\d\w*|\{((nullptr|0|false)(, )?)*\})", value):
             return
         semicolon = self.text.index(";", cursor.extent.end.offset)
         result = "" if self.returns_nothing else " {{}}"

@@ -25,7 +25,7 @@ PROGRAMS = ["tests/test_codec", "tests/test_messages", "tests/test_leniency", "t
             "tests/nal/test_nal -nal_queue.*", "tests/model/test_model", "fuzz/replay_messages", "fuzz/replay_adapters",
             "tests/interop/test_interop", "tests/test_sweeps"]
 LEAST_SHARE = 0.95
-SLOW_SECONDS = 15
+SLOW_SECONDS = 3
 MEMORY_BYTES = 8 << 30
 # Run by the compiler alone; the tool stops when a program reaches one of them after all.
 COMPILE_TIME_FUNCTIONS = {
