@@ -121,6 +121,8 @@ TEST(short_cuts, a_tag_of_two_bytes_is_recognised_where_it_stands)
     const decode_position here{wire, wire + sizeof wire, wire[0], 0, 0};
     EXPECT_TRUE(here.is_at<field_19>());
     EXPECT_FALSE(here.is_at<field_19 + 8>());
+    const uint8_t odd[] = {0x9D, 0x01};
+    EXPECT_TRUE((decode_position{odd, odd + sizeof odd, odd[0], 0, 0}.is_at<field_19 + 5>()));
     const decode_position cut{wire, wire + 1, wire[0], 0, 0};
     EXPECT_FALSE(cut.is_at<field_19>());
 }

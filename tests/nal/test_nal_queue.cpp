@@ -185,6 +185,17 @@ TEST(nal_queue, delete_of_the_head_of_another_queue_leaves_that_head_pointing_at
     EXPECT_EQ(q.held.count, 2u);
 }
 
+TEST(nal_queue, delete_counts_a_head_that_lost_its_links_through_another_queue)
+{
+    three_nodes q;
+    three_nodes r;
+    nal_queue_delete(&q.held, &r.n1);
+    EXPECT_EQ(nal_queue_delete(&r.held, &r.n1), 1);
+    EXPECT_EQ(r.held.head, nullptr);
+    EXPECT_EQ(r.held.tail, &r.n3);
+    EXPECT_EQ(r.held.count, 2u);
+}
+
 TEST(nal_queue, delete_of_the_only_node_of_another_queue_takes_nothing_out)
 {
     three_nodes q;
