@@ -47,6 +47,9 @@ struct varint64_end proof_read_long_varint64(const uint8_t *at, const uint8_t *e
             return (struct varint64_end){NULL, 0};
         const uint64_t byte = *at++;
         value += byte % 0x80 * scale;
+        //@ assert continued: \forall integer i; 0 <= i < at - start - 1 ==> start[i] >= 0x80;
+        //@ assert whole: byte < 0x80 ==> is_varint(start, at - start);
+        //@ assert value: value == varint64_value(start, at - start);
         if (byte < 0x80)
             return (struct varint64_end){at, value};
     }
