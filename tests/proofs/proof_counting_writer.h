@@ -114,7 +114,8 @@ void proof_writer_fixed32(struct counting_writer *writer, uint32_t value);
   assigns writer->position, writer->buffer[0 .. writer->length - 1];
   ensures position: writer->position == advanced(\old(writer->position), payload_length);
   ensures stored_whole: data != \null && writer->position <= writer->length &&
-    writer->position != \old(writer->position) ==> \forall integer i; 0 <= i < payload_length ==> writer->buffer[\old(writer->position) + i] == data[i];
+    writer->position != \old(writer->position) ==>
+    \forall integer i; 0 <= i < payload_length ==> writer->buffer[\old(writer->position) + i] == data[i];
   ensures kept: kept_but{Pre, Here}(writer, \old(writer->position), writer->position);
   ensures or_not_at_all: data == \null || writer->position > writer->length ==> kept_but{Pre, Here}(writer, 0, 0);
 */
