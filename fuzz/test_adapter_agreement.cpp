@@ -43,7 +43,7 @@ TEST_P(every_adapter, receives_and_sends_mutated_inputs_as_the_model_predicts)
     const message &of = message_of_adapter(GetParam());
     random_source random(GetParam() + 1);
     const std::vector<wire_bytes> seeds = seed_wires(of);
-    for (int round = 0; round < 2000; ++round) {
+    for (int round = 0; round < 1000; ++round) {
         wire_bytes wire = random.one_in(2) ? random_wire(of, random) : seeds[random.below(seeds.size())];
         for (uint64_t changes = random.below(4); changes > 0; --changes)
             mutate_wire(of, wire, random);
