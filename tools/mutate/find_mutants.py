@@ -3,8 +3,8 @@
 A mutant is one small change: a comparison turned round or moved by one, an operator exchanged for its counterpart, a
 whole number one higher or lower, a condition or truth value negated, a call or an assignment left out, a return of the
 empty value. Only what runs is changed: constant variables, template arguments, array bounds, static_assert and
-`if constexpr` stay, and so does the number in `return {nullptr, 0}`: beside a null position there is no value. A template
-is one place, however many messages instantiate it.
+`if constexpr` stay, and so does the number in `return {nullptr, 0}`: beside a null position there is no value. A
+template is one place, however many messages instantiate it.
 """
 import re
 from dataclasses import dataclass
@@ -37,6 +37,7 @@ SKIPPED = {CursorKind.STATIC_ASSERT, CursorKind.ENUM_DECL, CursorKind.PARM_DECL,
 VARIABLES = {CursorKind.VAR_DECL, CursorKind.FIELD_DECL}
 LOOPS = {CursorKind.FOR_STMT, CursorKind.WHILE_STMT, CursorKind.CXX_FOR_RANGE_STMT, CursorKind.DO_STMT}
 OPERATORS = {CursorKind.BINARY_OPERATOR, CursorKind.COMPOUND_ASSIGNMENT_OPERATOR}
+OWN_MUTANT_OR_EMPTY = re.compile(r"true|false|nullptr|MAVA_TUM_OK|-?\d\w*|\{((nullptr|0|false)(, )?)*\}")
 COMMA_FOLD = re.compile(r"^\(.*,\s*\.\.\.\)$", re.S)
 
 
@@ -149,7 +150,7 @@ class Finder:
     def leave_early(self, cursor):
         """return: with the empty value instead, unless it is that already or a literal, which has mutants itself."""
         value = re.sub(r"^return\s*", "", self.text_of(cursor)).strip()
-        if value == "" or re.fullmatch(r"(true|false|nullptr|MAVA_TUM_OK|-?\d\w*|\{((nullptr|0|false)(, )?)*\})", value):
+        if value == "" or OWN_MUTANT_OR_EMPTY.fullmatch(value):
             return
         semicolon = self.text.index(";", cursor.extent.end.offset)
         result = "" if self.returns_nothing else " {{}}"
