@@ -199,8 +199,9 @@ extern "C" void tum_nal_data_gpb_decode_tum_rec_sess_res(
     mava_tum::decode_frame(data, length, record, mava_tum::rec_sess_res_from_codec, mava_tum_rec_sess_resp_free_ext);
 }
 
-// ---- layout: programs built against the header rely on it ----
+// ---- layout where pointers have 64 bits: programs built against the header rely on it ----
 
+#if UINTPTR_MAX == UINT64_MAX
 static_assert(sizeof(tum_nal_data_rec_start_req) == 80 && alignof(tum_nal_data_rec_start_req) == 4);
 static_assert(offsetof(tum_nal_data_rec_start_req, field_2) == 4);
 static_assert(offsetof(tum_nal_data_rec_start_req, field_3) == 8);
@@ -232,3 +233,4 @@ static_assert(offsetof(tum_nal_data_rec_sess_res, field_2_count) == 4);
 static_assert(offsetof(tum_nal_data_rec_sess_res, field_2) == 8);
 static_assert(offsetof(tum_nal_data_rec_sess_res, field_3) == 728);
 static_assert(offsetof(tum_nal_data_rec_sess_res, field_4) == 732);
+#endif

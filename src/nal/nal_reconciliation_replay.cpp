@@ -153,8 +153,9 @@ extern "C" void tum_nal_data_gpb_decode_tum_rec_sess_replay_resp(
         data, length, record, mava_tum::rec_sess_replay_resp_from_codec, mava_tum_rec_sess_replay_resp_free_ext);
 }
 
-// ---- layout: programs built against the header rely on it ----
+// ---- layout where pointers have 64 bits: programs built against the header rely on it ----
 
+#if UINTPTR_MAX == UINT64_MAX
 static_assert(
     sizeof(tum_nal_data_rec_sess_replay_req_encode) == 8936 && alignof(tum_nal_data_rec_sess_replay_req_encode) == 8);
 static_assert(offsetof(tum_nal_data_rec_sess_replay_req_encode, field_3) == 68);
@@ -192,3 +193,4 @@ static_assert(offsetof(tum_nal_data_rec_sess_replay_resp, field_2) == 16);
 static_assert(offsetof(tum_nal_data_rec_sess_replay_resp, field_3) == 1408);
 static_assert(offsetof(tum_nal_data_rec_sess_replay_resp, field_4) == 1952);
 static_assert(offsetof(tum_nal_data_rec_sess_replay_resp, field_5) == 2020);
+#endif

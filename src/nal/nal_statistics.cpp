@@ -19,8 +19,9 @@ extern "C" void tum_nal_data_gpb_decode_tum_subscriber_stats(
         data, length, record, mava_tum::subscriber_stats_from_codec, mava_tum_subscriber_stats_free_ext);
 }
 
-// ---- layout: programs built against the header rely on it ----
+// ---- layout where pointers have 64 bits: programs built against the header rely on it ----
 
+#if UINTPTR_MAX == UINT64_MAX
 static_assert(sizeof(tum_nal_data_stats_block) == 72 && alignof(tum_nal_data_stats_block) == 4);
 
 static_assert(sizeof(tum_nal_data_service_entry) == 140 && alignof(tum_nal_data_service_entry) == 4);
@@ -39,3 +40,4 @@ static_assert(offsetof(tum_nal_data_subscriber_stats, block_10_switch) == 1224);
 static_assert(offsetof(tum_nal_data_subscriber_stats, block_10) == 1228);
 static_assert(offsetof(tum_nal_data_subscriber_stats, block_12_switch) == 1300);
 static_assert(offsetof(tum_nal_data_subscriber_stats, block_12) == 1304);
+#endif
