@@ -31,7 +31,8 @@ uint8_t *make_room(encode_scratch &scratch, uint8_t *at, bool top)
     if (scratch.capacity != 0) {
         if (length > scratch.capacity - scratch.handed_over)
             return nullptr;
-        memcpy(scratch.buffer + scratch.handed_over, data, length);
+        if (length != 0) // an empty block may have no address
+            memcpy(scratch.buffer + scratch.handed_over, data, length);
     }
     scratch.handed_over += length;
     return scratch.begin;

@@ -84,5 +84,19 @@ TEST(encode_scratch, a_block_behind_a_long_one_is_written_whole_or_not_at_all)
     }
 }
 
+// Its address may be null. The undefined-behaviour sanitizer sees whether it is given to memcpy.
+TEST(encode_scratch, an_empty_block_where_the_scratch_is_full_is_written_as_its_length_alone)
+{
+    for (std::size_t length = 8000; length < 8400; ++length) {
+        std::string text(length, 'x');
+        mava_tum_sess_oper_resp record = {};
+        record.field_8 = text.data();
+        mark_present(record, 8, 10);
+        const byte_vector wire = encoded(record);
+        ASSERT_EQ(wire.size(), 1 + 2 + length + 2);
+        ASSERT_EQ(hex_of(&wire[wire.size() - 2], 2), "52 00");
+    }
+}
+
 } // namespace
 } // namespace mava_tum_test
