@@ -6,6 +6,8 @@
 function(mava_tum_library_warnings target)
     target_compile_options(${target} PRIVATE
         -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wno-sign-conversion -Wcast-qual -Wold-style-cast -Wundef -Wvla)
+    # clang does not know noclone, which keeps g++ from making a second copy of a frame.
+    target_compile_options(${target} PRIVATE $<$<CXX_COMPILER_ID:Clang>:-Wno-unknown-attributes>)
     mava_tum_warnings_as_errors(${target})
 endfunction()
 

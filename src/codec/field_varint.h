@@ -73,7 +73,7 @@ struct varint : field_key<Number, wire_type::varint> {
 
     [[gnu::always_inline]] static uint64_t count(const owner &record, uint32_t present, bool, uint64_t position)
     {
-        return present & key::bit ? position + value_bytes(record.*Member) : position;
+        return (present & key::bit) != 0 ? position + value_bytes(record.*Member) : position;
     }
 
     static void write(const owner &record, uint32_t present, counting_writer &writer)
