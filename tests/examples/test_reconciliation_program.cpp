@@ -195,14 +195,15 @@ TEST(reconciliation, a_receiver_that_cannot_be_started_is_named)
         result.errors, "reconciliation: cannot start the receiver /nowhere/receiver: No such file or directory\n");
 }
 
+// Which of the two the keeper sees depends on how far it got before the receiver ended.
+const std::string receiver_gone = "reconciliation: (rec_start_req not sent: the reader has gone away \\(broken pipe\\)|"
+                                  "rec_start_res not received: the other process has closed its stream)\n";
+
 TEST(reconciliation, a_receiver_that_takes_nothing_is_a_failure_even_if_it_claims_success)
 {
     const program_result result = run_program(program + " --receiver /bin/true " + shipped);
     EXPECT_EQ(result.status, 1);
-    EXPECT_TRUE(std::regex_match(
-        result.errors, std::regex("reconciliation: (rec_start_req not sent: the reader has gone away \\(broken pipe\\)|"
-                                  "rec_start_res not received: the other process has closed its stream)\n")))
-        << result.errors;
+    EXPECT_TRUE(std::regex_match(result.errors, std::regex(receiver_gone))) << result.errors;
     EXPECT_FALSE(has(result.output, "Both sides hold the same")) << result.output;
 }
 
@@ -212,8 +213,9 @@ TEST(reconciliation, the_exit_status_of_the_receiver_is_passed_on)
     const std::string receiver = scratch.program("receiver", "head -c 1 >/dev/null; exit 7");
     const program_result result = run_program(program + " --receiver " + receiver + " " + shipped);
     EXPECT_EQ(result.status, 7);
-    EXPECT_EQ(result.errors, "reconciliation: rec_start_res not received: the other process has closed its stream\n"
-                             "reconciliation: the receiver ended with status 7\n");
+    EXPECT_TRUE(std::regex_match(
+        result.errors, std::regex(receiver_gone + "reconciliation: the receiver ended with status 7\n")))
+        << result.errors;
 }
 
 TEST(reconciliation, the_exit_status_counts_even_if_the_sets_are_the_same)
