@@ -43,6 +43,7 @@ struct varint64_end proof_read_long_varint64(const uint8_t *at, const uint8_t *e
       loop variant 0;
     */
     for (uint64_t scale = 0x80; scale < 0x8000000000000000; scale *= 0x80) {
+        //@ assert cut: at == end ==> varint_is_cut(start, end);
         if (at == end)
             return (struct varint64_end){NULL, 0};
         const uint64_t byte = *at++;
@@ -53,6 +54,7 @@ struct varint64_end proof_read_long_varint64(const uint8_t *at, const uint8_t *e
         if (byte < 0x80)
             return (struct varint64_end){at, value};
     }
+    //@ assert cut: at == end ==> varint_is_cut(start, end);
     if (at == end)
         return (struct varint64_end){NULL, 0};
     const uint64_t byte = *at++;
