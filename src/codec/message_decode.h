@@ -159,7 +159,7 @@ template <class Record>
 }
 
 // The decoders of nested records are shared by all sources that nest them: a compiler that clones them for one source
-// makes the library a tenth larger and nothing faster.
+// makes the library larger and nothing faster.
 
 // A flat record. Most are tiny: as long as every tag is known, this calls nothing and so saves no register.
 template <class Record>

@@ -149,8 +149,8 @@ inline constexpr uint32_t block_room = asks_for_room<Record>() ? scratch_block_b
 template <class Record>
 inline constexpr uint32_t scratch_bytes = block_room<Record> + max_put_bytes<Record>() + spill_bytes;
 
-// Messages of a few scalars: the size first, then byte by byte into the buffer. Through the scratch they take twice as
-// long, since the copy has to wait for the stores of the fields.
+// Messages of a few scalars: the size first, then byte by byte into the buffer. Through the scratch they take
+// longer, since the copy has to wait for the stores of the fields.
 template <class Record, class... Field>
 [[gnu::always_inline]] inline void store_fields(field_list<Field...>, const Record &record, uint8_t *at)
 {
