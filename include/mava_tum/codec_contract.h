@@ -93,7 +93,7 @@ extern "C" {
 
 /* Results of `_decode_ext` and `_duplicate`. The values are part of the ABI. */
 enum {
-    MAVA_TUM_OK = 0,
+    MAVA_TUM_OK = 0, /* all was done */
     /* The input ends inside a tag or a value, or a length runs past its end; or, which is no truncation, a bytes field,
      * a text or an array occurs a second time. */
     MAVA_TUM_TRUNCATED = -1,
@@ -122,15 +122,15 @@ typedef void (*mava_tum_release_fn)(void *pointer, void *release_ctx);
 
 /* A bytes field. `length` is in bytes. */
 typedef struct mava_tum_bytes {
-    uint8_t *data;
-    uint64_t length;
+    uint8_t *data;   /* the first byte */
+    uint64_t length; /* bytes at `data` */
 } mava_tum_bytes;
 
 /* One piece of an encoder's output. `length` is in bytes. `data` is null for a piece that lies in the buffer when the
  * call had no buffer there. */
 typedef struct mava_tum_segment {
-    const uint8_t *data;
-    uint64_t length;
+    const uint8_t *data; /* the first byte */
+    uint64_t length;     /* bytes at `data` */
 } mava_tum_segment;
 
 #ifdef __cplusplus

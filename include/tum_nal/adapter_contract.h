@@ -8,7 +8,7 @@
  *   addresses too (192.0.2.1 is 0xC0000201); IPv6 addresses and identifiers are byte arrays as they stand on the wire.
  *   A text is a NUL-terminated char array; an empty one is absent. A repeated part is a count and a fixed array, of
  *   which the first `count` elements are used. Members called `reserved_...` are neither read nor set to anything but
- *   zero. The layout is natural alignment; it is part of the ABI.
+ *   zero. The layout is natural alignment, part of the ABI. Beside a member: its field's number, and when it is sent.
  *
  * Encode
  *   Returns the size of the message in bytes, also when `capacity` (bytes) is smaller: the output was then cut and

@@ -23,7 +23,7 @@ typedef struct nal_queue_node {
 typedef struct nal_queue {
     nal_queue_node_t *head; /* null when empty */
     nal_queue_node_t *tail; /* null when empty */
-    uint32_t count;
+    uint32_t count;         /* nodes in the queue */
 } nal_queue_t;
 
 /* Appends `node` at the tail. The node must be free: with a link that is not null, or as the head of this queue, it

@@ -15,50 +15,50 @@ enum { TUM_NAL_SRG_GROUPS = 15 };
 
 /* Opens a run. All three fields are always sent, zeros too. */
 typedef struct tum_nal_data_srg_group_rec_start_req {
-    uint32_t field_1;
-    uint16_t field_2;
-    uint32_t field_3;
+    uint32_t field_1; /* 1: always */
+    uint16_t field_2; /* 2: always */
+    uint32_t field_3; /* 3: always */
 } tum_nal_data_srg_group_rec_start_req;
 
 /* Answers a start or a complete request. Fields are sent when not zero. */
 typedef struct tum_nal_data_srg_group_rec_resp {
-    uint32_t field_1;
-    uint32_t field_2;
+    uint32_t field_1; /* 1: non-zero */
+    uint32_t field_2; /* 2: non-zero */
 } tum_nal_data_srg_group_rec_resp;
 
 /* Closes a run. Fields are sent when not zero. */
 typedef struct tum_nal_data_srg_group_rec_complete_req {
-    uint32_t field_1;
-    uint32_t field_2;
-    uint16_t field_3;
+    uint32_t field_1; /* 1: non-zero */
+    uint32_t field_2; /* 2: non-zero */
+    uint16_t field_3; /* 3: non-zero */
 } tum_nal_data_srg_group_rec_complete_req;
 
 /* The data of one group. Fields are sent when not zero or empty. */
 typedef struct tum_nal_data_group_data {
-    uint32_t field_1;
-    uint32_t field_2;
-    uint32_t field_3;
-    uint32_t field_4;
-    char field_5[65];
+    uint32_t field_1; /* 1: non-zero */
+    uint32_t field_2; /* 2: non-zero */
+    uint32_t field_3; /* 3: non-zero */
+    uint32_t field_4; /* 4: non-zero */
+    char field_5[65]; /* 5: not empty */
 } tum_nal_data_group_data;
 
 /* Replays the data of groups. Fields are sent when not zero. */
 typedef struct tum_nal_data_srg_group_rec_replay_req {
-    uint32_t field_1;
-    uint16_t field_2;
-    uint32_t field_3_count;
-    tum_nal_data_group_data field_3[TUM_NAL_SRG_GROUPS];
-    uint8_t field_4;
+    uint32_t field_1;                                    /* 1: non-zero */
+    uint16_t field_2;                                    /* 2: non-zero */
+    uint32_t field_3_count;                              /* used elements of `field_3` */
+    tum_nal_data_group_data field_3[TUM_NAL_SRG_GROUPS]; /* 3: as many as the count says */
+    uint8_t field_4;                                     /* 4: non-zero */
 } tum_nal_data_srg_group_rec_replay_req;
 
 /* Answers a replay with two lists of group data. Fields are sent when not zero. */
 typedef struct tum_nal_data_srg_group_rec_replay_resp {
-    uint32_t field_1;
-    uint32_t field_2_count;
-    tum_nal_data_group_data field_2[TUM_NAL_SRG_GROUPS];
-    uint32_t field_3_count;
-    tum_nal_data_group_data field_3[TUM_NAL_SRG_GROUPS];
-    uint32_t field_4;
+    uint32_t field_1;                                    /* 1: non-zero */
+    uint32_t field_2_count;                              /* used elements of `field_2` */
+    tum_nal_data_group_data field_2[TUM_NAL_SRG_GROUPS]; /* 2: as many as the count says */
+    uint32_t field_3_count;                              /* used elements of `field_3` */
+    tum_nal_data_group_data field_3[TUM_NAL_SRG_GROUPS]; /* 3: as many as the count says */
+    uint32_t field_4;                                    /* 4: non-zero */
 } tum_nal_data_srg_group_rec_replay_resp;
 
 /* Encodes one srg_group_rec_start_req message into `buffer` (`capacity` bytes; may be null if 0). Returns the size

@@ -17,25 +17,25 @@ enum { TUM_NAL_SESSION_DELETE_MAX_FIELD_1 = 5 };
 /* A request to remove a session. Sent: `field_1` when it is at most 5, 0 included (6 and more are left out, and arrive
  * as 0); the others when not zero. */
 typedef struct tum_nal_data_session_delete {
-    uint32_t field_1;
-    uint32_t field_2;
-    uint16_t field_3;
-    uint64_t field_4;
-    uint32_t field_5;
+    uint32_t field_1; /* 1: at most TUM_NAL_SESSION_DELETE_MAX_FIELD_1 */
+    uint32_t field_2; /* 2: non-zero */
+    uint16_t field_3; /* 3: non-zero */
+    uint64_t field_4; /* 4: non-zero */
+    uint32_t field_5; /* 5: non-zero */
 } tum_nal_data_session_delete;
 
 /* The answer to an operation on a session. Sent: `field_1` and the statistics always (statistics that are all zero as
  * an empty record), the others when not zero or empty. The message's field 10 (bytes) has no member here. */
 typedef struct tum_nal_data_sess_oper_resp {
-    uint32_t field_1;
-    uint32_t field_2;
-    uint32_t field_3;
-    uint64_t field_4;
-    uint32_t field_5;
-    char field_6[65];
-    char field_7[65];
-    char field_8[65];
-    tum_nal_data_subscriber_stats field_9;
+    uint32_t field_1;                      /* 1: always */
+    uint32_t field_2;                      /* 2: non-zero */
+    uint32_t field_3;                      /* 3: non-zero */
+    uint64_t field_4;                      /* 4: non-zero */
+    uint32_t field_5;                      /* 5: non-zero */
+    char field_6[65];                      /* 6: not empty */
+    char field_7[65];                      /* 7: not empty */
+    char field_8[65];                      /* 8: not empty */
+    tum_nal_data_subscriber_stats field_9; /* 9: always */
 } tum_nal_data_sess_oper_resp;
 
 /* Encodes one session_delete message into `buffer` (`capacity` bytes; may be null if 0).

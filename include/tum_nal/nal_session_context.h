@@ -17,31 +17,31 @@ enum { TUM_NAL_SESSION_QOS_ENTRIES = 8, TUM_NAL_SESSION_IPV4_ROUTES = 4, TUM_NAL
 /* Bits of `feature_mask`. The mask is sent as it is; on encode its bits also decide which members are sent. On decode
  * they decide nothing: what the message holds arrives. Bits without a name here select nothing. */
 enum {
-    TUM_NAL_FEATURE_QOS = 1 << 0,
-    TUM_NAL_FEATURE_REDIRECT = 1 << 1,
-    TUM_NAL_FEATURE_INTERCEPT = 1 << 2,
-    TUM_NAL_FEATURE_URPF_1 = 1 << 3,
-    TUM_NAL_FEATURE_URPF_2 = 1 << 4,
-    TUM_NAL_FEATURE_ICMP_1 = 1 << 5,
-    TUM_NAL_FEATURE_ICMP_2 = 1 << 6,
-    TUM_NAL_FEATURE_ACCOUNTING = 1 << 7,
-    TUM_NAL_FEATURE_ACL = 1 << 8,
-    TUM_NAL_FEATURE_IPV4 = 1 << 9,
-    TUM_NAL_FEATURE_IPV6_PART_2 = 1 << 10,
-    TUM_NAL_FEATURE_IPV6_PART_3 = 1 << 11,
-    TUM_NAL_FEATURE_IPV6_PART_4 = 1 << 12,
-    TUM_NAL_FEATURE_IPV4_ROUTES = 1 << 13,
-    TUM_NAL_FEATURE_IPV6_ROUTES = 1 << 14,
-    TUM_NAL_FEATURE_VLAN_1 = 1 << 16,
-    TUM_NAL_FEATURE_VLAN_2 = 1 << 17,
-    TUM_NAL_FEATURE_PPP_1_4 = 1 << 19,
-    TUM_NAL_FEATURE_PPP_2_3 = 1 << 20,
-    TUM_NAL_FEATURE_MTU_1 = 1 << 21,
-    TUM_NAL_FEATURE_MTU_2 = 1 << 22,
-    TUM_NAL_FEATURE_PPP_IDENTIFIER = 1 << 23,
-    TUM_NAL_FEATURE_MTU_3 = 1 << 24,
-    TUM_NAL_FEATURE_L2TP = 1 << 25,
-    TUM_NAL_FEATURE_IPV6_PART_6 = 1 << 26
+    TUM_NAL_FEATURE_QOS = 1 << 0,             /* `qos` */
+    TUM_NAL_FEATURE_REDIRECT = 1 << 1,        /* `redirect_...` */
+    TUM_NAL_FEATURE_INTERCEPT = 1 << 2,       /* `intercept_...` */
+    TUM_NAL_FEATURE_URPF_1 = 1 << 3,          /* `urpf_1_...` */
+    TUM_NAL_FEATURE_URPF_2 = 1 << 4,          /* `urpf_2_...` */
+    TUM_NAL_FEATURE_ICMP_1 = 1 << 5,          /* `icmp_1_value` */
+    TUM_NAL_FEATURE_ICMP_2 = 1 << 6,          /* `icmp_2_value` */
+    TUM_NAL_FEATURE_ACCOUNTING = 1 << 7,      /* `accounting_...` */
+    TUM_NAL_FEATURE_ACL = 1 << 8,             /* `acl_...` */
+    TUM_NAL_FEATURE_IPV4 = 1 << 9,            /* `ipv4_value_1`, `ipv4_address` */
+    TUM_NAL_FEATURE_IPV6_PART_2 = 1 << 10,    /* `ipv6_part_2` */
+    TUM_NAL_FEATURE_IPV6_PART_3 = 1 << 11,    /* `ipv6_part_3`, `ipv6_value_5` */
+    TUM_NAL_FEATURE_IPV6_PART_4 = 1 << 12,    /* `ipv6_part_4` */
+    TUM_NAL_FEATURE_IPV4_ROUTES = 1 << 13,    /* `ipv4_routes` */
+    TUM_NAL_FEATURE_IPV6_ROUTES = 1 << 14,    /* `ipv6_routes` */
+    TUM_NAL_FEATURE_VLAN_1 = 1 << 16,         /* `vlan_value_1` */
+    TUM_NAL_FEATURE_VLAN_2 = 1 << 17,         /* `vlan_value_2` */
+    TUM_NAL_FEATURE_PPP_1_4 = 1 << 19,        /* `ppp_value_1`, `ppp_value_4` */
+    TUM_NAL_FEATURE_PPP_2_3 = 1 << 20,        /* `ppp_value_2`, `ppp_value_3` */
+    TUM_NAL_FEATURE_MTU_1 = 1 << 21,          /* `mtu_1_value` */
+    TUM_NAL_FEATURE_MTU_2 = 1 << 22,          /* `mtu_2_value` */
+    TUM_NAL_FEATURE_PPP_IDENTIFIER = 1 << 23, /* `ppp_identifier` */
+    TUM_NAL_FEATURE_MTU_3 = 1 << 24,          /* `mtu_3_value` */
+    TUM_NAL_FEATURE_L2TP = 1 << 25,           /* `l2tp_...` */
+    TUM_NAL_FEATURE_IPV6_PART_6 = 1 << 26     /* `ipv6_part_6`, `ipv6_value_7` */
 };
 
 /* Values of `session_value_1` that decide what of a session is sent. */
@@ -58,17 +58,17 @@ enum { TUM_NAL_ACCOUNTING_VALUE_2 = 1 << 0, TUM_NAL_ACCOUNTING_VALUE_3 = 1 << 1 
 
 /* One QoS entry. Sent: `value_1` always, all others when not zero or empty. */
 typedef struct tum_nal_data_qos_element {
-    uint32_t value_1;
-    uint32_t value_2;
-    char text_3[65];
-    char text_4[256];
-    char text_5[256];
-    uint16_t value_6;
-    uint16_t value_7;
-    uint32_t value_8;
-    char text_12[65];
-    char text_10[65];
-    char text_11[65];
+    uint32_t value_1; /* 1: always */
+    uint32_t value_2; /* 2: non-zero */
+    char text_3[65];  /* 3: not empty */
+    char text_4[256]; /* 4: not empty */
+    char text_5[256]; /* 5: not empty */
+    uint16_t value_6; /* 6: non-zero */
+    uint16_t value_7; /* 7: non-zero */
+    uint32_t value_8; /* 8: non-zero */
+    char text_12[65]; /* 12: not empty */
+    char text_10[65]; /* 10: not empty */
+    char text_11[65]; /* 11: not empty */
 } tum_nal_data_qos_element;
 
 /* A subscriber session. The comment beside a member says when it is sent: "always", "non-zero" (a text: not empty), a
@@ -81,17 +81,17 @@ typedef struct tum_nal_data_session_context {
     uint32_t session_value_3; /* always */
     uint32_t session_value_4; /* always */
     uint32_t feature_mask;    /* always; TUM_NAL_FEATURE_... */
-    uint8_t reserved_6[20];
+    uint8_t reserved_6[20];   /* not read; zero after a decode */
     uint32_t session_value_7; /* always */
 
     /* IPv4: TUM_NAL_FEATURE_IPV4 and `ipv4_address` non-zero. */
     uint32_t ipv4_value_1;
     uint32_t ipv4_address; /* host byte order */
-    uint32_t reserved_10;
+    uint32_t reserved_10;  /* not read; zero after a decode */
 
     /* IPv6. The two values go with their part in both directions. */
-    uint32_t ipv6_value_1; /* any of TUM_NAL_FEATURE_IPV6_PART_2, _3, _4, _6 */
-    uint32_t reserved_11;
+    uint32_t ipv6_value_1;   /* any of TUM_NAL_FEATURE_IPV6_PART_2, _3, _4, _6 */
+    uint32_t reserved_11;    /* not read; zero after a decode */
     uint8_t ipv6_part_2[16]; /* TUM_NAL_FEATURE_IPV6_PART_2 */
     uint8_t ipv6_part_3[16]; /* TUM_NAL_FEATURE_IPV6_PART_3 */
     uint8_t ipv6_part_4[16]; /* TUM_NAL_FEATURE_IPV6_PART_4 */
