@@ -9,7 +9,8 @@
 namespace bench
 {
 
-class bump_allocator
+// On a cache line of its own: two threads' allocators side by side on one line slow each other.
+class alignas(64) bump_allocator
 {
 public:
     // The block is not touched before it is handed out: pages that nobody needs cost nothing.
