@@ -23,10 +23,10 @@ struct group_data_fields {
 
 inline void group_data_from_codec(tum_nal_data_group_data &entry, const mava_tum_srg_group_data &group)
 {
-    take<1>(entry.field_1, group, group.field_1);
-    take<2>(entry.field_2, group, group.field_2);
-    take<3>(entry.field_3, group, group.field_3);
-    take<4>(entry.field_4, group, group.field_4);
+    take(entry.field_1, group.field_1);
+    take(entry.field_2, group.field_2);
+    take(entry.field_3, group.field_3);
+    take(entry.field_4, group.field_4);
     take_text<5>(entry.field_5, group, group.field_5);
 }
 

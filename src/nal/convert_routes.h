@@ -33,14 +33,14 @@ struct ipv4_route_fields {
 
 inline void ipv4_route_from_codec(tum_nal_data_ipv4_route &entry, const mava_tum_subscriber_route_ipv4 &route)
 {
-    take<1>(entry.field_1, route, route.field_1);
+    take(entry.field_1, route.field_1);
     take_text_up_to<2, short_text_limit>(entry.field_2, route, route.field_2);
-    take_ipv4<3>(entry.field_3, route, route.field_3);
-    take<4>(entry.field_4, route, route.field_4);
-    take_ipv4<5>(entry.field_5, route, route.field_5);
+    take_ipv4(entry.field_3, route.field_3);
+    take(entry.field_4, route.field_4);
+    take_ipv4(entry.field_5, route.field_5);
     take_text_up_to<6, short_text_limit>(entry.field_6, route, route.field_6);
-    take<7>(entry.field_7, route, route.field_7);
-    take<8>(entry.field_8, route, route.field_8);
+    take(entry.field_7, route.field_7);
+    take(entry.field_8, route.field_8);
     take_text_up_to<9, long_text_limit>(entry.field_9, route, route.field_9);
 }
 
@@ -62,14 +62,14 @@ struct ipv6_route_fields {
 
 inline void ipv6_route_from_codec(tum_nal_data_ipv6_route &entry, const mava_tum_subscriber_route_ipv6 &route)
 {
-    take<1>(entry.field_1, route, route.field_1);
+    take(entry.field_1, route.field_1);
     take_text_up_to<2, short_text_limit>(entry.field_2, route, route.field_2);
     take_bytes<3>(entry.field_3, route, route.field_3);
-    take<4>(entry.field_4, route, route.field_4);
+    take(entry.field_4, route.field_4);
     take_bytes<5>(entry.field_5, route, route.field_5);
     take_text_up_to<6, short_text_limit>(entry.field_6, route, route.field_6);
-    take<7>(entry.field_7, route, route.field_7);
-    take<8>(entry.field_8, route, route.field_8);
+    take(entry.field_7, route.field_7);
+    take(entry.field_8, route.field_8);
     take_text_up_to<9, long_text_limit>(entry.field_9, route, route.field_9);
 }
 

@@ -1,10 +1,11 @@
 // The rows that the converters between application records and the wire are made of, one line each:
 //
 //     put...<n>(fields, application value)                       sends the value as field n
+//     take...(application member, scalar field)                  copies the value: zero where the field is absent
 //     take...<n>(application member, codec record, its field n)  copies the value when the record marks it present
 //
 // A `put` stands in the description of a message, in the order of the field numbers, and stores nothing between: from
-// the application record to the wire. A `take` copies, and leaves a member whose field is absent as it is: zero.
+// the application record to the wire. A `take` copies into a cleared record: what is absent is zero.
 #pragma once
 
 #include "mava_tum/codec_contract.h"
@@ -116,19 +117,28 @@ template <unsigned FieldNumber, class Fields, size_t Size, size_t Entries>
 
 // ---- codec -> application ----
 
+// A decoder stores a scalar together with its presence bit, and empties the others first: an absent one is zero, as in
+// the application record. So the bit is not asked: of random content the processor would guess it wrong every third
+// time (that measured up to a quarter of the whole decode).
+
 // L20: a member narrower than the field keeps the low bits.
-template <unsigned FieldNumber, class Member, class Record, class Field>
-void take(Member &member, const Record &record, Field field)
+template <class Member, class Field>
+void take(Member &member, Field field)
 {
-    if (is_present<FieldNumber>(record))
-        member = static_cast<Member>(field);
+    member = static_cast<Member>(field);
 }
 
-template <unsigned FieldNumber, class Record>
-void take_ipv4(uint32_t &host_order, const Record &record, uint32_t field)
+// A value that arrives with another field, n, and without it is dropped.
+template <unsigned FieldNumber, class Member, class Record, class Field>
+void take_with(Member &member, const Record &record, Field field)
 {
     if (is_present<FieldNumber>(record))
-        host_order = swap_ipv4_order(field);
+        take(member, field);
+}
+
+inline void take_ipv4(uint32_t &host_order, uint32_t field)
+{
+    host_order = swap_ipv4_order(field);
 }
 
 // L19: the sender chose the length: of a longer value the first bytes are taken, behind a shorter one the rest stays

@@ -23,8 +23,8 @@ struct subscriber_v4_fields {
 
 inline void subscriber_v4_from_codec(tum_nal_data_session_context &record, const mava_tum_subscriber_v4 &v4)
 {
-    take<1>(record.ipv4_value_1, v4, v4.field_1);
-    take_ipv4<2>(record.ipv4_address, v4, v4.ipv4_address);
+    take(record.ipv4_value_1, v4.field_1);
+    take_ipv4(record.ipv4_address, v4.ipv4_address);
 }
 
 struct subscriber_v6_fields {
@@ -49,15 +49,15 @@ struct subscriber_v6_fields {
 
 inline void subscriber_v6_from_codec(tum_nal_data_session_context &record, const mava_tum_subscriber_v6 &v6)
 {
-    take<1>(record.ipv6_value_1, v6, v6.field_1);
+    take(record.ipv6_value_1, v6.field_1);
     take_bytes<2>(record.ipv6_part_2, v6, v6.field_2);
     take_bytes<3>(record.ipv6_part_3, v6, v6.field_3);
     take_bytes<4>(record.ipv6_part_4, v6, v6.field_4);
     take_bytes<6>(record.ipv6_part_6, v6, v6.field_6);
     // L24: the two values belong to parts 3 and 6: they arrive by the bit of their part, and without it they are
     // dropped.
-    take<3>(record.ipv6_value_5, v6, v6.field_5);
-    take<6>(record.ipv6_value_7, v6, v6.field_7);
+    take_with<3>(record.ipv6_value_5, v6, v6.field_5);
+    take_with<6>(record.ipv6_value_7, v6, v6.field_7);
 }
 
 // ---- PPP, L2TP and VLAN ----
@@ -83,12 +83,12 @@ struct ppp_fields {
 
 inline void ppp_from_codec(tum_nal_data_session_context &record, const mava_tum_ppp_data &ppp)
 {
-    take<1>(record.ppp_value_1, ppp, ppp.field_1);
-    take<2>(record.ppp_value_2, ppp, ppp.field_2);
-    take<3>(record.ppp_value_3, ppp, ppp.field_3);
-    take<4>(record.ppp_value_4, ppp, ppp.field_4);
+    take(record.ppp_value_1, ppp.field_1);
+    take(record.ppp_value_2, ppp.field_2);
+    take(record.ppp_value_3, ppp.field_3);
+    take(record.ppp_value_4, ppp.field_4);
     take_bytes<5>(record.ppp_identifier, ppp, ppp.field_5);
-    take<6>(record.ppp_value_6, ppp, ppp.field_6);
+    take(record.ppp_value_6, ppp.field_6);
 }
 
 // L37: which pair of end points is sent follows from the kind; any other kind sends none.
@@ -133,24 +133,24 @@ struct l2tp_fields {
 // L25: takes both pairs of end points if the sender gave both: the kind decides only what we send.
 inline void l2tp_from_codec(tum_nal_data_session_context &record, const mava_tum_l2tp_data &l2tp)
 {
-    take<1>(record.l2tp_kind, l2tp, l2tp.field_1);
-    take_ipv4<2>(record.l2tp_ipv4_2, l2tp, l2tp.field_2);
-    take_ipv4<3>(record.l2tp_ipv4_3, l2tp, l2tp.field_3);
+    take(record.l2tp_kind, l2tp.field_1);
+    take_ipv4(record.l2tp_ipv4_2, l2tp.field_2);
+    take_ipv4(record.l2tp_ipv4_3, l2tp.field_3);
     take_bytes<4>(record.l2tp_ipv6_4, l2tp, l2tp.field_4);
     take_bytes<5>(record.l2tp_ipv6_5, l2tp, l2tp.field_5);
-    take<6>(record.l2tp_value_6, l2tp, l2tp.field_6);
-    take<7>(record.l2tp_value_7, l2tp, l2tp.field_7);
-    take<8>(record.l2tp_value_8, l2tp, l2tp.field_8);
-    take<9>(record.l2tp_value_9, l2tp, l2tp.field_9);
-    take<10>(record.l2tp_value_10, l2tp, l2tp.field_10);
-    take<11>(record.l2tp_value_11, l2tp, l2tp.field_11);
-    take<12>(record.l2tp_value_12, l2tp, l2tp.field_12);
-    take<13>(record.l2tp_value_13, l2tp, l2tp.field_13);
-    take<14>(record.l2tp_value_14, l2tp, l2tp.field_14);
-    take<15>(record.l2tp_value_15, l2tp, l2tp.field_15);
-    take<16>(record.l2tp_value_16, l2tp, l2tp.field_16);
-    take<17>(record.l2tp_value_17, l2tp, l2tp.field_17);
-    take<18>(record.l2tp_value_18, l2tp, l2tp.field_18);
+    take(record.l2tp_value_6, l2tp.field_6);
+    take(record.l2tp_value_7, l2tp.field_7);
+    take(record.l2tp_value_8, l2tp.field_8);
+    take(record.l2tp_value_9, l2tp.field_9);
+    take(record.l2tp_value_10, l2tp.field_10);
+    take(record.l2tp_value_11, l2tp.field_11);
+    take(record.l2tp_value_12, l2tp.field_12);
+    take(record.l2tp_value_13, l2tp.field_13);
+    take(record.l2tp_value_14, l2tp.field_14);
+    take(record.l2tp_value_15, l2tp.field_15);
+    take(record.l2tp_value_16, l2tp.field_16);
+    take(record.l2tp_value_17, l2tp.field_17);
+    take(record.l2tp_value_18, l2tp.field_18);
     take_text<19>(record.l2tp_name, l2tp, l2tp.field_19);
 }
 
@@ -167,8 +167,8 @@ struct vlan_fields {
 
 inline void vlan_from_codec(tum_nal_data_session_context &record, const mava_tum_vlan_info &vlan)
 {
-    take<1>(record.vlan_value_1, vlan, vlan.field_1);
-    take<2>(record.vlan_value_2, vlan, vlan.field_2);
+    take(record.vlan_value_1, vlan.field_1);
+    take(record.vlan_value_2, vlan.field_2);
 }
 
 // ---- session data ----
@@ -202,17 +202,17 @@ struct session_data_fields {
 
 inline void session_data_from_codec(tum_nal_data_session_context &record, const mava_tum_session_data &data)
 {
-    take<1>(record.session_data_value_1, data, data.field_1);
-    take<2>(record.session_data_value_2, data, data.field_2);
+    take(record.session_data_value_1, data.field_1);
+    take(record.session_data_value_2, data.field_2);
     ppp_from_codec(record, data.ppp);
     l2tp_from_codec(record, data.l2tp);
     take_text<5>(record.session_name, data, data.field_5);
     take_bytes<6>(record.session_identifier, data, data.field_6);
     take_text<7>(record.session_label, data, data.field_7);
     take_text<8>(record.session_text, data, data.field_8);
-    take<9>(record.session_value_9, data, data.field_9);
+    take(record.session_value_9, data.field_9);
     vlan_from_codec(record, data.vlan);
-    take<11>(record.session_data_value_11, data, data.field_11);
+    take(record.session_data_value_11, data.field_11);
 }
 
 } // namespace mava_tum

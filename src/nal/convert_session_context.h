@@ -27,12 +27,12 @@ void describe_values(Fields &fields, const tum_nal_data_session_context &record)
 
 inline void values_from_codec(tum_nal_data_session_context &record, const mava_tum_session_context &context)
 {
-    take<1>(record.session_value_1, context, context.field_1);
-    take<2>(record.session_value_2, context, context.field_2);
-    take<3>(record.session_value_3, context, context.field_3);
-    take<4>(record.session_value_4, context, context.field_4);
-    take<5>(record.feature_mask, context, context.feature_mask);
-    take<7>(record.session_value_7, context, context.field_7);
+    take(record.session_value_1, context.field_1);
+    take(record.session_value_2, context.field_2);
+    take(record.session_value_3, context.field_3);
+    take(record.session_value_4, context.field_4);
+    take(record.feature_mask, context.feature_mask);
+    take(record.session_value_7, context.field_7);
 }
 
 // ---- how the subscriber is reached ----

@@ -33,14 +33,14 @@ struct qos_fields {
 
 inline void qos_from_codec(tum_nal_data_qos_element &element, const mava_tum_subscriber_qos &qos)
 {
-    take<1>(element.value_1, qos, qos.field_1);
-    take<2>(element.value_2, qos, qos.field_2);
+    take(element.value_1, qos.field_1);
+    take(element.value_2, qos.field_2);
     take_text<3>(element.text_3, qos, qos.field_3);
     take_text<4>(element.text_4, qos, qos.field_4);
     take_text<5>(element.text_5, qos, qos.field_5);
-    take<6>(element.value_6, qos, qos.field_6);
-    take<7>(element.value_7, qos, qos.field_7);
-    take<8>(element.value_8, qos, qos.field_8);
+    take(element.value_6, qos.field_6);
+    take(element.value_7, qos.field_7);
+    take(element.value_8, qos.field_8);
     take_text<10>(element.text_10, qos, qos.field_10);
     take_text<11>(element.text_11, qos, qos.field_11);
     take_text<12>(element.text_12, qos, qos.field_12);
@@ -62,7 +62,7 @@ struct acl_fields {
 
 inline void acl_from_codec(tum_nal_data_session_context &record, const mava_tum_subscriber_acl &acl)
 {
-    take<1>(record.acl_value_1, acl, acl.field_1);
+    take(record.acl_value_1, acl.field_1);
     take_text<2>(record.acl_text_2, acl, acl.field_2);
     take_text<3>(record.acl_text_3, acl, acl.field_3);
     take_text<4>(record.acl_text_4, acl, acl.field_4);
@@ -82,7 +82,7 @@ struct redirect_fields {
 
 inline void redirect_from_codec(tum_nal_data_session_context &record, const mava_tum_subscriber_httpr &httpr)
 {
-    take<1>(record.redirect_value_1, httpr, httpr.field_1);
+    take(record.redirect_value_1, httpr.field_1);
     take_text<2>(record.redirect_text_2, httpr, httpr.field_2);
 }
 
@@ -105,13 +105,13 @@ struct intercept_fields {
 
 inline void intercept_from_codec(tum_nal_data_session_context &record, const mava_tum_subscriber_li &li)
 {
-    take<1>(record.intercept_value_1, li, li.field_1);
-    take<2>(record.intercept_value_2, li, li.field_2);
-    take<3>(record.intercept_value_3, li, li.field_3);
+    take(record.intercept_value_1, li.field_1);
+    take(record.intercept_value_2, li.field_2);
+    take(record.intercept_value_3, li.field_3);
     take_bytes<4>(record.intercept_identifier, li, li.field_4);
-    take<5>(record.intercept_value_5, li, li.field_5);
-    take<6>(record.intercept_value_6, li, li.field_6);
-    take_ipv4<7>(record.intercept_ipv4_address, li, li.field_7);
+    take(record.intercept_value_5, li.field_5);
+    take(record.intercept_value_6, li.field_6);
+    take_ipv4(record.intercept_ipv4_address, li.field_7);
     take_bytes<8>(record.intercept_ipv6_address, li, li.field_8);
 }
 
@@ -133,8 +133,8 @@ struct urpf_fields {
 
 inline void urpf_from_codec(uint32_t &value_1, uint32_t &value_2, const mava_tum_subscriber_urpf &urpf)
 {
-    take<1>(value_1, urpf, urpf.field_1);
-    take<2>(value_2, urpf, urpf.field_2);
+    take(value_1, urpf.field_1);
+    take(value_2, urpf.field_2);
 }
 
 // ---- accounting ----
@@ -154,9 +154,9 @@ struct accounting_fields {
 
 inline void accounting_from_codec(tum_nal_data_session_context &record, const mava_tum_subscriber_acct &acct)
 {
-    take<1>(record.accounting_flags, acct, acct.field_1);
-    take<2>(record.accounting_value_2, acct, acct.field_2);
-    take<3>(record.accounting_value_3, acct, acct.field_3);
+    take(record.accounting_flags, acct.field_1);
+    take(record.accounting_value_2, acct.field_2);
+    take(record.accounting_value_3, acct.field_3);
 }
 
 // ---- all of them ----
@@ -208,11 +208,11 @@ inline void features_from_codec(tum_nal_data_session_context &record, const mava
     intercept_from_codec(record, context.li);
     urpf_from_codec(record.urpf_1_value_1, record.urpf_1_value_2, context.urpf_1);
     urpf_from_codec(record.urpf_2_value_1, record.urpf_2_value_2, context.urpf_2);
-    take<1>(record.icmp_1_value, context.icmp_1, context.icmp_1.field_1);
-    take<1>(record.icmp_2_value, context.icmp_2, context.icmp_2.field_1);
-    take<1>(record.mtu_1_value, context.mtu_1, context.mtu_1.field_1);
-    take<1>(record.mtu_2_value, context.mtu_2, context.mtu_2.field_1);
-    take<1>(record.mtu_3_value, context.mtu_3, context.mtu_3.field_1);
+    take(record.icmp_1_value, context.icmp_1.field_1);
+    take(record.icmp_2_value, context.icmp_2.field_1);
+    take(record.mtu_1_value, context.mtu_1.field_1);
+    take(record.mtu_2_value, context.mtu_2.field_1);
+    take(record.mtu_3_value, context.mtu_3.field_1);
     accounting_from_codec(record, context.acct);
 }
 

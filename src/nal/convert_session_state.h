@@ -21,9 +21,9 @@ struct session_state_fields {
 
 inline void session_state_from_codec(tum_nal_data_session_state &entry, const mava_tum_rec_session_state &state)
 {
-    take<1>(entry.field_1, state, state.field_1);
-    take<2>(entry.field_2, state, state.field_2);
-    take<3>(entry.field_3, state, state.field_3);
+    take(entry.field_1, state.field_1);
+    take(entry.field_2, state.field_2);
+    take(entry.field_3, state.field_3);
 }
 
 } // namespace mava_tum

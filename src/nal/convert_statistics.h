@@ -38,24 +38,24 @@ struct stats_block_fields {
 
 inline void stats_block_from_codec(tum_nal_data_stats_block &block, const mava_tum_stats &stats)
 {
-    take<1>(block.counter[0], stats, stats.field_1);
-    take<2>(block.counter[1], stats, stats.field_2);
-    take<3>(block.counter[2], stats, stats.field_3);
-    take<4>(block.counter[3], stats, stats.field_4);
-    take<5>(block.counter[4], stats, stats.field_5);
-    take<6>(block.counter[5], stats, stats.field_6);
-    take<7>(block.counter[6], stats, stats.field_7);
-    take<8>(block.counter[7], stats, stats.field_8);
-    take<9>(block.counter[8], stats, stats.field_9);
-    take<10>(block.counter[9], stats, stats.field_10);
-    take<11>(block.counter[10], stats, stats.field_11);
-    take<12>(block.counter[11], stats, stats.field_12);
-    take<13>(block.counter[12], stats, stats.field_13);
-    take<14>(block.counter[13], stats, stats.field_14);
-    take<15>(block.counter[14], stats, stats.field_15);
-    take<16>(block.counter[15], stats, stats.field_16);
-    take<17>(block.counter[16], stats, stats.field_17);
-    take<18>(block.counter[17], stats, stats.field_18);
+    take(block.counter[0], stats.field_1);
+    take(block.counter[1], stats.field_2);
+    take(block.counter[2], stats.field_3);
+    take(block.counter[3], stats.field_4);
+    take(block.counter[4], stats.field_5);
+    take(block.counter[5], stats.field_6);
+    take(block.counter[6], stats.field_7);
+    take(block.counter[7], stats.field_8);
+    take(block.counter[8], stats.field_9);
+    take(block.counter[9], stats.field_10);
+    take(block.counter[10], stats.field_11);
+    take(block.counter[11], stats.field_12);
+    take(block.counter[12], stats.field_13);
+    take(block.counter[13], stats.field_14);
+    take(block.counter[14], stats.field_15);
+    take(block.counter[15], stats.field_16);
+    take(block.counter[16], stats.field_17);
+    take(block.counter[17], stats.field_18);
 }
 
 // ---- a service ----
@@ -103,18 +103,18 @@ struct subscriber_stats_fields {
 // counters before the fault are delivered. Fields 9 and 11, which we never send, arrive in the two switches.
 inline void subscriber_stats_from_codec(tum_nal_data_subscriber_stats &record, const mava_tum_subscriber_stats &stats)
 {
-    take<1>(record.value_1, stats, stats.field_1);
-    take<2>(record.value_2, stats, stats.field_2);
-    take<3>(record.value_3, stats, stats.field_3);
-    take<4>(record.value_4, stats, stats.field_4);
-    take<5>(record.value_5, stats, stats.field_5);
-    take<6>(record.value_6, stats, stats.field_6);
+    take(record.value_1, stats.field_1);
+    take(record.value_2, stats.field_2);
+    take(record.value_3, stats.field_3);
+    take(record.value_4, stats.field_4);
+    take(record.value_5, stats.field_5);
+    take(record.value_6, stats.field_6);
     stats_block_from_codec(record.block_7, stats.field_7);
     take_list<8>(
         record.services, record.service_count, stats, stats.field_8, stats.field_8_count, service_entry_from_codec);
-    take<9>(record.block_10_switch, stats, stats.field_9);
+    take(record.block_10_switch, stats.field_9);
     stats_block_from_codec(record.block_10, stats.field_10);
-    take<11>(record.block_12_switch, stats, stats.field_11);
+    take(record.block_12_switch, stats.field_11);
     stats_block_from_codec(record.block_12, stats.field_12);
 }
 

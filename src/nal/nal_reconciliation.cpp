@@ -29,7 +29,7 @@ struct rec_start_req_fields {
 // L28: not a slip but what receivers rely on: what was sent third arrives first, and fields 1 and 2 are dropped.
 void rec_start_req_from_codec(tum_nal_data_rec_start_req &record, const mava_tum_rec_start_req &request)
 {
-    take<3>(record.field_1, request, request.field_3);
+    take(record.field_1, request.field_3);
     take_text<4>(record.field_4, request, request.field_4);
 }
 
@@ -48,9 +48,9 @@ struct rec_complete_req_fields {
 
 void rec_complete_req_from_codec(tum_nal_data_rec_complete_req &record, const mava_tum_rec_complete_req &request)
 {
-    take<1>(record.field_1, request, request.field_1);
-    take<2>(record.field_2, request, request.field_2);
-    take<3>(record.field_3, request, request.field_3);
+    take(record.field_1, request.field_1);
+    take(record.field_2, request.field_2);
+    take(record.field_3, request.field_3);
     take_text<4>(record.field_4, request, request.field_4);
 }
 
@@ -68,9 +68,9 @@ struct rec_res_fields {
 
 void rec_res_from_codec(tum_nal_data_rec_res &record, const mava_tum_rec_resp &response)
 {
-    take<1>(record.field_1, response, response.field_1);
+    take(record.field_1, response.field_1);
     take_text<2>(record.field_2, response, response.field_2);
-    take<3>(record.field_3, response, response.field_3);
+    take(record.field_3, response.field_3);
 }
 
 // ---- rec_sess_req ----
@@ -90,13 +90,13 @@ struct rec_sess_req_fields {
 
 void rec_sess_req_from_codec(tum_nal_data_rec_sess_req &record, const mava_tum_rec_sess_req &request)
 {
-    take<1>(record.field_1, request, request.field_1);
-    take<2>(record.field_2, request, request.field_2);
+    take(record.field_1, request.field_1);
+    take(record.field_2, request.field_2);
     take_list<3>(record.field_3, record.field_3_count, request, request.field_3, request.field_3_count,
         session_state_from_codec);
     take_text<4>(record.field_4, request, request.field_4);
     take_text<5>(record.field_5, request, request.field_5);
-    take<6>(record.field_6, request, request.field_6);
+    take(record.field_6, request.field_6);
 }
 
 // ---- rec_sess_res: the message rec_sess_resp ----
@@ -114,11 +114,11 @@ struct rec_sess_res_fields {
 
 void rec_sess_res_from_codec(tum_nal_data_rec_sess_res &record, const mava_tum_rec_sess_resp &response)
 {
-    take<1>(record.field_1, response, response.field_1);
+    take(record.field_1, response.field_1);
     take_list<2>(record.field_2, record.field_2_count, response, response.field_2, response.field_2_count,
         session_state_from_codec);
-    take<3>(record.field_3, response, response.field_3);
-    take<4>(record.field_4, response, response.field_4);
+    take(record.field_3, response.field_3);
+    take(record.field_4, response.field_4);
 }
 
 } // namespace

@@ -35,12 +35,12 @@ struct rec_sess_replay_req_fields {
 
 void rec_sess_replay_req_from_codec(replay_request_received &record, const mava_tum_rec_sess_replay_req &request)
 {
-    take<1>(record.field_1, request, request.field_1);
-    take<2>(record.field_2, request, request.field_2);
-    take<3>(record.field_3, request, request.field_3);
+    take(record.field_1, request.field_1);
+    take(record.field_2, request.field_2);
+    take(record.field_3, request.field_3);
     take_list<4>(record.field_4, record.field_4_count, request, request.field_4, request.field_4_count,
         session_context_from_codec);
-    take<5>(record.field_5, request, request.field_5);
+    take(record.field_5, request.field_5);
     take_text<6>(record.field_6, request, request.field_6);
 }
 
@@ -59,8 +59,8 @@ struct replay_failure_fields {
 // L16: the bit of field 3 is not asked: what is in the statistics is delivered.
 void replay_failure_from_codec(tum_nal_data_replay_failure &entry, const mava_tum_rec_sess_replay_fail &failure)
 {
-    take<1>(entry.field_1, failure, failure.field_1);
-    take<2>(entry.field_2, failure, failure.field_2);
+    take(entry.field_1, failure.field_1);
+    take(entry.field_2, failure.field_2);
     subscriber_stats_from_codec(entry.field_3, failure.field_3);
 }
 
@@ -87,10 +87,10 @@ struct service_start_fields {
 
 void service_start_from_codec(tum_nal_data_service_start &entry, const mava_tum_sess_svc_start &start)
 {
-    take<1>(entry.field_1, start, start.field_1);
-    take<2>(entry.field_2, start, start.field_2);
-    take<3>(entry.field_3, start, start.field_3);
-    take<4>(entry.field_4, start, start.field_4);
+    take(entry.field_1, start.field_1);
+    take(entry.field_2, start.field_2);
+    take(entry.field_3, start.field_3);
+    take(entry.field_4, start.field_4);
     take_list<5>(
         entry.field_5, entry.field_5_count, start, start.field_5, start.field_5_count, service_name_from_codec);
 }
@@ -112,13 +112,13 @@ struct rec_sess_replay_resp_fields {
 void rec_sess_replay_resp_from_codec(
     tum_nal_data_rec_sess_replay_resp &record, const mava_tum_rec_sess_replay_resp &response)
 {
-    take<1>(record.field_1, response, response.field_1);
+    take(record.field_1, response.field_1);
     take_list<2>(record.field_2, record.field_2_count, response, response.field_2, response.field_2_count,
         replay_failure_from_codec);
     take_list<3>(record.field_3, record.field_3_count, response, response.field_3, response.field_3_count,
         service_start_from_codec);
     take_text<4>(record.field_4, response, response.field_4);
-    take<5>(record.field_5, response, response.field_5);
+    take(record.field_5, response.field_5);
 }
 
 } // namespace

@@ -27,9 +27,9 @@ struct srg_group_rec_start_req_fields {
 void srg_group_rec_start_req_from_codec(
     tum_nal_data_srg_group_rec_start_req &record, const mava_tum_srg_group_rec_start_req &request)
 {
-    take<1>(record.field_1, request, request.field_1);
-    take<2>(record.field_2, request, request.field_2);
-    take<3>(record.field_3, request, request.field_3);
+    take(record.field_1, request.field_1);
+    take(record.field_2, request.field_2);
+    take(record.field_3, request.field_3);
 }
 
 // ---- srg_group_rec_resp ----
@@ -45,8 +45,8 @@ struct srg_group_rec_resp_fields {
 
 void srg_group_rec_resp_from_codec(tum_nal_data_srg_group_rec_resp &record, const mava_tum_srg_group_rec_resp &response)
 {
-    take<1>(record.field_1, response, response.field_1);
-    take<2>(record.field_2, response, response.field_2);
+    take(record.field_1, response.field_1);
+    take(record.field_2, response.field_2);
 }
 
 // ---- srg_group_rec_complete_req ----
@@ -64,9 +64,9 @@ struct srg_group_rec_complete_req_fields {
 void srg_group_rec_complete_req_from_codec(
     tum_nal_data_srg_group_rec_complete_req &record, const mava_tum_srg_group_rec_complete_req &request)
 {
-    take<1>(record.field_1, request, request.field_1);
-    take<2>(record.field_2, request, request.field_2);
-    take<3>(record.field_3, request, request.field_3);
+    take(record.field_1, request.field_1);
+    take(record.field_2, request.field_2);
+    take(record.field_3, request.field_3);
 }
 
 // ---- srg_group_rec_replay_req ----
@@ -85,11 +85,11 @@ struct srg_group_rec_replay_req_fields {
 void srg_group_rec_replay_req_from_codec(
     tum_nal_data_srg_group_rec_replay_req &record, const mava_tum_srg_group_rec_replay_req &request)
 {
-    take<1>(record.field_1, request, request.field_1);
-    take<2>(record.field_2, request, request.field_2);
+    take(record.field_1, request.field_1);
+    take(record.field_2, request.field_2);
     take_list<3>(
         record.field_3, record.field_3_count, request, request.field_3, request.field_3_count, group_data_from_codec);
-    take<4>(record.field_4, request, request.field_4);
+    take(record.field_4, request.field_4);
 }
 
 // ---- srg_group_rec_replay_resp ----
@@ -108,12 +108,12 @@ struct srg_group_rec_replay_resp_fields {
 void srg_group_rec_replay_resp_from_codec(
     tum_nal_data_srg_group_rec_replay_resp &record, const mava_tum_srg_group_rec_replay_resp &response)
 {
-    take<1>(record.field_1, response, response.field_1);
+    take(record.field_1, response.field_1);
     take_list<2>(record.field_2, record.field_2_count, response, response.field_2, response.field_2_count,
         group_data_from_codec);
     take_list<3>(record.field_3, record.field_3_count, response, response.field_3, response.field_3_count,
         group_data_from_codec);
-    take<4>(record.field_4, response, response.field_4);
+    take(record.field_4, response.field_4);
 }
 
 } // namespace

@@ -27,14 +27,14 @@ struct sub_route_fields {
 
 void sub_route_from_codec(tum_nal_data_sub_route &record, const mava_tum_sub_route &batch)
 {
-    take<1>(record.field_1, batch, batch.field_1);
-    take<2>(record.field_2, batch, batch.field_2);
-    take<3>(record.field_3, batch, batch.field_3);
+    take(record.field_1, batch.field_1);
+    take(record.field_2, batch.field_2);
+    take(record.field_3, batch.field_3);
     take_list<4>(record.ipv4_routes, record.ipv4_route_count, batch, batch.ipv4_routes, batch.ipv4_route_count,
         ipv4_route_from_codec);
     take_list<5>(record.ipv6_routes, record.ipv6_route_count, batch, batch.ipv6_routes, batch.ipv6_route_count,
         ipv6_route_from_codec);
-    take<6>(record.field_6, batch, batch.field_6);
+    take(record.field_6, batch.field_6);
 }
 
 struct subscriber_route_resp_fields {
@@ -51,8 +51,8 @@ struct subscriber_route_resp_fields {
 void subscriber_route_resp_from_codec(
     tum_nal_data_subscriber_route_resp &record, const mava_tum_subscriber_route_resp &response)
 {
-    take<1>(record.field_1, response, response.field_1);
-    take<2>(record.field_2, response, response.field_2);
+    take(record.field_1, response.field_1);
+    take(record.field_2, response.field_2);
     take_text<3>(record.field_3, response, response.field_3);
     take_text<4>(record.field_4, response, response.field_4);
 }

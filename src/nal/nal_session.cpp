@@ -30,11 +30,11 @@ struct session_delete_fields {
 
 void session_delete_from_codec(tum_nal_data_session_delete &record, const mava_tum_session_delete &request)
 {
-    take<1>(record.field_1, request, request.field_1);
-    take<2>(record.field_2, request, request.field_2);
-    take<3>(record.field_3, request, request.field_3);
-    take<4>(record.field_4, request, request.field_4);
-    take<5>(record.field_5, request, request.field_5);
+    take(record.field_1, request.field_1);
+    take(record.field_2, request.field_2);
+    take(record.field_3, request.field_3);
+    take(record.field_4, request.field_4);
+    take(record.field_5, request.field_5);
 }
 
 // ---- sess_oper_resp; L26: field 10 has no member ----
@@ -59,11 +59,11 @@ struct sess_oper_resp_fields {
 // present, yet what they held before the fault is delivered.
 void sess_oper_resp_from_codec(tum_nal_data_sess_oper_resp &record, const mava_tum_sess_oper_resp &response)
 {
-    take<1>(record.field_1, response, response.field_1);
-    take<2>(record.field_2, response, response.field_2);
-    take<3>(record.field_3, response, response.field_3);
-    take<4>(record.field_4, response, response.field_4);
-    take<5>(record.field_5, response, response.field_5);
+    take(record.field_1, response.field_1);
+    take(record.field_2, response.field_2);
+    take(record.field_3, response.field_3);
+    take(record.field_4, response.field_4);
+    take(record.field_5, response.field_5);
     take_text<6>(record.field_6, response, response.field_6);
     take_text<7>(record.field_7, response, response.field_7);
     take_text<8>(record.field_8, response, response.field_8);
