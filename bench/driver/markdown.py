@@ -16,8 +16,9 @@ def text_table(rows):
     return table(rows).replace("---:|", "---|")
 
 
-def indented(text):
-    return "\n".join(("    " + line).rstrip() for line in text.splitlines())
+def fenced(text):
+    lines = [line.rstrip() for line in text.splitlines()]
+    return "\n".join(["<!-- code: drawing -->", "```text", *lines, "```"])
 
 
 def fill(page, blocks):

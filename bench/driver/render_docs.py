@@ -114,7 +114,7 @@ def _instruction_blocks():
 def main():
     sizes = (RESULTS / "sizes.txt").read_text(encoding="utf-8")
     blocks = dict([*_run_blocks(), *_scale_blocks(), *_cold_blocks(), *_instruction_blocks()])
-    blocks["sizes"] = markdown.indented(sizes)
+    blocks["sizes"] = markdown.fenced(sizes)
     PAGE.write_text(markdown.fill(PAGE.read_text(encoding="utf-8"), blocks), encoding="utf-8")
     print(f"{len(blocks)} tables in {PAGE.relative_to(ROOT)}, {len(list(PLOTS.glob('*.svg')))} plots beside it")
 
