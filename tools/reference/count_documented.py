@@ -1,0 +1,50 @@
+#!/usr/bin/env python3
+"""Counts what the reference documents, and names what it does not.
+
+    count_documented.py XML EXPORTS
+
+XML is the folder that Doxygen wrote, EXPORTS the list of exported names. Doxygen says nothing about macros, nor about
+what is in a file that it was not told about; this does. Prints each symbol and each exported function without
+documentation and, as its last line, how many symbols have one. Exits with 1 if something has none.
+"""
+import pathlib
+import sys
+import xml.etree.ElementTree as ElementTree
+
+
+def is_documented(element):
+    parts = (element.find("briefdescription"), element.find("detaileddescription"))
+    return any("".join(part.itertext()).strip() for part in parts if part is not None)
+
+
+def symbols_in(folder):
+    """(element, identity, name) of each file, structure, function, member and value."""
+    for path in sorted(folder.glob("*.xml")):
+        for compound in ElementTree.parse(path).getroot().iter("compounddef"):
+            if compound.get("kind") in ("page", "dir") or compound.findtext("compoundname").endswith(".md"):
+                continue
+            name = compound.findtext("compoundname")
+            yield compound, compound.get("id"), name
+            for tag in ("memberdef", "enumvalue"):
+                for member in compound.iter(tag):
+                    yield member, member.get("id"), f"{name}: {member.findtext('name')}"
+
+
+def main(folder, exports_file):
+    documented, missing, functions = set(), set(), set()
+    for element, identity, name in symbols_in(pathlib.Path(folder)):
+        if not is_documented(element):
+            missing.add(f"{name} is not documented")
+            continue
+        documented.add(identity)  # a member may stand in two compounds
+        if element.get("kind") == "function":
+            functions.add(element.findtext("name"))
+    for name in pathlib.Path(exports_file).read_text(encoding="utf-8").split():
+        if name not in functions:
+            missing.add(f"{name} is exported and not documented")
+    print("\n".join([*sorted(missing), f"{len(documented)} symbols documented"]))
+    return 1 if missing else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main(*sys.argv[1:]))
