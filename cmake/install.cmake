@@ -14,7 +14,7 @@ install(TARGETS mava_tum_static
     ARCHIVE DESTINATION "${CMAKE_INSTALL_LIBDIR}" COMPONENT development)
 install(DIRECTORY "${PROJECT_SOURCE_DIR}/include/"
     DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}" COMPONENT development
-    FILES_MATCHING PATTERN "*.h")
+    FILES_MATCHING PATTERN "*.h" PATTERN "*.hpp")
 
 # For find_package(mava_tum CONFIG).
 set(package_folder "${CMAKE_INSTALL_LIBDIR}/cmake/mava_tum")

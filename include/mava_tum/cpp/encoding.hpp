@@ -1,0 +1,64 @@
+// Wire bytes from a record, for everything that holds or refers to one.
+#ifndef MAVA_TUM_CPP_ENCODING_HPP
+#define MAVA_TUM_CPP_ENCODING_HPP
+
+#include "mava_tum/cpp/codec_calls.hpp"
+
+#include <vector>
+
+namespace mava_tum::cpp
+{
+
+// What an encode into a buffer of the caller's came to.
+struct [[nodiscard]] encoded {
+    std::uint64_t size; // bytes of the whole message
+    bool complete;      // false: the buffer was too small, and what lies in it is cut: do not send it
+
+    constexpr explicit operator bool() const noexcept
+    {
+        return complete;
+    }
+};
+
+// Derived has c_record().
+template <class Derived>
+class encoding
+{
+public:
+    // In bytes. This is an encode without a buffer: who can guess a size had better encode at once.
+    std::uint64_t encoded_size() const noexcept
+    {
+        return encode(span<std::uint8_t>()).size;
+    }
+
+    // Allocates nothing. `buffer` must not overlap what the record refers to.
+    encoded encode(span<std::uint8_t> buffer) const noexcept
+    {
+        const auto &record = static_cast<const Derived &>(*this).c_record();
+        using message = codec_of<std::decay_t<decltype(record)>>;
+        const std::uint64_t size = call_encode(message::encode, record, buffer);
+        return {size, size <= buffer.size()};
+    }
+
+    // Gives `container`, of uint8_t, exactly the message; what it held before is gone. Allocates as resize() does.
+    template <class Container>
+    void encode_to(Container &container) const
+    {
+        container.resize(static_cast<std::size_t>(encoded_size()));
+        static_cast<void>(encode(span<std::uint8_t>(container)));
+    }
+
+    std::vector<std::uint8_t> encode() const
+    {
+        std::vector<std::uint8_t> wire;
+        encode_to(wire);
+        return wire;
+    }
+
+protected:
+    ~encoding() = default; // nobody owns a record through this
+};
+
+} // namespace mava_tum::cpp
+
+#endif

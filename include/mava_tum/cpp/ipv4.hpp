@@ -1,0 +1,31 @@
+// The IPv4 addresses of codec records: four bytes in network order, held in a number.
+#ifndef MAVA_TUM_CPP_IPV4_HPP
+#define MAVA_TUM_CPP_IPV4_HPP
+
+#include <array>
+#include <cstdint>
+#include <cstring>
+
+namespace mava_tum::cpp
+{
+
+using ipv4_octets = std::array<std::uint8_t, 4>;
+
+// As a person writes them: 192, 0, 2, 1.
+inline ipv4_octets octets_of(std::uint32_t address) noexcept
+{
+    ipv4_octets octets{};
+    std::memcpy(octets.data(), &address, sizeof address);
+    return octets;
+}
+
+inline std::uint32_t address_of(const ipv4_octets &octets) noexcept
+{
+    std::uint32_t address = 0;
+    std::memcpy(&address, octets.data(), sizeof address);
+    return address;
+}
+
+} // namespace mava_tum::cpp
+
+#endif

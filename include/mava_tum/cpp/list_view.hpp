@@ -1,0 +1,144 @@
+// Arrays of a record: elements behind a pointer and a count, each shown as what it is.
+#ifndef MAVA_TUM_CPP_LIST_VIEW_HPP
+#define MAVA_TUM_CPP_LIST_VIEW_HPP
+
+#include <cstddef>
+#include <iterator>
+#include <string_view>
+#include <utility>
+
+namespace mava_tum::cpp
+{
+
+class block_list;
+
+// Show turns an element of the codec's array into what the list shows for it, which is a value: a text, a view, an
+// editor. An absent array is an empty list.
+template <class Element, class Show>
+class list_view
+{
+public:
+    using value_type = decltype(std::declval<const Show &>()(std::declval<Element &>()));
+
+    class iterator
+    {
+    public:
+        using iterator_category = std::input_iterator_tag; // since what it refers to is made on the spot
+        using value_type = list_view::value_type;
+        using difference_type = std::ptrdiff_t;
+        using pointer = void;
+        using reference = value_type;
+
+        iterator() noexcept = default;
+
+        iterator(Element *element, Show show) noexcept : element_(element), show_(show) {}
+
+        value_type operator*() const noexcept
+        {
+            return show_(*element_);
+        }
+
+        iterator &operator++() noexcept
+        {
+            ++element_;
+            return *this;
+        }
+
+        iterator operator++(int) noexcept
+        {
+            return iterator(element_++, show_);
+        }
+
+        friend bool operator==(iterator left, iterator right) noexcept
+        {
+            return left.element_ == right.element_;
+        }
+
+        friend bool operator!=(iterator left, iterator right) noexcept
+        {
+            return left.element_ != right.element_;
+        }
+
+    private:
+        Element *element_ = nullptr;
+        Show show_;
+    };
+
+    list_view() noexcept = default;
+
+    list_view(Element *elements, std::size_t size, Show show = Show()) noexcept
+        : elements_(elements), size_(size), show_(show)
+    {
+    }
+
+    std::size_t size() const noexcept
+    {
+        return size_;
+    }
+
+    bool empty() const noexcept
+    {
+        return size_ == 0;
+    }
+
+    // Not checked: `index` is below size().
+    value_type operator[](std::size_t index) const noexcept
+    {
+        return show_(elements_[index]);
+    }
+
+    iterator begin() const noexcept
+    {
+        return iterator(elements_, show_);
+    }
+
+    iterator end() const noexcept
+    {
+        return iterator(elements_ + size_, show_);
+    }
+
+private:
+    Element *elements_ = nullptr;
+    std::size_t size_ = 0;
+    Show show_;
+};
+
+// A null text, which stands in an array after a copy that ran out of memory, is shown as an empty one.
+struct show_text {
+    std::string_view operator()(char *const &text) const noexcept
+    {
+        return text == nullptr ? std::string_view() : std::string_view(text);
+    }
+};
+
+template <class View>
+struct show_view {
+    template <class Record>
+    View operator()(const Record &record) const noexcept
+    {
+        return View(record);
+    }
+};
+
+template <class Editor>
+struct show_editor {
+    template <class Record>
+    Editor operator()(Record &record) const noexcept
+    {
+        return Editor(record, blocks);
+    }
+
+    block_list *blocks = nullptr; // of the record that owns the array
+};
+
+using text_list = list_view<char *const, show_text>;
+
+template <class View, class Record>
+using record_list = list_view<const Record, show_view<View>>;
+
+template <class Editor, class Record>
+using editor_list = list_view<Record, show_editor<Editor>>;
+
+} // namespace mava_tum::cpp
+
+#endif

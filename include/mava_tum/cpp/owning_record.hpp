@@ -1,0 +1,149 @@
+// A record that owns what it refers to: the base of the record classes, one for each message.
+#ifndef MAVA_TUM_CPP_OWNING_RECORD_HPP
+#define MAVA_TUM_CPP_OWNING_RECORD_HPP
+
+#include "mava_tum/cpp/block_list.hpp"
+#include "mava_tum/cpp/encoding.hpp"
+
+#include <optional>
+
+namespace mava_tum::cpp
+{
+
+// Says that bytes fields are to point into the input instead of being copied. The input then outlives the record's
+// content, and whatever the content is moved to.
+struct alias_t {
+    explicit alias_t() = default;
+};
+inline constexpr alias_t alias{};
+
+// Holds the codec's record itself and the list of its blocks. All blocks go back when the record is destroyed, decoded
+// into, cleared or assigned to. Moving takes blocks and memory along: what is moved from is empty, and still usable.
+template <class Derived, class Record>
+class owning_record : public encoding<Derived>
+{
+    using message = codec_of<Record>;
+    using blocks = std::conditional_t<message::owns_memory, block_list, no_blocks>;
+
+public:
+    owning_record() noexcept : owning_record(memory()) {}
+
+    // Without content; blocks will come from `source`.
+    explicit owning_record(const memory &source) noexcept : blocks_(source) {}
+
+    owning_record(owning_record &&other) noexcept
+        : record_(std::exchange(other.record_, Record{})), blocks_(std::move(other.blocks_))
+    {
+    }
+
+    owning_record &operator=(owning_record &&other) noexcept
+    {
+        if (this != &other) {
+            blocks_ = std::move(other.blocks_);
+            record_ = std::exchange(other.record_, Record{});
+        }
+        return *this;
+    }
+
+    // What the record held before is gone, whatever the result. After a failure it holds the fields before the fault.
+    // `wire` must not lie in this record's own memory.
+    result decode(bytes_view wire) noexcept
+    {
+        return decode(wire, 0);
+    }
+
+    // The same, with bytes fields that point into `wire`.
+    result decode(alias_t, bytes_view wire) noexcept
+    {
+        return decode(wire, MAVA_TUM_ALIAS);
+    }
+
+    // A deep copy of `source` with memory of this record, all of it or, when a block is refused, nothing: the record is
+    // empty then. Bytes fields are copied also where `source` only points at them.
+    result copy_from(const typename message::view &source) noexcept
+    {
+        if (&source.c_record() == &record_)
+            return result::ok;
+        clear();
+        const auto code = static_cast<result>(call_duplicate(message::duplicate, record_, source.c_record(), asked()));
+        if (code != result::ok)
+            clear();
+        return code;
+    }
+
+    // A deep copy that takes its blocks from `source`; nothing when a block is refused.
+    std::optional<Derived> clone(const memory &source = memory()) const noexcept
+    {
+        std::optional<Derived> copy(std::in_place, source);
+        if (copy->copy_from(view()) != result::ok)
+            copy.reset();
+        return copy;
+    }
+
+    // Gives all blocks back. The record is as new.
+    void clear() noexcept
+    {
+        record_ = Record{};
+        blocks_.release_all();
+    }
+
+    typename message::view view() const noexcept
+    {
+        return typename message::view(record_);
+    }
+
+    operator typename message::view() const noexcept
+    {
+        return view();
+    }
+
+    // For the C functions, but not for the codec's free: the blocks are this object's.
+    const Record &c_record() const noexcept
+    {
+        return record_;
+    }
+
+    // For what the setters do not do. Pointers set here are never released by this object: they may lead anywhere.
+    Record &mutable_c_record() noexcept
+    {
+        return record_;
+    }
+
+    // Where the setters take their memory; null for messages that need none.
+    block_list *own_blocks() noexcept
+    {
+        return list_in(blocks_);
+    }
+
+protected:
+    ~owning_record() = default; // nobody owns a Derived through this
+
+private:
+    static block_list *list_in(block_list &list) noexcept
+    {
+        return &list;
+    }
+
+    static block_list *list_in(no_blocks &) noexcept
+    {
+        return nullptr;
+    }
+
+    block_source asked() noexcept
+    {
+        return {blocks_.allocator(), blocks_.context()};
+    }
+
+    result decode(bytes_view wire, std::uint32_t flags) noexcept
+    {
+        blocks_.release_all();
+        return static_cast<result>(call_decode(message::decode, record_, wire, asked(), flags));
+    }
+
+    Record record_{};
+    blocks blocks_;
+};
+
+} // namespace mava_tum::cpp
+
+#endif

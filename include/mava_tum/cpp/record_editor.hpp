@@ -1,0 +1,51 @@
+// A record that lies inside another one, to be changed: the base of the editor classes, one for each message.
+#ifndef MAVA_TUM_CPP_RECORD_EDITOR_HPP
+#define MAVA_TUM_CPP_RECORD_EDITOR_HPP
+
+#include "mava_tum/cpp/block_list.hpp"
+#include "mava_tum/cpp/encoding.hpp"
+
+namespace mava_tum::cpp
+{
+
+// Valid as long as the record that it was obtained from stays where it is and as it is. What it is set to is copied,
+// with memory of the record that owns all of it.
+template <class Derived, class Record>
+class record_editor : public encoding<Derived>
+{
+public:
+    record_editor(Record &record, block_list *blocks) noexcept : record_(&record), blocks_(blocks) {}
+
+    typename codec_of<Record>::view view() const noexcept
+    {
+        return typename codec_of<Record>::view(*record_);
+    }
+
+    operator typename codec_of<Record>::view() const noexcept
+    {
+        return view();
+    }
+
+    const Record &c_record() const noexcept
+    {
+        return *record_;
+    }
+
+    Record &mutable_c_record() const noexcept
+    {
+        return *record_;
+    }
+
+    block_list *own_blocks() const noexcept
+    {
+        return blocks_;
+    }
+
+private:
+    Record *record_;
+    block_list *blocks_;
+};
+
+} // namespace mava_tum::cpp
+
+#endif

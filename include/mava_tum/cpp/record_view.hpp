@@ -1,0 +1,52 @@
+// A record that lies somewhere else, to be read: the base of the view classes, one for each message.
+#ifndef MAVA_TUM_CPP_RECORD_VIEW_HPP
+#define MAVA_TUM_CPP_RECORD_VIEW_HPP
+
+#include "mava_tum/cpp/encoding.hpp"
+
+namespace mava_tum::cpp
+{
+
+// Like an optional: true when the field it came from is present. All fields of an absent record are absent, so a chain
+// of them need not be tested link by link. Valid as long as the record it refers to stays where it is and as it is.
+template <class Derived, class Record>
+class record_view : public encoding<Derived>
+{
+public:
+    // Any record of the codec can be read through a view.
+    explicit record_view(const Record &record, bool present = true) noexcept : record_(&record), present_(present) {}
+
+    bool has_value() const noexcept
+    {
+        return present_;
+    }
+
+    explicit operator bool() const noexcept
+    {
+        return present_;
+    }
+
+    const Derived &operator*() const noexcept
+    {
+        return static_cast<const Derived &>(*this);
+    }
+
+    const Derived *operator->() const noexcept
+    {
+        return static_cast<const Derived *>(this);
+    }
+
+    // For the C functions.
+    const Record &c_record() const noexcept
+    {
+        return *record_;
+    }
+
+private:
+    const Record *record_;
+    bool present_;
+};
+
+} // namespace mava_tum::cpp
+
+#endif

@@ -1,0 +1,447 @@
+// Classes over the records of mava_tum/redundancy_group.h, which says what the fields are.
+//
+// Written by tools/cpp_layer/make_cpp_layer from that header: change either of them, not this file.
+#ifndef MAVA_TUM_CPP_REDUNDANCY_GROUP_HPP
+#define MAVA_TUM_CPP_REDUNDANCY_GROUP_HPP
+
+#include "mava_tum/cpp/field_access.hpp"
+#include "mava_tum/cpp/field_change.hpp"
+#include "mava_tum/cpp/owning_record.hpp"
+#include "mava_tum/cpp/record_editor.hpp"
+#include "mava_tum/cpp/record_view.hpp"
+#include "mava_tum/redundancy_group.h"
+
+// clang-format off
+namespace mava_tum::cpp
+{
+
+// ---- srg_group_rec_start_req ---------------------------------------------------------------------------------------
+
+class srg_group_rec_start_req_view;
+class srg_group_rec_start_req_editor;
+
+template <>
+struct codec_of<mava_tum_srg_group_rec_start_req> {
+    using view = srg_group_rec_start_req_view;
+    using editor = srg_group_rec_start_req_editor;
+    static constexpr bool owns_memory = false;
+    static constexpr auto decode = mava_tum_srg_group_rec_start_req_decode_ext;
+    static constexpr auto encode = mava_tum_srg_group_rec_start_req_encode_ext;
+    static constexpr auto duplicate = mava_tum_srg_group_rec_start_req_duplicate;
+};
+
+// The fields of srg_group_rec_start_req. Derived has c_record().
+template <class Derived>
+class srg_group_rec_start_req_fields
+{
+public:
+    // 1: varint
+    std::optional<std::uint32_t> field_1() const noexcept { return access::number_of<1>(c(), c().field_1); }
+    // 2: varint
+    std::optional<std::uint32_t> field_2() const noexcept { return access::number_of<2>(c(), c().field_2); }
+    // 3: varint
+    std::optional<std::uint32_t> field_3() const noexcept { return access::number_of<3>(c(), c().field_3); }
+
+private:
+    const mava_tum_srg_group_rec_start_req &c() const noexcept { return static_cast<const Derived &>(*this).c_record(); }
+};
+
+// Sets the fields of srg_group_rec_start_req. Derived has mutable_c_record() and own_blocks().
+template <class Derived>
+class srg_group_rec_start_req_changes
+{
+public:
+    void set_field_1(std::optional<std::uint32_t> value) noexcept { change::set_number<1>(c(), c().field_1, value); }
+    void set_field_2(std::optional<std::uint32_t> value) noexcept { change::set_number<2>(c(), c().field_2, value); }
+    void set_field_3(std::optional<std::uint32_t> value) noexcept { change::set_number<3>(c(), c().field_3, value); }
+
+private:
+    mava_tum_srg_group_rec_start_req &c() noexcept { return static_cast<Derived &>(*this).mutable_c_record(); }
+};
+
+class srg_group_rec_start_req_view : public record_view<srg_group_rec_start_req_view, mava_tum_srg_group_rec_start_req>,
+    public srg_group_rec_start_req_fields<srg_group_rec_start_req_view>
+{
+public:
+    using record_view::record_view;
+};
+
+class srg_group_rec_start_req_editor : public record_editor<srg_group_rec_start_req_editor, mava_tum_srg_group_rec_start_req>,
+    public srg_group_rec_start_req_fields<srg_group_rec_start_req_editor>, public srg_group_rec_start_req_changes<srg_group_rec_start_req_editor>
+{
+public:
+    using record_editor::record_editor;
+};
+
+using srg_group_rec_start_req_list = record_list<srg_group_rec_start_req_view, mava_tum_srg_group_rec_start_req>;
+using srg_group_rec_start_req_editors = editor_list<srg_group_rec_start_req_editor, mava_tum_srg_group_rec_start_req>;
+
+// Opens the reconciliation of a redundancy group.
+class srg_group_rec_start_req : public owning_record<srg_group_rec_start_req, mava_tum_srg_group_rec_start_req>,
+    public srg_group_rec_start_req_fields<srg_group_rec_start_req>, public srg_group_rec_start_req_changes<srg_group_rec_start_req>
+{
+public:
+    using owning_record::owning_record;
+};
+
+// ---- srg_group_rec_resp --------------------------------------------------------------------------------------------
+
+class srg_group_rec_resp_view;
+class srg_group_rec_resp_editor;
+
+template <>
+struct codec_of<mava_tum_srg_group_rec_resp> {
+    using view = srg_group_rec_resp_view;
+    using editor = srg_group_rec_resp_editor;
+    static constexpr bool owns_memory = false;
+    static constexpr auto decode = mava_tum_srg_group_rec_resp_decode_ext;
+    static constexpr auto encode = mava_tum_srg_group_rec_resp_encode_ext;
+    static constexpr auto duplicate = mava_tum_srg_group_rec_resp_duplicate;
+};
+
+// The fields of srg_group_rec_resp. Derived has c_record().
+template <class Derived>
+class srg_group_rec_resp_fields
+{
+public:
+    // 1: varint
+    std::optional<std::uint32_t> field_1() const noexcept { return access::number_of<1>(c(), c().field_1); }
+    // 2: varint
+    std::optional<std::uint32_t> field_2() const noexcept { return access::number_of<2>(c(), c().field_2); }
+
+private:
+    const mava_tum_srg_group_rec_resp &c() const noexcept { return static_cast<const Derived &>(*this).c_record(); }
+};
+
+// Sets the fields of srg_group_rec_resp. Derived has mutable_c_record() and own_blocks().
+template <class Derived>
+class srg_group_rec_resp_changes
+{
+public:
+    void set_field_1(std::optional<std::uint32_t> value) noexcept { change::set_number<1>(c(), c().field_1, value); }
+    void set_field_2(std::optional<std::uint32_t> value) noexcept { change::set_number<2>(c(), c().field_2, value); }
+
+private:
+    mava_tum_srg_group_rec_resp &c() noexcept { return static_cast<Derived &>(*this).mutable_c_record(); }
+};
+
+class srg_group_rec_resp_view : public record_view<srg_group_rec_resp_view, mava_tum_srg_group_rec_resp>,
+    public srg_group_rec_resp_fields<srg_group_rec_resp_view>
+{
+public:
+    using record_view::record_view;
+};
+
+class srg_group_rec_resp_editor : public record_editor<srg_group_rec_resp_editor, mava_tum_srg_group_rec_resp>,
+    public srg_group_rec_resp_fields<srg_group_rec_resp_editor>, public srg_group_rec_resp_changes<srg_group_rec_resp_editor>
+{
+public:
+    using record_editor::record_editor;
+};
+
+using srg_group_rec_resp_list = record_list<srg_group_rec_resp_view, mava_tum_srg_group_rec_resp>;
+using srg_group_rec_resp_editors = editor_list<srg_group_rec_resp_editor, mava_tum_srg_group_rec_resp>;
+
+// Answers srg_group_rec_start_req and srg_group_rec_complete_req.
+class srg_group_rec_resp : public owning_record<srg_group_rec_resp, mava_tum_srg_group_rec_resp>,
+    public srg_group_rec_resp_fields<srg_group_rec_resp>, public srg_group_rec_resp_changes<srg_group_rec_resp>
+{
+public:
+    using owning_record::owning_record;
+};
+
+// ---- srg_group_rec_complete_req ------------------------------------------------------------------------------------
+
+class srg_group_rec_complete_req_view;
+class srg_group_rec_complete_req_editor;
+
+template <>
+struct codec_of<mava_tum_srg_group_rec_complete_req> {
+    using view = srg_group_rec_complete_req_view;
+    using editor = srg_group_rec_complete_req_editor;
+    static constexpr bool owns_memory = false;
+    static constexpr auto decode = mava_tum_srg_group_rec_complete_req_decode_ext;
+    static constexpr auto encode = mava_tum_srg_group_rec_complete_req_encode_ext;
+    static constexpr auto duplicate = mava_tum_srg_group_rec_complete_req_duplicate;
+};
+
+// The fields of srg_group_rec_complete_req. Derived has c_record().
+template <class Derived>
+class srg_group_rec_complete_req_fields
+{
+public:
+    // 1: varint
+    std::optional<std::uint32_t> field_1() const noexcept { return access::number_of<1>(c(), c().field_1); }
+    // 2: varint
+    std::optional<std::uint32_t> field_2() const noexcept { return access::number_of<2>(c(), c().field_2); }
+    // 3: varint
+    std::optional<std::uint32_t> field_3() const noexcept { return access::number_of<3>(c(), c().field_3); }
+
+private:
+    const mava_tum_srg_group_rec_complete_req &c() const noexcept { return static_cast<const Derived &>(*this).c_record(); }
+};
+
+// Sets the fields of srg_group_rec_complete_req. Derived has mutable_c_record() and own_blocks().
+template <class Derived>
+class srg_group_rec_complete_req_changes
+{
+public:
+    void set_field_1(std::optional<std::uint32_t> value) noexcept { change::set_number<1>(c(), c().field_1, value); }
+    void set_field_2(std::optional<std::uint32_t> value) noexcept { change::set_number<2>(c(), c().field_2, value); }
+    void set_field_3(std::optional<std::uint32_t> value) noexcept { change::set_number<3>(c(), c().field_3, value); }
+
+private:
+    mava_tum_srg_group_rec_complete_req &c() noexcept { return static_cast<Derived &>(*this).mutable_c_record(); }
+};
+
+class srg_group_rec_complete_req_view : public record_view<srg_group_rec_complete_req_view, mava_tum_srg_group_rec_complete_req>,
+    public srg_group_rec_complete_req_fields<srg_group_rec_complete_req_view>
+{
+public:
+    using record_view::record_view;
+};
+
+class srg_group_rec_complete_req_editor : public record_editor<srg_group_rec_complete_req_editor, mava_tum_srg_group_rec_complete_req>,
+    public srg_group_rec_complete_req_fields<srg_group_rec_complete_req_editor>, public srg_group_rec_complete_req_changes<srg_group_rec_complete_req_editor>
+{
+public:
+    using record_editor::record_editor;
+};
+
+using srg_group_rec_complete_req_list = record_list<srg_group_rec_complete_req_view, mava_tum_srg_group_rec_complete_req>;
+using srg_group_rec_complete_req_editors = editor_list<srg_group_rec_complete_req_editor, mava_tum_srg_group_rec_complete_req>;
+
+// Closes the reconciliation of a redundancy group.
+class srg_group_rec_complete_req : public owning_record<srg_group_rec_complete_req, mava_tum_srg_group_rec_complete_req>,
+    public srg_group_rec_complete_req_fields<srg_group_rec_complete_req>, public srg_group_rec_complete_req_changes<srg_group_rec_complete_req>
+{
+public:
+    using owning_record::owning_record;
+};
+
+// ---- srg_group_data ------------------------------------------------------------------------------------------------
+
+class srg_group_data_view;
+class srg_group_data_editor;
+
+template <>
+struct codec_of<mava_tum_srg_group_data> {
+    using view = srg_group_data_view;
+    using editor = srg_group_data_editor;
+    static constexpr bool owns_memory = true;
+    static constexpr auto decode = mava_tum_srg_group_data_decode_ext;
+    static constexpr auto encode = mava_tum_srg_group_data_encode_ext;
+    static constexpr auto duplicate = mava_tum_srg_group_data_duplicate;
+};
+
+// The fields of srg_group_data. Derived has c_record().
+template <class Derived>
+class srg_group_data_fields
+{
+public:
+    // 1: varint
+    std::optional<std::uint32_t> field_1() const noexcept { return access::number_of<1>(c(), c().field_1); }
+    // 2: varint
+    std::optional<std::uint32_t> field_2() const noexcept { return access::number_of<2>(c(), c().field_2); }
+    // 3: varint
+    std::optional<std::uint32_t> field_3() const noexcept { return access::number_of<3>(c(), c().field_3); }
+    // 4: varint
+    std::optional<std::uint32_t> field_4() const noexcept { return access::number_of<4>(c(), c().field_4); }
+    // 5: text
+    std::optional<std::string_view> field_5() const noexcept { return access::text_of<5>(c(), c().field_5); }
+
+private:
+    const mava_tum_srg_group_data &c() const noexcept { return static_cast<const Derived &>(*this).c_record(); }
+};
+
+// Sets the fields of srg_group_data. Derived has mutable_c_record() and own_blocks().
+template <class Derived>
+class srg_group_data_changes
+{
+public:
+    void set_field_1(std::optional<std::uint32_t> value) noexcept { change::set_number<1>(c(), c().field_1, value); }
+    void set_field_2(std::optional<std::uint32_t> value) noexcept { change::set_number<2>(c(), c().field_2, value); }
+    void set_field_3(std::optional<std::uint32_t> value) noexcept { change::set_number<3>(c(), c().field_3, value); }
+    void set_field_4(std::optional<std::uint32_t> value) noexcept { change::set_number<4>(c(), c().field_4, value); }
+    result set_field_5(std::optional<std::string_view> text) noexcept { return change::set_text<5>(c(), c().field_5, blocks(), text); }
+
+private:
+    mava_tum_srg_group_data &c() noexcept { return static_cast<Derived &>(*this).mutable_c_record(); }
+    block_list *blocks() noexcept { return static_cast<Derived &>(*this).own_blocks(); }
+};
+
+class srg_group_data_view : public record_view<srg_group_data_view, mava_tum_srg_group_data>,
+    public srg_group_data_fields<srg_group_data_view>
+{
+public:
+    using record_view::record_view;
+};
+
+class srg_group_data_editor : public record_editor<srg_group_data_editor, mava_tum_srg_group_data>,
+    public srg_group_data_fields<srg_group_data_editor>, public srg_group_data_changes<srg_group_data_editor>
+{
+public:
+    using record_editor::record_editor;
+};
+
+using srg_group_data_list = record_list<srg_group_data_view, mava_tum_srg_group_data>;
+using srg_group_data_editors = editor_list<srg_group_data_editor, mava_tum_srg_group_data>;
+
+// One group's data. An element of the two replay messages.
+class srg_group_data : public owning_record<srg_group_data, mava_tum_srg_group_data>,
+    public srg_group_data_fields<srg_group_data>, public srg_group_data_changes<srg_group_data>
+{
+public:
+    using owning_record::owning_record;
+};
+
+// ---- srg_group_rec_replay_req --------------------------------------------------------------------------------------
+
+class srg_group_rec_replay_req_view;
+class srg_group_rec_replay_req_editor;
+
+template <>
+struct codec_of<mava_tum_srg_group_rec_replay_req> {
+    using view = srg_group_rec_replay_req_view;
+    using editor = srg_group_rec_replay_req_editor;
+    static constexpr bool owns_memory = true;
+    static constexpr auto decode = mava_tum_srg_group_rec_replay_req_decode_ext;
+    static constexpr auto encode = mava_tum_srg_group_rec_replay_req_encode_ext;
+    static constexpr auto duplicate = mava_tum_srg_group_rec_replay_req_duplicate;
+};
+
+// The fields of srg_group_rec_replay_req. Derived has c_record().
+template <class Derived>
+class srg_group_rec_replay_req_fields
+{
+public:
+    // 1: varint
+    std::optional<std::uint32_t> field_1() const noexcept { return access::number_of<1>(c(), c().field_1); }
+    // 2: varint
+    std::optional<std::uint32_t> field_2() const noexcept { return access::number_of<2>(c(), c().field_2); }
+    // 3: array of records
+    srg_group_data_list field_3() const noexcept { return access::list_of<3, srg_group_data_list>(c(), c().field_3, c().field_3_count); }
+    // 4: varint
+    std::optional<std::uint32_t> field_4() const noexcept { return access::number_of<4>(c(), c().field_4); }
+
+private:
+    const mava_tum_srg_group_rec_replay_req &c() const noexcept { return static_cast<const Derived &>(*this).c_record(); }
+};
+
+// Sets the fields of srg_group_rec_replay_req. Derived has mutable_c_record() and own_blocks().
+template <class Derived>
+class srg_group_rec_replay_req_changes
+{
+public:
+    void set_field_1(std::optional<std::uint32_t> value) noexcept { change::set_number<1>(c(), c().field_1, value); }
+    void set_field_2(std::optional<std::uint32_t> value) noexcept { change::set_number<2>(c(), c().field_2, value); }
+    srg_group_data_editors make_field_3(std::uint32_t count) noexcept { return change::make_list<3, srg_group_data_editors>(c(), c().field_3, c().field_3_count, blocks(), count); }
+    void set_field_4(std::optional<std::uint32_t> value) noexcept { change::set_number<4>(c(), c().field_4, value); }
+
+private:
+    mava_tum_srg_group_rec_replay_req &c() noexcept { return static_cast<Derived &>(*this).mutable_c_record(); }
+    block_list *blocks() noexcept { return static_cast<Derived &>(*this).own_blocks(); }
+};
+
+class srg_group_rec_replay_req_view : public record_view<srg_group_rec_replay_req_view, mava_tum_srg_group_rec_replay_req>,
+    public srg_group_rec_replay_req_fields<srg_group_rec_replay_req_view>
+{
+public:
+    using record_view::record_view;
+};
+
+class srg_group_rec_replay_req_editor : public record_editor<srg_group_rec_replay_req_editor, mava_tum_srg_group_rec_replay_req>,
+    public srg_group_rec_replay_req_fields<srg_group_rec_replay_req_editor>, public srg_group_rec_replay_req_changes<srg_group_rec_replay_req_editor>
+{
+public:
+    using record_editor::record_editor;
+};
+
+using srg_group_rec_replay_req_list = record_list<srg_group_rec_replay_req_view, mava_tum_srg_group_rec_replay_req>;
+using srg_group_rec_replay_req_editors = editor_list<srg_group_rec_replay_req_editor, mava_tum_srg_group_rec_replay_req>;
+
+// Replays the data of redundancy groups.
+class srg_group_rec_replay_req : public owning_record<srg_group_rec_replay_req, mava_tum_srg_group_rec_replay_req>,
+    public srg_group_rec_replay_req_fields<srg_group_rec_replay_req>, public srg_group_rec_replay_req_changes<srg_group_rec_replay_req>
+{
+public:
+    using owning_record::owning_record;
+};
+
+// ---- srg_group_rec_replay_resp -------------------------------------------------------------------------------------
+
+class srg_group_rec_replay_resp_view;
+class srg_group_rec_replay_resp_editor;
+
+template <>
+struct codec_of<mava_tum_srg_group_rec_replay_resp> {
+    using view = srg_group_rec_replay_resp_view;
+    using editor = srg_group_rec_replay_resp_editor;
+    static constexpr bool owns_memory = true;
+    static constexpr auto decode = mava_tum_srg_group_rec_replay_resp_decode_ext;
+    static constexpr auto encode = mava_tum_srg_group_rec_replay_resp_encode_ext;
+    static constexpr auto duplicate = mava_tum_srg_group_rec_replay_resp_duplicate;
+};
+
+// The fields of srg_group_rec_replay_resp. Derived has c_record().
+template <class Derived>
+class srg_group_rec_replay_resp_fields
+{
+public:
+    // 1: varint
+    std::optional<std::uint32_t> field_1() const noexcept { return access::number_of<1>(c(), c().field_1); }
+    // 2: array of records
+    srg_group_data_list field_2() const noexcept { return access::list_of<2, srg_group_data_list>(c(), c().field_2, c().field_2_count); }
+    // 3: array of records
+    srg_group_data_list field_3() const noexcept { return access::list_of<3, srg_group_data_list>(c(), c().field_3, c().field_3_count); }
+    // 4: varint
+    std::optional<std::uint32_t> field_4() const noexcept { return access::number_of<4>(c(), c().field_4); }
+
+private:
+    const mava_tum_srg_group_rec_replay_resp &c() const noexcept { return static_cast<const Derived &>(*this).c_record(); }
+};
+
+// Sets the fields of srg_group_rec_replay_resp. Derived has mutable_c_record() and own_blocks().
+template <class Derived>
+class srg_group_rec_replay_resp_changes
+{
+public:
+    void set_field_1(std::optional<std::uint32_t> value) noexcept { change::set_number<1>(c(), c().field_1, value); }
+    srg_group_data_editors make_field_2(std::uint32_t count) noexcept { return change::make_list<2, srg_group_data_editors>(c(), c().field_2, c().field_2_count, blocks(), count); }
+    srg_group_data_editors make_field_3(std::uint32_t count) noexcept { return change::make_list<3, srg_group_data_editors>(c(), c().field_3, c().field_3_count, blocks(), count); }
+    void set_field_4(std::optional<std::uint32_t> value) noexcept { change::set_number<4>(c(), c().field_4, value); }
+
+private:
+    mava_tum_srg_group_rec_replay_resp &c() noexcept { return static_cast<Derived &>(*this).mutable_c_record(); }
+    block_list *blocks() noexcept { return static_cast<Derived &>(*this).own_blocks(); }
+};
+
+class srg_group_rec_replay_resp_view : public record_view<srg_group_rec_replay_resp_view, mava_tum_srg_group_rec_replay_resp>,
+    public srg_group_rec_replay_resp_fields<srg_group_rec_replay_resp_view>
+{
+public:
+    using record_view::record_view;
+};
+
+class srg_group_rec_replay_resp_editor : public record_editor<srg_group_rec_replay_resp_editor, mava_tum_srg_group_rec_replay_resp>,
+    public srg_group_rec_replay_resp_fields<srg_group_rec_replay_resp_editor>, public srg_group_rec_replay_resp_changes<srg_group_rec_replay_resp_editor>
+{
+public:
+    using record_editor::record_editor;
+};
+
+using srg_group_rec_replay_resp_list = record_list<srg_group_rec_replay_resp_view, mava_tum_srg_group_rec_replay_resp>;
+using srg_group_rec_replay_resp_editors = editor_list<srg_group_rec_replay_resp_editor, mava_tum_srg_group_rec_replay_resp>;
+
+// Answers a replay with two lists of group data.
+class srg_group_rec_replay_resp : public owning_record<srg_group_rec_replay_resp, mava_tum_srg_group_rec_replay_resp>,
+    public srg_group_rec_replay_resp_fields<srg_group_rec_replay_resp>, public srg_group_rec_replay_resp_changes<srg_group_rec_replay_resp>
+{
+public:
+    using owning_record::owning_record;
+};
+
+} // namespace mava_tum::cpp
+// clang-format on
+
+#endif

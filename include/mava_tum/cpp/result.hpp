@@ -1,0 +1,37 @@
+// The codec's result codes as a type of their own, with a text for each.
+#ifndef MAVA_TUM_CPP_RESULT_HPP
+#define MAVA_TUM_CPP_RESULT_HPP
+
+#include "mava_tum/codec_contract.h"
+
+#include <cstdint>
+#include <string_view>
+
+namespace mava_tum::cpp
+{
+
+// What each means in full: codec_contract.h.
+enum class [[nodiscard]] result : std::int32_t{ok = MAVA_TUM_OK, truncated = MAVA_TUM_TRUNCATED,
+    unsupported_wire_type = MAVA_TUM_UNSUPPORTED_WIRE_TYPE, wrong_wire_type = MAVA_TUM_WRONG_WIRE_TYPE,
+    no_memory = MAVA_TUM_NO_MEMORY};
+
+constexpr std::string_view text_of(result code) noexcept
+{
+    switch (code) {
+    case result::ok:
+        return "ok";
+    case result::truncated:
+        return "truncated: the input ends inside a field, or a field that comes once came again";
+    case result::unsupported_wire_type:
+        return "unsupported wire type: an unknown field cannot be skipped";
+    case result::wrong_wire_type:
+        return "wrong wire type: a known field has another wire type than its own";
+    case result::no_memory:
+        return "no memory: a block was refused";
+    }
+    return "not a result";
+}
+
+} // namespace mava_tum::cpp
+
+#endif

@@ -1,0 +1,174 @@
+// Classes over the records of mava_tum/routes.h, which says what the fields are.
+//
+// Written by tools/cpp_layer/make_cpp_layer from that header: change either of them, not this file.
+#ifndef MAVA_TUM_CPP_ROUTES_HPP
+#define MAVA_TUM_CPP_ROUTES_HPP
+
+#include "mava_tum/cpp/feature_records.hpp"
+#include "mava_tum/cpp/field_access.hpp"
+#include "mava_tum/cpp/field_change.hpp"
+#include "mava_tum/cpp/owning_record.hpp"
+#include "mava_tum/cpp/record_editor.hpp"
+#include "mava_tum/cpp/record_view.hpp"
+#include "mava_tum/routes.h"
+
+// clang-format off
+namespace mava_tum::cpp
+{
+
+// ---- sub_route -----------------------------------------------------------------------------------------------------
+
+class sub_route_view;
+class sub_route_editor;
+
+template <>
+struct codec_of<mava_tum_sub_route> {
+    using view = sub_route_view;
+    using editor = sub_route_editor;
+    static constexpr bool owns_memory = true;
+    static constexpr auto decode = mava_tum_sub_route_decode_ext;
+    static constexpr auto encode = mava_tum_sub_route_encode_ext;
+    static constexpr auto duplicate = mava_tum_sub_route_duplicate;
+};
+
+// The fields of sub_route. Derived has c_record().
+template <class Derived>
+class sub_route_fields
+{
+public:
+    // 1: varint
+    std::optional<std::uint32_t> field_1() const noexcept { return access::number_of<1>(c(), c().field_1); }
+    // 2: varint
+    std::optional<std::uint32_t> field_2() const noexcept { return access::number_of<2>(c(), c().field_2); }
+    // 3: varint
+    std::optional<std::uint32_t> field_3() const noexcept { return access::number_of<3>(c(), c().field_3); }
+    // 4: array of records
+    subscriber_route_ipv4_list ipv4_routes() const noexcept { return access::list_of<4, subscriber_route_ipv4_list>(c(), c().ipv4_routes, c().ipv4_route_count); }
+    // 5: array of records
+    subscriber_route_ipv6_list ipv6_routes() const noexcept { return access::list_of<5, subscriber_route_ipv6_list>(c(), c().ipv6_routes, c().ipv6_route_count); }
+    // 6: varint
+    std::optional<std::uint32_t> field_6() const noexcept { return access::number_of<6>(c(), c().field_6); }
+
+private:
+    const mava_tum_sub_route &c() const noexcept { return static_cast<const Derived &>(*this).c_record(); }
+};
+
+// Sets the fields of sub_route. Derived has mutable_c_record() and own_blocks().
+template <class Derived>
+class sub_route_changes
+{
+public:
+    void set_field_1(std::optional<std::uint32_t> value) noexcept { change::set_number<1>(c(), c().field_1, value); }
+    void set_field_2(std::optional<std::uint32_t> value) noexcept { change::set_number<2>(c(), c().field_2, value); }
+    void set_field_3(std::optional<std::uint32_t> value) noexcept { change::set_number<3>(c(), c().field_3, value); }
+    subscriber_route_ipv4_editors make_ipv4_routes(std::uint32_t count) noexcept { return change::make_list<4, subscriber_route_ipv4_editors>(c(), c().ipv4_routes, c().ipv4_route_count, blocks(), count); }
+    subscriber_route_ipv6_editors make_ipv6_routes(std::uint32_t count) noexcept { return change::make_list<5, subscriber_route_ipv6_editors>(c(), c().ipv6_routes, c().ipv6_route_count, blocks(), count); }
+    void set_field_6(std::optional<std::uint32_t> value) noexcept { change::set_number<6>(c(), c().field_6, value); }
+
+private:
+    mava_tum_sub_route &c() noexcept { return static_cast<Derived &>(*this).mutable_c_record(); }
+    block_list *blocks() noexcept { return static_cast<Derived &>(*this).own_blocks(); }
+};
+
+class sub_route_view : public record_view<sub_route_view, mava_tum_sub_route>,
+    public sub_route_fields<sub_route_view>
+{
+public:
+    using record_view::record_view;
+};
+
+class sub_route_editor : public record_editor<sub_route_editor, mava_tum_sub_route>,
+    public sub_route_fields<sub_route_editor>, public sub_route_changes<sub_route_editor>
+{
+public:
+    using record_editor::record_editor;
+};
+
+using sub_route_list = record_list<sub_route_view, mava_tum_sub_route>;
+using sub_route_editors = editor_list<sub_route_editor, mava_tum_sub_route>;
+
+// A batch of subscriber routes.
+class sub_route : public owning_record<sub_route, mava_tum_sub_route>,
+    public sub_route_fields<sub_route>, public sub_route_changes<sub_route>
+{
+public:
+    using owning_record::owning_record;
+};
+
+// ---- subscriber_route_resp -----------------------------------------------------------------------------------------
+
+class subscriber_route_resp_view;
+class subscriber_route_resp_editor;
+
+template <>
+struct codec_of<mava_tum_subscriber_route_resp> {
+    using view = subscriber_route_resp_view;
+    using editor = subscriber_route_resp_editor;
+    static constexpr bool owns_memory = true;
+    static constexpr auto decode = mava_tum_subscriber_route_resp_decode_ext;
+    static constexpr auto encode = mava_tum_subscriber_route_resp_encode_ext;
+    static constexpr auto duplicate = mava_tum_subscriber_route_resp_duplicate;
+};
+
+// The fields of subscriber_route_resp. Derived has c_record().
+template <class Derived>
+class subscriber_route_resp_fields
+{
+public:
+    // 1: varint
+    std::optional<std::uint32_t> field_1() const noexcept { return access::number_of<1>(c(), c().field_1); }
+    // 2: varint
+    std::optional<std::uint32_t> field_2() const noexcept { return access::number_of<2>(c(), c().field_2); }
+    // 3: text
+    std::optional<std::string_view> field_3() const noexcept { return access::text_of<3>(c(), c().field_3); }
+    // 4: text
+    std::optional<std::string_view> field_4() const noexcept { return access::text_of<4>(c(), c().field_4); }
+
+private:
+    const mava_tum_subscriber_route_resp &c() const noexcept { return static_cast<const Derived &>(*this).c_record(); }
+};
+
+// Sets the fields of subscriber_route_resp. Derived has mutable_c_record() and own_blocks().
+template <class Derived>
+class subscriber_route_resp_changes
+{
+public:
+    void set_field_1(std::optional<std::uint32_t> value) noexcept { change::set_number<1>(c(), c().field_1, value); }
+    void set_field_2(std::optional<std::uint32_t> value) noexcept { change::set_number<2>(c(), c().field_2, value); }
+    result set_field_3(std::optional<std::string_view> text) noexcept { return change::set_text<3>(c(), c().field_3, blocks(), text); }
+    result set_field_4(std::optional<std::string_view> text) noexcept { return change::set_text<4>(c(), c().field_4, blocks(), text); }
+
+private:
+    mava_tum_subscriber_route_resp &c() noexcept { return static_cast<Derived &>(*this).mutable_c_record(); }
+    block_list *blocks() noexcept { return static_cast<Derived &>(*this).own_blocks(); }
+};
+
+class subscriber_route_resp_view : public record_view<subscriber_route_resp_view, mava_tum_subscriber_route_resp>,
+    public subscriber_route_resp_fields<subscriber_route_resp_view>
+{
+public:
+    using record_view::record_view;
+};
+
+class subscriber_route_resp_editor : public record_editor<subscriber_route_resp_editor, mava_tum_subscriber_route_resp>,
+    public subscriber_route_resp_fields<subscriber_route_resp_editor>, public subscriber_route_resp_changes<subscriber_route_resp_editor>
+{
+public:
+    using record_editor::record_editor;
+};
+
+using subscriber_route_resp_list = record_list<subscriber_route_resp_view, mava_tum_subscriber_route_resp>;
+using subscriber_route_resp_editors = editor_list<subscriber_route_resp_editor, mava_tum_subscriber_route_resp>;
+
+// The answer to a batch of subscriber routes.
+class subscriber_route_resp : public owning_record<subscriber_route_resp, mava_tum_subscriber_route_resp>,
+    public subscriber_route_resp_fields<subscriber_route_resp>, public subscriber_route_resp_changes<subscriber_route_resp>
+{
+public:
+    using owning_record::owning_record;
+};
+
+} // namespace mava_tum::cpp
+// clang-format on
+
+#endif

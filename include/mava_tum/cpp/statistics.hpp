@@ -1,0 +1,303 @@
+// Classes over the records of mava_tum/statistics.h, which says what the fields are.
+//
+// Written by tools/cpp_layer/make_cpp_layer from that header: change either of them, not this file.
+#ifndef MAVA_TUM_CPP_STATISTICS_HPP
+#define MAVA_TUM_CPP_STATISTICS_HPP
+
+#include "mava_tum/cpp/field_access.hpp"
+#include "mava_tum/cpp/field_change.hpp"
+#include "mava_tum/cpp/owning_record.hpp"
+#include "mava_tum/cpp/record_editor.hpp"
+#include "mava_tum/cpp/record_view.hpp"
+#include "mava_tum/statistics.h"
+
+// clang-format off
+namespace mava_tum::cpp
+{
+
+// ---- stats ---------------------------------------------------------------------------------------------------------
+
+class stats_view;
+class stats_editor;
+
+template <>
+struct codec_of<mava_tum_stats> {
+    using view = stats_view;
+    using editor = stats_editor;
+    static constexpr bool owns_memory = false;
+    static constexpr auto decode = mava_tum_stats_decode_ext;
+    static constexpr auto encode = mava_tum_stats_encode_ext;
+    static constexpr auto duplicate = mava_tum_stats_duplicate;
+};
+
+// The fields of stats. Derived has c_record().
+template <class Derived>
+class stats_fields
+{
+public:
+    // 1: varint
+    std::optional<std::uint32_t> field_1() const noexcept { return access::number_of<1>(c(), c().field_1); }
+    // 2: varint
+    std::optional<std::uint32_t> field_2() const noexcept { return access::number_of<2>(c(), c().field_2); }
+    // 3: varint
+    std::optional<std::uint32_t> field_3() const noexcept { return access::number_of<3>(c(), c().field_3); }
+    // 4: varint
+    std::optional<std::uint32_t> field_4() const noexcept { return access::number_of<4>(c(), c().field_4); }
+    // 5: varint
+    std::optional<std::uint32_t> field_5() const noexcept { return access::number_of<5>(c(), c().field_5); }
+    // 6: varint
+    std::optional<std::uint32_t> field_6() const noexcept { return access::number_of<6>(c(), c().field_6); }
+    // 7: varint
+    std::optional<std::uint32_t> field_7() const noexcept { return access::number_of<7>(c(), c().field_7); }
+    // 8: varint
+    std::optional<std::uint32_t> field_8() const noexcept { return access::number_of<8>(c(), c().field_8); }
+    // 9: varint
+    std::optional<std::uint32_t> field_9() const noexcept { return access::number_of<9>(c(), c().field_9); }
+    // 10: varint
+    std::optional<std::uint32_t> field_10() const noexcept { return access::number_of<10>(c(), c().field_10); }
+    // 11: varint
+    std::optional<std::uint32_t> field_11() const noexcept { return access::number_of<11>(c(), c().field_11); }
+    // 12: varint
+    std::optional<std::uint32_t> field_12() const noexcept { return access::number_of<12>(c(), c().field_12); }
+    // 13: varint
+    std::optional<std::uint32_t> field_13() const noexcept { return access::number_of<13>(c(), c().field_13); }
+    // 14: varint
+    std::optional<std::uint32_t> field_14() const noexcept { return access::number_of<14>(c(), c().field_14); }
+    // 15: varint
+    std::optional<std::uint32_t> field_15() const noexcept { return access::number_of<15>(c(), c().field_15); }
+    // 16: varint
+    std::optional<std::uint32_t> field_16() const noexcept { return access::number_of<16>(c(), c().field_16); }
+    // 17: varint
+    std::optional<std::uint32_t> field_17() const noexcept { return access::number_of<17>(c(), c().field_17); }
+    // 18: varint
+    std::optional<std::uint32_t> field_18() const noexcept { return access::number_of<18>(c(), c().field_18); }
+
+private:
+    const mava_tum_stats &c() const noexcept { return static_cast<const Derived &>(*this).c_record(); }
+};
+
+// Sets the fields of stats. Derived has mutable_c_record() and own_blocks().
+template <class Derived>
+class stats_changes
+{
+public:
+    void set_field_1(std::optional<std::uint32_t> value) noexcept { change::set_number<1>(c(), c().field_1, value); }
+    void set_field_2(std::optional<std::uint32_t> value) noexcept { change::set_number<2>(c(), c().field_2, value); }
+    void set_field_3(std::optional<std::uint32_t> value) noexcept { change::set_number<3>(c(), c().field_3, value); }
+    void set_field_4(std::optional<std::uint32_t> value) noexcept { change::set_number<4>(c(), c().field_4, value); }
+    void set_field_5(std::optional<std::uint32_t> value) noexcept { change::set_number<5>(c(), c().field_5, value); }
+    void set_field_6(std::optional<std::uint32_t> value) noexcept { change::set_number<6>(c(), c().field_6, value); }
+    void set_field_7(std::optional<std::uint32_t> value) noexcept { change::set_number<7>(c(), c().field_7, value); }
+    void set_field_8(std::optional<std::uint32_t> value) noexcept { change::set_number<8>(c(), c().field_8, value); }
+    void set_field_9(std::optional<std::uint32_t> value) noexcept { change::set_number<9>(c(), c().field_9, value); }
+    void set_field_10(std::optional<std::uint32_t> value) noexcept { change::set_number<10>(c(), c().field_10, value); }
+    void set_field_11(std::optional<std::uint32_t> value) noexcept { change::set_number<11>(c(), c().field_11, value); }
+    void set_field_12(std::optional<std::uint32_t> value) noexcept { change::set_number<12>(c(), c().field_12, value); }
+    void set_field_13(std::optional<std::uint32_t> value) noexcept { change::set_number<13>(c(), c().field_13, value); }
+    void set_field_14(std::optional<std::uint32_t> value) noexcept { change::set_number<14>(c(), c().field_14, value); }
+    void set_field_15(std::optional<std::uint32_t> value) noexcept { change::set_number<15>(c(), c().field_15, value); }
+    void set_field_16(std::optional<std::uint32_t> value) noexcept { change::set_number<16>(c(), c().field_16, value); }
+    void set_field_17(std::optional<std::uint32_t> value) noexcept { change::set_number<17>(c(), c().field_17, value); }
+    void set_field_18(std::optional<std::uint32_t> value) noexcept { change::set_number<18>(c(), c().field_18, value); }
+
+private:
+    mava_tum_stats &c() noexcept { return static_cast<Derived &>(*this).mutable_c_record(); }
+};
+
+class stats_view : public record_view<stats_view, mava_tum_stats>,
+    public stats_fields<stats_view>
+{
+public:
+    using record_view::record_view;
+};
+
+class stats_editor : public record_editor<stats_editor, mava_tum_stats>,
+    public stats_fields<stats_editor>, public stats_changes<stats_editor>
+{
+public:
+    using record_editor::record_editor;
+};
+
+using stats_list = record_list<stats_view, mava_tum_stats>;
+using stats_editors = editor_list<stats_editor, mava_tum_stats>;
+
+// Eighteen traffic counters.
+class stats : public owning_record<stats, mava_tum_stats>,
+    public stats_fields<stats>, public stats_changes<stats>
+{
+public:
+    using owning_record::owning_record;
+};
+
+// ---- service_stats -------------------------------------------------------------------------------------------------
+
+class service_stats_view;
+class service_stats_editor;
+
+template <>
+struct codec_of<mava_tum_service_stats> {
+    using view = service_stats_view;
+    using editor = service_stats_editor;
+    static constexpr bool owns_memory = true;
+    static constexpr auto decode = mava_tum_service_stats_decode_ext;
+    static constexpr auto encode = mava_tum_service_stats_encode_ext;
+    static constexpr auto duplicate = mava_tum_service_stats_duplicate;
+};
+
+// The fields of service_stats. Derived has c_record().
+template <class Derived>
+class service_stats_fields
+{
+public:
+    // 1: text
+    std::optional<std::string_view> field_1() const noexcept { return access::text_of<1>(c(), c().field_1); }
+    // 2: record
+    stats_view field_2() const noexcept { return access::record_of<2, stats_view>(c(), c().field_2); }
+
+private:
+    const mava_tum_service_stats &c() const noexcept { return static_cast<const Derived &>(*this).c_record(); }
+};
+
+// Sets the fields of service_stats. Derived has mutable_c_record() and own_blocks().
+template <class Derived>
+class service_stats_changes
+{
+public:
+    result set_field_1(std::optional<std::string_view> text) noexcept { return change::set_text<1>(c(), c().field_1, blocks(), text); }
+    stats_editor edit_field_2() noexcept { return change::edit_record<2, stats_editor>(c(), c().field_2, blocks()); }
+    void clear_field_2() noexcept { change::clear_record<2>(c(), c().field_2); }
+
+private:
+    mava_tum_service_stats &c() noexcept { return static_cast<Derived &>(*this).mutable_c_record(); }
+    block_list *blocks() noexcept { return static_cast<Derived &>(*this).own_blocks(); }
+};
+
+class service_stats_view : public record_view<service_stats_view, mava_tum_service_stats>,
+    public service_stats_fields<service_stats_view>
+{
+public:
+    using record_view::record_view;
+};
+
+class service_stats_editor : public record_editor<service_stats_editor, mava_tum_service_stats>,
+    public service_stats_fields<service_stats_editor>, public service_stats_changes<service_stats_editor>
+{
+public:
+    using record_editor::record_editor;
+};
+
+using service_stats_list = record_list<service_stats_view, mava_tum_service_stats>;
+using service_stats_editors = editor_list<service_stats_editor, mava_tum_service_stats>;
+
+// A named service and its counters. An element of subscriber_stats.
+class service_stats : public owning_record<service_stats, mava_tum_service_stats>,
+    public service_stats_fields<service_stats>, public service_stats_changes<service_stats>
+{
+public:
+    using owning_record::owning_record;
+};
+
+// ---- subscriber_stats ----------------------------------------------------------------------------------------------
+
+class subscriber_stats_view;
+class subscriber_stats_editor;
+
+template <>
+struct codec_of<mava_tum_subscriber_stats> {
+    using view = subscriber_stats_view;
+    using editor = subscriber_stats_editor;
+    static constexpr bool owns_memory = true;
+    static constexpr auto decode = mava_tum_subscriber_stats_decode_ext;
+    static constexpr auto encode = mava_tum_subscriber_stats_encode_ext;
+    static constexpr auto duplicate = mava_tum_subscriber_stats_duplicate;
+};
+
+// The fields of subscriber_stats. Derived has c_record().
+template <class Derived>
+class subscriber_stats_fields
+{
+public:
+    // 1: 64-bit varint
+    std::optional<std::uint64_t> field_1() const noexcept { return access::number_of<1>(c(), c().field_1); }
+    // 2: varint
+    std::optional<std::uint32_t> field_2() const noexcept { return access::number_of<2>(c(), c().field_2); }
+    // 3: varint
+    std::optional<std::uint32_t> field_3() const noexcept { return access::number_of<3>(c(), c().field_3); }
+    // 4: varint
+    std::optional<std::uint32_t> field_4() const noexcept { return access::number_of<4>(c(), c().field_4); }
+    // 5: varint
+    std::optional<std::uint32_t> field_5() const noexcept { return access::number_of<5>(c(), c().field_5); }
+    // 6: varint
+    std::optional<std::uint32_t> field_6() const noexcept { return access::number_of<6>(c(), c().field_6); }
+    // 7: record
+    stats_view field_7() const noexcept { return access::record_of<7, stats_view>(c(), c().field_7); }
+    // 8: array of records
+    service_stats_list field_8() const noexcept { return access::list_of<8, service_stats_list>(c(), c().field_8, c().field_8_count); }
+    // 9: varint
+    std::optional<std::uint32_t> field_9() const noexcept { return access::number_of<9>(c(), c().field_9); }
+    // 10: record
+    stats_view field_10() const noexcept { return access::record_of<10, stats_view>(c(), c().field_10); }
+    // 11: varint
+    std::optional<std::uint32_t> field_11() const noexcept { return access::number_of<11>(c(), c().field_11); }
+    // 12: record
+    stats_view field_12() const noexcept { return access::record_of<12, stats_view>(c(), c().field_12); }
+
+private:
+    const mava_tum_subscriber_stats &c() const noexcept { return static_cast<const Derived &>(*this).c_record(); }
+};
+
+// Sets the fields of subscriber_stats. Derived has mutable_c_record() and own_blocks().
+template <class Derived>
+class subscriber_stats_changes
+{
+public:
+    void set_field_1(std::optional<std::uint64_t> value) noexcept { change::set_number<1>(c(), c().field_1, value); }
+    void set_field_2(std::optional<std::uint32_t> value) noexcept { change::set_number<2>(c(), c().field_2, value); }
+    void set_field_3(std::optional<std::uint32_t> value) noexcept { change::set_number<3>(c(), c().field_3, value); }
+    void set_field_4(std::optional<std::uint32_t> value) noexcept { change::set_number<4>(c(), c().field_4, value); }
+    void set_field_5(std::optional<std::uint32_t> value) noexcept { change::set_number<5>(c(), c().field_5, value); }
+    void set_field_6(std::optional<std::uint32_t> value) noexcept { change::set_number<6>(c(), c().field_6, value); }
+    stats_editor edit_field_7() noexcept { return change::edit_record<7, stats_editor>(c(), c().field_7, blocks()); }
+    void clear_field_7() noexcept { change::clear_record<7>(c(), c().field_7); }
+    service_stats_editors make_field_8(std::uint32_t count) noexcept { return change::make_list<8, service_stats_editors>(c(), c().field_8, c().field_8_count, blocks(), count); }
+    void set_field_9(std::optional<std::uint32_t> value) noexcept { change::set_number<9>(c(), c().field_9, value); }
+    stats_editor edit_field_10() noexcept { return change::edit_record<10, stats_editor>(c(), c().field_10, blocks()); }
+    void clear_field_10() noexcept { change::clear_record<10>(c(), c().field_10); }
+    void set_field_11(std::optional<std::uint32_t> value) noexcept { change::set_number<11>(c(), c().field_11, value); }
+    stats_editor edit_field_12() noexcept { return change::edit_record<12, stats_editor>(c(), c().field_12, blocks()); }
+    void clear_field_12() noexcept { change::clear_record<12>(c(), c().field_12); }
+
+private:
+    mava_tum_subscriber_stats &c() noexcept { return static_cast<Derived &>(*this).mutable_c_record(); }
+    block_list *blocks() noexcept { return static_cast<Derived &>(*this).own_blocks(); }
+};
+
+class subscriber_stats_view : public record_view<subscriber_stats_view, mava_tum_subscriber_stats>,
+    public subscriber_stats_fields<subscriber_stats_view>
+{
+public:
+    using record_view::record_view;
+};
+
+class subscriber_stats_editor : public record_editor<subscriber_stats_editor, mava_tum_subscriber_stats>,
+    public subscriber_stats_fields<subscriber_stats_editor>, public subscriber_stats_changes<subscriber_stats_editor>
+{
+public:
+    using record_editor::record_editor;
+};
+
+using subscriber_stats_list = record_list<subscriber_stats_view, mava_tum_subscriber_stats>;
+using subscriber_stats_editors = editor_list<subscriber_stats_editor, mava_tum_subscriber_stats>;
+
+// A subscriber's statistics: totals, blocks of counters, services.
+class subscriber_stats : public owning_record<subscriber_stats, mava_tum_subscriber_stats>,
+    public subscriber_stats_fields<subscriber_stats>, public subscriber_stats_changes<subscriber_stats>
+{
+public:
+    using owning_record::owning_record;
+};
+
+} // namespace mava_tum::cpp
+// clang-format on
+
+#endif

@@ -1,0 +1,168 @@
+"""Writes the classes of the C++ layer for the messages of one header of the codec."""
+from codec_header import HeaderError
+
+PREFIX = "mava_tum_"
+
+# Names of the classes' own members, which no field may take.
+RESERVED = {
+    "decode", "encode", "encode_to", "encoded_size", "copy_from", "clone", "clear", "view", "c_record",
+    "mutable_c_record", "own_blocks", "has_value", "c", "blocks",
+}
+
+NUMBER_TYPES = {"varint": "std::uint32_t", "64-bit varint": "std::uint64_t", "fixed32": "std::uint32_t"}
+
+
+def cpp_name(record):
+    return record.removeprefix(PREFIX)
+
+
+def getter(field):
+    """Type, and the call that reads the field."""
+    n, name = field.number, field.name
+    if field.kind in NUMBER_TYPES:
+        return f"std::optional<{NUMBER_TYPES[field.kind]}>", f"access::number_of<{n}>(c(), c().{name})"
+    if field.kind == "text":
+        return "std::optional<std::string_view>", f"access::text_of<{n}>(c(), c().{name})"
+    if field.kind == "bytes":
+        return "std::optional<bytes_view>", f"access::bytes_of<{n}>(c(), c().{name})"
+    if field.kind == "record":
+        view = f"{cpp_name(field.type)}_view"
+        return view, f"access::record_of<{n}, {view}>(c(), c().{name})"
+    items = "text_list" if field.kind == "array of texts" else f"{cpp_name(field.type)}_list"
+    return items, f"access::list_of<{n}, {items}>(c(), c().{name}, c().{field.count})"
+
+
+def setters(field):
+    """Type, name and parameter, and the call; for each function that changes the field."""
+    n, name = field.number, field.name
+    if field.kind in NUMBER_TYPES:
+        return [("void", f"set_{name}(std::optional<{NUMBER_TYPES[field.kind]}> value)",
+                 f"change::set_number<{n}>(c(), c().{name}, value);")]
+    if field.kind == "text":
+        return [("result", f"set_{name}(std::optional<std::string_view> text)",
+                 f"return change::set_text<{n}>(c(), c().{name}, blocks(), text);")]
+    if field.kind == "bytes":
+        return [("result", f"set_{name}(std::optional<bytes_view> bytes)",
+                 f"return change::set_bytes<{n}>(c(), c().{name}, blocks(), bytes);")]
+    if field.kind == "record":
+        editor = f"{cpp_name(field.type)}_editor"
+        return [(editor, f"edit_{name}()",
+                 f"return change::edit_record<{n}, {editor}>(c(), c().{name}, blocks());"),
+                ("void", f"clear_{name}()", f"change::clear_record<{n}>(c(), c().{name});")]
+    target = f"c(), c().{name}, c().{field.count}, blocks()"
+    if field.kind == "array of texts":
+        return [("result", f"set_{name}(span<const std::string_view> texts)",
+                 f"return change::set_texts<{n}>({target}, texts);")]
+    editors = f"{cpp_name(field.type)}_editors"
+    return [(editors, f"make_{name}(std::uint32_t count)",
+             f"return change::make_list<{n}, {editors}>({target}, count);")]
+
+
+def fields_class(message):
+    yield f"// The fields of {message.name}. Derived has c_record()."
+    yield "template <class Derived>"
+    yield f"class {message.name}_fields"
+    yield "{"
+    yield "public:"
+    for field in message.fields:
+        type_name, call = getter(field)
+        note = f"; {field.note}" if field.note else ""
+        yield f"    // {field.number}: {field.kind}{note}"
+        yield f"    {type_name} {field.name}() const noexcept {{ return {call}; }}"
+    yield ""
+    yield "private:"
+    yield (f"    const {message.record} &c() const noexcept "
+           "{ return static_cast<const Derived &>(*this).c_record(); }")
+    yield "};"
+
+
+def changes_class(message):
+    yield f"// Sets the fields of {message.name}. Derived has mutable_c_record() and own_blocks()."
+    yield "template <class Derived>"
+    yield f"class {message.name}_changes"
+    yield "{"
+    yield "public:"
+    functions = [function for field in message.fields for function in setters(field)]
+    for type_name, declaration, call in functions:
+        yield f"    {type_name} {declaration} noexcept {{ {call} }}"
+    yield ""
+    yield "private:"
+    yield f"    {message.record} &c() noexcept {{ return static_cast<Derived &>(*this).mutable_c_record(); }}"
+    if any("blocks()" in call for _, _, call in functions):
+        yield "    block_list *blocks() noexcept { return static_cast<Derived &>(*this).own_blocks(); }"
+    yield "};"
+
+
+def codec_class(message, owns_memory):
+    name, record = message.name, message.record
+    yield f"class {name}_view;"
+    yield f"class {name}_editor;"
+    yield ""
+    yield "template <>"
+    yield f"struct codec_of<{record}> {{"
+    yield f"    using view = {name}_view;"
+    yield f"    using editor = {name}_editor;"
+    yield f"    static constexpr bool owns_memory = {'true' if owns_memory else 'false'};"
+    for function in ("decode", "encode", "duplicate"):
+        suffix = "" if function == "duplicate" else "_ext"
+        yield f"    static constexpr auto {function} = {record}_{function}{suffix};"
+    yield "};"
+
+
+def using_classes(message):
+    name, record = message.name, message.record
+    yield f"class {name}_view : public record_view<{name}_view, {record}>,"
+    yield f"    public {name}_fields<{name}_view>"
+    yield "{"
+    yield "public:"
+    yield "    using record_view::record_view;"
+    yield "};"
+    yield ""
+    yield f"class {name}_editor : public record_editor<{name}_editor, {record}>,"
+    yield f"    public {name}_fields<{name}_editor>, public {name}_changes<{name}_editor>"
+    yield "{"
+    yield "public:"
+    yield "    using record_editor::record_editor;"
+    yield "};"
+    yield ""
+    yield f"using {name}_list = record_list<{name}_view, {record}>;"
+    yield f"using {name}_editors = editor_list<{name}_editor, {record}>;"
+    yield ""
+    yield f"// {message.summary}"
+    yield f"class {name} : public owning_record<{name}, {record}>,"
+    yield f"    public {name}_fields<{name}>, public {name}_changes<{name}>"
+    yield "{"
+    yield "public:"
+    yield "    using owning_record::owning_record;"
+    yield "};"
+
+
+def message_lines(message, owns_memory):
+    taken = RESERVED.intersection(field.name for field in message.fields)
+    if taken:
+        raise HeaderError(f"{message.record}: the C++ layer has a member of its own called {taken.pop()}")
+    yield f"// ---- {message.name} ".ljust(119, "-")
+    yield ""
+    for part in (codec_class(message, owns_memory), fields_class(message), changes_class(message),
+                 using_classes(message)):
+        yield from part
+        yield ""
+
+
+def layer_header(header, owning):
+    guard = f"MAVA_TUM_CPP_{header.stem.upper()}_HPP"
+    lines = [
+        f"// Classes over the records of mava_tum/{header.stem}.h, which says what the fields are.",
+        "//",
+        "// Written by tools/cpp_layer/make_cpp_layer from that header: change either of them, not this file.",
+        f"#ifndef {guard}", f"#define {guard}", "",
+        *(f'#include "mava_tum/cpp/{stem}.hpp"'
+          for stem in sorted(header.includes + ["field_access", "field_change", "owning_record", "record_editor",
+                                                "record_view"])),
+        f'#include "mava_tum/{header.stem}.h"', "",
+        "// clang-format off", "namespace mava_tum::cpp", "{", "",
+    ]
+    for message in header.messages:
+        lines += message_lines(message, message.record in owning)
+    lines += ["} // namespace mava_tum::cpp", "// clang-format on", "", "#endif"]
+    return "\n".join(lines) + "\n"
