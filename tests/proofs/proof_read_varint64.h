@@ -19,8 +19,8 @@ struct varint64_end {
 */
 
 /*@
-  requires input: span(at, end);
-  requires first: \valid_read(at - 1) && \base_addr(at - 1) == \base_addr(at) && at[-1] == first && first >= 0x80;
+  requires input: span(at - 1, end) && inside(at - 1, at, end);
+  requires first: at[-1] == first && first >= 0x80;
   terminates \true;
   exits \false;
   assigns \nothing;
