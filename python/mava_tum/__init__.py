@@ -1,0 +1,56 @@
+"""Subscriber session records to protobuf wire bytes and back.
+
+    decode, encode            one of the 40 messages, as a dict of the fields that are present
+    app_decode, app_encode    the same through one of the 19 adapters, as a dict of the application's record
+    messages, adapters        the names that these take
+    fields, app_members       what a dict may hold
+
+Everything that goes wrong is raised as an `Error`."""
+
+from __future__ import annotations
+
+from .application_reader import app_decode
+from .application_writer import app_encode
+from .codec_reader import decode
+from .codec_writer import encode
+from .errors import DecodeError, Error, FieldTypeError, FieldValueError, LibraryError, UnknownNameError
+from .schema import ADAPTERS, APPLICATION_RECORDS, MESSAGES, Field, Member, find_adapter, find_message
+
+__all__ = [
+    "DecodeError",
+    "Error",
+    "Field",
+    "FieldTypeError",
+    "FieldValueError",
+    "LibraryError",
+    "Member",
+    "UnknownNameError",
+    "adapters",
+    "app_decode",
+    "app_encode",
+    "app_members",
+    "decode",
+    "encode",
+    "fields",
+    "messages",
+]
+
+
+def messages() -> tuple[str, ...]:
+    """The names of the messages."""
+    return tuple(MESSAGES)
+
+
+def adapters() -> tuple[str, ...]:
+    """The names of the adapters."""
+    return tuple(ADAPTERS)
+
+
+def fields(message: str) -> tuple[Field, ...]:
+    """The fields of a message in the order of their numbers."""
+    return tuple(find_message(message).fields.values())
+
+
+def app_members(adapter: str) -> tuple[Member, ...]:
+    """The members of the record that an adapter decodes into."""
+    return tuple(APPLICATION_RECORDS[find_adapter(adapter).decode].values())

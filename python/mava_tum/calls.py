@@ -1,0 +1,24 @@
+"""The calls into the library."""
+
+from __future__ import annotations
+
+from collections.abc import Callable, Mapping
+from typing import Any
+
+from .library import ffi, library
+from .schema import Message
+
+
+def call_codec(message: Message, function: str, arguments: Mapping[str, Any]) -> Any:
+    """Calls one of the four functions of a message. They take what their message has use for: arguments go by name, and
+    those without a parameter are left out."""
+    parameters = message.functions[function]
+    return getattr(library, f"{message.c_type}_{function}")(*[arguments[each] for each in parameters])
+
+
+def encoded(encode: Callable[[Any, int], int]) -> bytes:
+    """What an encode function writes: it is asked for the size first, then for the bytes."""
+    size = encode(ffi.NULL, 0)
+    buffer = ffi.new("uint8_t[]", size)
+    encode(buffer, size)
+    return bytes(ffi.buffer(buffer, size))

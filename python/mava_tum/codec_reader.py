@@ -1,0 +1,91 @@
+"""Wire bytes to a dict, through the codec."""
+
+from __future__ import annotations
+
+from typing import Any
+
+from .calls import call_codec
+from .errors import DecodeError
+from .library import ffi, library
+from .memory import Blocks
+from .schema import MESSAGES, RESULTS, Field, Message, find_message
+from .values import CODEC_ORDER, from_bytes, to_dotted, to_text
+
+
+def decode(name: str, data: bytes | bytearray | memoryview, *, dotted: bool = False,
+           memory_limit: int | None = None) -> dict[str, Any]:
+    """Decodes one message. Fields that the bytes do not hold are not in the result.
+
+    `dotted` gives IPv4 addresses as texts. `memory_limit` bounds the bytes that the codec may ask for: set it for bytes
+    from anywhere, since a list of empty elements asks for many times its size. Raises DecodeError."""
+    message = find_message(name)
+    record = ffi.new(f"{message.c_type} *")
+    # A copy, unless it is bytes: nobody may change the input while it is read.
+    content = from_bytes("data", data)
+    with Blocks(memory_limit) as blocks, ffi.from_buffer("uint8_t[]", content) as buffer:
+        # Aliased: bytes fields need no block, and the input stays where it is until they have been read.
+        arguments = {"record": record, "data": buffer, "length": len(buffer), "flags": library.MAVA_TUM_ALIAS,
+                     **blocks.arguments()}
+        result = call_codec(message, "decode_ext", arguments)
+        try:
+            fields = read_record(message, record, dotted)
+        finally:
+            call_codec(message, "free_ext", arguments)
+        if result != library.MAVA_TUM_OK:
+            raise _decode_error(message, result, fields, blocks)
+    return fields
+
+
+def _decode_error(message: Message, result: int, partial: dict[str, Any], blocks: Blocks) -> DecodeError:
+    name, text = RESULTS[result]
+    if blocks.refused:
+        limit = "this machine has" if blocks.limit is None else f"memory_limit = {blocks.limit} bytes"
+        text = f"the message asks for more memory than {limit}"
+    return DecodeError(message.name, result, name, text, partial)
+
+
+def read_record(message: Message, record: Any, dotted: bool) -> dict[str, Any]:
+    """The fields whose presence bits are set."""
+    mask = record.presence_mask
+    return {field.name: READERS[field.kind](field, record, dotted)
+            for field in message.fields.values() if mask >> field.bit & 1}
+
+
+def read_number(field: Field, record: Any, dotted: bool) -> int | str:
+    number: int = getattr(record, field.name)
+    return to_dotted(number, CODEC_ORDER) if dotted and field.address else number
+
+
+def read_bytes(field: Field, record: Any, dotted: bool) -> bytes:
+    value = getattr(record, field.name)
+    return bytes(ffi.buffer(value.data, value.length))
+
+
+def read_text(field: Field, record: Any, dotted: bool) -> str:
+    return to_text(ffi.string(getattr(record, field.name)))
+
+
+def read_nested(field: Field, record: Any, dotted: bool) -> dict[str, Any]:
+    return read_record(MESSAGES[field.of], getattr(record, field.name), dotted)
+
+
+def read_record_array(field: Field, record: Any, dotted: bool) -> list[dict[str, Any]]:
+    elements, count = getattr(record, field.name), getattr(record, field.count)
+    element = MESSAGES[field.of]
+    return [read_record(element, elements[index], dotted) for index in range(count)]
+
+
+def read_text_array(field: Field, record: Any, dotted: bool) -> list[str]:
+    elements, count = getattr(record, field.name), getattr(record, field.count)
+    return [to_text(ffi.string(elements[index])) for index in range(count)]
+
+
+READERS = {
+    "varint": read_number,
+    "fixed32": read_number,
+    "bytes": read_bytes,
+    "text": read_text,
+    "record": read_nested,
+    "record_array": read_record_array,
+    "text_array": read_text_array,
+}

@@ -1,0 +1,43 @@
+"""What this package raises. Everything is an `Error`; the second base is the built-in that a caller might expect."""
+
+from __future__ import annotations
+
+from typing import Any
+
+
+class Error(Exception):
+    """The base of all errors of this package."""
+
+
+class LibraryError(Error, ImportError):
+    """The shared library cannot be loaded."""
+
+
+class UnknownNameError(Error, LookupError):
+    """There is no message, adapter or field of this name. `nearest` are the names that come close."""
+
+    def __init__(self, text: str, nearest: tuple[str, ...]) -> None:
+        super().__init__(text + (f"; nearest: {', '.join(nearest)}" if nearest else ""))
+        self.nearest = nearest
+
+
+class FieldTypeError(Error, TypeError):
+    """A value has a type that its field cannot hold. The text begins with the path of the field."""
+
+
+class FieldValueError(Error, ValueError):
+    """A value is outside of what its field can hold. The text begins with the path of the field."""
+
+
+class DecodeError(Error, ValueError):
+    """The bytes are no such message.
+
+    `result` is the library's result code, `result_name` what the headers call it, `partial` the fields that were decoded
+    before the fault."""
+
+    def __init__(self, message: str, result: int, result_name: str, text: str, partial: dict[str, Any]) -> None:
+        super().__init__(f"{message}: {result_name} ({result}): {text}")
+        self.message = message
+        self.result = result
+        self.result_name = result_name
+        self.partial = partial

@@ -1,0 +1,69 @@
+"""Single values between Python and C: numbers, addresses, texts, bytes. An error names the path of the field."""
+
+from __future__ import annotations
+
+import ipaddress
+import operator
+from typing import Any, Literal
+
+from .errors import FieldTypeError, FieldValueError
+
+ByteOrder = Literal["little", "big"]
+
+# The codec holds an address so that its bytes stand on the wire in network order; the application holds it as a number.
+CODEC_ORDER: ByteOrder = "little"
+APPLICATION_ORDER: ByteOrder = "big"
+
+IPV4_BYTES = 4
+
+
+def to_dotted(number: int, order: ByteOrder) -> str:
+    return str(ipaddress.IPv4Address(number.to_bytes(IPV4_BYTES, order)))
+
+
+def from_dotted(path: str, text: str, order: ByteOrder) -> int:
+    try:
+        return int.from_bytes(ipaddress.IPv4Address(text).packed, order)
+    except ValueError:
+        raise FieldValueError(f"{path}: {text!r} is no IPv4 address") from None
+
+
+def to_number(path: str, value: Any, bits: int) -> int:
+    """An unsigned integer of so many bits. A truth value is none, although Python counts it among them."""
+    if isinstance(value, bool):
+        raise FieldTypeError(f"{path}: takes a number, not bool")
+    try:
+        number = operator.index(value)
+    except TypeError:
+        raise FieldTypeError(f"{path}: takes a number, not {type(value).__name__}") from None
+    if not 0 <= number < 1 << bits:
+        raise FieldValueError(f"{path}: {number} is outside of 0 to {(1 << bits) - 1}")
+    return number
+
+
+def to_number_or_address(path: str, value: Any, bits: int, address: str, order: ByteOrder) -> int:
+    if address == "ipv4" and isinstance(value, str):
+        return from_dotted(path, value, order)
+    return to_number(path, value, bits)
+
+
+def to_text(raw: bytes) -> str:
+    """A text as it arrived. No character set is asked of it: what is not UTF-8 comes back as the same bytes."""
+    return raw.decode("utf-8", "surrogateescape")
+
+
+def from_text(path: str, value: Any) -> bytes:
+    if not isinstance(value, str):
+        raise FieldTypeError(f"{path}: takes str, not {type(value).__name__}")
+    if "\0" in value:
+        raise FieldValueError(f"{path}: a text ends at its first NUL, and this one has a NUL inside")
+    try:
+        return value.encode("utf-8", "surrogateescape")
+    except UnicodeEncodeError as error:
+        raise FieldValueError(f"{path}: {error}") from None
+
+
+def from_bytes(path: str, value: Any) -> bytes:
+    if not isinstance(value, (bytes, bytearray, memoryview)):
+        raise FieldTypeError(f"{path}: takes bytes, not {type(value).__name__}")
+    return bytes(value)

@@ -1,0 +1,25 @@
+"""What all tests of the module share: where things are, how many examples to try."""
+
+from __future__ import annotations
+
+import os
+import sys
+from pathlib import Path
+
+import pytest
+from hypothesis import HealthCheck, settings
+
+SOURCE = Path(os.environ["MAVA_TUM_SOURCE"])
+sys.path.insert(0, str(SOURCE / "python" / "generate"))
+
+# The ordinary run tries the same few examples each time; tools/check/python many and others.
+EXAMPLES = os.environ.get("MAVA_TUM_EXAMPLES")
+settings.register_profile("ordinary", max_examples=15, derandomize=True, deadline=None, database=None,
+                          suppress_health_check=[HealthCheck.too_slow, HealthCheck.data_too_large])
+settings.register_profile("long", settings.get_profile("ordinary"), max_examples=int(EXAMPLES or 1), derandomize=False)
+settings.load_profile("long" if EXAMPLES else "ordinary")
+
+
+@pytest.fixture(scope="session")
+def source_folder() -> Path:
+    return SOURCE

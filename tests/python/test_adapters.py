@@ -1,0 +1,94 @@
+"""Do the records of applications survive the way into C and back, and onto the wire and back?"""
+
+from __future__ import annotations
+
+from typing import Any
+
+import pytest
+from hypothesis import given
+from hypothesis import strategies as st
+
+import mava_tum
+from mava_tum import application_reader, application_writer
+from mava_tum.library import ffi
+from mava_tum.schema import ADAPTERS, APPLICATION_RECORDS
+from runtime_peer import from_wire, to_peer
+from strategies import application_records
+
+# The message that an adapter writes, where it is not called the same.
+MESSAGE_OF = {"rec_start_res": "rec_resp", "rec_complete_res": "rec_resp", "rec_sess_res": "rec_sess_resp"}
+
+# Adapters that send every member when all are there, and receive it in the same place.
+SYMMETRIC = ("subscriber_route_resp", "rec_start_res", "rec_complete_req", "rec_complete_res", "rec_sess_res",
+             "srg_group_rec_start_req", "srg_group_rec_resp", "srg_group_rec_complete_req",
+             "srg_group_rec_replay_req", "srg_group_rec_replay_resp")
+
+
+@pytest.mark.parametrize("c_type", APPLICATION_RECORDS)
+@given(data=st.data())
+def test_every_member_is_read_as_it_was_written(c_type: str, data: Any) -> None:
+    fields = data.draw(application_records(c_type))
+    record = ffi.new(f"{c_type} *")
+    application_writer.fill_record(c_type, record, fields, c_type)
+    assert application_reader.read_record(c_type, record, dotted=False) == fields
+    dotted = application_reader.read_record(c_type, record, dotted=True)
+    again = ffi.new(f"{c_type} *")
+    application_writer.fill_record(c_type, again, dotted, c_type)
+    assert bytes(ffi.buffer(again)) == bytes(ffi.buffer(record))
+
+
+@pytest.mark.parametrize("adapter", mava_tum.adapters())
+@given(data=st.data())
+def test_what_an_adapter_sends_is_a_message_to_the_codec_and_to_the_runtime(adapter: str, data: Any) -> None:
+    wire = mava_tum.app_encode(adapter, data.draw(application_records(ADAPTERS[adapter].encode)))
+    message = MESSAGE_OF.get(adapter, adapter)
+    fields = mava_tum.decode(message, wire)
+    assert from_wire(message, wire) == to_peer(message, fields)
+    assert mava_tum.encode(message, fields) == wire
+
+
+@pytest.mark.parametrize("adapter", SYMMETRIC)
+@given(data=st.data())
+def test_what_a_symmetric_adapter_sends_arrives(adapter: str, data: Any) -> None:
+    fields = data.draw(application_records(ADAPTERS[adapter].encode))
+    assert mava_tum.app_decode(adapter, mava_tum.app_encode(adapter, fields)) == fields
+
+
+@pytest.mark.parametrize("adapter", mava_tum.adapters())
+@given(wire=st.binary(max_size=40))
+def test_any_bytes_give_a_record_that_can_be_sent(adapter: str, wire: bytes) -> None:
+    fields = mava_tum.app_decode(adapter, wire)
+    assert isinstance(mava_tum.app_encode(adapter, fields), bytes)
+
+
+@pytest.mark.parametrize("adapter", mava_tum.adapters())
+def test_nothing_arrives_as_a_record_of_zeros_with_every_member(adapter: str) -> None:
+    fields = mava_tum.app_decode(adapter, b"")
+    assert list(fields) == [member.name for member in mava_tum.app_members(adapter)]
+    record = ffi.new(f"{ADAPTERS[adapter].decode} *")
+    application_writer.fill_record(ADAPTERS[adapter].decode, record, fields, adapter)
+    assert not any(bytes(ffi.buffer(record)))
+
+
+def test_a_session_with_addresses_texts_and_a_list_arrives() -> None:
+    sent = {"feature_mask": 1 << 0 | 1 << 9 | 1 << 10, "ipv4_address": "192.0.2.17", "ipv6_part_2": bytes(range(16)),
+            "session_name": "user@example.com", "qos": [{"value_1": 1, "text_3": "gold"}, {"value_1": 2}]}
+    received = mava_tum.app_decode("session_context", mava_tum.app_encode("session_context", sent), dotted=True)
+    for name in ("feature_mask", "ipv4_address", "ipv6_part_2", "session_name"):
+        assert received[name] == sent[name]
+    assert received["qos_count"] == 2
+    assert [(each["value_1"], each["text_3"]) for each in received["qos"]] == [(1, "gold"), (2, "")]
+
+
+@pytest.mark.parametrize(("sent", "arriving"), [(8, 8), (12, 8), (260, 4)])
+def test_of_a_long_list_arrive_as_many_elements_as_the_count_says(sent: int, arriving: int) -> None:
+    wire = mava_tum.encode("session_context", {"qos": [{"field_1": each} for each in range(sent)]})
+    received = mava_tum.app_decode("session_context", wire)
+    assert received["qos_count"] == arriving
+    assert [each["value_1"] for each in received["qos"]] == list(range(arriving))
+
+
+def test_a_count_of_the_callers_own_is_kept() -> None:
+    sent = {"field_3": [{"field_1": 1}, {"field_1": 2}], "field_3_count": 1}
+    fields = mava_tum.decode("srg_group_rec_replay_req", mava_tum.app_encode("srg_group_rec_replay_req", sent))
+    assert fields == {"field_3": [{"field_1": 1}]}

@@ -1,0 +1,150 @@
+"""Is every block given back, whatever happens?"""
+
+from __future__ import annotations
+
+import gc
+import tracemalloc
+import weakref
+from concurrent.futures import ThreadPoolExecutor
+from typing import Any
+
+import pytest
+from hypothesis import given
+from hypothesis import strategies as st
+
+import mava_tum
+from mava_tum import codec_reader
+from mava_tum.memory import Blocks
+from strategies import codec_records
+
+SESSION = {"field_6": b"\1\2", "session_data": {"field_5": "user", "l2tp": {"field_19": "name"}},
+           "qos": [{"field_3": "gold", "field_12": "x"}, {}], "route_ipv6": [{"field_3": bytes(16), "field_9": "r"}]}
+
+
+class CountingBlocks(Blocks):
+    """Counts what goes out and comes back, and fails on request."""
+
+    every: list[CountingBlocks] = []
+    fail_at: int | None = None
+
+    def __init__(self, limit: int | None = None) -> None:
+        super().__init__(limit)
+        self.obtained = self.given_back = self.calls = 0
+        CountingBlocks.every.append(self)
+
+    def obtain(self, size: int) -> Any:
+        self.calls += 1
+        if self.calls - 1 == CountingBlocks.fail_at:
+            return codec_reader.ffi.NULL
+        self.obtained += 1
+        return super().obtain(size)
+
+    def give_back(self, pointer: Any) -> None:
+        super().give_back(pointer)
+        self.given_back += 1
+
+
+@pytest.fixture(autouse=True)
+def counted(monkeypatch: pytest.MonkeyPatch) -> type[CountingBlocks]:
+    monkeypatch.setattr(codec_reader, "Blocks", CountingBlocks)
+    monkeypatch.setattr(CountingBlocks, "every", [])
+    monkeypatch.setattr(CountingBlocks, "fail_at", None)
+    return CountingBlocks
+
+
+def only_one(counted: type[CountingBlocks]) -> CountingBlocks:
+    (blocks,) = counted.every
+    return blocks
+
+
+def test_a_decode_gives_back_what_it_obtained(counted: type[CountingBlocks]) -> None:
+    assert mava_tum.decode("session_context", mava_tum.encode("session_context", SESSION)) == SESSION
+    blocks = only_one(counted)
+    assert blocks.obtained == blocks.given_back == 7  # two arrays, five texts; bytes are not copied
+
+
+@pytest.mark.parametrize("message", mava_tum.messages())
+@given(data=st.data())
+def test_every_message_gives_back_what_it_obtained(message: str, data: Any) -> None:
+    wire = mava_tum.encode(message, data.draw(codec_records(message)))
+    CountingBlocks.every.clear()
+    mava_tum.decode(message, wire)
+    blocks = only_one(CountingBlocks)
+    assert blocks.obtained == blocks.given_back
+
+
+def test_a_failing_allocation_leaves_nothing_behind(counted: type[CountingBlocks]) -> None:
+    wire = mava_tum.encode("session_context", SESSION)
+    for counted.fail_at in range(7):
+        counted.every.clear()
+        with pytest.raises(mava_tum.DecodeError, match=r"MAVA_TUM_NO_MEMORY \(-4\)"):
+            mava_tum.decode("session_context", wire)
+        blocks = only_one(counted)
+        assert blocks.calls == counted.fail_at + 1
+        assert blocks.obtained == blocks.given_back
+
+
+def test_a_broken_message_gives_back_what_it_obtained_before(counted: type[CountingBlocks]) -> None:
+    wire = mava_tum.encode("session_context", SESSION)
+    for length in range(len(wire)):
+        counted.every.clear()
+        try:
+            mava_tum.decode("session_context", wire[:length])
+        except mava_tum.DecodeError:
+            pass
+        blocks = only_one(counted)
+        assert blocks.obtained == blocks.given_back
+
+
+def test_what_a_second_record_drops_goes_with_the_decode(counted: type[CountingBlocks]) -> None:
+    wire = mava_tum.encode("session_context", {"httpr": {"field_2": "first"}}) * 2
+    mava_tum.decode("session_context", wire)
+    blocks = only_one(counted)
+    assert (blocks.obtained, blocks.given_back) == (2, 1)
+    gone = weakref.ref(blocks)
+    counted.every.clear()
+    del blocks
+    assert gone() is None, "something still holds the blocks of a decode that is over"
+
+
+def test_memory_does_not_grow_with_the_number_of_calls(monkeypatch: pytest.MonkeyPatch) -> None:
+    monkeypatch.setattr(codec_reader, "Blocks", Blocks)
+    wire = mava_tum.encode("session_context", SESSION) + mava_tum.encode("session_context", {"acl": {"field_2": "a"}}) * 2
+    application = mava_tum.app_decode("session_context", wire)
+
+    def use_everything() -> None:
+        for _ in range(200):
+            mava_tum.encode("session_context", mava_tum.decode("session_context", wire))
+            mava_tum.app_encode("session_context", application)
+
+    use_everything()
+    tracemalloc.start()
+    use_everything()
+    gc.collect()
+    before, _ = tracemalloc.get_traced_memory()
+    use_everything()
+    gc.collect()
+    after, _ = tracemalloc.get_traced_memory()
+    tracemalloc.stop()
+    assert after - before < 200 * 8, "at least a word stays behind in each call"
+
+
+def test_an_empty_block_is_a_block() -> None:
+    with Blocks(limit=0) as blocks:
+        assert blocks.obtain(0) != codec_reader.ffi.NULL
+        assert blocks.obtain(1) == codec_reader.ffi.NULL
+        assert blocks.refused
+
+
+def test_a_size_that_no_machine_has_is_refused() -> None:
+    for size in (1 << 62, (1 << 64) - 1):
+        with Blocks() as blocks:
+            assert blocks.obtain(size) == codec_reader.ffi.NULL
+            assert blocks.refused
+
+
+def test_threads_decode_at_the_same_time() -> None:
+    wire = mava_tum.encode("session_context", SESSION)
+    with ThreadPoolExecutor(8) as pool:
+        for fields in pool.map(lambda _: mava_tum.decode("session_context", wire), range(400)):
+            assert fields == SESSION

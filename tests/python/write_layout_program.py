@@ -1,0 +1,47 @@
+"""Writes a C program that prints what its compiler makes of the public headers: for each record of the table a line with
+name and size, then one for each member with name, offset and size.
+
+    write_layout_program.py <include folder> <file to write>"""
+
+from __future__ import annotations
+
+import sys
+from pathlib import Path
+
+sys.path.insert(0, str(Path(__file__).parents[2] / "python" / "generate"))
+
+from read_headers import Headers, read_headers  # noqa: E402  (found by the line above)
+
+PROGRAM = """#include "mava_tum.h"
+
+#include <stddef.h>
+#include <stdio.h>
+
+#define RECORD(record) printf("%s %zu\\n", #record, sizeof(record))
+#define MEMBER(record, member) \\
+    printf("%s.%s %zu %zu\\n", #record, #member, offsetof(record, member), sizeof(((record *)0)->member))
+
+int main(void)
+{{
+{lines}
+    return 0;
+}}
+"""
+
+
+def lines_for(headers: Headers) -> list[str]:
+    lines = []
+    for record, members in headers.records.items():
+        lines.append(f"    RECORD({record});")
+        lines += [f"    MEMBER({record}, {member.name});" for member in members]
+    return lines
+
+
+def main(arguments: list[str]) -> int:
+    include_folder, output = (Path(each) for each in arguments)
+    output.write_text(PROGRAM.format(lines="\n".join(lines_for(read_headers(include_folder)))), encoding="utf-8")
+    return 0
+
+
+if __name__ == "__main__":
+    sys.exit(main(sys.argv[1:]))
