@@ -42,3 +42,5 @@ endforeach()
 configure_file(cmake/mava_tum.pc.in "${PROJECT_BINARY_DIR}/mava_tum.pc" @ONLY)
 install(FILES "${PROJECT_BINARY_DIR}/mava_tum.pc"
     DESTINATION "${CMAKE_INSTALL_LIBDIR}/pkgconfig" COMPONENT development)
+
+include(cmake/manual_pages.cmake)
