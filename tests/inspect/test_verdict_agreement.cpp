@@ -1,0 +1,40 @@
+#include "inspect/verdict_agreement.h"
+
+#include <gtest/gtest.h>
+
+namespace
+{
+
+using namespace mava_tum_test;
+
+// A quarter of a million here; tools/check/inspect_verdict goes on from there.
+TEST(inspect_verdict, equals_the_result_of_the_library_on_random_and_mutated_inputs)
+{
+    const agreement sum = compare_many(6250, 1);
+    EXPECT_EQ(sum.difference, "");
+    EXPECT_EQ(sum.inputs, 250000u);
+    for (const uint64_t often : {sum.results[0], sum.results[1], sum.results[2], sum.results[3]})
+        EXPECT_GT(often, 10000u);
+}
+
+TEST(inspect_verdict, equals_the_result_of_the_library_on_every_input_of_one_and_two_bytes)
+{
+    for (const mava_tum_inspect::message_description &message : mava_tum_inspect::all_messages()) {
+        for (uint32_t value = 0; value < 0x10000; ++value) {
+            const uint8_t input[] = {static_cast<uint8_t>(value), static_cast<uint8_t>(value >> 8)};
+            ASSERT_EQ(compare_with_library(message, input, 2).difference, "");
+        }
+        for (uint32_t value = 0; value < 0x100; ++value) {
+            const uint8_t input = static_cast<uint8_t>(value);
+            ASSERT_EQ(compare_with_library(message, &input, 1).difference, "");
+        }
+    }
+}
+
+TEST(inspect_verdict, of_nothing_is_success_also_without_a_pointer)
+{
+    for (const mava_tum_inspect::message_description &message : mava_tum_inspect::all_messages())
+        EXPECT_EQ(compare_with_library(message, nullptr, 0).difference, "");
+}
+
+} // namespace

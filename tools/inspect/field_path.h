@@ -1,0 +1,27 @@
+// Where a field stands, as names: "session_data.l2tp.field_2", "route_ipv4[3].field_9", "session_data.#99" for a number
+// that the record does not know.
+#pragma once
+
+#include "inspect/message_table.h"
+#include "inspect/text_builder.h"
+
+#include <cstdint>
+
+namespace mava_tum_inspect
+{
+
+// One step from a record into a field. Steps live on the stack of the walk and point up to where they came from.
+struct path_step {
+    const path_step *parent = nullptr;        // null: the record is the message itself
+    const field_description *field = nullptr; // null: unknown
+    uint32_t number = 0;
+    uint64_t index = 0; // of an array's element, from 0
+};
+
+// Longer than any path: a test puts the longest together.
+using path_text = text_builder<128>;
+
+// `step` may be null: the empty path of the message itself.
+void append_path(path_text &text, const path_step *step);
+
+} // namespace mava_tum_inspect

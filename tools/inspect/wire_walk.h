@@ -1,0 +1,42 @@
+// A walk over wire bytes that takes every step a decode takes, in the same order, and tells a visitor what it meets.
+// It needs no memory but the stack: messages nest a few records deep, however long they are.
+//
+// The verdict is that of a decode with an allocator that never fails. One that fails, or none at all, can only end a
+// decode earlier, with MAVA_TUM_NO_MEMORY.
+#pragma once
+
+#include "inspect/wire_event.h"
+
+#include <cstdint>
+
+namespace mava_tum_inspect
+{
+
+// Events come in the order of the bytes. Whoever does not care about one leaves it out.
+class wire_visitor
+{
+public:
+    virtual ~wire_visitor() = default;
+
+    virtual void on_value(const occurrence &) {}   // varint, fixed32, bytes, text, element of an array of texts
+    virtual void on_unknown(const occurrence &) {} // skipped
+    virtual void on_record(const occurrence &) {}  // a nested record or an element of an array; its fields follow
+    virtual void on_record_end(const occurrence &, uint32_t /*present*/) {} // `present`: the bits of its own mask
+    // An array has been counted and obtained, and its elements follow. `first` is as far as its tag.
+    virtual void on_run(const occurrence & /*first*/, uint64_t /*elements*/) {}
+    virtual void on_undecoded(const occurrence &) {} // an entry of a run that is not whole: no element of it is decoded
+    virtual void on_fault(const wire_fault &) {}
+    virtual void on_unread(const extent &) {} // what a fault leaves unread
+};
+
+struct walk_result {
+    fault_rule rule = fault_rule::none;
+    uint64_t offset = 0;  // of the fault
+    uint32_t present = 0; // the bits of the message's own mask
+};
+
+// `data` may be null when `length` is 0.
+walk_result walk_message(
+    const message_description &message, const uint8_t *data, uint64_t length, wire_visitor &visitor);
+
+} // namespace mava_tum_inspect
