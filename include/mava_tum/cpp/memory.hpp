@@ -6,6 +6,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <cstdlib>
 #include <memory_resource>
 
 namespace mava_tum::cpp
@@ -22,8 +23,8 @@ inline constexpr monotonic_t monotonic{};
 class memory
 {
 public:
-    // The default resource of the program, which is new and delete unless somebody has set another.
-    memory() noexcept : memory(std::pmr::get_default_resource()) {}
+    // The C library's heap, which is faster than what std::pmr::new_delete_resource() makes of it.
+    memory() noexcept : kind_(kind::of_heap) {}
 
     // Blocks come from `resource` and go back to it. A resource that throws has refused the block.
     memory(std::pmr::memory_resource *resource) noexcept
@@ -51,7 +52,7 @@ public:
         return kind_ == kind::kept;
     }
 
-    // The callback that the codec is to call for a block, and its context.
+    // Of monotonic memory, which the codec may ask directly: the callback and its context.
     mava_tum_alloc_fn allocator() const noexcept
     {
         return allocate_;
@@ -65,20 +66,22 @@ public:
     // Null if the block is refused.
     void *allocate(std::uint64_t size) const noexcept
     {
-        return allocate_(size, context_);
+        return kind_ == kind::of_heap ? std::malloc(static_cast<std::size_t>(size)) : allocate_(size, context_);
     }
 
     // Takes back a block of `size` bytes that allocate() gave.
     void release(void *block, std::uint64_t size) const noexcept
     {
-        if (kind_ == kind::of_resource)
+        if (kind_ == kind::of_heap)
+            std::free(block);
+        else if (kind_ == kind::of_resource)
             static_cast<std::pmr::memory_resource *>(context_)->deallocate(block, static_cast<std::size_t>(size));
         else if (kind_ == kind::of_callbacks)
             release_(block, context_);
     }
 
 private:
-    enum class kind : std::uint8_t { of_resource, of_callbacks, kept };
+    enum class kind : std::uint8_t { of_heap, of_resource, of_callbacks, kept };
 
     // An empty bytes field asks for nothing, and a resource may answer that with null, which would be a refusal.
     // Without exceptions there is nothing to catch: a resource that throws none the less ends the program.
@@ -97,9 +100,9 @@ private:
 #endif
     }
 
-    mava_tum_alloc_fn allocate_;
+    mava_tum_alloc_fn allocate_ = nullptr;
     mava_tum_release_fn release_ = nullptr;
-    void *context_;
+    void *context_ = nullptr;
     kind kind_;
 };
 
