@@ -1,0 +1,218 @@
+/* Says what wire bytes hold and what is wrong with them: for a process that wants to log why a message arrived in part,
+ * which neither a result code nor an adapter tells.
+ *
+ *     describe   the 40 messages and their fields, by name
+ *     explain    wire bytes -> annotated lines, and the verdict: result, byte, field, rule in words
+ *     check      is a message inside what an adapter's record can hold?
+ *     guess      which of the 40 messages can these bytes be?
+ *
+ * A library of its own, libmava_tum_inspect; the codec library carries no names. All functions are pure: they keep no
+ * state, log nothing, allocate nothing, and any number of threads may call them. Input of any length is read in
+ * constant memory. Messages are named as in the headers of the codec, without mava_tum_ ("session_context"), adapters
+ * as in tum_nal_data_gpb_decode_tum_<name> ("rec_start_res"). Data may be null when its length is 0. Texts that a
+ * function or a callback hands out are NUL-terminated; those of `describe` stay for good, those of a callback until it
+ * returns.
+ *
+ * "L" and a number, in texts, is an entry of docs/leniency.md: something the decoders accept on purpose. */
+#ifndef MAVA_TUM_INSPECT_H
+#define MAVA_TUM_INSPECT_H
+
+#include "mava_tum/codec_contract.h"
+
+#include <stddef.h>
+#include <stdint.h>
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+/* What functions that take a name return besides MAVA_TUM_OK. Nothing has been written or called then. */
+enum { MAVA_TUM_INSPECT_NO_SUCH_NAME = 1 };
+
+/* Sizes, in bytes with the NUL: no path and no sentence is longer. */
+enum { MAVA_TUM_INSPECT_PATH_BYTES = 128, MAVA_TUM_INSPECT_SENTENCE_BYTES = 320 };
+
+/* ---- describe -------------------------------------------------------------------------------------------- */
+
+/* Kinds of field; see codec_contract.h. */
+enum {
+    MAVA_TUM_INSPECT_VARINT = 0,
+    MAVA_TUM_INSPECT_FIXED32 = 1,
+    MAVA_TUM_INSPECT_BYTES = 2,
+    MAVA_TUM_INSPECT_TEXT = 3,
+    MAVA_TUM_INSPECT_RECORD = 4,
+    MAVA_TUM_INSPECT_RECORD_ARRAY = 5,
+    MAVA_TUM_INSPECT_TEXT_ARRAY = 6
+};
+
+/* What a value is besides a number or bytes. */
+enum { MAVA_TUM_INSPECT_NO_ADDRESS = 0, MAVA_TUM_INSPECT_IPV4 = 1, MAVA_TUM_INSPECT_IPV6 = 2 };
+
+typedef struct mava_tum_inspect_message {
+    const char *name;
+    uint32_t field_count;   /* the fields are numbered 1 to field_count */
+    uint64_t record_bytes;  /* sizeof(mava_tum_<name>) */
+    uint64_t mask_offset;   /* of presence_mask in the record, in bytes */
+    uint32_t mask_bytes;    /* 1, 2 or 4 */
+    uint32_t has_alias_bit; /* 1: a bytes field is in it, at any depth */
+} mava_tum_inspect_message;
+
+typedef struct mava_tum_inspect_field {
+    const char *name; /* of the member in the codec record */
+    uint32_t number;
+    int32_t kind;
+    uint32_t value_bits;    /* varint: 32 or 64; fixed32: 32; else 0 */
+    int32_t address;        /* MAVA_TUM_INSPECT_NO_ADDRESS, _IPV4 or _IPV6 */
+    uint64_t member_offset; /* in the codec record, in bytes */
+    uint64_t count_offset;  /* arrays: of the uint32_t count; else 0 */
+    const char *nested;     /* records and arrays of records: the message; else null */
+} mava_tum_inspect_field;
+
+/* Returns the number of messages: 40. */
+MAVA_TUM_API uint32_t mava_tum_inspect_message_count(void);
+
+/* Returns the name of message `index`, counted from 0 in the order of codec_contract.h; null if there is none. */
+MAVA_TUM_API const char *mava_tum_inspect_message_name(uint32_t index);
+
+/* Returns the number of adapters: 19, each an encode and a decode. */
+MAVA_TUM_API uint32_t mava_tum_inspect_adapter_count(void);
+
+/* Returns the name of adapter `index`, counted from 0; null if there is none. */
+MAVA_TUM_API const char *mava_tum_inspect_adapter_name(uint32_t index);
+
+/* Describes a message. Returns MAVA_TUM_OK or MAVA_TUM_INSPECT_NO_SUCH_NAME. */
+MAVA_TUM_API int32_t mava_tum_inspect_describe(const char *message, mava_tum_inspect_message *description);
+
+/* Describes field `number` of a message. Returns MAVA_TUM_OK, or MAVA_TUM_INSPECT_NO_SUCH_NAME when there is no such
+ * message or it has no such field. */
+MAVA_TUM_API int32_t mava_tum_inspect_describe_field(
+    const char *message, uint32_t number, mava_tum_inspect_field *description);
+
+/* Finds the messages, or adapters, whose names are most like `wrong`, which need not be one: at most `capacity`, most
+ * similar first, none that has little in common with it. Returns their number. */
+MAVA_TUM_API uint32_t mava_tum_inspect_similar_messages(const char *wrong, const char **names, uint32_t capacity);
+MAVA_TUM_API uint32_t mava_tum_inspect_similar_adapters(const char *wrong, const char **names, uint32_t capacity);
+
+/* ---- explain --------------------------------------------------------------------------------------------- */
+
+/* What a decode of the whole input answers, and why.
+ * It is the verdict for an allocator that never fails. One that fails, or none where one is needed, ends a decode
+ * earlier, with MAVA_TUM_NO_MEMORY; which block that is, is not in the bytes. */
+typedef struct mava_tum_inspect_verdict {
+    int32_t result;                             /* of mava_tum_<message>_decode_ext */
+    uint64_t offset;                            /* of the byte at which the fault begins; 0 when there is none */
+    char path[MAVA_TUM_INSPECT_PATH_BYTES];     /* the field: "session_data.field_5", "qos[2].field_3"; may be "" */
+    char text[MAVA_TUM_INSPECT_SENTENCE_BYTES]; /* "`field_3` occurs in a second, separate run at byte 41: result -1" */
+} mava_tum_inspect_verdict;
+
+/* Finds the verdict alone. Returns MAVA_TUM_OK or MAVA_TUM_INSPECT_NO_SUCH_NAME. */
+MAVA_TUM_API int32_t mava_tum_inspect_judge(
+    const char *message, const uint8_t *data, uint64_t length, mava_tum_inspect_verdict *verdict);
+
+/* Kinds of line. */
+enum {
+    MAVA_TUM_INSPECT_LINE_TAG = 0,
+    MAVA_TUM_INSPECT_LINE_LENGTH = 1,
+    MAVA_TUM_INSPECT_LINE_VALUE = 2,
+    MAVA_TUM_INSPECT_LINE_MORE = 3,  /* goes on with the bytes of the line before */
+    MAVA_TUM_INSPECT_LINE_NOTE = 4,  /* no bytes: something that was only put up with, or that is good to know */
+    MAVA_TUM_INSPECT_LINE_FAULT = 5, /* no bytes: the sentence of the verdict */
+    MAVA_TUM_INSPECT_LINE_UNREAD = 6 /* what a fault leaves unread */
+};
+
+/* A line shows at most so many bytes. */
+enum { MAVA_TUM_INSPECT_ROW_BYTES = 8 };
+
+/* Part of the annotated dump. The lines with bytes, one after the other, are the whole input. */
+typedef struct mava_tum_inspect_line {
+    int32_t kind;
+    uint32_t depth;      /* of nesting, from 0 */
+    uint64_t offset;     /* of the first byte */
+    uint32_t byte_count; /* 0 to MAVA_TUM_INSPECT_ROW_BYTES */
+    const char *path;    /* the field that the line is about; may be "" */
+    const char *text;    /* what the bytes are; "" where the line before says it */
+} mava_tum_inspect_line;
+
+typedef void (*mava_tum_inspect_line_fn)(const mava_tum_inspect_line *line, void *context);
+
+/* Calls `line_fn` for each line, in the order of the bytes. `verdict` may be null. Returns MAVA_TUM_OK, whatever the
+ * verdict is, or MAVA_TUM_INSPECT_NO_SUCH_NAME. */
+MAVA_TUM_API int32_t mava_tum_inspect_explain(const char *message, const uint8_t *data, uint64_t length,
+    mava_tum_inspect_line_fn line_fn, void *context, mava_tum_inspect_verdict *verdict);
+
+/* Writes a line as text into `buffer`, of `capacity` bytes, NUL included, without a line end: offset, bytes in hex,
+ * words. `data` is what was explained. Returns the length of the whole text; when it is not below `capacity`, the text
+ * was cut. */
+MAVA_TUM_API uint32_t mava_tum_inspect_format_line(
+    const mava_tum_inspect_line *line, const uint8_t *data, char *buffer, uint32_t capacity);
+
+/* ---- check ----------------------------------------------------------------------------------------------- */
+
+/* What of a message would not arrive in an application record. */
+enum {
+    MAVA_TUM_INSPECT_FAULT = 0,         /* the message is broken: what is behind the fault does not arrive (L15, L16) */
+    MAVA_TUM_INSPECT_LIST_CUT = 1,      /* more elements than slots (L17) */
+    MAVA_TUM_INSPECT_TEXT_CUT = 2,      /* longer than its array, or than the record takes (L21, L22) */
+    MAVA_TUM_INSPECT_TEXT_ENDS = 3,     /* at a NUL inside it (L21) */
+    MAVA_TUM_INSPECT_BYTES_CUT = 4,     /* longer than its array (L19) */
+    MAVA_TUM_INSPECT_BYTES_PADDED = 5,  /* shorter: zeros follow, and its length is lost (L19) */
+    MAVA_TUM_INSPECT_NUMBER_CUT = 6,    /* wider than its member (L20) */
+    MAVA_TUM_INSPECT_NO_MEMBER = 7,     /* nothing takes the field (L26, L28) */
+    MAVA_TUM_INSPECT_PART_MISSING = 8,  /* the value arrives only with another field, which is absent (L24) */
+    MAVA_TUM_INSPECT_REPLACED = 9,      /* the field occurs again: the earlier value is lost (L11) */
+    MAVA_TUM_INSPECT_UNKNOWN_FIELD = 10 /* the message does not know it */
+};
+
+typedef struct mava_tum_inspect_finding {
+    int32_t kind;
+    uint64_t offset;  /* of the field's tag; for a fault, of what is wrong */
+    uint64_t found;   /* elements, characters, bytes or bits in the message; else 0 */
+    uint64_t allowed; /* how many of them the record takes; else 0 */
+    const char *path;
+    const char *text; /* "`session_name` has 70 characters at byte 12, of which 64 arrive" */
+} mava_tum_inspect_finding;
+
+typedef void (*mava_tum_inspect_finding_fn)(const mava_tum_inspect_finding *finding, void *context);
+
+typedef struct mava_tum_inspect_check_result {
+    uint64_t finding_count;
+    uint64_t block_count;  /* blocks that the adapter asks calloc for while it decodes */
+    uint64_t block_bytes;  /* the sum of their sizes */
+    uint64_t record_bytes; /* of the application record, whatever the message holds */
+    mava_tum_inspect_verdict verdict;
+} mava_tum_inspect_check_result;
+
+/* Looks at a message as the adapter `adapter` decodes it (a message with one adapter may also be named itself). Calls
+ * `finding_fn`, which may be null, for each finding, in the order of the bytes; what concerns a record as a whole comes
+ * at its end. Zeros and empty texts that have no member are no finding: they arrive as what they are. Returns
+ * MAVA_TUM_OK, whatever is found, or MAVA_TUM_INSPECT_NO_SUCH_NAME. */
+MAVA_TUM_API int32_t mava_tum_inspect_check(const char *adapter, const uint8_t *data, uint64_t length,
+    mava_tum_inspect_finding_fn finding_fn, void *context, mava_tum_inspect_check_result *result);
+
+/* Counts the blocks, and the sum of their sizes in bytes, that mava_tum_<message>_decode_ext asks its allocator for
+ * with `flags` (MAVA_TUM_ALIAS or 0). Returns MAVA_TUM_OK or MAVA_TUM_INSPECT_NO_SUCH_NAME. */
+MAVA_TUM_API int32_t mava_tum_inspect_memory(const char *message, const uint8_t *data, uint64_t length, uint32_t flags,
+    uint64_t *block_count, uint64_t *block_bytes);
+
+/* ---- guess ----------------------------------------------------------------------------------------------- */
+
+/* A message that the bytes can be. */
+typedef struct mava_tum_inspect_candidate {
+    const char *message;
+    uint64_t unknown_bytes; /* of fields, at any depth, that it does not know; tags and lengths included */
+    uint64_t unknown_fields;
+    uint64_t odd_forms;     /* what only a foreign writer produces: over-long varints, texts that are no UTF-8, ... */
+    uint32_t absent_fields; /* of the message itself */
+} mava_tum_inspect_candidate;
+
+/* Finds the messages as which the bytes decode with result 0: at most `capacity`, at `candidates`, the likeliest first:
+ * fewest unknown bytes, unknown fields, odd forms and absent fields, in this order. Returns their number, which may be
+ * above `capacity`; 40 at most. */
+MAVA_TUM_API uint32_t mava_tum_inspect_guess(
+    const uint8_t *data, uint64_t length, mava_tum_inspect_candidate *candidates, uint32_t capacity);
+
+#ifdef __cplusplus
+}
+#endif
+
+#endif
