@@ -1,0 +1,2 @@
+set print pretty on
+print broken

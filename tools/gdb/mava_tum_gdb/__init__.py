@@ -1,0 +1,31 @@
+"""Pretty printers of gdb for the records of libmava_tum: what is present, in the form in which people read it."""
+
+from __future__ import annotations
+
+import gdb
+import gdb.printing
+
+from .application_records import ApplicationRecordPrinter
+from .codec_records import CodecRecordPrinter
+from .record_tables import APPLICATION_RECORDS, CODEC_RECORDS
+from .single_values import BytesPrinter
+
+
+class RecordPrinters(gdb.printing.PrettyPrinter):
+    """Finds the printer of a value by the tag of its structure."""
+
+    def __init__(self) -> None:
+        super().__init__("mava_tum")
+
+    def __call__(self, value: gdb.Value) -> object | None:
+        tag = value.type.strip_typedefs().tag
+        if tag in CODEC_RECORDS:
+            return CodecRecordPrinter(tag, value)
+        if tag in APPLICATION_RECORDS:
+            return ApplicationRecordPrinter(tag, value)
+        return BytesPrinter(value) if tag == "mava_tum_bytes" else None
+
+
+def register(objfile: gdb.Objfile | None) -> None:
+    """Makes the printers known: for one file of the program, or for all if it is None."""
+    gdb.printing.register_pretty_printer(objfile, RecordPrinters(), replace=True)

@@ -1,0 +1,89 @@
+"""Numbers, addresses, texts and bytes in the form in which people read them. Memory of the program may hold anything:
+what cannot be read is said in the place of the value."""
+
+from __future__ import annotations
+
+import ipaddress
+
+import gdb
+
+IPV4_BYTES = 4
+IPV6_BYTES = 16
+
+
+def shown_elements() -> int:
+    """How many elements the user wants to see of anything."""
+    limit: int | None = gdb.parameter("print elements")
+    return limit if limit else 1 << 32
+
+
+def plain_number(value: gdb.Value) -> gdb.Value:
+    """A number of eight bits is no character, although gdb would show it as one too."""
+    return value.cast(gdb.lookup_type("unsigned int")) if value.type.sizeof == 1 else value
+
+
+def ipv4_text(number: gdb.Value, byte_order: str) -> str:
+    """The codec holds an address as it stands on the wire ("little"), the application as a number ("big")."""
+    return str(ipaddress.IPv4Address(int(number).to_bytes(IPV4_BYTES, byte_order)))
+
+
+def ipv6_text(content: bytes) -> str:
+    return str(ipaddress.IPv6Address(content))
+
+
+def hex_text(content: bytes, length: int) -> str:
+    """`content` is all of `length` bytes, or their beginning."""
+    text = f"{length} bytes" if length != 1 else "1 byte"
+    if length:
+        text += ": " + content.hex(" ") + ("..." if len(content) < length else "")
+    return text
+
+
+def array_bytes(value: gdb.Value) -> bytes:
+    """The elements of an array of characters or bytes, wherever the array lives."""
+    first, last = value.type.range()
+    return bytes(int(value[index]) & 0xFF for index in range(first, last + 1))
+
+
+def array_text(value: gdb.Value) -> tuple[str | gdb.Value, bool]:
+    """The text in an array, for gdb to quote, and whether a NUL ends it."""
+    content = array_bytes(value)
+    text = content.split(b"\0")[0]
+    if not text:
+        return '""', True
+    return gdb.Value(text, value.type.target().array(0, len(text) - 1)), len(text) < len(content)
+
+
+def pointed_text(pointer: gdb.Value) -> str | gdb.LazyString:
+    """The text at a pointer, without the pointer."""
+    return "null" if not int(pointer) else pointer.lazy_string()
+
+
+def read_or_say_why(value: gdb.Value) -> gdb.Value | str:
+    """The value, unless it lies where no memory is."""
+    try:
+        value.fetch_lazy()
+    except gdb.error as error:
+        return f"<{error}>"
+    return value
+
+
+class BytesPrinter:
+    """Prints a mava_tum_bytes: in hex, and what has the length of an IPv6 address also as such."""
+
+    def __init__(self, value: gdb.Value) -> None:
+        self.value = value
+
+    def to_string(self) -> str:
+        length = int(self.value["length"])
+        try:
+            content = self.beginning(min(length, shown_elements()))
+        except gdb.error as error:
+            return f"{length} bytes: <{error}>"
+        address = f" ({ipv6_text(content)})" if len(content) == length == IPV6_BYTES else ""
+        return hex_text(content, length) + address
+
+    def beginning(self, length: int) -> bytes:
+        if not length:
+            return b""
+        return bytes(gdb.selected_inferior().read_memory(int(self.value["data"]), length))

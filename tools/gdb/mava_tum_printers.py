@@ -1,0 +1,11 @@
+"""For gdb: `source <this file>` makes the records of libmava_tum readable, in any program, also with the static library.
+With the installed shared library gdb does it by itself."""
+
+import sys
+from pathlib import Path
+
+sys.path.insert(0, str(Path(__file__).resolve().parent))
+
+import mava_tum_gdb  # noqa: E402  (found by the line above)
+
+mava_tum_gdb.register(None)
