@@ -101,3 +101,8 @@ def result_table(headers: Headers) -> dict[str, dict[str, Any]]:
     """Result codes: name -> value and what it means."""
     return {name: {"value": constant.value, "text": constant.comment.rstrip(".")}
             for name, constant in headers.constants.items() if name.startswith("MAVA_TUM_") and constant.value <= 0}
+
+
+def constant_table(headers: Headers) -> dict[str, int]:
+    """Every named number: result codes, slots, the bits of masks."""
+    return {name: constant.value for name, constant in headers.constants.items()}

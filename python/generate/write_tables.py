@@ -10,7 +10,7 @@ from pathlib import Path
 from typing import Any
 
 from application_tables import adapter_tables, application_tables
-from codec_tables import codec_tables, result_table
+from codec_tables import codec_tables, constant_table, result_table
 from read_headers import HeaderError, Headers, read_headers
 
 
@@ -20,6 +20,7 @@ def all_tables(headers: Headers) -> dict[str, Any]:
         "application_records": application_tables(headers),
         "adapters": adapter_tables(headers),
         "results": result_table(headers),
+        "constants": constant_table(headers),
     }
 
 

@@ -4,6 +4,7 @@
     app_decode, app_encode    the same through one of the 19 adapters, as a dict of the application's record
     messages, adapters        the names that these take
     fields, app_members       what a dict may hold
+    constants                 the numbers that the headers name, such as the bits of `feature_mask`
 
 Everything that goes wrong is raised as an `Error`."""
 
@@ -14,6 +15,7 @@ from .application_writer import app_encode
 from .codec_reader import decode
 from .codec_writer import encode
 from .errors import DecodeError, Error, FieldTypeError, FieldValueError, LibraryError, UnknownNameError
+from .schema import CONSTANTS as constants
 from .schema import ADAPTERS, APPLICATION_RECORDS, MESSAGES, Field, Member, find_adapter, find_message
 
 __all__ = [
@@ -29,6 +31,7 @@ __all__ = [
     "app_decode",
     "app_encode",
     "app_members",
+    "constants",
     "decode",
     "encode",
     "fields",

@@ -6,6 +6,7 @@ import difflib
 import json
 from collections.abc import Collection
 from pathlib import Path
+from types import MappingProxyType
 from typing import Any, NamedTuple
 
 from .errors import UnknownNameError
@@ -79,6 +80,7 @@ APPLICATION_RECORDS = {
     for c_type, row in _tables["application_records"].items()
 }
 ADAPTERS = {name: Adapter(**row) for name, row in _tables["adapters"].items()}
+CONSTANTS = MappingProxyType(_tables["constants"])
 RESULTS = {row["value"]: Result(name, row["text"]) for name, row in _tables["results"].items()}
 
 

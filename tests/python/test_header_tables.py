@@ -10,7 +10,7 @@ from codec_tables import codec_tables, result_table
 from read_headers import HeaderError, Headers, read_header, read_headers
 
 from mava_tum.library import library
-from mava_tum.schema import ADAPTERS, APPLICATION_RECORDS, MESSAGES, RESULTS
+from mava_tum.schema import ADAPTERS, APPLICATION_RECORDS, CONSTANTS, MESSAGES, RESULTS
 
 FUNCTIONS = """
 MAVA_TUM_API int32_t mava_tum_mark_decode_ext(mava_tum_mark *record, const uint8_t *data, uint64_t length);
@@ -122,3 +122,10 @@ def test_addresses_are_known_as_addresses() -> None:
     application = {member.name for members in APPLICATION_RECORDS.values() for member in members.values()
                    if member.address == "ipv4"}
     assert application == {"ipv4_address", "l2tp_ipv4_2", "l2tp_ipv4_3", "intercept_ipv4_address", "field_3", "field_5"}
+
+
+def test_constants_have_the_values_that_the_compiler_gives_them() -> None:
+    assert CONSTANTS["TUM_NAL_FEATURE_IPV6_PART_6"] == 1 << 26
+    assert len(CONSTANTS) > 30
+    for name, value in CONSTANTS.items():
+        assert getattr(library, name) == value
