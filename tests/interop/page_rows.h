@@ -1,0 +1,26 @@
+// The rows of docs/departures.md, each with its bytes and what the page says that both sides make of them.
+#pragma once
+
+#include "support/hex.h"
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace mava_tum_test
+{
+
+struct page_row {
+    std::string name; // D1, S1
+    std::string message;
+    byte_vector wire;
+    int result = 0;                   // of our decode
+    byte_vector here;                 // what we write again
+    std::string package;              // of the runtime's schema
+    std::optional<byte_vector> there; // what the runtime writes again; nothing where it refuses
+};
+
+// Throws where a row does not say all of that.
+std::vector<page_row> rows_of_page(const std::string &path);
+
+} // namespace mava_tum_test
