@@ -3,15 +3,16 @@
 namespace mava_tum_inspect
 {
 
-namespace
+void append_step(path_text &text, const path_step &step)
 {
-
-bool is_array(const field_description &field)
-{
-    return field.kind == field_kind::record_array || field.kind == field_kind::text_array;
+    if (step.field == nullptr) {
+        text.add("#").add_number(step.number);
+        return;
+    }
+    text.add(step.field->name);
+    if (step.index != path_step::no_index)
+        text.add("[").add_number(step.index).add("]");
 }
-
-} // namespace
 
 void append_path(path_text &text, const path_step *step)
 {
@@ -20,13 +21,7 @@ void append_path(path_text &text, const path_step *step)
     append_path(text, step->parent);
     if (step->parent != nullptr)
         text.add(".");
-    if (step->field == nullptr) {
-        text.add("#").add_number(step->number);
-        return;
-    }
-    text.add(step->field->name);
-    if (is_array(*step->field))
-        text.add("[").add_number(step->index).add("]");
+    append_step(text, *step);
 }
 
 } // namespace mava_tum_inspect

@@ -4,6 +4,7 @@
 
 #include "inspect/message_table.h"
 #include "inspect/text_builder.h"
+#include "mava_tum_inspect.h"
 
 #include <cstdint>
 
@@ -12,16 +13,21 @@ namespace mava_tum_inspect
 
 // One step from a record into a field. Steps live on the stack of the walk and point up to where they came from.
 struct path_step {
+    static constexpr uint64_t no_index = UINT64_MAX; // an array as a whole, and whatever is none
+
     const path_step *parent = nullptr;        // null: the record is the message itself
     const field_description *field = nullptr; // null: unknown
     uint32_t number = 0;
-    uint64_t index = 0; // of an array's element, from 0
+    uint64_t index = no_index;
 };
 
 // Longer than any path: a test puts the longest together.
-using path_text = text_builder<128>;
+using path_text = text_builder<MAVA_TUM_INSPECT_PATH_BYTES>;
 
 // `step` may be null: the empty path of the message itself.
 void append_path(path_text &text, const path_step *step);
+
+// The last step alone.
+void append_step(path_text &text, const path_step &step);
 
 } // namespace mava_tum_inspect

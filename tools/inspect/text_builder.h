@@ -2,7 +2,6 @@
 #pragma once
 
 #include <algorithm>
-#include <charconv>
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
@@ -29,12 +28,19 @@ public:
 
     text_builder &add_number(uint64_t number)
     {
-        return add_digits(number);
+        char digits[20] = {};
+        std::size_t first = sizeof(digits);
+        do {
+            digits[--first] = static_cast<char>('0' + number % 10);
+            number /= 10;
+        } while (number != 0);
+        return add({digits + first, sizeof(digits) - first});
     }
 
     text_builder &add_signed(int64_t number)
     {
-        return add_digits(number);
+        const uint64_t magnitude = static_cast<uint64_t>(number);
+        return number < 0 ? add("-").add_number(0 - magnitude) : add_number(magnitude);
     }
 
     // Two digits, upper case.
@@ -56,14 +62,6 @@ public:
     }
 
 private:
-    template <class Number>
-    text_builder &add_digits(Number number)
-    {
-        char digits[24];
-        const char *end = std::to_chars(digits, digits + sizeof(digits), number).ptr;
-        return add({digits, static_cast<std::size_t>(end - digits)});
-    }
-
     static_assert(Size > 4);
     char text_[Size] = "";
     std::size_t used_ = 0;

@@ -23,7 +23,9 @@ void add_byte(varint_read &varint, uint64_t index, uint8_t byte, uint32_t value_
     varint.value |= payload << shift;
 }
 
-uint64_t bytes_needed(uint64_t value)
+} // namespace
+
+uint64_t varint_bytes(uint64_t value)
 {
     uint64_t bytes = 1;
     while (value >= mava_tum::varint_continues) {
@@ -32,8 +34,6 @@ uint64_t bytes_needed(uint64_t value)
     }
     return bytes;
 }
-
-} // namespace
 
 varint_read read_varint(wire_cursor &cursor, uint32_t value_bits)
 {
@@ -49,7 +49,7 @@ varint_read read_varint(wire_cursor &cursor, uint32_t value_bits)
     }
     if (value_bits == 32)
         varint.value = static_cast<uint32_t>(varint.value);
-    varint.is_over_long = varint.place.bytes > bytes_needed(varint.value);
+    varint.is_over_long = varint.place.bytes > varint_bytes(varint.value);
     return varint;
 }
 

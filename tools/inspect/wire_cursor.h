@@ -43,4 +43,7 @@ varint_read read_varint(wire_cursor &cursor, uint32_t value_bits);
 
 fixed32_read read_fixed32(wire_cursor &cursor);
 
+// How many bytes a varint of this value needs.
+uint64_t varint_bytes(uint64_t value);
+
 } // namespace mava_tum_inspect

@@ -1,0 +1,22 @@
+// The sentence that says why a decode failed, and where.
+#pragma once
+
+#include "inspect/text_builder.h"
+#include "inspect/wire_event.h"
+#include "mava_tum_inspect.h"
+
+namespace mava_tum_inspect
+{
+
+using sentence = text_builder<MAVA_TUM_INSPECT_SENTENCE_BYTES>;
+
+// "`field_3` occurs in a second, separate run at byte 41: result -1"
+void describe_fault(sentence &text, const wire_fault &fault);
+
+// The field that is at fault: an array as a whole where the rule is about it, the record where a tag is cut.
+void describe_fault_path(path_text &path, const wire_fault &fault);
+
+// "varint", "length-delimited", ..., "wire type 6".
+const char *wire_type_name(uint32_t wire_type);
+
+} // namespace mava_tum_inspect
