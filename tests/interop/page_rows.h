@@ -3,6 +3,7 @@
 
 #include "support/hex.h"
 
+#include <iosfwd>
 #include <optional>
 #include <string>
 #include <vector>
@@ -19,6 +20,9 @@ struct page_row {
     std::string package;              // of the runtime's schema
     std::optional<byte_vector> there; // what the runtime writes again; nothing where it refuses
 };
+
+// For failure messages, and for names of tests.
+void PrintTo(const page_row &row, std::ostream *stream);
 
 // Throws where a row does not say all of that.
 std::vector<page_row> rows_of_page(const std::string &path);

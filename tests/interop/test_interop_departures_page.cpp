@@ -12,6 +12,11 @@
 namespace mava_tum_test
 {
 
+void PrintTo(const page_row &row, std::ostream *stream)
+{
+    *stream << row.name;
+}
+
 namespace
 {
 
