@@ -12,6 +12,8 @@
 #include <cstdio>
 #include <cstdlib>
 #include <ctime>
+#include <latch>
+#include <memory>
 #include <thread>
 
 namespace bench
@@ -31,6 +33,24 @@ struct worker_input {
     corpus content;
     suite operations{content};
 };
+
+// Each input is made by a thread of its own, and none of these ends before the others have begun: so each takes its
+// memory from a part of the heap of its own, and no cache line holds something of two.
+std::vector<std::unique_ptr<worker_input>> make_inputs(size_t count)
+{
+    std::vector<std::unique_ptr<worker_input>> inputs(count);
+    std::latch all_begun(static_cast<std::ptrdiff_t>(count));
+    std::vector<std::thread> makers;
+    for (std::unique_ptr<worker_input> &input : inputs) {
+        makers.emplace_back([&] {
+            all_begun.arrive_and_wait();
+            input = std::make_unique<worker_input>();
+        });
+    }
+    for (std::thread &maker : makers)
+        maker.join();
+    return inputs;
+}
 
 struct rates {
     double by_clock = 0;     // calls per nanosecond
@@ -114,10 +134,10 @@ int main(int argc, char **argv)
         std::fprintf(stderr, "usage: %s <milliseconds per sample> <samples>\n", argv[0]);
         return 2;
     }
-    bench::worker_input first;
-    bench::worker_input second;
-    for (size_t i = 0; i < first.operations.operations().size(); ++i)
-        bench::compare(*first.operations.operations()[i], *second.operations.operations()[i], std::atof(argv[1]) * 1e-3,
-            std::atoi(argv[2]));
+    const auto inputs = bench::make_inputs(2);
+    const auto &first = inputs[0]->operations.operations();
+    const auto &second = inputs[1]->operations.operations();
+    for (size_t i = 0; i < first.size(); ++i)
+        bench::compare(*first[i], *second[i], std::atof(argv[1]) * 1e-3, std::atoi(argv[2]));
     return 0;
 }
