@@ -3,6 +3,7 @@ import difflib
 import json
 import os
 import re
+import shlex
 import subprocess
 
 from block_commands import missing_commands
@@ -45,14 +46,18 @@ class Page:
             file.write(text)
         return path
 
-    def run(self, command, block):
-        """Runs a command for a block and compares its status and its output with what the page says."""
+    def execute(self, command, block):
+        """Runs a command in the page's folder; its output is that of both streams."""
         try:
-            done = subprocess.run(command, cwd=self.folder, env=self.environment, timeout=SECONDS, check=False, text=True,
-                                  errors="replace", stdin=subprocess.DEVNULL, stdout=subprocess.PIPE,
+            return subprocess.run(command, cwd=self.folder, env=self.environment, timeout=SECONDS, check=False,
+                                  text=True, errors="replace", stdin=subprocess.DEVNULL, stdout=subprocess.PIPE,
                                   stderr=subprocess.STDOUT)
         except subprocess.TimeoutExpired as error:
-            raise BlockError(f"{block.place}: did not end in {SECONDS} seconds") from error
+            raise BlockError(f"{block.place}: {command[0]} did not end in {SECONDS} seconds") from error
+
+    def run(self, command, block):
+        """Runs a command for a block and compares its status and its output with what the page says."""
+        done = self.execute(command, block)
         wanted = int(block.instructions.get("exits", "0"))
         if done.returncode != wanted:
             raise BlockError(f"{block.place}: ended with {done.returncode} instead of {wanted}:\n{done.stdout}")
@@ -69,10 +74,13 @@ class Page:
         inside = "inside" in block.instructions
         standard = "-std=c++20" if inside and block.language == "cpp" else STANDARDS[block.language]
         command = [self.tree.compilers[block.language], standard, *WARNINGS, *SANITIZERS, path]
-        command += self.tree.flags(inside) + ["-o", stem] if link else self.tree.include_flags(inside) + ["-fsyntax-only"]
-        done = subprocess.run(command, text=True, capture_output=True, timeout=SECONDS, check=False, cwd=self.folder)
+        if link:
+            command += [*self.tree.flags(inside), "-o", stem]
+        else:
+            command += [*self.tree.include_flags(inside), "-fsyntax-only"]
+        done = self.execute(command, block)
         if done.returncode != 0:
-            raise BlockError(f"{block.place}: does not compile:\n" + "\n".join(done.stderr.splitlines()[:20]))
+            raise BlockError(f"{block.place}: does not compile:\n" + "\n".join(done.stdout.splitlines()[:20]))
         return stem
 
     def program(self, block):
@@ -103,7 +111,10 @@ class Page:
             if problems:
                 raise BlockError(f"{block.place}: " + "; ".join(problems))
             return "commands exist"
-        self.run(["bash", "-e", "-o", "pipefail", "-c", block.source()], block)
+        # As in one terminal: folder and exported variables stay for the next block.
+        state = shlex.quote(os.path.join(self.folder, ".state"))
+        keep = f"trap '{{ export -p; printf \"cd %q\\n\" \"$PWD\"; }} >{state}' EXIT\n"
+        self.run(["bash", "-e", "-o", "pipefail", "-c", f"[ ! -e {state} ] || . {state}\n{keep}{block.source()}"], block)
         return "run"
 
     def python(self, block):
