@@ -1,0 +1,133 @@
+// Setters, and what they leave as it is when a block is refused.
+#include "counting_resource.h"
+#include "field_values.h"
+
+namespace mava_tum_test
+{
+namespace
+{
+
+// The first block is obtained, then none.
+class cpp_field_change : public testing::Test
+{
+protected:
+    counting_resource resource_;
+    tum::sess_oper_resp response_{&resource_};
+};
+
+TEST_F(cpp_field_change, copies_what_it_is_given)
+{
+    std::string text = "text";
+    std::vector<std::uint8_t> bytes = {1, 2, 3};
+    ASSERT_EQ(response_.set_field_6(text), tum::result::ok);
+    ASSERT_EQ(response_.set_field_10(bytes), tum::result::ok);
+    text = "gone";
+    bytes.assign(3, 0);
+    EXPECT_EQ(response_.field_6(), "text");
+    EXPECT_EQ((*response_.field_10())[2], 3U);
+}
+
+TEST_F(cpp_field_change, leaves_a_text_as_it_is_when_the_block_is_refused)
+{
+    ASSERT_EQ(response_.set_field_6("first"), tum::result::ok);
+    resource_.refuse_block(1);
+    EXPECT_EQ(response_.set_field_6("second"), tum::result::no_memory);
+    EXPECT_EQ(response_.field_6(), "first");
+}
+
+TEST_F(cpp_field_change, leaves_bytes_as_they_are_when_the_block_is_refused)
+{
+    ASSERT_EQ(response_.set_field_10(bytes_value(1)), tum::result::ok);
+    resource_.refuse_block(1);
+    EXPECT_EQ(response_.set_field_10(bytes_value(2)), tum::result::no_memory);
+    EXPECT_TRUE(is_bytes_value(response_.field_10(), 1));
+}
+
+TEST_F(cpp_field_change, needs_no_block_for_bytes_of_no_length)
+{
+    resource_.refuse_block(1);
+    ASSERT_EQ(response_.set_field_10(tum::bytes_view()), tum::result::ok);
+    ASSERT_TRUE(response_.field_10());
+    EXPECT_TRUE(response_.field_10()->empty());
+}
+
+TEST_F(cpp_field_change, leaves_an_array_as_it_is_when_the_block_is_refused)
+{
+    auto stats = response_.edit_field_9();
+    ASSERT_EQ(stats.make_field_8(2).size(), 2U);
+    resource_.refuse_block(1);
+    EXPECT_TRUE(stats.make_field_8(3).empty());
+    EXPECT_EQ(response_.field_9().field_8().size(), 2U);
+}
+
+TEST(cpp_field_change_of_texts, leaves_them_as_they_are_whichever_block_is_refused)
+{
+    const std::string_view first[] = {"a"};
+    const std::string_view second[] = {"b", "c"};
+    counting_resource resource;
+    tum::sess_svc_start start(&resource);
+    ASSERT_EQ(start.set_field_5(first), tum::result::ok);
+    for (std::size_t refused = 1; refused <= 3; ++refused) {
+        resource.refuse_block(refused);
+        EXPECT_EQ(start.set_field_5(second), tum::result::no_memory);
+        ASSERT_EQ(start.field_5().size(), 1U);
+        EXPECT_EQ(start.field_5()[0], "a");
+    }
+    resource.refuse_block(0);
+    ASSERT_EQ(start.set_field_5(second), tum::result::ok);
+    EXPECT_EQ(start.field_5()[1], "c");
+}
+
+TEST(cpp_field_change_of_presence, marks_no_field_but_its_own_and_keeps_spare_bits)
+{
+    tum::vlan_info vlan;
+    vlan.mutable_c_record().presence_mask = 0xF0;
+    vlan.set_field_2(5);
+    EXPECT_EQ(vlan.c_record().presence_mask, 0xF2);
+    vlan.set_field_1(6);
+    vlan.set_field_2(std::nullopt);
+    EXPECT_EQ(vlan.c_record().presence_mask, 0xF1);
+    EXPECT_EQ(vlan.c_record().field_2, 0U);
+}
+
+TEST(cpp_field_change_of_presence, takes_what_a_getter_gives)
+{
+    tum::vlan_info first;
+    first.set_field_1(3);
+    tum::vlan_info second;
+    second.set_field_2(4);
+    second.set_field_1(first.field_1());
+    second.set_field_2(first.field_2());
+    EXPECT_EQ(second.encode(), first.encode());
+}
+
+TEST(cpp_record_editor, marks_the_record_and_those_around_it_as_present)
+{
+    tum::session_context session;
+    session.edit_session_data().edit_ppp().set_field_1(3);
+    ASSERT_TRUE(session.session_data());
+    ASSERT_TRUE(session.session_data().ppp());
+    EXPECT_FALSE(session.session_data().l2tp());
+    EXPECT_EQ(session.session_data().ppp().field_1(), 3U);
+}
+
+TEST(cpp_record_editor, clears_a_record_with_all_that_is_in_it)
+{
+    tum::session_context session;
+    session.edit_session_data().edit_ppp().set_field_1(3);
+    session.clear_session_data();
+    EXPECT_EQ(session.encoded_size(), 0U);
+}
+
+TEST(cpp_record_editor, reads_what_it_has_set)
+{
+    tum::session_context session;
+    tum::vlan_info_editor vlan = session.edit_session_data().edit_vlan();
+    vlan.set_field_1(100);
+    EXPECT_EQ(vlan.field_1(), 100U);
+    EXPECT_EQ(vlan.view().field_1(), 100U);
+    EXPECT_EQ(vlan.encode(), session.session_data().vlan().encode());
+}
+
+} // namespace
+} // namespace mava_tum_test
