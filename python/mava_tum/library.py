@@ -1,7 +1,7 @@
 """The shared library, loaded once.
 
 The module `_declarations` holds what the headers declare; nothing is compiled here. Which file is loaded: the one that
-the environment variable MAVA_TUM_LIBRARY names; the one installed in the same tree as this package; the one that the
+the environment variable LIBMAVA_TUM names; the one installed in the same tree as this package; the one that the
 system's loader finds by its SONAME."""
 
 from __future__ import annotations
@@ -18,7 +18,7 @@ __all__ = ["ffi", "library", "load"]
 
 
 def _file_to_load() -> str:
-    chosen = os.environ.get("MAVA_TUM_LIBRARY")
+    chosen = os.environ.get("LIBMAVA_TUM")
     if chosen:
         return chosen
     same_tree = Path(__file__).parent / LIBRARY_FROM_PACKAGE
@@ -31,7 +31,7 @@ def load() -> Any:
     try:
         return ffi.dlopen(name)
     except OSError as error:
-        raise LibraryError(f"{name} cannot be loaded ({error}); install libmava-tum1, or let MAVA_TUM_LIBRARY name "
+        raise LibraryError(f"{name} cannot be loaded ({error}); install libmava-tum1, or let LIBMAVA_TUM name "
                            "the file") from error
 
 

@@ -7,6 +7,7 @@ import sys
 from pathlib import Path
 
 import pytest
+import strategies
 from hypothesis import HealthCheck, settings
 
 SOURCE = Path(os.environ["MAVA_TUM_SOURCE"])
@@ -23,3 +24,10 @@ settings.load_profile("long" if EXAMPLES else "ordinary")
 @pytest.fixture(scope="session")
 def source_folder() -> Path:
     return SOURCE
+
+
+def pytest_terminal_summary(terminalreporter: pytest.TerminalReporter) -> None:
+    """tools/check/python adds these up."""
+    tried = strategies.examples_tried
+    if tried:
+        terminalreporter.write_line(f"tried {tried} examples")

@@ -2,13 +2,31 @@
 
 from __future__ import annotations
 
+import functools
+from collections.abc import Callable
 from typing import Any
 
+from hypothesis import given
 from hypothesis import strategies as st
 
 from mava_tum.schema import APPLICATION_RECORDS, MESSAGES, Field, Member
 
 Strategy = st.SearchStrategy[Any]
+Test = Callable[..., None]
+
+examples_tried = 0
+
+
+def for_all(**strategies: Strategy) -> Callable[[Test], Test]:
+    """A test of hypothesis whose examples are counted."""
+    def decorate(test: Test) -> Test:
+        @functools.wraps(test)
+        def counted(*arguments: Any, **named: Any) -> None:
+            global examples_tried
+            examples_tried += 1
+            test(*arguments, **named)
+        return given(**strategies)(counted)
+    return decorate
 
 
 def numbers(bits: int) -> Strategy:

@@ -5,7 +5,6 @@ from __future__ import annotations
 from typing import Any
 
 import pytest
-from hypothesis import given
 from hypothesis import strategies as st
 
 import mava_tum
@@ -13,7 +12,7 @@ from mava_tum import application_reader, application_writer
 from mava_tum.library import ffi
 from mava_tum.schema import ADAPTERS, APPLICATION_RECORDS
 from runtime_peer import from_wire, to_peer
-from strategies import application_records
+from strategies import application_records, for_all
 
 # The message that an adapter writes, where it is not called the same.
 MESSAGE_OF = {"rec_start_res": "rec_resp", "rec_complete_res": "rec_resp", "rec_sess_res": "rec_sess_resp"}
@@ -25,7 +24,7 @@ SYMMETRIC = ("subscriber_route_resp", "rec_start_res", "rec_complete_req", "rec_
 
 
 @pytest.mark.parametrize("c_type", APPLICATION_RECORDS)
-@given(data=st.data())
+@for_all(data=st.data())
 def test_every_member_is_read_as_it_was_written(c_type: str, data: Any) -> None:
     fields = data.draw(application_records(c_type))
     record = ffi.new(f"{c_type} *")
@@ -38,7 +37,7 @@ def test_every_member_is_read_as_it_was_written(c_type: str, data: Any) -> None:
 
 
 @pytest.mark.parametrize("adapter", mava_tum.adapters())
-@given(data=st.data())
+@for_all(data=st.data())
 def test_what_an_adapter_sends_is_a_message_to_the_codec_and_to_the_runtime(adapter: str, data: Any) -> None:
     wire = mava_tum.app_encode(adapter, data.draw(application_records(ADAPTERS[adapter].encode)))
     message = MESSAGE_OF.get(adapter, adapter)
@@ -48,14 +47,14 @@ def test_what_an_adapter_sends_is_a_message_to_the_codec_and_to_the_runtime(adap
 
 
 @pytest.mark.parametrize("adapter", SYMMETRIC)
-@given(data=st.data())
+@for_all(data=st.data())
 def test_what_a_symmetric_adapter_sends_arrives(adapter: str, data: Any) -> None:
     fields = data.draw(application_records(ADAPTERS[adapter].encode))
     assert mava_tum.app_decode(adapter, mava_tum.app_encode(adapter, fields)) == fields
 
 
 @pytest.mark.parametrize("adapter", mava_tum.adapters())
-@given(wire=st.binary(max_size=40))
+@for_all(wire=st.binary(max_size=40))
 def test_any_bytes_give_a_record_that_can_be_sent(adapter: str, wire: bytes) -> None:
     fields = mava_tum.app_decode(adapter, wire)
     assert isinstance(mava_tum.app_encode(adapter, fields), bytes)

@@ -146,6 +146,6 @@ def test_errors_are_the_built_in_ones_too() -> None:
 
 def test_a_library_that_is_not_there_is_named() -> None:
     run = subprocess.run([sys.executable, "-c", "import mava_tum"], capture_output=True, text=True, check=False,
-                         env={**os.environ, "MAVA_TUM_LIBRARY": "/nowhere/libmava_tum.so.1"})
+                         env={**os.environ, "LIBMAVA_TUM": "/nowhere/libmava_tum.so.1"})
     assert run.returncode == 1
     assert "LibraryError: /nowhere/libmava_tum.so.1 cannot be loaded" in run.stderr

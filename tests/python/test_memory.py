@@ -9,13 +9,12 @@ from concurrent.futures import ThreadPoolExecutor
 from typing import Any
 
 import pytest
-from hypothesis import given
 from hypothesis import strategies as st
 
 import mava_tum
 from mava_tum import codec_reader
 from mava_tum.memory import Blocks
-from strategies import codec_records
+from strategies import codec_records, for_all
 
 SESSION = {"field_6": b"\1\2", "session_data": {"field_5": "user", "l2tp": {"field_19": "name"}},
            "qos": [{"field_3": "gold", "field_12": "x"}, {}], "route_ipv6": [{"field_3": bytes(16), "field_9": "r"}]}
@@ -64,7 +63,7 @@ def test_a_decode_gives_back_what_it_obtained(counted: type[CountingBlocks]) -> 
 
 
 @pytest.mark.parametrize("message", mava_tum.messages())
-@given(data=st.data())
+@for_all(data=st.data())
 def test_every_message_gives_back_what_it_obtained(message: str, data: Any) -> None:
     wire = mava_tum.encode(message, data.draw(codec_records(message)))
     CountingBlocks.every.clear()

@@ -5,12 +5,11 @@ from __future__ import annotations
 from typing import Any
 
 import pytest
-from hypothesis import given
 from hypothesis import strategies as st
 
 import mava_tum
 from runtime_peer import PEERS, from_wire, to_peer
-from strategies import codec_records
+from strategies import codec_records, for_all
 
 
 def test_the_runtime_knows_the_same_messages_and_fields() -> None:
@@ -20,7 +19,7 @@ def test_the_runtime_knows_the_same_messages_and_fields() -> None:
 
 
 @pytest.mark.parametrize("message", mava_tum.messages())
-@given(data=st.data())
+@for_all(data=st.data())
 def test_what_is_encoded_here_is_what_the_runtime_encodes(message: str, data: Any) -> None:
     fields = data.draw(codec_records(message))
     wire = mava_tum.encode(message, fields)
@@ -29,14 +28,14 @@ def test_what_is_encoded_here_is_what_the_runtime_encodes(message: str, data: An
 
 
 @pytest.mark.parametrize("message", mava_tum.messages())
-@given(data=st.data())
+@for_all(data=st.data())
 def test_what_the_runtime_encodes_comes_back_as_it_was(message: str, data: Any) -> None:
     fields = data.draw(codec_records(message))
     assert mava_tum.decode(message, to_peer(message, fields).SerializeToString()) == fields
 
 
 @pytest.mark.parametrize("message", mava_tum.messages())
-@given(wire=st.binary(max_size=40))
+@for_all(wire=st.binary(max_size=40))
 def test_any_bytes_are_decoded_or_refused_with_a_result(message: str, wire: bytes) -> None:
     try:
         fields = mava_tum.decode(message, wire, memory_limit=1 << 20)
