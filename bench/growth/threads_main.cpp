@@ -12,8 +12,8 @@
 #include <cstdio>
 #include <cstdlib>
 #include <ctime>
-#include <latch>
 #include <memory>
+#include <semaphore>
 #include <thread>
 
 namespace bench
@@ -33,24 +33,6 @@ struct worker_input {
     corpus content;
     suite operations{content};
 };
-
-// Each input is made by a thread of its own, and none of these ends before the others have begun: so each takes its
-// memory from a part of the heap of its own, and no cache line holds something of two.
-std::vector<std::unique_ptr<worker_input>> make_inputs(size_t count)
-{
-    std::vector<std::unique_ptr<worker_input>> inputs(count);
-    std::latch all_begun(static_cast<std::ptrdiff_t>(count));
-    std::vector<std::thread> makers;
-    for (std::unique_ptr<worker_input> &input : inputs) {
-        makers.emplace_back([&] {
-            all_begun.arrive_and_wait();
-            input = std::make_unique<worker_input>();
-        });
-    }
-    for (std::thread &maker : makers)
-        maker.join();
-    return inputs;
-}
 
 struct rates {
     double by_clock = 0;     // calls per nanosecond
@@ -80,24 +62,82 @@ rates run_for(timed_operation &operation, double seconds)
     return {static_cast<double>(calls) / taken * 1e-9, static_cast<double>(calls) / processor_taken * 1e-9};
 }
 
-// The sums over all threads, which start together.
-rates run_threads(std::vector<timed_operation *> operations, double seconds)
+// A thread that makes its own input, and measures on it when told to. Whatever it touches is from its own part of the
+// heap: on a cache line that holds something of two threads, each would wait for the other.
+class worker
+{
+public:
+    worker() : thread_([this] { work(); })
+    {
+        is_done_.acquire();
+    }
+
+    ~worker()
+    {
+        operation_ = nullptr;
+        may_begin_.release();
+        thread_.join();
+    }
+
+    worker(const worker &) = delete;
+    worker &operator=(const worker &) = delete;
+
+    const std::vector<std::unique_ptr<timed_operation>> &operations() const
+    {
+        return input_->operations.operations();
+    }
+
+    // Starts when `together` threads have counted themselves into `ready`.
+    void begin(timed_operation &operation, double seconds, std::atomic<size_t> &ready, size_t together)
+    {
+        operation_ = &operation;
+        seconds_ = seconds;
+        ready_ = &ready;
+        together_ = together;
+        may_begin_.release();
+    }
+
+    rates finish()
+    {
+        is_done_.acquire();
+        return measured_;
+    }
+
+private:
+    void work()
+    {
+        input_ = std::make_unique<worker_input>();
+        is_done_.release();
+        for (may_begin_.acquire(); operation_ != nullptr; may_begin_.acquire()) {
+            for (++*ready_; *ready_ != together_;) {
+            }
+            measured_ = run_for(*operation_, seconds_);
+            is_done_.release();
+        }
+    }
+
+    std::unique_ptr<worker_input> input_;
+    timed_operation *operation_ = nullptr; // null: end
+    double seconds_ = 0;
+    std::atomic<size_t> *ready_ = nullptr;
+    size_t together_ = 0;
+    rates measured_;
+    std::binary_semaphore may_begin_{0};
+    std::binary_semaphore is_done_{0};
+    std::thread thread_; // last: it uses the others
+};
+
+// The sums over the workers, which start together.
+rates run_workers(const std::vector<worker *> &workers, size_t operation, double seconds)
 {
     std::atomic<size_t> ready = 0;
-    std::vector<rates> measured(operations.size());
-    std::vector<std::thread> threads;
-    for (size_t i = 0; i < operations.size(); ++i) {
-        threads.emplace_back([&, i] {
-            for (++ready; ready != operations.size();) {
-            }
-            measured[i] = run_for(*operations[i], seconds);
-        });
-    }
+    for (worker *each : workers)
+        each->begin(*each->operations()[operation], seconds, ready, workers.size());
     rates sum;
-    for (size_t i = 0; i < threads.size(); ++i) {
-        threads[i].join();
-        sum.by_clock += measured[i].by_clock;
-        sum.by_processor += measured[i].by_processor;
+    for (worker *each : workers) {
+        const rates measured = each->finish();
+        sum.by_clock += measured.by_clock;
+        sum.by_processor += measured.by_processor;
     }
     return sum;
 }
@@ -109,19 +149,20 @@ double median(std::vector<double> values)
 }
 
 // One and two threads take turns, so that a slow moment of the machine meets both.
-void compare(timed_operation &first, timed_operation &second, double seconds, int samples)
+void compare(worker &first, worker &second, size_t operation, double seconds, int samples)
 {
     std::vector<double> one;
     std::vector<double> by_clock;
     std::vector<double> by_processor;
     for (int sample = 0; sample < samples; ++sample) {
-        const rates alone = run_threads({&first}, seconds);
-        const rates together = run_threads({&first, &second}, seconds);
+        const rates alone = run_workers({&first}, operation, seconds);
+        const rates together = run_workers({&first, &second}, operation, seconds);
         one.push_back(alone.by_clock);
         by_clock.push_back(together.by_clock / alone.by_clock);
         by_processor.push_back(together.by_processor / alone.by_processor);
     }
-    std::printf("%s\t%s\t%.4f\t%.4f\t%.4f\n", first.name.c_str(), first.side.c_str(), median(one) * 1e3,
+    const timed_operation &measured = *first.operations()[operation];
+    std::printf("%s\t%s\t%.4f\t%.4f\t%.4f\n", measured.name.c_str(), measured.side.c_str(), median(one) * 1e3,
         median(by_clock), median(by_processor));
 }
 
@@ -134,10 +175,9 @@ int main(int argc, char **argv)
         std::fprintf(stderr, "usage: %s <milliseconds per sample> <samples>\n", argv[0]);
         return 2;
     }
-    const auto inputs = bench::make_inputs(2);
-    const auto &first = inputs[0]->operations.operations();
-    const auto &second = inputs[1]->operations.operations();
-    for (size_t i = 0; i < first.size(); ++i)
-        bench::compare(*first[i], *second[i], std::atof(argv[1]) * 1e-3, std::atoi(argv[2]));
+    bench::worker first;
+    bench::worker second;
+    for (size_t i = 0; i < first.operations().size(); ++i)
+        bench::compare(first, second, i, std::atof(argv[1]) * 1e-3, std::atoi(argv[2]));
     return 0;
 }
