@@ -16,7 +16,7 @@ def call_codec(message: Message, function: str, arguments: Mapping[str, Any]) ->
     return getattr(library, f"{message.c_type}_{function}")(*[arguments[each] for each in parameters])
 
 
-def encoded(encode: Callable[[Any, int], int]) -> bytes:
+def encoded(encode: Callable[[Any, int], Any]) -> bytes:
     """What an encode function writes: it is asked for the size first, then for the bytes."""
     size = encode(ffi.NULL, 0)
     buffer = ffi.new("uint8_t[]", size)

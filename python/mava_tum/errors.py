@@ -32,8 +32,8 @@ class FieldValueError(Error, ValueError):
 class DecodeError(Error, ValueError):
     """The bytes are no such message.
 
-    `result` is the library's result code, `result_name` what the headers call it, `partial` the fields that were decoded
-    before the fault."""
+    `result` is the library's result code, `result_name` what the headers call it, `partial` the fields that were
+    decoded before the fault."""
 
     def __init__(self, message: str, result: int, result_name: str, text: str, partial: dict[str, Any]) -> None:
         super().__init__(f"{message}: {result_name} ({result}): {text}")

@@ -5,6 +5,7 @@ from __future__ import annotations
 import difflib
 import json
 from collections.abc import Collection
+from dataclasses import dataclass
 from pathlib import Path
 from types import MappingProxyType
 from typing import Any, NamedTuple
@@ -15,7 +16,8 @@ from .errors import UnknownNameError
 LIKENESS = 0.5  # from 0 for names without a common letter to 1 for the same name
 
 
-class Field(NamedTuple):
+@dataclass(frozen=True)
+class Field:
     """A field of a message. `bits` is the width of a number, `of` the message of a record or of an array's elements,
     `count` the C member that counts an array, `address` is "ipv4" for numbers that are addresses."""
 
@@ -38,7 +40,8 @@ class Message(NamedTuple):
     functions: dict[str, list[str]]
 
 
-class Member(NamedTuple):
+@dataclass(frozen=True)
+class Member:
     """A member of an application record. `size` is in bytes (of a text: with its NUL), `slots` in elements."""
 
     name: str
@@ -66,7 +69,9 @@ class Result(NamedTuple):
 
 
 def _load() -> dict[str, Any]:
-    return json.loads(Path(__file__).with_name("header_tables.json").read_text(encoding="utf-8"))
+    tables: dict[str, Any] = json.loads(
+        Path(__file__).with_name("header_tables.json").read_text(encoding="utf-8"))
+    return tables
 
 
 _tables = _load()

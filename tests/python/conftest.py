@@ -5,6 +5,7 @@ from __future__ import annotations
 import os
 import sys
 from pathlib import Path
+from typing import Any
 
 import pytest
 import strategies
@@ -26,7 +27,7 @@ def source_folder() -> Path:
     return SOURCE
 
 
-def pytest_terminal_summary(terminalreporter: pytest.TerminalReporter) -> None:
+def pytest_terminal_summary(terminalreporter: Any) -> None:
     """tools/check/python adds these up."""
     tried = strategies.examples_tried
     if tried:

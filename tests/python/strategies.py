@@ -43,7 +43,7 @@ def texts(most_bytes: int) -> Strategy:
 
 
 def codec_value(field: Field) -> Strategy:
-    makers = {
+    makers: dict[str, Callable[[], Strategy]] = {
         "varint": lambda: numbers(field.bits),
         "fixed32": lambda: numbers(field.bits),
         "bytes": lambda: st.binary(max_size=20),
@@ -68,7 +68,7 @@ def codec_records(message: str) -> Strategy:
 
 
 def application_value(member: Member) -> Strategy:
-    makers = {
+    makers: dict[str, Callable[[], Strategy]] = {
         "number": lambda: numbers(member.bits),
         "number_array": lambda: st.lists(numbers(member.bits), min_size=member.slots, max_size=member.slots),
         "bytes": lambda: st.binary(min_size=member.size, max_size=member.size),

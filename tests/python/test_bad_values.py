@@ -84,9 +84,12 @@ def test_a_value_that_a_message_cannot_hold_is_refused_with_its_path(message: st
 
 
 @pytest.mark.parametrize(("adapter", "fields", "text"), [
-    ("session_context", {"session_name": "x" * 65}, "FieldValueError: session_context.session_name: 65 bytes where 64 fit"),
-    ("session_context", {"session_name": "ä" * 33}, "FieldValueError: session_context.session_name: 66 bytes where 64 fit"),
-    ("session_context", {"ipv6_part_2": bytes(17)}, "FieldValueError: session_context.ipv6_part_2: 17 bytes where 16 fit"),
+    ("session_context", {"session_name": "x" * 65},
+     "FieldValueError: session_context.session_name: 65 bytes where 64 fit"),
+    ("session_context", {"session_name": "ä" * 33},
+     "FieldValueError: session_context.session_name: 66 bytes where 64 fit"),
+    ("session_context", {"ipv6_part_2": bytes(17)},
+     "FieldValueError: session_context.ipv6_part_2: 17 bytes where 16 fit"),
     ("session_context", {"qos": [{}] * 9}, "FieldValueError: session_context.qos: 9 elements where 8 fit"),
     ("session_context", {"qos": [{"value_6": 65536}]},
      "FieldValueError: session_context.qos[0].value_6: 65536 is outside of 0 to 65535"),

@@ -13,6 +13,7 @@ from hypothesis import strategies as st
 
 import mava_tum
 from mava_tum import codec_reader
+from mava_tum.library import ffi
 from mava_tum.memory import Blocks
 from strategies import codec_records, for_all
 
@@ -34,7 +35,7 @@ class CountingBlocks(Blocks):
     def obtain(self, size: int) -> Any:
         self.calls += 1
         if self.calls - 1 == CountingBlocks.fail_at:
-            return codec_reader.ffi.NULL
+            return ffi.NULL
         self.obtained += 1
         return super().obtain(size)
 
@@ -108,7 +109,8 @@ def test_what_a_second_record_drops_goes_with_the_decode(counted: type[CountingB
 
 def test_memory_does_not_grow_with_the_number_of_calls(monkeypatch: pytest.MonkeyPatch) -> None:
     monkeypatch.setattr(codec_reader, "Blocks", Blocks)
-    wire = mava_tum.encode("session_context", SESSION) + mava_tum.encode("session_context", {"acl": {"field_2": "a"}}) * 2
+    twice = mava_tum.encode("session_context", {"acl": {"field_2": "a"}}) * 2
+    wire = mava_tum.encode("session_context", SESSION) + twice
     application = mava_tum.app_decode("session_context", wire)
 
     def use_everything() -> None:
@@ -130,15 +132,15 @@ def test_memory_does_not_grow_with_the_number_of_calls(monkeypatch: pytest.Monke
 
 def test_an_empty_block_is_a_block() -> None:
     with Blocks(limit=0) as blocks:
-        assert blocks.obtain(0) != codec_reader.ffi.NULL
-        assert blocks.obtain(1) == codec_reader.ffi.NULL
+        assert blocks.obtain(0) != ffi.NULL
+        assert blocks.obtain(1) == ffi.NULL
         assert blocks.refused
 
 
 def test_a_size_that_no_machine_has_is_refused() -> None:
     for size in (1 << 62, (1 << 64) - 1):
         with Blocks() as blocks:
-            assert blocks.obtain(size) == codec_reader.ffi.NULL
+            assert blocks.obtain(size) == ffi.NULL
             assert blocks.refused
 
 

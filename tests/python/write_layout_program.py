@@ -1,5 +1,5 @@
-"""Writes a C program that prints what its compiler makes of the public headers: for each record of the table a line with
-name and size, then one for each member with name, offset and size.
+"""Writes a C program that prints what its compiler makes of the public headers: for each record a line with name and
+size, then one for each member with name, offset and size.
 
     write_layout_program.py <include folder> <file to write>"""
 

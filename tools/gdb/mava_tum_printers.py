@@ -1,5 +1,5 @@
-"""For gdb: `source <this file>` makes the records of libmava_tum readable, in any program, also with the static library.
-With the installed shared library gdb does it by itself."""
+"""For gdb: `source <this file>` makes the records of libmava_tum readable, in any program, also with the static
+library. With the installed shared library gdb does it by itself."""
 
 import sys
 from pathlib import Path
