@@ -89,7 +89,7 @@ MAVA_TUM_API int32_t mava_tum_inspect_describe_field(
     const char *message, uint32_t number, mava_tum_inspect_field *description);
 
 /* Finds the messages, or adapters, whose names are most like `wrong`, which need not be one: at most `capacity`, most
- * similar first, none that has little in common with it. Returns their number. */
+ * similar first, none that has little in common with it, 8 in all. Returns their number. */
 MAVA_TUM_API uint32_t mava_tum_inspect_similar_messages(const char *wrong, const char **names, uint32_t capacity);
 MAVA_TUM_API uint32_t mava_tum_inspect_similar_adapters(const char *wrong, const char **names, uint32_t capacity);
 

@@ -1,0 +1,25 @@
+// What would not arrive in an application record, in a sentence. They all begin with the field.
+#pragma once
+
+#include "inspect/fault_text.h"
+#include "inspect/limits/adapter_limits.h"
+#include "inspect/wire_event.h"
+#include "mava_tum_inspect.h"
+
+#include <cstdint>
+
+namespace mava_tum_inspect
+{
+
+// A finding before it has a text.
+struct raw_finding {
+    int32_t kind;
+    const occurrence &at;
+    const member_limit *limit; // null: nothing takes the field
+    uint64_t found = 0;
+    uint64_t allowed = 0;
+};
+
+void describe_finding(sentence &text, const raw_finding &finding);
+
+} // namespace mava_tum_inspect

@@ -1,0 +1,59 @@
+#include "inspect/similar_names.h"
+
+#include <algorithm>
+#include <array>
+
+namespace mava_tum_inspect
+{
+
+namespace
+{
+
+constexpr std::size_t longest_name = 63;
+
+// A name is similar when at least half of its characters can stay, or when the one contains the other.
+bool is_similar(std::string_view wrong, std::string_view candidate, uint32_t distance)
+{
+    const bool contains = wrong.size() >= 3 && candidate.find(wrong) != std::string_view::npos;
+    return contains || 2 * distance <= std::max(wrong.size(), candidate.size());
+}
+
+} // namespace
+
+// Row by row of the table of distances between the beginnings of both.
+uint32_t edit_distance(std::string_view first, std::string_view second)
+{
+    first = first.substr(0, longest_name);
+    second = second.substr(0, longest_name);
+    std::array<uint32_t, longest_name + 1> row;
+    for (std::size_t column = 0; column <= second.size(); ++column)
+        row[column] = static_cast<uint32_t>(column);
+    for (std::size_t line = 1; line <= first.size(); ++line) {
+        uint32_t diagonal = row[0];
+        row[0] = static_cast<uint32_t>(line);
+        for (std::size_t column = 1; column <= second.size(); ++column) {
+            const uint32_t replaced = diagonal + (first[line - 1] == second[column - 1] ? 0 : 1);
+            diagonal = row[column];
+            row[column] = std::min({replaced, row[column] + 1, row[column - 1] + 1});
+        }
+    }
+    return row[second.size()];
+}
+
+uint32_t add_if_similar(std::string_view wrong, const char *candidate, std::span<similar_name> found, uint32_t count)
+{
+    const uint32_t distance = edit_distance(wrong, candidate);
+    if (!is_similar(wrong, candidate, distance))
+        return count;
+    uint32_t place = count;
+    while (place > 0 && found[place - 1].distance > distance)
+        --place;
+    if (place == found.size())
+        return count;
+    const uint32_t kept = count < found.size() ? count : count - 1;
+    std::copy_backward(found.begin() + place, found.begin() + kept, found.begin() + kept + 1);
+    found[place] = {candidate, distance};
+    return kept + 1;
+}
+
+} // namespace mava_tum_inspect
