@@ -36,23 +36,28 @@ bool says(const std::string &cell, const char *words)
     return cell.find(words) != std::string::npos;
 }
 
+// What a side writes again; nothing if it refuses.
+std::optional<byte_vector> written(const std::string &cell)
+{
+    if (says(cell, "refused"))
+        return std::nullopt;
+    if (says(cell, "nothing"))
+        return byte_vector();
+    return bytes_of(quoted_in(cell).at(0));
+}
+
 page_row row_of(const std::vector<std::string> &cells)
 {
     page_row row;
     row.name = cells.at(0).substr(1, cells[0].size() - 2);
-    std::vector<std::string> bytes = quoted_in(cells.at(2)), here = quoted_in(cells.at(3)),
-                             there = quoted_in(cells.at(4));
+    const std::vector<std::string> bytes = quoted_in(cells.at(2));
     row.message = bytes.at(bytes.size() - 1);
     if (!says(cells[2], "none"))
         row.wire = bytes_of(bytes.at(bytes.size() - 2));
-    row.result = std::stoi(here.at(0));
-    if (here.size() > 1)
-        row.here = bytes_of(here[1]);
-    row.package = says(cells[4], "proto3") ? "mava_tum_interop_proto3" : "mava_tum_interop";
-    if (there.empty() && !says(cells[4], "refused") && !says(cells[4], "nothing"))
-        throw std::runtime_error(row.name + " does not say what protobuf does");
-    if (!says(cells[4], "refused"))
-        row.there = there.empty() ? byte_vector() : bytes_of(there[0]);
+    row.result = std::stoi(cells.at(3));
+    row.here = written(cells.at(4)).value();
+    row.package = says(cells.at(5), "proto3") ? "mava_tum_interop_proto3" : "mava_tum_interop";
+    row.there = written(cells[5]);
     return row;
 }
 

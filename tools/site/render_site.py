@@ -1,0 +1,55 @@
+#!/usr/bin/python3 -B
+"""Renders README.md, the pages that docs/README.md lists, and every file that they link to.
+
+    render_site.py <project root> <output folder> [--reference URL]
+
+A page in Markdown becomes a page; a picture is copied; any other file of the tree is shown with its lines numbered; a
+folder becomes the list of its files. What is linked from there comes along. The files below the output folder are those
+of the site alone: what was there before is removed.
+"""
+import argparse
+import os
+import shutil
+
+from page_template import page_html, stylesheet
+from site_pages import Site
+
+
+def parse_arguments():
+    parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
+    parser.add_argument("project")
+    parser.add_argument("output")
+    parser.add_argument("--reference", help="where the reference of the headers is, seen from the first page")
+    return parser.parse_args()
+
+
+def write(output, path, content):
+    target = os.path.join(output, path)
+    os.makedirs(os.path.dirname(target), exist_ok=True)
+    with open(target, "w", encoding="utf-8") as file:
+        file.write(content)
+
+
+def clear(output):
+    """Removes an earlier site; whatever else is there is not ours to remove."""
+    if os.path.isdir(output) and os.listdir(output) and not os.path.exists(os.path.join(output, "style.css")):
+        raise SystemExit(f"{output}: there is something else in it; name an empty folder, or one that does not exist")
+    shutil.rmtree(output, ignore_errors=True)
+
+
+def main():
+    arguments = parse_arguments()
+    site = Site(arguments.project)
+    clear(arguments.output)
+    for page in site.all_pages():
+        write(arguments.output, page.target, page_html(page, site.navigation, arguments.reference))
+    for copied in sorted(site.copied):
+        target = os.path.join(arguments.output, copied)
+        os.makedirs(os.path.dirname(target), exist_ok=True)
+        shutil.copyfile(os.path.join(arguments.project, copied), target)
+    write(arguments.output, "style.css", stylesheet())
+    print(f"{len(site.pages)} pages and {len(site.copied)} pictures in {arguments.output}")
+
+
+if __name__ == "__main__":
+    main()
