@@ -8,7 +8,7 @@ import subprocess
 SEPARATORS = {"&&", "||", "|", ";", "&", "(", ")", "|&"}
 # Words of the shell, and commands that lead to another command.
 SHELL_WORDS = {"cd", "export", "set", ".", "[", "test", "echo", "exit", "for", "in", "do", "done", "if", "then",
-               "else", "fi", "while", "!", "{", "}", "true", "false", ":", "ulimit"}
+               "else", "fi", "while", "until", "!", "{", "}", "true", "false", ":", "ulimit"}
 PREFIXES = {"sudo", "time", "nice", "env", "do", "then", "else", "!", "if", "while"}
 ASSIGNMENT = re.compile(r"^[A-Za-z_][A-Za-z0-9_]*=")
 
