@@ -3,6 +3,9 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdio>
+#include <string>
+
 namespace mava_tum_test
 {
 namespace
@@ -48,6 +51,33 @@ TEST(wire_write, a_64_bit_varint_takes_one_to_ten_bytes)
         record.field_2 = row.value;
         mark_present(record, 2);
         EXPECT_EQ(encoded_hex(record), row.hex);
+    }
+}
+
+// The bytes of `value` as field 2, group after group.
+std::string hex_of_groups(uint64_t value)
+{
+    std::string hex = "10";
+    char byte[4];
+    for (; value >= 0x80; value >>= 7) {
+        std::snprintf(byte, sizeof byte, " %02X", static_cast<unsigned>(value & 0x7F) | 0x80u);
+        hex += byte;
+    }
+    std::snprintf(byte, sizeof byte, " %02X", static_cast<unsigned>(value));
+    return hex + byte;
+}
+
+TEST(wire_write, each_bit_of_a_64_bit_varint_keeps_its_place)
+{
+    for (unsigned bit = 0; bit < 64; ++bit) {
+        for (const uint64_t value : {uint64_t{1} << bit, ~uint64_t{0} >> bit, 0x9E3779B97F4A7C15 >> bit}) {
+            mava_tum_session_data record{};
+            record.field_2 = value;
+            mark_present(record, 2);
+            const std::string hex = encoded_hex(record);
+            EXPECT_EQ(hex, hex_of_groups(value));
+            EXPECT_EQ(decoded<mava_tum_session_data>(hex.c_str()).record.field_2, value);
+        }
     }
 }
 
