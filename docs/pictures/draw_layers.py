@@ -67,7 +67,8 @@ def draw_box(picture, folder, more):
 def draw_journey(picture):
     """What goes in at the top comes out at the bottom, and the other way round."""
     for x, y, words, below in ((24, 128, "application record", "flat, of fixed size"),
-                               (76, 228, "codec record", "with presence"), (24, 328, "wire bytes", "protobuf encoding")):
+                               (76, 228, "codec record", "with presence"),
+                               (24, 328, "wire bytes", "protobuf encoding")):
         picture.rect(x, y, 196 - x, HEIGHT, "length")
         picture.text(x + 10, y + 22, words, "strong small")
         picture.text(x + 10, y + 41, below, "small faint")

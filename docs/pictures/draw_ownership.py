@@ -19,8 +19,8 @@ def draw_head(picture, x, title, call):
 
 def sizes_behind(table, row):
     """The sizes of the blocks that a member leads to, in one step or two."""
-    inner = [whole(table, inner.target).size for inner in members(table, row.target) if inner.target.startswith("block")]
-    return " + ".join(str(size) for size in [whole(table, row.target).size, *inner]) + " bytes"
+    inner = [each.target for each in members(table, row.target) if each.target.startswith("block")]
+    return " + ".join(str(whole(table, place).size) for place in [row.target, *inner]) + " bytes"
 
 
 def draw_pointer(picture, x, y, table, row):
@@ -66,8 +66,8 @@ def draw_legend(picture, y):
 def draw(tables):
     copied, aliased = tables
     picture = Picture(880, 464, "Who owns the memory of a decoded message",
-                      "Without the alias bit every bytes field, text and array is a block of the record's; with it bytes "
-                      "fields point into the input; an application record owns nothing.")
+                      "Without the alias bit every bytes field, text and array is a block of the record's; with it "
+                      "bytes fields point into the input; an application record owns nothing.")
     panels = [LEFT + i * (PANEL + 4) for i in range(3)]
     draw_head(picture, panels[0], "decode", "..._decode_ext(flags 0)")
     draw_codec_panel(picture, panels[0], copied)

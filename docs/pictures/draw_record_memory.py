@@ -35,7 +35,8 @@ def draw_members(picture, table, where, column, top, kind):
             if row.target == "-":
                 picture.text(left + width - 8, y + 19, row.content, "small faint code", "end")
             else:
-                picture.text(left + width - 8, y + 19, "pointer" if row.size == 8 else "pointer, length", "small faint", "end")
+                words = "pointer" if row.size == 8 else "pointer, length"
+                picture.text(left + width - 8, y + 19, words, "small faint", "end")
             middles[row.name] = y + ROW / 2
         y += height
     return y - top, middles
@@ -94,5 +95,6 @@ def draw(table):
             draw_leaf(picture, block, BLOCK, middle)
             below = middle + 22
     bottom = max(TOP + height, below) + 30
-    picture.text(RECORD[0], bottom, "Numbers at the left are offsets in bytes. Dashed: other members, and padding.", "small faint")
+    picture.text(RECORD[0], bottom, "Numbers at the left are offsets in bytes. Dashed: other members, and padding.",
+                 "small faint")
     return picture.cut(bottom + 18)

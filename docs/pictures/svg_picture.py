@@ -20,9 +20,11 @@ LETTER = 0.6
 def style():
     """One rule for each class, first for light surroundings, then for dark ones."""
     def rules(shade):
-        found = [f".{name}{{fill:{colours[2 * shade]};stroke:{colours[2 * shade + 1]}}}" for name, colours in COLOURS.items()]
-        found += [f".{name}-line{{fill:none;stroke:{colours[2 * shade + 1]}}}" for name, colours in COLOURS.items()]
-        found += [f".{name}-tip{{fill:{colours[2 * shade + 1]}}}" for name, colours in COLOURS.items()]
+        found = []
+        for name, colours in COLOURS.items():
+            fill, line = colours[2 * shade:2 * shade + 2]
+            found += [f".{name}{{fill:{fill};stroke:{line}}}", f".{name}-line{{fill:none;stroke:{line}}}",
+                      f".{name}-tip{{fill:{line}}}"]
         return found + [f"text{{fill:{WORDS[shade]}}}", f".faint{{fill:{FAINT[shade]}}}"]
     fixed = ["text{font-family:'DejaVu Sans',Verdana,sans-serif;font-size:12px}", ".strong{font-weight:bold}",
              ".title{font-size:15px;font-weight:bold}",
@@ -40,7 +42,8 @@ class Picture:
 
     def rect(self, x, y, width, height, kind, radius=3, dashed=False):
         dash = ' stroke-dasharray="4 3"' if dashed else ""
-        self.parts.append(f'<rect class="{kind}" x="{x:g}" y="{y:g}" width="{width:g}" height="{height:g}" rx="{radius}"{dash}/>')
+        self.parts.append(f'<rect class="{kind}" x="{x:g}" y="{y:g}" width="{width:g}" height="{height:g}" '
+                          f'rx="{radius}"{dash}/>')
 
     def text(self, x, y, words, kind="", anchor="start"):
         if words:

@@ -114,7 +114,8 @@ class Page:
         # As in one terminal: folder and exported variables stay for the next block.
         state = shlex.quote(os.path.join(self.folder, ".state"))
         keep = f"trap '{{ export -p; printf \"cd %q\\n\" \"$PWD\"; }} >{state}' EXIT\n"
-        self.run(["bash", "-e", "-o", "pipefail", "-c", f"[ ! -e {state} ] || . {state}\n{keep}{block.source()}"], block)
+        script = f"[ ! -e {state} ] || . {state}\n{keep}{block.source()}"
+        self.run(["bash", "-e", "-o", "pipefail", "-c", script], block)
         return "run"
 
     def python(self, block):

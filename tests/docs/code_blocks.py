@@ -81,7 +81,8 @@ def is_output(block):
 
 
 def is_run(block):
-    return block.language in ("c", "cpp", "sh", "python") and not {"not run", "save", "from", "part"} & set(block.instructions)
+    not_here = {"not run", "save", "from", "part"} & set(block.instructions)
+    return block.language in ("c", "cpp", "sh", "python") and not not_here
 
 
 def pair_with_output(blocks, section_of):

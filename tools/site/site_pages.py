@@ -170,7 +170,8 @@ class Site:
         except ClassNotFound:
             lexer = get_lexer_by_name("bash" if text.startswith("#!") else "text")
         formatter = HtmlFormatter(linenos="inline", cssclass="highlight")
-        page.body = f"<h1>{html.escape(page.path)}</h1>\n<div class=\"code\">{highlight(text, lexer, formatter)}</div>\n"
+        code = highlight(text, lexer, formatter)
+        page.body = f"<h1>{html.escape(page.path)}</h1>\n<div class=\"code\">{code}</div>\n"
 
     def list_folder(self, page, full):
         page.title = page.path + "/"
