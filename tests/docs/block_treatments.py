@@ -39,6 +39,7 @@ class Page:
         self.saved = {}
         self.environment = tree.environment(folder)
         self.programs = 0
+        self.outputs = []
 
     def write(self, name, text):
         path = os.path.join(self.folder, name)

@@ -40,15 +40,16 @@ def clear(output):
 def main():
     arguments = parse_arguments()
     site = Site(arguments.project)
+    pages = list(site.all_pages())  # all of them before the first is written: a link that leads nowhere ends it here
     clear(arguments.output)
-    for page in site.all_pages():
+    for page in pages:
         write(arguments.output, page.target, page_html(page, site.navigation, arguments.reference))
     for copied in sorted(site.copied):
         target = os.path.join(arguments.output, copied)
         os.makedirs(os.path.dirname(target), exist_ok=True)
         shutil.copyfile(os.path.join(arguments.project, copied), target)
     write(arguments.output, "style.css", stylesheet())
-    print(f"{len(site.pages)} pages and {len(site.copied)} pictures in {arguments.output}")
+    print(f"{len(pages)} pages and {len(site.copied)} pictures in {arguments.output}")
 
 
 if __name__ == "__main__":
