@@ -3,8 +3,8 @@
 
     compare_capture.py PDML EXPECTED
 
-PDML is tshark's output, EXPECTED that of field_lines. The messages are compared one after the other, and in each of them
-every named field with its value, in order. Prints each difference, and how much was compared; exits with 1 at a
+PDML is tshark's output, EXPECTED that of field_lines. The messages are compared one after the other, and in each of
+them every named field with its value, in order. Prints each difference, and how much was compared; exits with 1 at a
 difference.
 """
 import sys

@@ -4,8 +4,8 @@
     make_manual_pages.py ROOT OUTPUT
 
 ROOT is the project's folder. OUTPUT/man3 gets a page for each exported function, OUTPUT/man7 the overview. Functions
-that belong together share a page, under the name of the first: the four of a message, the two adapters of an application
-record, the three of the queue. The pages of the others are links to it.
+that belong together share a page, under the name of the first: the four of a message, the two adapters of an
+application record, the three of the queue. The pages of the others are links to it.
 """
 import pathlib
 import re

@@ -51,17 +51,20 @@ def read_header(path, root):
     header = Header(path.relative_to(root).as_posix(), text[:text.index("*/") + 2])
     header.functions = [Function(found["name"], found["type"], parameters_of(found["parameters"]), found["comment"])
                         for found in FUNCTION.finditer(text)]
-    header.records = [Record(found["name"], found["tag"], found["members"], found["comment"]) for found in RECORD.finditer(text)]
+    header.records = [Record(found["name"], found["tag"], found["members"], found["comment"])
+                      for found in RECORD.finditer(text)]
     header.enums = [Enum(found["values"], found["comment"]) for found in ENUM.finditer(text)]
     return header
 
 
 def read_headers(include):
     root = pathlib.Path(include)
-    return [read_header(path, root) for folder in ("mava_tum", "tum_nal") for path in sorted((root / folder).glob("*.h"))]
+    return [read_header(path, root) for folder in ("mava_tum", "tum_nal")
+            for path in sorted((root / folder).glob("*.h"))]
 
 
 def result_codes(contract):
     """name -> (value, comment) of the codes that decode and duplicate return."""
     values = next(enum.values for enum in contract.enums if "MAVA_TUM_OK" in enum.values)
-    return {found["name"]: (found["value"], found["behind"] or found["before"]) for found in RESULT_CODE.finditer(values)}
+    return {found["name"]: (found["value"], found["behind"] or found["before"])
+            for found in RESULT_CODE.finditer(values)}

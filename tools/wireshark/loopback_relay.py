@@ -7,7 +7,7 @@
 
 Each message is one datagram and nothing but the message. The port that it goes to says which message it is, as
 profile/protobuf_udp_message_types has it. What goes on to the other program is what came out of the socket again.
-With the variable RELAY_LOG in the environment, each message is also written to that file: its name, and its bytes in hex.
+With RELAY_LOG in the environment, each message is also written to that file: its name, and its bytes in hex.
 """
 import os
 import pathlib

@@ -6,12 +6,20 @@
 
 int main(int argc, char **argv)
 {
+    using namespace mava_tum_wireshark;
     const std::string_view what = argc == 2 ? argv[1] : "";
-    if (what != "proto" && what != "ports") {
-        std::fputs("make_proto: say what to write: make_proto proto, or make_proto ports\n", stderr);
+    std::string text;
+    if (what == "proto")
+        text = proto_text();
+    else if (what == "ports")
+        text = port_table();
+    else if (what == "addresses")
+        text = address_table();
+    if (text.empty()) {
+        std::fputs(
+            "make_proto: say what to write: make_proto proto, make_proto ports or make_proto addresses\n", stderr);
         return 2;
     }
-    const std::string text = what == "proto" ? mava_tum_wireshark::proto_text() : mava_tum_wireshark::port_table();
     const bool is_written = std::fputs(text.c_str(), stdout) >= 0 && std::fflush(stdout) == 0;
     return is_written ? 0 : 1;
 }

@@ -8,13 +8,14 @@ namespace mava_tum_wireshark
 namespace
 {
 
+using mava_tum_inspect::address_kind;
 using mava_tum_inspect::field_description;
 using mava_tum_inspect::field_kind;
 using mava_tum_inspect::message_description;
 
 constexpr const char *head =
-    R"(// The 40 messages, for programs that want to name what is on the wire. Made by make_proto from the library's own lists of
-// fields; do not edit.
+    R"(// The 40 messages, for programs that want to name what is on the wire. Made by make_proto from the library's own lists
+// of fields; do not edit.
 //
 // Every field has presence. A text is a `string` here, so that it is shown as one; the library asks no character set of
 // it. IPv4 addresses are the fixed32 fields: their four bytes stand on the wire in network order, and are shown here as
@@ -65,6 +66,17 @@ std::string proto_text()
     std::string text = head;
     for (const message_description &message : mava_tum_inspect::all_messages())
         text += message_text(message);
+    return text;
+}
+
+std::string address_table()
+{
+    std::string text;
+    for (const message_description &message : mava_tum_inspect::all_messages())
+        for (const field_description &field : message.fields)
+            if (field.address != address_kind::none)
+                text += std::string("    [\"pbf.mava_tum.") + message.name + "." + field.name + "\"] = \"" +
+                        (field.address == address_kind::ipv4 ? "ipv4" : "ipv6") + "\",\n";
     return text;
 }
 

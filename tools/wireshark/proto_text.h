@@ -12,6 +12,9 @@ inline constexpr unsigned port_before_first = 21000;
 
 std::string proto_text();
 
+// One line for each field that holds an address, for the table in mava_tum_addresses.lua.
+std::string address_table();
+
 // One line for each message, as Wireshark keeps them in protobuf_udp_message_types.
 std::string port_table();
 
