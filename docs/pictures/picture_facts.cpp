@@ -101,6 +101,14 @@ std::string hex_of(const void *start, size_t size)
     return hex;
 }
 
+// The same on every host, whatever its byte order.
+std::string hex_number(uint32_t number)
+{
+    char digits[16];
+    std::snprintf(digits, sizeof digits, "0x%08X", number);
+    return digits;
+}
+
 // A row of the table: what contains the member, its name, offset, size and content, and where it points to.
 void print_row(const char *where, const char *name, size_t offset, size_t size, const std::string &content,
     const std::string &target)
@@ -117,11 +125,11 @@ void print_record(const mava_tum_session_context &session, const byte_vector &wi
     ROW("record", session, record, feature_mask, std::to_string(session.feature_mask), "-");
     ROW("record", session, record, field_6, "length " + std::to_string(session.field_6.length),
         place_of(session.field_6.data, wire, list));
-    ROW("record", session, record, subscriber_v4.ipv4_address, hex_of(&session.subscriber_v4.ipv4_address, 4), "-");
+    ROW("record", session, record, subscriber_v4.ipv4_address, hex_number(session.subscriber_v4.ipv4_address), "-");
     ROW("record", session, record, session_data.field_5, "text", place_of(session.session_data.field_5, wire, list));
     ROW("record", session, record, qos, "array", place_of(session.qos, wire, list));
     ROW("record", session, record, qos_count, std::to_string(session.qos_count), "-");
-    ROW("record", session, record, presence_mask, hex_of(&session.presence_mask, 4), "-");
+    ROW("record", session, record, presence_mask, hex_number(session.presence_mask), "-");
 }
 
 void print_array(const mava_tum_session_context &session, const byte_vector &wire, const block_list &list)
