@@ -1,0 +1,94 @@
+// The check against the adapters, on random and mutated messages: what it finds is lost, and what it does not find is
+// not; and the memory that it foretells is what the adapter asks calloc for.
+#include "inspect/arrived_values.h"
+#include "inspect/inspect_calls.h"
+#include "model/message_tables.h"
+#include "model/random_source.h"
+#include "model/wire_maker.h"
+#include "nal/calloc_watch.h"
+
+#include <gtest/gtest.h>
+
+#include <numeric>
+
+namespace
+{
+
+using namespace mava_tum_inspect;
+using namespace mava_tum_test;
+using mava_tum_model::random_source;
+
+constexpr int rounds = 1500;
+
+struct tally {
+    int clean = 0;
+    int lossy = 0;
+    int broken = 0;
+};
+
+void expect_agreement(const adapter_description &adapter, const byte_vector &input, tally &seen)
+{
+    const checked found = check(adapter.name, input);
+    if (found.has(MAVA_TUM_INSPECT_FAULT)) {
+        EXPECT_NE(found.result.verdict.result, MAVA_TUM_OK);
+        ++seen.broken;
+        return;
+    }
+    EXPECT_EQ(found.result.verdict.result, MAVA_TUM_OK);
+    const std::vector<std::string> lost = lost_in(adapter, input);
+    if (found.findings.empty()) {
+        EXPECT_EQ(lost, std::vector<std::string>()) << adapter.name << " " << hex_of(input);
+        ++seen.clean;
+        return;
+    }
+    // A value that is replaced by its equal is told of, and nobody misses it.
+    if (found.has(MAVA_TUM_INSPECT_REPLACED))
+        return;
+    EXPECT_NE(lost, std::vector<std::string>()) << adapter.name << " " << hex_of(input) << "\n" << found.texts();
+    ++seen.lossy;
+}
+
+void expect_memory(const adapter_description &adapter, const byte_vector &input)
+{
+    const checked found = check(adapter.name, input);
+    std::vector<uint64_t> record(adapter.record_bytes / sizeof(uint64_t) + 1);
+    const calloc_watch watch;
+    adapter.decode(input.data(), static_cast<uint32_t>(input.size()), record.data());
+    const std::vector<std::size_t> &sizes = watch.sizes();
+    EXPECT_EQ(found.result.block_count, sizes.size()) << adapter.name << " " << hex_of(input);
+    EXPECT_EQ(found.result.block_bytes, std::accumulate(sizes.begin(), sizes.end(), uint64_t{0}))
+        << adapter.name << " " << hex_of(input);
+}
+
+template <class Expectation>
+void for_each_input(Expectation expect)
+{
+    uint64_t seed = 0;
+    for (const adapter_description &adapter : all_adapters()) {
+        const mava_tum_model::message &of = *mava_tum_model::find_message(adapter.message->name);
+        random_source random(++seed);
+        for (int round = 0; round < rounds && !testing::Test::HasFailure(); ++round) {
+            mava_tum_model::wire_bytes wire = mava_tum_model::random_wire(of, random);
+            for (uint64_t changes = random.below(3); changes > 0; --changes)
+                mava_tum_model::mutate_wire(of, wire, random);
+            expect(adapter, wire);
+        }
+    }
+}
+
+TEST(inspect_check, finds_exactly_what_the_adapters_lose)
+{
+    tally seen;
+    for_each_input(
+        [&](const adapter_description &adapter, const byte_vector &input) { expect_agreement(adapter, input, seen); });
+    EXPECT_GT(seen.clean, 1000);
+    EXPECT_GT(seen.lossy, 1000);
+    EXPECT_GT(seen.broken, 1000);
+}
+
+TEST(inspect_check, foretells_every_block_that_the_adapters_ask_for)
+{
+    for_each_input(expect_memory);
+}
+
+} // namespace
