@@ -6,6 +6,10 @@ from pathlib import Path
 
 sys.path.insert(0, str(Path(__file__).resolve().parent))
 
-import mava_tum_gdb  # noqa: E402  (found by the line above)
+# Whoever debugs as root would leave compiled files beside the installed ones.
+wrote_none, sys.dont_write_bytecode = sys.dont_write_bytecode, True
+import mava_tum_gdb  # noqa: E402  (found by the lines above)
+
+sys.dont_write_bytecode = wrote_none
 
 mava_tum_gdb.register(None)
