@@ -6,6 +6,7 @@ empty value. Only what runs is changed: constant variables, template arguments, 
 `if constexpr` stay, and so does the number in `return {nullptr, 0}`: beside a null position there is no value. A
 template is one place, however many messages instantiate it.
 """
+import hashlib
 import re
 from dataclasses import dataclass
 
@@ -51,6 +52,7 @@ class Site:
     before: str
     after: str
     changes: list  # what each mutant does, for people; their numbers follow each other
+    within: str  # of the function's text, to see whether it has changed
     operator: tuple = None
     first: int = 0
     dropped: bool = False
@@ -64,6 +66,7 @@ class Finder:
         self.text = text
         self.sites = []
         self.function = ""
+        self.within = ""
         self.returns_nothing = False
 
     def text_of(self, cursor):
@@ -71,7 +74,7 @@ class Finder:
 
     def add(self, cursor, before, after, changes, operator=None):
         start, end = cursor.extent.start.offset, cursor.extent.end.offset
-        self.sites.append(Site(self.name, self.function, start, end, before, after, changes, operator))
+        self.sites.append(Site(self.name, self.function, start, end, before, after, changes, self.within, operator))
 
     # ---- walking ----
 
@@ -103,11 +106,12 @@ class Finder:
             self.visit(child)
 
     def visit_named(self, cursor):
-        outer = self.function
-        self.function = f"{outer}::{cursor.spelling}" if outer else cursor.spelling
+        outer = self.function, self.within
+        self.function = f"{self.function}::{cursor.spelling}" if self.function else cursor.spelling
+        self.within = hashlib.sha1(self.text_of(cursor).encode("latin-1")).hexdigest()[:12]
         self.returns_nothing = cursor.kind in FUNCTIONS and cursor.result_type.kind == TypeKind.VOID
         self.visit_children(cursor)
-        self.function = outer
+        self.function, self.within = outer
 
     def visit_variable(self, cursor):
         """Only what initialises it, and only where that is not a constant."""
@@ -155,7 +159,8 @@ class Finder:
         semicolon = self.text.index(";", cursor.extent.end.offset)
         result = "" if self.returns_nothing else " {{}}"
         self.sites.append(Site(self.name, self.function, cursor.extent.start.offset, semicolon + 1,
-                               "{{ if (mut::is({0})) return" + result + "; ", " }}", ["returns the empty value"]))
+                               "{{ if (mut::is({0})) return" + result + "; ", " }}", ["returns the empty value"],
+                               self.within))
 
     def visit_if(self, cursor):
         children = list(cursor.get_children())

@@ -153,7 +153,7 @@ def describe(found, texts):
                 mutants[site.first + index] = {
                     "key": key if seen[key] == 1 else f"{key} #{seen[key]}", "file": site.file,
                     "line": texts[path].count("\n", 0, site.start) + 1, "function": site.function,
-                    "compiles": not site.dropped}
+                    "within": site.within, "compiles": not site.dropped}
     return mutants
 
 

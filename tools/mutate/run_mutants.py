@@ -1,14 +1,15 @@
 #!/usr/bin/env python3
 """Runs the ordinary test programs against every mutant of a mutated build and prints the score.
 
-    run_mutants.py <build folder> <mutants.json> <survivors.md> <fuzz corpus> [--survivors-of <results.json>]
+    run_mutants.py <build folder> <mutants.json> <survivors.md> <fuzz corpus> <results.json> [--again]
 
 First each program runs once with nothing mutated and notes which mutants it reaches. Then each mutant is run through
 the programs that reach it, the fastest first, until one fails: it is killed. A program that takes much longer than it
 should counts as failed. What no program fails for has survived, and has to be listed with a reason. A listed survivor
 is not run through the slow programs again: that could only raise the score.
 
-With --survivors-of, what an earlier run killed counts as killed: to try a new test.
+With --again, what an earlier run killed counts as killed if the function that it is in has not changed since: to try
+a new test, or to go on after MUTATION_MINUTES, after which no further mutant is begun.
 """
 import argparse
 import json
@@ -27,6 +28,7 @@ PROGRAMS = ["tests/test_codec", "tests/test_messages", "tests/test_leniency", "t
 LEAST_SHARE = 0.95
 SLOW_SECONDS = 3
 MEMORY_BYTES = 8 << 30
+NOT_RUN = "not run"
 # Run by the compiler alone; the tool stops when a program reaches one of them after all.
 COMPILE_TIME_FUNCTIONS = {
     "all_scalar", "any_asks_for_room", "asks_for_room", "is_well_formed", "make_varint_shapes", "max_head_bytes",
@@ -95,20 +97,38 @@ def read_survivors(path):
 
 
 def save(mutants, results, path):
+    """By key, with the function's text, so that a later run can tell whether it still holds."""
     with open(path, "w", encoding="utf-8") as stream:
-        json.dump({mutants[number]["key"]: killer for number, killer in results.items()}, stream, indent=1)
+        json.dump({mutants[number]["key"]: {"killer": killer, "within": mutants[number]["within"]}
+                   for number, killer in results.items()}, stream, indent=1)
+
+
+def killed_before(mutants, path):
+    """number -> the program that killed it in an earlier run."""
+    with open(path, encoding="utf-8") as stream:
+        earlier = json.load(stream)
+    killers = {number: earlier[mutant["key"]]["killer"] for number, mutant in mutants.items()
+               if earlier.get(mutant["key"], {}).get("within") == mutant["within"]}
+    known = {number: killer for number, killer in killers.items() if killer}
+    print(f"{len(known)} of {len(mutants)} mutants taken over as killed", flush=True)
+    return known
 
 
 def run_all(mutants, programs, listed, known, path):
-    """number -> the program that killed it, or None. Saves them by key, also on the way."""
-    results, started = {}, time.time()
+    """number -> the program that killed it, or None, of all that the time was enough for. Saves them, also on the
+    way."""
+    results, started = dict(known), time.time()
+    last = started + 60 * float(os.environ.get("MUTATION_MINUTES", "inf"))
 
     def run(number):
-        key = mutants[number]["key"]
-        return number, known.get(key) or try_mutant(number, programs, key in listed)
+        if time.time() > last:
+            return number, NOT_RUN
+        return number, try_mutant(number, programs, mutants[number]["key"] in listed)
 
     with ThreadPoolExecutor(int(os.environ.get("MUTATION_JOBS", os.cpu_count()))) as pool:
-        for number, killer in pool.map(run, sorted(mutants)):
+        for number, killer in pool.map(run, sorted(set(mutants) - set(known))):
+            if killer == NOT_RUN:
+                continue
             results[number] = killer
             if len(results) % 100 == 0:
                 save(mutants, results, path)
@@ -119,6 +139,9 @@ def run_all(mutants, programs, listed, known, path):
 
 def report(mutants, programs, results, listed):
     """Prints what survived and the score. Returns whether the list says the same."""
+    if len(results) < len(mutants):
+        print(f"{len(results)} of {len(mutants)} mutants were run; --again goes on")
+        return False
     reached = set().union(*(program.reached for program in programs))
     survivors = {mutants[number]["key"]: number for number, killer in results.items() if killer is None}
     unlisted, stale = sorted(set(survivors) - listed), sorted(listed - set(survivors))
@@ -148,14 +171,10 @@ def run_by_the_compiler(mutants, programs):
 
 def main():
     parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
-    for name in ("build", "mutants", "survivors", "corpus"):
+    for name in ("build", "mutants", "survivors", "corpus", "results"):
         parser.add_argument(name)
-    parser.add_argument("--survivors-of")
+    parser.add_argument("--again", action="store_true")
     options = parser.parse_args()
-    known = {}
-    if options.survivors_of:
-        with open(options.survivors_of, encoding="utf-8") as stream:
-            known = json.load(stream)
     with open(options.mutants, encoding="utf-8") as stream:
         mutants = {int(number): mutant for number, mutant in json.load(stream).items() if mutant["compiles"]}
     programs = [Program(options.build, name, options.corpus) for name in PROGRAMS]
@@ -164,7 +183,8 @@ def main():
     programs.sort(key=lambda program: program.seconds)
     mutants = run_by_the_compiler(mutants, programs)
     listed = read_survivors(options.survivors)
-    results = run_all(mutants, programs, listed, known, os.path.join(options.build, "results.json"))
+    known = killed_before(mutants, options.results) if options.again and os.path.exists(options.results) else {}
+    results = run_all(mutants, programs, listed, known, options.results)
     sys.exit(0 if report(mutants, programs, results, listed) else 1)
 
 
