@@ -42,6 +42,12 @@ void add_wrong_wire_type(sentence &text, const wire_fault &fault)
     text.add(" instead of ").add_number(wire_type_number(fault.at.field->kind));
 }
 
+void add_unsupported_wire_type(sentence &text, const wire_fault &fault)
+{
+    add_field(text, fault);
+    text.add(" has wire type ").add_number(fault.at.wire_type).add(", which cannot be skipped,");
+}
+
 void add_value_beyond_end(sentence &text, const wire_fault &fault)
 {
     add_field(text, fault);
@@ -68,10 +74,8 @@ const char *behind_field(fault_rule rule)
         return " (text) occurs a second time";
     case fault_rule::second_run:
         return " occurs in a second, separate run";
-    case fault_rule::unsupported_wire_type:
-        return " cannot be skipped";
     case fault_rule::text_too_long:
-        return " has 2^32 - 1 bytes, and with its NUL no block can be asked for";
+        return " has 2^32 - 1 bytes, which with a NUL fit no block,";
     case fault_rule::array_too_long:
         return " has more elements than 32 bits can count";
     default:
@@ -86,6 +90,8 @@ void add_rule(sentence &text, const wire_fault &fault)
         return add_cut_tag(text, fault);
     case fault_rule::wrong_wire_type:
         return add_wrong_wire_type(text, fault);
+    case fault_rule::unsupported_wire_type:
+        return add_unsupported_wire_type(text, fault);
     case fault_rule::value_beyond_end:
         return add_value_beyond_end(text, fault);
     case fault_rule::fixed32_cut:
@@ -105,8 +111,6 @@ void add_rule(sentence &text, const wire_fault &fault)
         add_field(text, fault);
         text.add(behind_field(fault.rule));
     }
-    if (fault.rule == fault_rule::unsupported_wire_type)
-        text.add(": it has wire type ").add_number(fault.at.wire_type).add(",");
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstring>
 
 namespace mava_tum_inspect
 {
@@ -11,11 +12,19 @@ namespace
 
 constexpr std::size_t longest_name = 63;
 
-// A name is similar when at least half of its characters can stay, or when the one contains the other.
-bool is_similar(std::string_view wrong, std::string_view candidate, uint32_t distance)
+// Whether the one is part of the other, and not only by chance.
+bool contains_other(std::string_view wrong, std::string_view candidate)
 {
-    const bool contains = wrong.size() >= 3 && candidate.find(wrong) != std::string_view::npos;
-    return contains || 2 * distance <= std::max(wrong.size(), candidate.size());
+    constexpr std::size_t telling = 4;
+    return (wrong.size() >= telling && candidate.find(wrong) != std::string_view::npos) ||
+           (candidate.size() >= telling && wrong.find(candidate) != std::string_view::npos);
+}
+
+// As if a name that was written in part, or with something before it, had one wrong character.
+uint32_t distance_between(std::string_view wrong, std::string_view candidate)
+{
+    const uint32_t distance = edit_distance(wrong, candidate);
+    return contains_other(wrong, candidate) ? std::min(distance, 1u) : distance;
 }
 
 } // namespace
@@ -42,9 +51,10 @@ uint32_t edit_distance(std::string_view first, std::string_view second)
 
 uint32_t add_if_similar(std::string_view wrong, const char *candidate, std::span<similar_name> found, uint32_t count)
 {
-    const uint32_t distance = edit_distance(wrong, candidate);
-    if (!is_similar(wrong, candidate, distance))
-        return count;
+    wrong = wrong.substr(0, longest_name);
+    const uint32_t distance = distance_between(wrong, candidate);
+    if (2 * distance > std::max(wrong.size(), std::strlen(candidate)))
+        return count; // fewer than half of the characters can stay
     uint32_t place = count;
     while (place > 0 && found[place - 1].distance > distance)
         --place;
