@@ -1,5 +1,5 @@
-/* An allocator with a budget. A decode that wants more than that ends with MAVA_TUM_NO_MEMORY, and everything comes
- * back in the end, also the memory of a nested record that occurs twice, which a decode drops. */
+/* An allocator with a budget: a decode that wants more ends with MAVA_TUM_NO_MEMORY, and everything comes back in the
+ * end, also what a decode drops of a nested record that occurs twice. Prints which blocks are out after each step. */
 #include "mava_tum/reconciliation.h"
 
 #include <stddef.h>

@@ -1,4 +1,4 @@
-/* The shortest round trip: a session to wire bytes and back. */
+/* The shortest round trip: a session to wire bytes and back. Prints their number, and what came back. */
 #include "tum_nal/nal_session_context.h"
 
 #include <stdio.h>
