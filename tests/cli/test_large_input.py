@@ -1,0 +1,43 @@
+"""Frame files of any size are read in the memory of one message."""
+import os
+import subprocess
+import unittest
+
+from inspector import PROGRAM, InspectorTest, frames
+
+# A session_delete without findings; tools/check/inspector_memory gives more of it.
+MESSAGE = bytes.fromhex("08021007") + b"\x20" + b"\xff" * 9 + b"\x01"
+MEBIBYTES = int(os.environ.get("MAVA_TUM_FRAME_MEBIBYTES", "16"))
+LIMIT_KIB = 48 * 1024
+# What the sanitizers add is not the program's.
+IS_INSTRUMENTED = os.environ.get("MAVA_TUM_IS_INSTRUMENTED") == "1"
+
+
+def feed_and_measure(arguments, block, blocks):
+    """The exit code and the most memory that the program had, in KiB."""
+    with subprocess.Popen([PROGRAM, *arguments], stdin=subprocess.PIPE, stdout=subprocess.DEVNULL) as process:
+        for _ in range(blocks):
+            process.stdin.write(block)
+        process.stdin.close()
+        _, status, usage = os.wait4(process.pid, 0)
+        process.returncode = os.waitstatus_to_exitcode(status)
+    return process.returncode, usage.ru_maxrss
+
+
+class LargeInputTest(InspectorTest):
+    @unittest.skipIf(IS_INSTRUMENTED, "sanitizers take memory of their own")
+    def test_the_memory_does_not_grow_with_the_number_of_frames(self):
+        block = frames(MESSAGE) * ((1 << 20) // (len(MESSAGE) + 4))
+        for arguments in (["check", "session_delete"], ["decode", "session_delete"]):
+            status, kibibytes = feed_and_measure([*arguments, "-f", "frames"], block, MEBIBYTES)
+            print(f"{' '.join(arguments)}: {MEBIBYTES} MiB of frames in {kibibytes} KiB of memory")
+            self.assertEqual(status, 0)
+            self.assertLess(kibibytes, LIMIT_KIB)
+
+    def test_a_length_alone_takes_no_memory(self):
+        done = self.refused("decode", "subscriber_v4", "-f", "frames", data=b"\x00\xff\xff\xff", says="after 0 of its")
+        self.assertEqual(done.output, "")
+
+
+if __name__ == "__main__":
+    unittest.main()

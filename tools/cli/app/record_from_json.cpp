@@ -1,0 +1,105 @@
+#include "app/record_json.h"
+
+#include "bad_use.h"
+#include "record_number.h"
+
+#include <cstring>
+#include <fmt/format.h>
+#include <limits>
+
+namespace mava_tum_cli
+{
+
+namespace
+{
+
+uint64_t largest_of(size_t size_bytes)
+{
+    return std::numeric_limits<uint64_t>::max() >> (64 - 8 * size_bytes);
+}
+
+void store_bytes(const json &value, const std::string &path, size_t size_bytes, std::byte *to)
+{
+    const byte_vector bytes = bytes_of_json(value, path);
+    if (bytes.size() != size_bytes)
+        throw bad_use(fmt::format("{}: expected {} bytes, found {}", path, size_bytes, bytes.size()));
+    std::memcpy(to, bytes.data(), bytes.size());
+}
+
+void store_text(const json &value, const std::string &path, size_t size_bytes, std::byte *to)
+{
+    const std::string text = text_of_json(value, path);
+    if (text.size() >= size_bytes)
+        throw bad_use(
+            fmt::format("{}: expected a text of at most {} bytes, found {}", path, size_bytes - 1, text.size()));
+    std::memcpy(to, text.c_str(), text.size() + 1);
+}
+
+void store_element(const record_member &member, const json &value, const std::string &path, std::byte *to)
+{
+    if (member.kind == member_kind::numbers)
+        store_number(to, member.element_bytes, number_of_json(value, path, largest_of(member.element_bytes)));
+    else if (member.kind == member_kind::texts)
+        store_text(value, path, member.element_bytes, to);
+    else
+        record_of_json(*member.layout, value, path, to);
+}
+
+void store_elements(const record_member &member, const json &value, const std::string &path, std::byte *record)
+{
+    if (!value.is_array() || value.size() > member.slots())
+        refuse_value(path, fmt::format("an array of at most {} elements", member.slots()), value);
+    for (size_t slot = 0; slot < value.size(); ++slot)
+        store_element(
+            member, value[slot], element_path(path, slot), record + member.offset + slot * member.element_bytes);
+    if (member.count_bytes != 0)
+        store_number(record + member.count_offset, member.count_bytes, value.size());
+}
+
+void store_member(const record_member &member, const json &value, const std::string &path, std::byte *record)
+{
+    std::byte *to = record + member.offset;
+    switch (member.kind) {
+    case member_kind::number:
+        return store_number(to, member.size_bytes, number_of_json(value, path, largest_of(member.size_bytes)));
+    case member_kind::ipv4:
+        return store_number(to, member.size_bytes, ipv4_of_json(value, path));
+    case member_kind::ipv6:
+    case member_kind::bytes:
+        return store_bytes(value, path, member.size_bytes, to);
+    case member_kind::text:
+        return store_text(value, path, member.size_bytes, to);
+    case member_kind::record:
+        return record_of_json(*member.layout, value, path, to);
+    default:
+        return store_elements(member, value, path, record);
+    }
+}
+
+const record_member &member_named(const record_layout &layout, const std::string &name, const std::string &path)
+{
+    std::string known;
+    for (const record_member &member : layout.members) {
+        if (member.kind == member_kind::reserved)
+            continue;
+        if (member.name == name)
+            return member;
+        known += (known.empty() ? "" : ", ") + std::string(member.name);
+    }
+    throw bad_use(fmt::format("{}: {} has no such member; it has {}", path, layout.name, known));
+}
+
+} // namespace
+
+void record_of_json(const record_layout &layout, const json &value, const std::string &path, std::byte *record)
+{
+    if (!value.is_object())
+        refuse_value(path, fmt::format("an object with the members of {}", layout.name), value);
+    std::memset(record, 0, layout.size_bytes);
+    for (const auto &[name, member_value] : value.items()) {
+        const std::string place = member_path(path, name);
+        store_member(member_named(layout, name, place), member_value, place, record);
+    }
+}
+
+} // namespace mava_tum_cli

@@ -1,0 +1,256 @@
+#include "command_line.h"
+
+#include "command_help.h"
+#include "commands/all_commands.h"
+
+#include <CLI/CLI.hpp>
+#include <algorithm>
+#include <fmt/format.h>
+#include <map>
+
+namespace mava_tum_cli
+{
+
+namespace
+{
+
+constexpr const char *program_name = "mava-tum";
+
+// ---- arguments that several commands have --------------------------------------------------------------------
+
+void add_message(CLI::App &command, command_options &options)
+{
+    command.add_option("MESSAGE", options.name, "the message, as `mava-tum list` names it")->required();
+}
+
+void add_adapter(CLI::App &command, command_options &options)
+{
+    command.add_option("NAME", options.name, "the application record, as `mava-tum list` names its adapter")
+        ->required();
+}
+
+void add_format(CLI::App &command, command_options &options)
+{
+    static const std::map<std::string, input_format> formats = {{"auto", input_format::automatic},
+        {"raw", input_format::raw}, {"hex", input_format::hex}, {"base64", input_format::base64},
+        {"frames", input_format::frames}};
+    command
+        .add_option("-f,--format", options.format,
+            "what the input is written in: auto, raw, hex, base64, or frames (each message after its length in 4 "
+            "bytes, big-endian)")
+        ->transform(CLI::Transformer(formats))
+        ->option_text("FORMAT");
+}
+
+void add_file(CLI::App &command, command_options &options)
+{
+    command.add_option("FILE", options.file, "the input; - or nothing is standard input");
+    add_format(command, options);
+}
+
+void add_output(CLI::App &command, command_options &options)
+{
+    command.add_option("-o,--output", options.output, "write to this file, which appears when it is complete")
+        ->option_text("FILE");
+}
+
+void add_written_as(CLI::App &command, command_options &options)
+{
+    static const std::map<std::string, input_format> formats = {{"raw", input_format::raw}, {"hex", input_format::hex},
+        {"base64", input_format::base64}, {"frames", input_format::frames}};
+    command.add_option("-t,--to", options.written_as, "how to write the message: raw, hex, base64 or frames")
+        ->transform(CLI::Transformer(formats))
+        ->option_text("FORMAT");
+}
+
+void add_json(CLI::App &command, command_options &options)
+{
+    command.add_flag("-j,--json", options.as_json, "print JSON");
+}
+
+void add_colour(CLI::App &command, command_options &options)
+{
+    static const std::map<std::string, colour_choice> choices = {
+        {"auto", colour_choice::automatic}, {"always", colour_choice::always}, {"never", colour_choice::never}};
+    command.add_option("--color", options.colour, "auto (on a terminal, unless NO_COLOR is set), always or never")
+        ->transform(CLI::Transformer(choices))
+        ->option_text("WHEN");
+}
+
+// ---- the commands --------------------------------------------------------------------------------------------
+
+void declare_decode(CLI::App &command, command_options &options)
+{
+    add_message(command, options);
+    add_file(command, options);
+    add_json(command, options);
+    add_output(command, options);
+    add_colour(command, options);
+}
+
+void declare_explain(CLI::App &command, command_options &options)
+{
+    add_message(command, options);
+    add_file(command, options);
+    add_output(command, options);
+    add_colour(command, options);
+}
+
+void declare_encode(CLI::App &command, command_options &options)
+{
+    add_message(command, options);
+    command.add_option("FILE.json", options.file, "the message as JSON; - or nothing is standard input");
+    add_output(command, options);
+    add_written_as(command, options);
+}
+
+void declare_app(CLI::App &command, command_options &options)
+{
+    add_adapter(command, options);
+    command.add_option("DIRECTION", options.direction, "encode: JSON to wire bytes; decode: wire bytes to JSON")
+        ->required()
+        ->check(CLI::IsMember({"encode", "decode"}));
+    add_file(command, options);
+    add_output(command, options);
+    add_written_as(command, options);
+}
+
+void declare_check(CLI::App &command, command_options &options)
+{
+    add_adapter(command, options);
+    add_file(command, options);
+    add_output(command, options);
+}
+
+void declare_guess(CLI::App &command, command_options &options)
+{
+    add_file(command, options);
+    add_output(command, options);
+}
+
+void declare_diff(CLI::App &command, command_options &options)
+{
+    add_message(command, options);
+    command.add_option("A", options.file, "one message; - is standard input")->required();
+    command.add_option("B", options.second_file, "the other")->required();
+    add_format(command, options);
+    add_output(command, options);
+    add_colour(command, options);
+}
+
+void declare_list(CLI::App &command, command_options &options)
+{
+    command.add_option("MESSAGE", options.name, "list the fields of this message");
+    add_json(command, options);
+    add_output(command, options);
+}
+
+struct command {
+    const char *name;
+    const char *summary;
+    const char *examples;
+    void (*declare)(CLI::App &, command_options &);
+    exit_status (*run)(const command_options &);
+};
+
+const command all_commands[] = {
+    {"decode", "Print the fields of messages as a tree or as JSON", help::decode, declare_decode, run_decode},
+    {"explain", "Print the bytes of messages with their meaning, and what is wrong with them", help::explain,
+        declare_explain, run_explain},
+    {"encode", "Make a message from JSON", help::encode, declare_encode, run_encode},
+    {"app", "The same as an application sees it: its records through the adapters", help::app, declare_app, run_app},
+    {"check", "Tell whether messages fit into an application's record", help::check, declare_check, run_check},
+    {"guess", "Tell which messages some bytes can be", help::guess, declare_guess, run_guess},
+    {"diff", "Compare two messages field by field", help::diff, declare_diff, run_diff},
+    {"list", "List the messages and their adapters, or the fields of one", help::list, declare_list, run_list},
+};
+
+void declare_all(CLI::App &program, command_options &options)
+{
+    program.name(program_name);
+    program.set_version_flag("-V,--version", std::string(program_name) + " " + MAVA_TUM_VERSION);
+    program.require_subcommand(1);
+    program.footer(help::overview);
+    for (const command &each : all_commands) {
+        CLI::App *subcommand = program.add_subcommand(each.name, each.summary);
+        each.declare(*subcommand, options);
+        subcommand->footer(each.examples);
+    }
+}
+
+// ---- errors: one line each -----------------------------------------------------------------------------------
+
+// File names and values can contain anything.
+std::string on_one_line(std::string text)
+{
+    std::ranges::replace_if(
+        text, [](unsigned char character) { return character < ' ' || character == 0x7F; }, '?');
+    return text;
+}
+
+int refuse(const std::string &who, const std::string &what)
+{
+    fmt::print(stderr, "{}: {}\n", who, on_one_line(what));
+    return exit_bad_use;
+}
+
+int refuse_arguments(const CLI::App &program, const CLI::ParseError &error)
+{
+    std::string who = program_name;
+    for (const CLI::App *subcommand : program.get_subcommands())
+        who += " " + subcommand->get_name();
+    return refuse(who, fmt::format("{}; see {} --help", error.what(), who));
+}
+
+// What the parser would only call a missing subcommand.
+int refuse_command(const std::string &word)
+{
+    std::string names;
+    for (const command &each : all_commands)
+        names += (names.empty() ? "" : ", ") + std::string(each.name);
+    return refuse(program_name, fmt::format("there is no command \"{}\"; name one of {}", word, names));
+}
+
+bool is_command(std::string_view word)
+{
+    return std::ranges::any_of(all_commands, [word](const command &each) { return word == each.name; });
+}
+
+int run_chosen(const CLI::App &program, const command_options &options)
+{
+    const std::string chosen = program.get_subcommands().front()->get_name();
+    for (const command &each : all_commands) {
+        if (each.name != chosen)
+            continue;
+        const std::string who = fmt::format("{} {}", program_name, chosen);
+        try {
+            return each.run(options);
+        } catch (const bad_use &error) {
+            return refuse(who, error.what());
+        } catch (const std::bad_alloc &) {
+            return refuse(who, "not enough memory for this input; give smaller messages");
+        }
+    }
+    return exit_bad_use;
+}
+
+} // namespace
+
+int run_command_line(int argc, char **argv)
+{
+    if (argc > 1 && argv[1][0] != '-' && !is_command(argv[1]))
+        return refuse_command(argv[1]);
+    CLI::App program("Looks inside the wire bytes of tum messages.");
+    command_options options;
+    declare_all(program, options);
+    try {
+        program.parse(argc, argv);
+    } catch (const CLI::ParseError &error) {
+        if (error.get_exit_code() == 0)
+            return program.exit(error);
+        return refuse_arguments(program, error);
+    }
+    return run_chosen(program, options);
+}
+
+} // namespace mava_tum_cli

@@ -1,0 +1,72 @@
+#include "app/record_json.h"
+#include "commands/all_commands.h"
+#include "commands/decode_verdict.h"
+#include "commands/find_by_name.h"
+#include "commands/write_wire.h"
+#include "input/message_source.h"
+#include "output/output_file.h"
+#include "json/json_file.h"
+
+#include <cstddef>
+#include <memory>
+
+namespace mava_tum_cli
+{
+
+namespace
+{
+
+// Aligned for any record.
+std::unique_ptr<std::byte[]> block_for(const record_layout &layout)
+{
+    return std::make_unique<std::byte[]>(layout.size_bytes);
+}
+
+byte_vector encode_record(const app_adapter &adapter, const json &document)
+{
+    const auto record = block_for(*adapter.encode_layout);
+    record_of_json(*adapter.encode_layout, document, "", record.get());
+    byte_vector wire(adapter.encode(record.get(), nullptr, 0));
+    adapter.encode(record.get(), wire.data(), static_cast<uint32_t>(wire.size()));
+    return wire;
+}
+
+json decode_record(const app_adapter &adapter, std::span<const uint8_t> wire)
+{
+    const auto record = block_for(*adapter.decode_layout);
+    adapter.decode(wire.data(), static_cast<uint32_t>(wire.size()), record.get());
+    return json_of_record(*adapter.decode_layout, record.get());
+}
+
+exit_status run_app_encode(const app_adapter &adapter, const command_options &options)
+{
+    const json document = read_json_file(options.file);
+    write_wire(at_place(options.file, [&] { return encode_record(adapter, document); }), options);
+    return exit_ok;
+}
+
+// What is broken is printed as far as it arrives: that is what the application sees. One document a line when there are
+// several messages.
+exit_status run_app_decode(const app_adapter &adapter, const command_options &options)
+{
+    const mava_tum_inspect::message_description &message = message_named(std::string(adapter.message));
+    message_source source(options.file, options.format, plausibility_of(message));
+    output_file output(options.output);
+    fault_report report("app", message);
+    while (source.next()) {
+        output.write(decode_record(adapter, source.message()).dump(source.has_frames() ? -1 : 2) + "\n");
+        report.look_at(source);
+    }
+    output.commit();
+    return report.finish();
+}
+
+} // namespace
+
+exit_status run_app(const command_options &options)
+{
+    const app_adapter &adapter = adapter_named(options.name);
+    return options.direction == "encode" ? run_app_encode(adapter, options) : run_app_decode(adapter, options);
+}
+
+} // namespace mava_tum_cli

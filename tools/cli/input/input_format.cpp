@@ -1,0 +1,105 @@
+#include "input/input_format.h"
+
+#include "bad_use.h"
+#include "input/base64_text.h"
+#include "input/hex_text.h"
+
+#include <algorithm>
+#include <fmt/format.h>
+#include <optional>
+
+namespace mava_tum_cli
+{
+
+namespace
+{
+
+constexpr size_t looked_at_bytes = 64 * 1024;
+
+// What the beginning of the input says: its bytes, and whether that is all of it.
+struct beginning {
+    std::span<const uint8_t> bytes;
+    bool is_all;
+};
+
+bool is_hex_shaped(const beginning &input)
+{
+    return std::ranges::all_of(input.bytes, [](uint8_t character) {
+        return hex_digit_value(character) >= 0 || is_text_space(character) || character == ':' || character == ',' ||
+               character == 'x';
+    });
+}
+
+bool is_base64_shaped(const beginning &input)
+{
+    return std::ranges::all_of(
+        input.bytes, [](uint8_t character) { return is_base64_character(character) || is_text_space(character); });
+}
+
+using reader_fn = byte_vector (*)(std::span<const uint8_t>, const std::string &);
+
+// The bytes that a text stands for, unless it is broken or was not seen to its end.
+std::optional<byte_vector> bytes_of(const beginning &input, reader_fn reader)
+{
+    if (!input.is_all)
+        return std::nullopt;
+    try {
+        return reader(input.bytes, "");
+    } catch (const bad_use &) {
+        return std::nullopt;
+    }
+}
+
+plausibility plausibility_as(const beginning &input, reader_fn reader, const plausible_fn &plausible)
+{
+    const std::optional<byte_vector> bytes = bytes_of(input, reader);
+    return bytes ? plausible(*bytes) : plausibility::none;
+}
+
+[[noreturn]] void refuse_ambiguous(const input_stream &stream, const std::vector<input_format> &possible)
+{
+    std::string names;
+    for (const input_format format : possible)
+        names += (names.empty() ? "" : " and as ") + std::string(name_of(format));
+    throw bad_use(fmt::format("{}: can be read as {}; say which with --format", stream.name(), names));
+}
+
+} // namespace
+
+std::string_view name_of(input_format format)
+{
+    constexpr std::string_view names[] = {"auto", "raw", "hex", "base64", "frames"};
+    return names[static_cast<size_t>(format)];
+}
+
+input_format detect_format(input_stream &stream, const plausible_fn &plausible)
+{
+    const std::span<const uint8_t> bytes = stream.peek(looked_at_bytes + 1);
+    const beginning input{bytes.first(std::min(bytes.size(), looked_at_bytes)), bytes.size() <= looked_at_bytes};
+    // Frames begin with a zero as long as they are no longer than their limit. No writer begins a message so: field
+    // number 0 does not exist.
+    if (!bytes.empty() && bytes[0] == 0)
+        return input_format::frames;
+    const bool hex_shaped = is_hex_shaped(input);
+    const bool base64_shaped = is_base64_shaped(input);
+    if (!hex_shaped && !base64_shaped)
+        return input_format::raw;
+    // Text decodes as many a message, as long as what is unknown in it is put up with. So whatever the input looks like
+    // most is taken if it decodes, and the rest only if it fits without a remainder.
+    std::vector<input_format> possible;
+    if (hex_shaped && plausibility_as(input, bytes_of_hex, plausible) != plausibility::none)
+        possible.push_back(input_format::hex);
+    if (base64_shaped && plausibility_as(input, bytes_of_base64, plausible) >=
+                             (hex_shaped ? plausibility::exact : plausibility::decodes))
+        possible.push_back(input_format::base64);
+    if (input.is_all && plausible(input.bytes) == plausibility::exact)
+        possible.push_back(input_format::raw);
+    if (possible.size() > 1)
+        refuse_ambiguous(stream, possible);
+    if (possible.size() == 1)
+        return possible[0];
+    // Nothing that decodes: by its looks, so that the fault is told where it is.
+    return hex_shaped ? input_format::hex : input_format::base64;
+}
+
+} // namespace mava_tum_cli

@@ -1,0 +1,125 @@
+#include "input/input_stream.h"
+
+#include "bad_use.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <cstring>
+#include <fcntl.h>
+#include <fmt/format.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace mava_tum_cli
+{
+
+namespace
+{
+
+constexpr size_t block_bytes = 256 * 1024;
+
+std::string advice_for(int error)
+{
+    switch (error) {
+    case ENOENT:
+        return "check the path, or give - to read standard input";
+    case EACCES:
+        return "check the permissions of the file and of its folders";
+    default:
+        return "give another file";
+    }
+}
+
+int open_for_reading(const std::string &path)
+{
+    if (path == "-")
+        return STDIN_FILENO;
+    const int fd = open(path.c_str(), O_RDONLY | O_CLOEXEC);
+    if (fd < 0) {
+        const int error = errno;
+        throw bad_use(fmt::format("{}: cannot open: {}; {}", path, std::strerror(error), advice_for(error)));
+    }
+    return fd;
+}
+
+} // namespace
+
+input_stream::input_stream(const std::string &path)
+    : m_name(path == "-" ? "standard input" : path), m_fd(open_for_reading(path))
+{
+    struct stat status {
+    };
+    if (fstat(m_fd, &status) != 0)
+        return;
+    if (S_ISDIR(status.st_mode))
+        throw bad_use(fmt::format("{}: is a folder; give a file in it", m_name));
+    if (S_ISREG(status.st_mode))
+        m_size_bytes = static_cast<uint64_t>(status.st_size);
+}
+
+input_stream::~input_stream()
+{
+    if (m_fd > STDERR_FILENO)
+        close(m_fd);
+}
+
+// Reads until `wanted` bytes wait in the buffer, or the file ends.
+void input_stream::refill(size_t wanted)
+{
+    m_buffer.erase(m_buffer.begin(), m_buffer.begin() + static_cast<ptrdiff_t>(m_taken));
+    m_taken = 0;
+    while (m_buffer.size() < wanted && !m_at_end) {
+        const size_t filled = m_buffer.size();
+        m_buffer.resize(filled + block_bytes);
+        const ssize_t received = ::read(m_fd, m_buffer.data() + filled, block_bytes);
+        const int error = errno;
+        m_buffer.resize(filled + static_cast<size_t>(std::max<ssize_t>(received, 0)));
+        m_progress.update(m_position, m_size_bytes);
+        if (received == 0)
+            m_at_end = true;
+        else if (received < 0 && error != EINTR)
+            throw bad_use(fmt::format(
+                "{}: cannot read at byte {}: {}; try a copy of it", m_name, m_position + filled, std::strerror(error)));
+    }
+}
+
+std::span<const uint8_t> input_stream::peek(size_t wanted)
+{
+    if (m_buffer.size() - m_taken < wanted)
+        refill(wanted);
+    const std::span<const uint8_t> waiting = std::span<const uint8_t>(m_buffer).subspan(m_taken);
+    return waiting.first(std::min(wanted, waiting.size()));
+}
+
+size_t input_stream::read(std::span<uint8_t> bytes)
+{
+    size_t total = 0;
+    while (total < bytes.size()) {
+        const std::span<const uint8_t> waiting = peek(std::min(bytes.size() - total, block_bytes));
+        if (waiting.empty())
+            break;
+        std::memcpy(bytes.data() + total, waiting.data(), waiting.size());
+        m_taken += waiting.size();
+        total += waiting.size();
+        m_position += waiting.size();
+    }
+    return total;
+}
+
+byte_vector input_stream::read_all()
+{
+    byte_vector all;
+    for (size_t received = 1; received != 0;) {
+        const size_t filled = all.size();
+        all.resize(filled + block_bytes);
+        received = read(std::span(all).subspan(filled));
+        all.resize(filled + received);
+        if (all.size() > message_limit_bytes)
+            throw bad_use(fmt::format("{}: more than {} MiB, which is no single message; if it holds frames, say "
+                                      "--format frames",
+                m_name, message_limit_bytes >> 20));
+    }
+    return all;
+}
+
+} // namespace mava_tum_cli

@@ -1,0 +1,68 @@
+// A file or standard input, read from front to back in blocks.
+#pragma once
+
+#include "output/progress_line.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <span>
+#include <string>
+#include <vector>
+
+namespace mava_tum_cli
+{
+
+using byte_vector = std::vector<uint8_t>;
+
+// A single message is held in memory as a whole; nobody has one of this size.
+inline constexpr size_t message_limit_bytes = size_t{256} << 20;
+
+class input_stream
+{
+public:
+    // `path` may be "-" for standard input. Throws bad_use when it cannot be opened or is a folder.
+    explicit input_stream(const std::string &path);
+    ~input_stream();
+    input_stream(const input_stream &) = delete;
+    input_stream &operator=(const input_stream &) = delete;
+
+    // As messages name it.
+    const std::string &name() const
+    {
+        return m_name;
+    }
+
+    // Fills `bytes` unless the stream ends before; returns how many bytes came.
+    size_t read(std::span<uint8_t> bytes);
+
+    // The first bytes, at most `wanted`, without taking them.
+    std::span<const uint8_t> peek(size_t wanted);
+
+    // Everything up to the end. Throws bad_use above `message_limit_bytes`.
+    byte_vector read_all();
+
+    uint64_t position() const
+    {
+        return m_position;
+    }
+
+    // The size of a regular file, 0 of anything else.
+    uint64_t size_bytes() const
+    {
+        return m_size_bytes;
+    }
+
+private:
+    void refill(size_t wanted);
+
+    std::string m_name;
+    int m_fd = -1;
+    uint64_t m_size_bytes = 0;
+    uint64_t m_position = 0;
+    byte_vector m_buffer; // read from the file and not yet taken: from m_taken on
+    size_t m_taken = 0;
+    bool m_at_end = false;
+    progress_line m_progress;
+};
+
+} // namespace mava_tum_cli

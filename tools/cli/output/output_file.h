@@ -1,0 +1,41 @@
+// Where a command writes: standard output, or a file that appears under its name only when all of it is written.
+#pragma once
+
+#include <cstdint>
+#include <span>
+#include <string>
+#include <string_view>
+
+namespace mava_tum_cli
+{
+
+class output_file
+{
+public:
+    // An empty path or "-" means standard output. Throws bad_use when the file cannot be made.
+    explicit output_file(std::string path);
+    // Without a commit before, a file is removed again.
+    ~output_file();
+    output_file(const output_file &) = delete;
+    output_file &operator=(const output_file &) = delete;
+
+    void write(std::string_view text);
+    void write(std::span<const uint8_t> bytes);
+
+    // Writes what waits, and gives the file its name. Throws bad_use when the disk is full.
+    void commit();
+
+    bool is_terminal() const;
+
+private:
+    void open_target();
+    void flush();
+    [[noreturn]] void refuse(const char *what, int error) const;
+
+    std::string m_path;
+    std::string m_temporary; // empty: written in place
+    int m_fd = -1;
+    std::string m_waiting;
+};
+
+} // namespace mava_tum_cli
