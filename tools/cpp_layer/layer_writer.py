@@ -111,6 +111,7 @@ def codec_class(message, owns_memory):
 
 def using_classes(message):
     name, record = message.name, message.record
+    yield f"// A {name} that lies somewhere else, to be read."
     yield f"class {name}_view : public record_view<{name}_view, {record}>,"
     yield f"    public {name}_fields<{name}_view>"
     yield "{"
@@ -118,6 +119,7 @@ def using_classes(message):
     yield "    using record_view::record_view;"
     yield "};"
     yield ""
+    yield f"// A {name} that lies inside of another record, to be changed."
     yield f"class {name}_editor : public record_editor<{name}_editor, {record}>,"
     yield f"    public {name}_fields<{name}_editor>, public {name}_changes<{name}_editor>"
     yield "{"
@@ -125,7 +127,9 @@ def using_classes(message):
     yield "    using record_editor::record_editor;"
     yield "};"
     yield ""
+    yield f"// An array of {name}, to be read."
     yield f"using {name}_list = record_list<{name}_view, {record}>;"
+    yield f"// An array of {name}, to be changed."
     yield f"using {name}_editors = editor_list<{name}_editor, {record}>;"
     yield ""
     yield f"// {message.summary}"

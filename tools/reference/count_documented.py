@@ -21,13 +21,19 @@ def symbols_in(folder):
     """(element, identity, name) of each file, structure, function, member and value."""
     for path in sorted(folder.glob("*.xml")):
         for compound in ElementTree.parse(path).getroot().iter("compounddef"):
-            if compound.get("kind") in ("page", "dir") or compound.findtext("compoundname").endswith(".md"):
+            if compound.get("kind") in ("page", "dir") or compound.findtext("compoundname").endswith((".md", ".dox")):
                 continue
             name = compound.findtext("compoundname")
             yield compound, compound.get("id"), name
-            for tag in ("memberdef", "enumvalue"):
-                for member in compound.iter(tag):
-                    yield member, member.get("id"), f"{name}: {member.findtext('name')}"
+            for member in public_members(compound):
+                yield member, member.get("id"), f"{name}: {member.findtext('name')}"
+
+
+def public_members(compound):
+    for member in compound.iter("memberdef"):
+        if member.get("prot") != "private":
+            yield member
+            yield from member.findall("enumvalue")
 
 
 def main(folder, exports_file):

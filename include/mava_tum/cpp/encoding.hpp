@@ -14,13 +14,14 @@ struct [[nodiscard]] encoded {
     std::uint64_t size; // bytes of the whole message
     bool complete;      // false: the buffer was too small, and what lies in it is cut: do not send it
 
+    // True if the message is whole.
     constexpr explicit operator bool() const noexcept
     {
         return complete;
     }
 };
 
-// Derived has c_record().
+// What encodes. Derived has c_record().
 template <class Derived>
 class encoding
 {
@@ -48,6 +49,7 @@ public:
         static_cast<void>(encode(span<std::uint8_t>(container)));
     }
 
+    // The message in a vector of its own.
     std::vector<std::uint8_t> encode() const
     {
         std::vector<std::uint8_t> wire;

@@ -87,6 +87,7 @@ private:
     block_list *blocks() noexcept { return static_cast<Derived &>(*this).own_blocks(); }
 };
 
+// A subscriber_qos that lies somewhere else, to be read.
 class subscriber_qos_view : public record_view<subscriber_qos_view, mava_tum_subscriber_qos>,
     public subscriber_qos_fields<subscriber_qos_view>
 {
@@ -94,6 +95,7 @@ public:
     using record_view::record_view;
 };
 
+// A subscriber_qos that lies inside of another record, to be changed.
 class subscriber_qos_editor : public record_editor<subscriber_qos_editor, mava_tum_subscriber_qos>,
     public subscriber_qos_fields<subscriber_qos_editor>, public subscriber_qos_changes<subscriber_qos_editor>
 {
@@ -101,7 +103,9 @@ public:
     using record_editor::record_editor;
 };
 
+// An array of subscriber_qos, to be read.
 using subscriber_qos_list = record_list<subscriber_qos_view, mava_tum_subscriber_qos>;
+// An array of subscriber_qos, to be changed.
 using subscriber_qos_editors = editor_list<subscriber_qos_editor, mava_tum_subscriber_qos>;
 
 // One quality-of-service entry. An element of session_context.
@@ -163,6 +167,7 @@ private:
     block_list *blocks() noexcept { return static_cast<Derived &>(*this).own_blocks(); }
 };
 
+// A subscriber_acl that lies somewhere else, to be read.
 class subscriber_acl_view : public record_view<subscriber_acl_view, mava_tum_subscriber_acl>,
     public subscriber_acl_fields<subscriber_acl_view>
 {
@@ -170,6 +175,7 @@ public:
     using record_view::record_view;
 };
 
+// A subscriber_acl that lies inside of another record, to be changed.
 class subscriber_acl_editor : public record_editor<subscriber_acl_editor, mava_tum_subscriber_acl>,
     public subscriber_acl_fields<subscriber_acl_editor>, public subscriber_acl_changes<subscriber_acl_editor>
 {
@@ -177,7 +183,9 @@ public:
     using record_editor::record_editor;
 };
 
+// An array of subscriber_acl, to be read.
 using subscriber_acl_list = record_list<subscriber_acl_view, mava_tum_subscriber_acl>;
+// An array of subscriber_acl, to be changed.
 using subscriber_acl_editors = editor_list<subscriber_acl_editor, mava_tum_subscriber_acl>;
 
 // Access lists. Nested in session_context.
@@ -230,6 +238,7 @@ private:
     block_list *blocks() noexcept { return static_cast<Derived &>(*this).own_blocks(); }
 };
 
+// A subscriber_httpr that lies somewhere else, to be read.
 class subscriber_httpr_view : public record_view<subscriber_httpr_view, mava_tum_subscriber_httpr>,
     public subscriber_httpr_fields<subscriber_httpr_view>
 {
@@ -237,6 +246,7 @@ public:
     using record_view::record_view;
 };
 
+// A subscriber_httpr that lies inside of another record, to be changed.
 class subscriber_httpr_editor : public record_editor<subscriber_httpr_editor, mava_tum_subscriber_httpr>,
     public subscriber_httpr_fields<subscriber_httpr_editor>, public subscriber_httpr_changes<subscriber_httpr_editor>
 {
@@ -244,7 +254,9 @@ public:
     using record_editor::record_editor;
 };
 
+// An array of subscriber_httpr, to be read.
 using subscriber_httpr_list = record_list<subscriber_httpr_view, mava_tum_subscriber_httpr>;
+// An array of subscriber_httpr, to be changed.
 using subscriber_httpr_editors = editor_list<subscriber_httpr_editor, mava_tum_subscriber_httpr>;
 
 // HTTP redirect. Nested in session_context.
@@ -315,6 +327,7 @@ private:
     block_list *blocks() noexcept { return static_cast<Derived &>(*this).own_blocks(); }
 };
 
+// A subscriber_li that lies somewhere else, to be read.
 class subscriber_li_view : public record_view<subscriber_li_view, mava_tum_subscriber_li>,
     public subscriber_li_fields<subscriber_li_view>
 {
@@ -322,6 +335,7 @@ public:
     using record_view::record_view;
 };
 
+// A subscriber_li that lies inside of another record, to be changed.
 class subscriber_li_editor : public record_editor<subscriber_li_editor, mava_tum_subscriber_li>,
     public subscriber_li_fields<subscriber_li_editor>, public subscriber_li_changes<subscriber_li_editor>
 {
@@ -329,7 +343,9 @@ public:
     using record_editor::record_editor;
 };
 
+// An array of subscriber_li, to be read.
 using subscriber_li_list = record_list<subscriber_li_view, mava_tum_subscriber_li>;
+// An array of subscriber_li, to be changed.
 using subscriber_li_editors = editor_list<subscriber_li_editor, mava_tum_subscriber_li>;
 
 // Lawful intercept. Nested in session_context.
@@ -381,6 +397,7 @@ private:
     mava_tum_subscriber_urpf &c() noexcept { return static_cast<Derived &>(*this).mutable_c_record(); }
 };
 
+// A subscriber_urpf that lies somewhere else, to be read.
 class subscriber_urpf_view : public record_view<subscriber_urpf_view, mava_tum_subscriber_urpf>,
     public subscriber_urpf_fields<subscriber_urpf_view>
 {
@@ -388,6 +405,7 @@ public:
     using record_view::record_view;
 };
 
+// A subscriber_urpf that lies inside of another record, to be changed.
 class subscriber_urpf_editor : public record_editor<subscriber_urpf_editor, mava_tum_subscriber_urpf>,
     public subscriber_urpf_fields<subscriber_urpf_editor>, public subscriber_urpf_changes<subscriber_urpf_editor>
 {
@@ -395,7 +413,9 @@ public:
     using record_editor::record_editor;
 };
 
+// An array of subscriber_urpf, to be read.
 using subscriber_urpf_list = record_list<subscriber_urpf_view, mava_tum_subscriber_urpf>;
+// An array of subscriber_urpf, to be changed.
 using subscriber_urpf_editors = editor_list<subscriber_urpf_editor, mava_tum_subscriber_urpf>;
 
 // A unicast reverse-path-forwarding check. Nested in session_context.
@@ -444,6 +464,7 @@ private:
     mava_tum_subscriber_icmp &c() noexcept { return static_cast<Derived &>(*this).mutable_c_record(); }
 };
 
+// A subscriber_icmp that lies somewhere else, to be read.
 class subscriber_icmp_view : public record_view<subscriber_icmp_view, mava_tum_subscriber_icmp>,
     public subscriber_icmp_fields<subscriber_icmp_view>
 {
@@ -451,6 +472,7 @@ public:
     using record_view::record_view;
 };
 
+// A subscriber_icmp that lies inside of another record, to be changed.
 class subscriber_icmp_editor : public record_editor<subscriber_icmp_editor, mava_tum_subscriber_icmp>,
     public subscriber_icmp_fields<subscriber_icmp_editor>, public subscriber_icmp_changes<subscriber_icmp_editor>
 {
@@ -458,7 +480,9 @@ public:
     using record_editor::record_editor;
 };
 
+// An array of subscriber_icmp, to be read.
 using subscriber_icmp_list = record_list<subscriber_icmp_view, mava_tum_subscriber_icmp>;
+// An array of subscriber_icmp, to be changed.
 using subscriber_icmp_editors = editor_list<subscriber_icmp_editor, mava_tum_subscriber_icmp>;
 
 // An ICMP setting. Nested in session_context.
@@ -507,6 +531,7 @@ private:
     mava_tum_subscriber_mtu &c() noexcept { return static_cast<Derived &>(*this).mutable_c_record(); }
 };
 
+// A subscriber_mtu that lies somewhere else, to be read.
 class subscriber_mtu_view : public record_view<subscriber_mtu_view, mava_tum_subscriber_mtu>,
     public subscriber_mtu_fields<subscriber_mtu_view>
 {
@@ -514,6 +539,7 @@ public:
     using record_view::record_view;
 };
 
+// A subscriber_mtu that lies inside of another record, to be changed.
 class subscriber_mtu_editor : public record_editor<subscriber_mtu_editor, mava_tum_subscriber_mtu>,
     public subscriber_mtu_fields<subscriber_mtu_editor>, public subscriber_mtu_changes<subscriber_mtu_editor>
 {
@@ -521,7 +547,9 @@ public:
     using record_editor::record_editor;
 };
 
+// An array of subscriber_mtu, to be read.
 using subscriber_mtu_list = record_list<subscriber_mtu_view, mava_tum_subscriber_mtu>;
+// An array of subscriber_mtu, to be changed.
 using subscriber_mtu_editors = editor_list<subscriber_mtu_editor, mava_tum_subscriber_mtu>;
 
 // An MTU setting. Nested in session_context.
@@ -576,6 +604,7 @@ private:
     mava_tum_subscriber_acct &c() noexcept { return static_cast<Derived &>(*this).mutable_c_record(); }
 };
 
+// A subscriber_acct that lies somewhere else, to be read.
 class subscriber_acct_view : public record_view<subscriber_acct_view, mava_tum_subscriber_acct>,
     public subscriber_acct_fields<subscriber_acct_view>
 {
@@ -583,6 +612,7 @@ public:
     using record_view::record_view;
 };
 
+// A subscriber_acct that lies inside of another record, to be changed.
 class subscriber_acct_editor : public record_editor<subscriber_acct_editor, mava_tum_subscriber_acct>,
     public subscriber_acct_fields<subscriber_acct_editor>, public subscriber_acct_changes<subscriber_acct_editor>
 {
@@ -590,7 +620,9 @@ public:
     using record_editor::record_editor;
 };
 
+// An array of subscriber_acct, to be read.
 using subscriber_acct_list = record_list<subscriber_acct_view, mava_tum_subscriber_acct>;
+// An array of subscriber_acct, to be changed.
 using subscriber_acct_editors = editor_list<subscriber_acct_editor, mava_tum_subscriber_acct>;
 
 // Accounting settings. Nested in session_context.
@@ -664,6 +696,7 @@ private:
     block_list *blocks() noexcept { return static_cast<Derived &>(*this).own_blocks(); }
 };
 
+// A subscriber_route_ipv4 that lies somewhere else, to be read.
 class subscriber_route_ipv4_view : public record_view<subscriber_route_ipv4_view, mava_tum_subscriber_route_ipv4>,
     public subscriber_route_ipv4_fields<subscriber_route_ipv4_view>
 {
@@ -671,6 +704,7 @@ public:
     using record_view::record_view;
 };
 
+// A subscriber_route_ipv4 that lies inside of another record, to be changed.
 class subscriber_route_ipv4_editor : public record_editor<subscriber_route_ipv4_editor, mava_tum_subscriber_route_ipv4>,
     public subscriber_route_ipv4_fields<subscriber_route_ipv4_editor>, public subscriber_route_ipv4_changes<subscriber_route_ipv4_editor>
 {
@@ -678,7 +712,9 @@ public:
     using record_editor::record_editor;
 };
 
+// An array of subscriber_route_ipv4, to be read.
 using subscriber_route_ipv4_list = record_list<subscriber_route_ipv4_view, mava_tum_subscriber_route_ipv4>;
+// An array of subscriber_route_ipv4, to be changed.
 using subscriber_route_ipv4_editors = editor_list<subscriber_route_ipv4_editor, mava_tum_subscriber_route_ipv4>;
 
 // One IPv4 route. An element of session_context and of sub_route.
@@ -752,6 +788,7 @@ private:
     block_list *blocks() noexcept { return static_cast<Derived &>(*this).own_blocks(); }
 };
 
+// A subscriber_route_ipv6 that lies somewhere else, to be read.
 class subscriber_route_ipv6_view : public record_view<subscriber_route_ipv6_view, mava_tum_subscriber_route_ipv6>,
     public subscriber_route_ipv6_fields<subscriber_route_ipv6_view>
 {
@@ -759,6 +796,7 @@ public:
     using record_view::record_view;
 };
 
+// A subscriber_route_ipv6 that lies inside of another record, to be changed.
 class subscriber_route_ipv6_editor : public record_editor<subscriber_route_ipv6_editor, mava_tum_subscriber_route_ipv6>,
     public subscriber_route_ipv6_fields<subscriber_route_ipv6_editor>, public subscriber_route_ipv6_changes<subscriber_route_ipv6_editor>
 {
@@ -766,7 +804,9 @@ public:
     using record_editor::record_editor;
 };
 
+// An array of subscriber_route_ipv6, to be read.
 using subscriber_route_ipv6_list = record_list<subscriber_route_ipv6_view, mava_tum_subscriber_route_ipv6>;
+// An array of subscriber_route_ipv6, to be changed.
 using subscriber_route_ipv6_editors = editor_list<subscriber_route_ipv6_editor, mava_tum_subscriber_route_ipv6>;
 
 // One IPv6 route. An element of session_context and of sub_route.

@@ -9,6 +9,7 @@
 namespace mava_tum::cpp
 {
 
+// The four bytes, the first one first.
 using ipv4_octets = std::array<std::uint8_t, 4>;
 
 // As a person writes them: 192, 0, 2, 1.
@@ -19,6 +20,7 @@ inline ipv4_octets octets_of(std::uint32_t address) noexcept
     return octets;
 }
 
+// As a field of a message holds it.
 inline std::uint32_t address_of(const ipv4_octets &octets) noexcept
 {
     std::uint32_t address = 0;

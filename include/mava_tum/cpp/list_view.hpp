@@ -20,6 +20,7 @@ class list_view
 public:
     using value_type = decltype(std::declval<const Show &>()(std::declval<Element &>()));
 
+    // Goes over the elements.
     class iterator
     {
     public:
@@ -29,8 +30,10 @@ public:
         using pointer = void;
         using reference = value_type;
 
+        // Equal to any other that was made so.
         iterator() noexcept = default;
 
+        // Refers to `element`.
         iterator(Element *element, Show show) noexcept : element_(element), show_(show) {}
 
         value_type operator*() const noexcept
@@ -64,8 +67,10 @@ public:
         Show show_;
     };
 
+    // Empty.
     list_view() noexcept = default;
 
+    // `size` elements from `elements` on.
     list_view(Element *elements, std::size_t size, Show show = Show()) noexcept
         : elements_(elements), size_(size), show_(show)
     {
@@ -105,14 +110,17 @@ private:
 
 // A null text, which stands in an array after a copy that ran out of memory, is shown as an empty one.
 struct show_text {
+    // The text as it stands in the record; not a copy.
     std::string_view operator()(char *const &text) const noexcept
     {
         return text == nullptr ? std::string_view() : std::string_view(text);
     }
 };
 
+// Shows a record as a view of it.
 template <class View>
 struct show_view {
+    // A view of `record`.
     template <class Record>
     View operator()(const Record &record) const noexcept
     {
@@ -120,8 +128,10 @@ struct show_view {
     }
 };
 
+// Shows a record as an editor of it.
 template <class Editor>
 struct show_editor {
+    // An editor of `record`.
     template <class Record>
     Editor operator()(Record &record) const noexcept
     {
@@ -131,11 +141,14 @@ struct show_editor {
     block_list *blocks = nullptr; // of the record that owns the array
 };
 
+// An array of texts, to be read.
 using text_list = list_view<char *const, show_text>;
 
+// An array of records, to be read.
 template <class View, class Record>
 using record_list = list_view<const Record, show_view<View>>;
 
+// An array of records, to be changed.
 template <class Editor, class Record>
 using editor_list = list_view<Record, show_editor<Editor>>;
 

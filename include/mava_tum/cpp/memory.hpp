@@ -15,9 +15,9 @@ namespace mava_tum::cpp
 // Says that nothing has to be given back, since all of it is taken back at once: as a
 // std::pmr::monotonic_buffer_resource does it.
 struct monotonic_t {
-    explicit monotonic_t() = default;
+    explicit monotonic_t() = default; // not from {}
 };
-inline constexpr monotonic_t monotonic{};
+inline constexpr monotonic_t monotonic{}; // to be written as the first argument
 
 // Does not own what it refers to: the resource, or the context of the callbacks, outlives every record that uses it.
 class memory
@@ -58,6 +58,7 @@ public:
         return allocate_;
     }
 
+    // What the callback is called with.
     void *context() const noexcept
     {
         return context_;

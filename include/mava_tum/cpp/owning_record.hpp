@@ -13,9 +13,9 @@ namespace mava_tum::cpp
 // Says that bytes fields are to point into the input instead of being copied. The input then outlives the record's
 // content, and whatever the content is moved to.
 struct alias_t {
-    explicit alias_t() = default;
+    explicit alias_t() = default; // not from {}
 };
-inline constexpr alias_t alias{};
+inline constexpr alias_t alias{}; // to be written as the first argument
 
 // Holds the codec's record itself and the list of its blocks. All blocks go back when the record is destroyed, decoded
 // into, cleared or assigned to. Moving takes blocks and memory along: what is moved from is empty, and still usable.
@@ -26,16 +26,19 @@ class owning_record : public encoding<Derived>
     using blocks = std::conditional_t<message::owns_memory, block_list, no_blocks>;
 
 public:
+    // Without content; blocks will come from the heap.
     owning_record() noexcept : owning_record(memory()) {}
 
     // Without content; blocks will come from `source`.
     explicit owning_record(const memory &source) noexcept : blocks_(source) {}
 
+    // Takes content, blocks and memory of `other`.
     owning_record(owning_record &&other) noexcept
         : record_(std::exchange(other.record_, Record{})), blocks_(std::move(other.blocks_))
     {
     }
 
+    // Gives its own blocks back, and takes content, blocks and memory of `other`.
     owning_record &operator=(owning_record &&other) noexcept
     {
         if (this != &other) {
@@ -87,11 +90,13 @@ public:
         blocks_.release_all();
     }
 
+    // To be read by whoever need not know who owns the record.
     typename message::view view() const noexcept
     {
         return typename message::view(record_);
     }
 
+    // The same, where a function takes a view.
     operator typename message::view() const noexcept
     {
         return view();

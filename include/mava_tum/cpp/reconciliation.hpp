@@ -65,6 +65,7 @@ private:
     block_list *blocks() noexcept { return static_cast<Derived &>(*this).own_blocks(); }
 };
 
+// A rec_start_req that lies somewhere else, to be read.
 class rec_start_req_view : public record_view<rec_start_req_view, mava_tum_rec_start_req>,
     public rec_start_req_fields<rec_start_req_view>
 {
@@ -72,6 +73,7 @@ public:
     using record_view::record_view;
 };
 
+// A rec_start_req that lies inside of another record, to be changed.
 class rec_start_req_editor : public record_editor<rec_start_req_editor, mava_tum_rec_start_req>,
     public rec_start_req_fields<rec_start_req_editor>, public rec_start_req_changes<rec_start_req_editor>
 {
@@ -79,7 +81,9 @@ public:
     using record_editor::record_editor;
 };
 
+// An array of rec_start_req, to be read.
 using rec_start_req_list = record_list<rec_start_req_view, mava_tum_rec_start_req>;
+// An array of rec_start_req, to be changed.
 using rec_start_req_editors = editor_list<rec_start_req_editor, mava_tum_rec_start_req>;
 
 // Opens a reconciliation run.
@@ -138,6 +142,7 @@ private:
     block_list *blocks() noexcept { return static_cast<Derived &>(*this).own_blocks(); }
 };
 
+// A rec_complete_req that lies somewhere else, to be read.
 class rec_complete_req_view : public record_view<rec_complete_req_view, mava_tum_rec_complete_req>,
     public rec_complete_req_fields<rec_complete_req_view>
 {
@@ -145,6 +150,7 @@ public:
     using record_view::record_view;
 };
 
+// A rec_complete_req that lies inside of another record, to be changed.
 class rec_complete_req_editor : public record_editor<rec_complete_req_editor, mava_tum_rec_complete_req>,
     public rec_complete_req_fields<rec_complete_req_editor>, public rec_complete_req_changes<rec_complete_req_editor>
 {
@@ -152,7 +158,9 @@ public:
     using record_editor::record_editor;
 };
 
+// An array of rec_complete_req, to be read.
 using rec_complete_req_list = record_list<rec_complete_req_view, mava_tum_rec_complete_req>;
+// An array of rec_complete_req, to be changed.
 using rec_complete_req_editors = editor_list<rec_complete_req_editor, mava_tum_rec_complete_req>;
 
 // Closes a reconciliation run.
@@ -208,6 +216,7 @@ private:
     block_list *blocks() noexcept { return static_cast<Derived &>(*this).own_blocks(); }
 };
 
+// A rec_resp that lies somewhere else, to be read.
 class rec_resp_view : public record_view<rec_resp_view, mava_tum_rec_resp>,
     public rec_resp_fields<rec_resp_view>
 {
@@ -215,6 +224,7 @@ public:
     using record_view::record_view;
 };
 
+// A rec_resp that lies inside of another record, to be changed.
 class rec_resp_editor : public record_editor<rec_resp_editor, mava_tum_rec_resp>,
     public rec_resp_fields<rec_resp_editor>, public rec_resp_changes<rec_resp_editor>
 {
@@ -222,7 +232,9 @@ public:
     using record_editor::record_editor;
 };
 
+// An array of rec_resp, to be read.
 using rec_resp_list = record_list<rec_resp_view, mava_tum_rec_resp>;
+// An array of rec_resp, to be changed.
 using rec_resp_editors = editor_list<rec_resp_editor, mava_tum_rec_resp>;
 
 // Answers rec_start_req and rec_complete_req.
@@ -277,6 +289,7 @@ private:
     mava_tum_rec_session_state &c() noexcept { return static_cast<Derived &>(*this).mutable_c_record(); }
 };
 
+// A rec_session_state that lies somewhere else, to be read.
 class rec_session_state_view : public record_view<rec_session_state_view, mava_tum_rec_session_state>,
     public rec_session_state_fields<rec_session_state_view>
 {
@@ -284,6 +297,7 @@ public:
     using record_view::record_view;
 };
 
+// A rec_session_state that lies inside of another record, to be changed.
 class rec_session_state_editor : public record_editor<rec_session_state_editor, mava_tum_rec_session_state>,
     public rec_session_state_fields<rec_session_state_editor>, public rec_session_state_changes<rec_session_state_editor>
 {
@@ -291,7 +305,9 @@ public:
     using record_editor::record_editor;
 };
 
+// An array of rec_session_state, to be read.
 using rec_session_state_list = record_list<rec_session_state_view, mava_tum_rec_session_state>;
+// An array of rec_session_state, to be changed.
 using rec_session_state_editors = editor_list<rec_session_state_editor, mava_tum_rec_session_state>;
 
 // The state of one session. An element of rec_sess_req and rec_sess_resp.
@@ -356,6 +372,7 @@ private:
     block_list *blocks() noexcept { return static_cast<Derived &>(*this).own_blocks(); }
 };
 
+// A rec_sess_req that lies somewhere else, to be read.
 class rec_sess_req_view : public record_view<rec_sess_req_view, mava_tum_rec_sess_req>,
     public rec_sess_req_fields<rec_sess_req_view>
 {
@@ -363,6 +380,7 @@ public:
     using record_view::record_view;
 };
 
+// A rec_sess_req that lies inside of another record, to be changed.
 class rec_sess_req_editor : public record_editor<rec_sess_req_editor, mava_tum_rec_sess_req>,
     public rec_sess_req_fields<rec_sess_req_editor>, public rec_sess_req_changes<rec_sess_req_editor>
 {
@@ -370,7 +388,9 @@ public:
     using record_editor::record_editor;
 };
 
+// An array of rec_sess_req, to be read.
 using rec_sess_req_list = record_list<rec_sess_req_view, mava_tum_rec_sess_req>;
+// An array of rec_sess_req, to be changed.
 using rec_sess_req_editors = editor_list<rec_sess_req_editor, mava_tum_rec_sess_req>;
 
 // Asks for, or announces, the states of a batch of sessions.
@@ -429,6 +449,7 @@ private:
     block_list *blocks() noexcept { return static_cast<Derived &>(*this).own_blocks(); }
 };
 
+// A rec_sess_resp that lies somewhere else, to be read.
 class rec_sess_resp_view : public record_view<rec_sess_resp_view, mava_tum_rec_sess_resp>,
     public rec_sess_resp_fields<rec_sess_resp_view>
 {
@@ -436,6 +457,7 @@ public:
     using record_view::record_view;
 };
 
+// A rec_sess_resp that lies inside of another record, to be changed.
 class rec_sess_resp_editor : public record_editor<rec_sess_resp_editor, mava_tum_rec_sess_resp>,
     public rec_sess_resp_fields<rec_sess_resp_editor>, public rec_sess_resp_changes<rec_sess_resp_editor>
 {
@@ -443,7 +465,9 @@ public:
     using record_editor::record_editor;
 };
 
+// An array of rec_sess_resp, to be read.
 using rec_sess_resp_list = record_list<rec_sess_resp_view, mava_tum_rec_sess_resp>;
+// An array of rec_sess_resp, to be changed.
 using rec_sess_resp_editors = editor_list<rec_sess_resp_editor, mava_tum_rec_sess_resp>;
 
 // Answers rec_sess_req with a batch of session states.
@@ -508,6 +532,7 @@ private:
     block_list *blocks() noexcept { return static_cast<Derived &>(*this).own_blocks(); }
 };
 
+// A rec_sess_replay_req that lies somewhere else, to be read.
 class rec_sess_replay_req_view : public record_view<rec_sess_replay_req_view, mava_tum_rec_sess_replay_req>,
     public rec_sess_replay_req_fields<rec_sess_replay_req_view>
 {
@@ -515,6 +540,7 @@ public:
     using record_view::record_view;
 };
 
+// A rec_sess_replay_req that lies inside of another record, to be changed.
 class rec_sess_replay_req_editor : public record_editor<rec_sess_replay_req_editor, mava_tum_rec_sess_replay_req>,
     public rec_sess_replay_req_fields<rec_sess_replay_req_editor>, public rec_sess_replay_req_changes<rec_sess_replay_req_editor>
 {
@@ -522,7 +548,9 @@ public:
     using record_editor::record_editor;
 };
 
+// An array of rec_sess_replay_req, to be read.
 using rec_sess_replay_req_list = record_list<rec_sess_replay_req_view, mava_tum_rec_sess_replay_req>;
+// An array of rec_sess_replay_req, to be changed.
 using rec_sess_replay_req_editors = editor_list<rec_sess_replay_req_editor, mava_tum_rec_sess_replay_req>;
 
 // Replays whole sessions.
@@ -579,6 +607,7 @@ private:
     block_list *blocks() noexcept { return static_cast<Derived &>(*this).own_blocks(); }
 };
 
+// A rec_sess_replay_fail that lies somewhere else, to be read.
 class rec_sess_replay_fail_view : public record_view<rec_sess_replay_fail_view, mava_tum_rec_sess_replay_fail>,
     public rec_sess_replay_fail_fields<rec_sess_replay_fail_view>
 {
@@ -586,6 +615,7 @@ public:
     using record_view::record_view;
 };
 
+// A rec_sess_replay_fail that lies inside of another record, to be changed.
 class rec_sess_replay_fail_editor : public record_editor<rec_sess_replay_fail_editor, mava_tum_rec_sess_replay_fail>,
     public rec_sess_replay_fail_fields<rec_sess_replay_fail_editor>, public rec_sess_replay_fail_changes<rec_sess_replay_fail_editor>
 {
@@ -593,7 +623,9 @@ public:
     using record_editor::record_editor;
 };
 
+// An array of rec_sess_replay_fail, to be read.
 using rec_sess_replay_fail_list = record_list<rec_sess_replay_fail_view, mava_tum_rec_sess_replay_fail>;
+// An array of rec_sess_replay_fail, to be changed.
 using rec_sess_replay_fail_editors = editor_list<rec_sess_replay_fail_editor, mava_tum_rec_sess_replay_fail>;
 
 // One session that could not be replayed. An element of rec_sess_replay_resp.
@@ -655,6 +687,7 @@ private:
     block_list *blocks() noexcept { return static_cast<Derived &>(*this).own_blocks(); }
 };
 
+// A sess_svc_start that lies somewhere else, to be read.
 class sess_svc_start_view : public record_view<sess_svc_start_view, mava_tum_sess_svc_start>,
     public sess_svc_start_fields<sess_svc_start_view>
 {
@@ -662,6 +695,7 @@ public:
     using record_view::record_view;
 };
 
+// A sess_svc_start that lies inside of another record, to be changed.
 class sess_svc_start_editor : public record_editor<sess_svc_start_editor, mava_tum_sess_svc_start>,
     public sess_svc_start_fields<sess_svc_start_editor>, public sess_svc_start_changes<sess_svc_start_editor>
 {
@@ -669,7 +703,9 @@ public:
     using record_editor::record_editor;
 };
 
+// An array of sess_svc_start, to be read.
 using sess_svc_start_list = record_list<sess_svc_start_view, mava_tum_sess_svc_start>;
+// An array of sess_svc_start, to be changed.
 using sess_svc_start_editors = editor_list<sess_svc_start_editor, mava_tum_sess_svc_start>;
 
 // Services started for one session. An element of rec_sess_replay_resp.
@@ -731,6 +767,7 @@ private:
     block_list *blocks() noexcept { return static_cast<Derived &>(*this).own_blocks(); }
 };
 
+// A rec_sess_replay_resp that lies somewhere else, to be read.
 class rec_sess_replay_resp_view : public record_view<rec_sess_replay_resp_view, mava_tum_rec_sess_replay_resp>,
     public rec_sess_replay_resp_fields<rec_sess_replay_resp_view>
 {
@@ -738,6 +775,7 @@ public:
     using record_view::record_view;
 };
 
+// A rec_sess_replay_resp that lies inside of another record, to be changed.
 class rec_sess_replay_resp_editor : public record_editor<rec_sess_replay_resp_editor, mava_tum_rec_sess_replay_resp>,
     public rec_sess_replay_resp_fields<rec_sess_replay_resp_editor>, public rec_sess_replay_resp_changes<rec_sess_replay_resp_editor>
 {
@@ -745,7 +783,9 @@ public:
     using record_editor::record_editor;
 };
 
+// An array of rec_sess_replay_resp, to be read.
 using rec_sess_replay_resp_list = record_list<rec_sess_replay_resp_view, mava_tum_rec_sess_replay_resp>;
+// An array of rec_sess_replay_resp, to be changed.
 using rec_sess_replay_resp_editors = editor_list<rec_sess_replay_resp_editor, mava_tum_rec_sess_replay_resp>;
 
 // Answers a replay: what failed and which services started.

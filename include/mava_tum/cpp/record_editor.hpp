@@ -14,28 +14,34 @@ template <class Derived, class Record>
 class record_editor : public encoding<Derived>
 {
 public:
+    // `blocks` is the list of the record that owns all of it.
     record_editor(Record &record, block_list *blocks) noexcept : record_(&record), blocks_(blocks) {}
 
+    // To be read only.
     typename codec_of<Record>::view view() const noexcept
     {
         return typename codec_of<Record>::view(*record_);
     }
 
+    // The same, where a function takes a view.
     operator typename codec_of<Record>::view() const noexcept
     {
         return view();
     }
 
+    // For the C functions.
     const Record &c_record() const noexcept
     {
         return *record_;
     }
 
+    // For what the setters do not do. Pointers set here are never released by the owner.
     Record &mutable_c_record() const noexcept
     {
         return *record_;
     }
 
+    // Where the setters take their memory.
     block_list *own_blocks() const noexcept
     {
         return blocks_;

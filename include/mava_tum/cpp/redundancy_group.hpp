@@ -59,6 +59,7 @@ private:
     mava_tum_srg_group_rec_start_req &c() noexcept { return static_cast<Derived &>(*this).mutable_c_record(); }
 };
 
+// A srg_group_rec_start_req that lies somewhere else, to be read.
 class srg_group_rec_start_req_view : public record_view<srg_group_rec_start_req_view, mava_tum_srg_group_rec_start_req>,
     public srg_group_rec_start_req_fields<srg_group_rec_start_req_view>
 {
@@ -66,6 +67,7 @@ public:
     using record_view::record_view;
 };
 
+// A srg_group_rec_start_req that lies inside of another record, to be changed.
 class srg_group_rec_start_req_editor : public record_editor<srg_group_rec_start_req_editor, mava_tum_srg_group_rec_start_req>,
     public srg_group_rec_start_req_fields<srg_group_rec_start_req_editor>, public srg_group_rec_start_req_changes<srg_group_rec_start_req_editor>
 {
@@ -73,7 +75,9 @@ public:
     using record_editor::record_editor;
 };
 
+// An array of srg_group_rec_start_req, to be read.
 using srg_group_rec_start_req_list = record_list<srg_group_rec_start_req_view, mava_tum_srg_group_rec_start_req>;
+// An array of srg_group_rec_start_req, to be changed.
 using srg_group_rec_start_req_editors = editor_list<srg_group_rec_start_req_editor, mava_tum_srg_group_rec_start_req>;
 
 // Opens the reconciliation of a redundancy group.
@@ -125,6 +129,7 @@ private:
     mava_tum_srg_group_rec_resp &c() noexcept { return static_cast<Derived &>(*this).mutable_c_record(); }
 };
 
+// A srg_group_rec_resp that lies somewhere else, to be read.
 class srg_group_rec_resp_view : public record_view<srg_group_rec_resp_view, mava_tum_srg_group_rec_resp>,
     public srg_group_rec_resp_fields<srg_group_rec_resp_view>
 {
@@ -132,6 +137,7 @@ public:
     using record_view::record_view;
 };
 
+// A srg_group_rec_resp that lies inside of another record, to be changed.
 class srg_group_rec_resp_editor : public record_editor<srg_group_rec_resp_editor, mava_tum_srg_group_rec_resp>,
     public srg_group_rec_resp_fields<srg_group_rec_resp_editor>, public srg_group_rec_resp_changes<srg_group_rec_resp_editor>
 {
@@ -139,7 +145,9 @@ public:
     using record_editor::record_editor;
 };
 
+// An array of srg_group_rec_resp, to be read.
 using srg_group_rec_resp_list = record_list<srg_group_rec_resp_view, mava_tum_srg_group_rec_resp>;
+// An array of srg_group_rec_resp, to be changed.
 using srg_group_rec_resp_editors = editor_list<srg_group_rec_resp_editor, mava_tum_srg_group_rec_resp>;
 
 // Answers srg_group_rec_start_req and srg_group_rec_complete_req.
@@ -194,6 +202,7 @@ private:
     mava_tum_srg_group_rec_complete_req &c() noexcept { return static_cast<Derived &>(*this).mutable_c_record(); }
 };
 
+// A srg_group_rec_complete_req that lies somewhere else, to be read.
 class srg_group_rec_complete_req_view : public record_view<srg_group_rec_complete_req_view, mava_tum_srg_group_rec_complete_req>,
     public srg_group_rec_complete_req_fields<srg_group_rec_complete_req_view>
 {
@@ -201,6 +210,7 @@ public:
     using record_view::record_view;
 };
 
+// A srg_group_rec_complete_req that lies inside of another record, to be changed.
 class srg_group_rec_complete_req_editor : public record_editor<srg_group_rec_complete_req_editor, mava_tum_srg_group_rec_complete_req>,
     public srg_group_rec_complete_req_fields<srg_group_rec_complete_req_editor>, public srg_group_rec_complete_req_changes<srg_group_rec_complete_req_editor>
 {
@@ -208,7 +218,9 @@ public:
     using record_editor::record_editor;
 };
 
+// An array of srg_group_rec_complete_req, to be read.
 using srg_group_rec_complete_req_list = record_list<srg_group_rec_complete_req_view, mava_tum_srg_group_rec_complete_req>;
+// An array of srg_group_rec_complete_req, to be changed.
 using srg_group_rec_complete_req_editors = editor_list<srg_group_rec_complete_req_editor, mava_tum_srg_group_rec_complete_req>;
 
 // Closes the reconciliation of a redundancy group.
@@ -270,6 +282,7 @@ private:
     block_list *blocks() noexcept { return static_cast<Derived &>(*this).own_blocks(); }
 };
 
+// A srg_group_data that lies somewhere else, to be read.
 class srg_group_data_view : public record_view<srg_group_data_view, mava_tum_srg_group_data>,
     public srg_group_data_fields<srg_group_data_view>
 {
@@ -277,6 +290,7 @@ public:
     using record_view::record_view;
 };
 
+// A srg_group_data that lies inside of another record, to be changed.
 class srg_group_data_editor : public record_editor<srg_group_data_editor, mava_tum_srg_group_data>,
     public srg_group_data_fields<srg_group_data_editor>, public srg_group_data_changes<srg_group_data_editor>
 {
@@ -284,7 +298,9 @@ public:
     using record_editor::record_editor;
 };
 
+// An array of srg_group_data, to be read.
 using srg_group_data_list = record_list<srg_group_data_view, mava_tum_srg_group_data>;
+// An array of srg_group_data, to be changed.
 using srg_group_data_editors = editor_list<srg_group_data_editor, mava_tum_srg_group_data>;
 
 // One group's data. An element of the two replay messages.
@@ -343,6 +359,7 @@ private:
     block_list *blocks() noexcept { return static_cast<Derived &>(*this).own_blocks(); }
 };
 
+// A srg_group_rec_replay_req that lies somewhere else, to be read.
 class srg_group_rec_replay_req_view : public record_view<srg_group_rec_replay_req_view, mava_tum_srg_group_rec_replay_req>,
     public srg_group_rec_replay_req_fields<srg_group_rec_replay_req_view>
 {
@@ -350,6 +367,7 @@ public:
     using record_view::record_view;
 };
 
+// A srg_group_rec_replay_req that lies inside of another record, to be changed.
 class srg_group_rec_replay_req_editor : public record_editor<srg_group_rec_replay_req_editor, mava_tum_srg_group_rec_replay_req>,
     public srg_group_rec_replay_req_fields<srg_group_rec_replay_req_editor>, public srg_group_rec_replay_req_changes<srg_group_rec_replay_req_editor>
 {
@@ -357,7 +375,9 @@ public:
     using record_editor::record_editor;
 };
 
+// An array of srg_group_rec_replay_req, to be read.
 using srg_group_rec_replay_req_list = record_list<srg_group_rec_replay_req_view, mava_tum_srg_group_rec_replay_req>;
+// An array of srg_group_rec_replay_req, to be changed.
 using srg_group_rec_replay_req_editors = editor_list<srg_group_rec_replay_req_editor, mava_tum_srg_group_rec_replay_req>;
 
 // Replays the data of redundancy groups.
@@ -416,6 +436,7 @@ private:
     block_list *blocks() noexcept { return static_cast<Derived &>(*this).own_blocks(); }
 };
 
+// A srg_group_rec_replay_resp that lies somewhere else, to be read.
 class srg_group_rec_replay_resp_view : public record_view<srg_group_rec_replay_resp_view, mava_tum_srg_group_rec_replay_resp>,
     public srg_group_rec_replay_resp_fields<srg_group_rec_replay_resp_view>
 {
@@ -423,6 +444,7 @@ public:
     using record_view::record_view;
 };
 
+// A srg_group_rec_replay_resp that lies inside of another record, to be changed.
 class srg_group_rec_replay_resp_editor : public record_editor<srg_group_rec_replay_resp_editor, mava_tum_srg_group_rec_replay_resp>,
     public srg_group_rec_replay_resp_fields<srg_group_rec_replay_resp_editor>, public srg_group_rec_replay_resp_changes<srg_group_rec_replay_resp_editor>
 {
@@ -430,7 +452,9 @@ public:
     using record_editor::record_editor;
 };
 
+// An array of srg_group_rec_replay_resp, to be read.
 using srg_group_rec_replay_resp_list = record_list<srg_group_rec_replay_resp_view, mava_tum_srg_group_rec_replay_resp>;
+// An array of srg_group_rec_replay_resp, to be changed.
 using srg_group_rec_replay_resp_editors = editor_list<srg_group_rec_replay_resp_editor, mava_tum_srg_group_rec_replay_resp>;
 
 // Answers a replay with two lists of group data.

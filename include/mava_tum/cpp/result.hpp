@@ -11,10 +11,15 @@ namespace mava_tum::cpp
 {
 
 // What each means in full: codec_contract.h.
-enum class [[nodiscard]] result : std::int32_t{ok = MAVA_TUM_OK, truncated = MAVA_TUM_TRUNCATED,
-    unsupported_wire_type = MAVA_TUM_UNSUPPORTED_WIRE_TYPE, wrong_wire_type = MAVA_TUM_WRONG_WIRE_TYPE,
-    no_memory = MAVA_TUM_NO_MEMORY};
+enum class [[nodiscard]] result : std::int32_t{
+    ok = MAVA_TUM_OK,                                       // all was done
+    truncated = MAVA_TUM_TRUNCATED,                         // cut, or a second run of a field that comes once
+    unsupported_wire_type = MAVA_TUM_UNSUPPORTED_WIRE_TYPE, // of an unknown field
+    wrong_wire_type = MAVA_TUM_WRONG_WIRE_TYPE,             // of a known field
+    no_memory = MAVA_TUM_NO_MEMORY,                         // a block was refused
+};
 
+// A sentence for a log. It stays for good.
 constexpr std::string_view text_of(result code) noexcept
 {
     switch (code) {

@@ -70,6 +70,7 @@ private:
     block_list *blocks() noexcept { return static_cast<Derived &>(*this).own_blocks(); }
 };
 
+// A sub_route that lies somewhere else, to be read.
 class sub_route_view : public record_view<sub_route_view, mava_tum_sub_route>,
     public sub_route_fields<sub_route_view>
 {
@@ -77,6 +78,7 @@ public:
     using record_view::record_view;
 };
 
+// A sub_route that lies inside of another record, to be changed.
 class sub_route_editor : public record_editor<sub_route_editor, mava_tum_sub_route>,
     public sub_route_fields<sub_route_editor>, public sub_route_changes<sub_route_editor>
 {
@@ -84,7 +86,9 @@ public:
     using record_editor::record_editor;
 };
 
+// An array of sub_route, to be read.
 using sub_route_list = record_list<sub_route_view, mava_tum_sub_route>;
+// An array of sub_route, to be changed.
 using sub_route_editors = editor_list<sub_route_editor, mava_tum_sub_route>;
 
 // A batch of subscriber routes.
@@ -143,6 +147,7 @@ private:
     block_list *blocks() noexcept { return static_cast<Derived &>(*this).own_blocks(); }
 };
 
+// A subscriber_route_resp that lies somewhere else, to be read.
 class subscriber_route_resp_view : public record_view<subscriber_route_resp_view, mava_tum_subscriber_route_resp>,
     public subscriber_route_resp_fields<subscriber_route_resp_view>
 {
@@ -150,6 +155,7 @@ public:
     using record_view::record_view;
 };
 
+// A subscriber_route_resp that lies inside of another record, to be changed.
 class subscriber_route_resp_editor : public record_editor<subscriber_route_resp_editor, mava_tum_subscriber_route_resp>,
     public subscriber_route_resp_fields<subscriber_route_resp_editor>, public subscriber_route_resp_changes<subscriber_route_resp_editor>
 {
@@ -157,7 +163,9 @@ public:
     using record_editor::record_editor;
 };
 
+// An array of subscriber_route_resp, to be read.
 using subscriber_route_resp_list = record_list<subscriber_route_resp_view, mava_tum_subscriber_route_resp>;
+// An array of subscriber_route_resp, to be changed.
 using subscriber_route_resp_editors = editor_list<subscriber_route_resp_editor, mava_tum_subscriber_route_resp>;
 
 // The answer to a batch of subscriber routes.

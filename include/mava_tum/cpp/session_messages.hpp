@@ -140,6 +140,7 @@ private:
     block_list *blocks() noexcept { return static_cast<Derived &>(*this).own_blocks(); }
 };
 
+// A session_context that lies somewhere else, to be read.
 class session_context_view : public record_view<session_context_view, mava_tum_session_context>,
     public session_context_fields<session_context_view>
 {
@@ -147,6 +148,7 @@ public:
     using record_view::record_view;
 };
 
+// A session_context that lies inside of another record, to be changed.
 class session_context_editor : public record_editor<session_context_editor, mava_tum_session_context>,
     public session_context_fields<session_context_editor>, public session_context_changes<session_context_editor>
 {
@@ -154,7 +156,9 @@ public:
     using record_editor::record_editor;
 };
 
+// An array of session_context, to be read.
 using session_context_list = record_list<session_context_view, mava_tum_session_context>;
+// An array of session_context, to be changed.
 using session_context_editors = editor_list<session_context_editor, mava_tum_session_context>;
 
 // One subscriber session as a whole: identity, access and features.
@@ -215,6 +219,7 @@ private:
     mava_tum_session_delete &c() noexcept { return static_cast<Derived &>(*this).mutable_c_record(); }
 };
 
+// A session_delete that lies somewhere else, to be read.
 class session_delete_view : public record_view<session_delete_view, mava_tum_session_delete>,
     public session_delete_fields<session_delete_view>
 {
@@ -222,6 +227,7 @@ public:
     using record_view::record_view;
 };
 
+// A session_delete that lies inside of another record, to be changed.
 class session_delete_editor : public record_editor<session_delete_editor, mava_tum_session_delete>,
     public session_delete_fields<session_delete_editor>, public session_delete_changes<session_delete_editor>
 {
@@ -229,7 +235,9 @@ public:
     using record_editor::record_editor;
 };
 
+// An array of session_delete, to be read.
 using session_delete_list = record_list<session_delete_view, mava_tum_session_delete>;
+// An array of session_delete, to be changed.
 using session_delete_editors = editor_list<session_delete_editor, mava_tum_session_delete>;
 
 // A request to remove a session.
@@ -307,6 +315,7 @@ private:
     block_list *blocks() noexcept { return static_cast<Derived &>(*this).own_blocks(); }
 };
 
+// A sess_oper_resp that lies somewhere else, to be read.
 class sess_oper_resp_view : public record_view<sess_oper_resp_view, mava_tum_sess_oper_resp>,
     public sess_oper_resp_fields<sess_oper_resp_view>
 {
@@ -314,6 +323,7 @@ public:
     using record_view::record_view;
 };
 
+// A sess_oper_resp that lies inside of another record, to be changed.
 class sess_oper_resp_editor : public record_editor<sess_oper_resp_editor, mava_tum_sess_oper_resp>,
     public sess_oper_resp_fields<sess_oper_resp_editor>, public sess_oper_resp_changes<sess_oper_resp_editor>
 {
@@ -321,7 +331,9 @@ public:
     using record_editor::record_editor;
 };
 
+// An array of sess_oper_resp, to be read.
 using sess_oper_resp_list = record_list<sess_oper_resp_view, mava_tum_sess_oper_resp>;
+// An array of sess_oper_resp, to be changed.
 using sess_oper_resp_editors = editor_list<sess_oper_resp_editor, mava_tum_sess_oper_resp>;
 
 // The answer to an operation on a session.

@@ -14,6 +14,7 @@
 namespace mava_tum::cpp
 {
 
+// `size()` elements from `data()` on.
 template <class Element>
 class span
 {
@@ -29,15 +30,19 @@ public:
     using value_type = std::remove_cv_t<Element>;
     using iterator = Element *;
 
+    // No elements.
     constexpr span() noexcept = default;
 
+    // `size` elements from `data` on; `data` may be null if there are none.
     constexpr span(Element *data, std::size_t size) noexcept : data_(data), size_(size) {}
 
+    // All of an array.
     template <std::size_t size>
     constexpr span(Element (&array)[size]) noexcept : data_(array), size_(size)
     {
     }
 
+    // What a container holds at the time: a std::vector, a std::array, a std::string, a std::span.
     template <class Container, class = if_contiguous<Container>>
     constexpr span(Container &&container) noexcept : data_(container.data()), size_(container.size())
     {

@@ -104,6 +104,7 @@ private:
     mava_tum_stats &c() noexcept { return static_cast<Derived &>(*this).mutable_c_record(); }
 };
 
+// A stats that lies somewhere else, to be read.
 class stats_view : public record_view<stats_view, mava_tum_stats>,
     public stats_fields<stats_view>
 {
@@ -111,6 +112,7 @@ public:
     using record_view::record_view;
 };
 
+// A stats that lies inside of another record, to be changed.
 class stats_editor : public record_editor<stats_editor, mava_tum_stats>,
     public stats_fields<stats_editor>, public stats_changes<stats_editor>
 {
@@ -118,7 +120,9 @@ public:
     using record_editor::record_editor;
 };
 
+// An array of stats, to be read.
 using stats_list = record_list<stats_view, mava_tum_stats>;
+// An array of stats, to be changed.
 using stats_editors = editor_list<stats_editor, mava_tum_stats>;
 
 // Eighteen traffic counters.
@@ -172,6 +176,7 @@ private:
     block_list *blocks() noexcept { return static_cast<Derived &>(*this).own_blocks(); }
 };
 
+// A service_stats that lies somewhere else, to be read.
 class service_stats_view : public record_view<service_stats_view, mava_tum_service_stats>,
     public service_stats_fields<service_stats_view>
 {
@@ -179,6 +184,7 @@ public:
     using record_view::record_view;
 };
 
+// A service_stats that lies inside of another record, to be changed.
 class service_stats_editor : public record_editor<service_stats_editor, mava_tum_service_stats>,
     public service_stats_fields<service_stats_editor>, public service_stats_changes<service_stats_editor>
 {
@@ -186,7 +192,9 @@ public:
     using record_editor::record_editor;
 };
 
+// An array of service_stats, to be read.
 using service_stats_list = record_list<service_stats_view, mava_tum_service_stats>;
+// An array of service_stats, to be changed.
 using service_stats_editors = editor_list<service_stats_editor, mava_tum_service_stats>;
 
 // A named service and its counters. An element of subscriber_stats.
@@ -272,6 +280,7 @@ private:
     block_list *blocks() noexcept { return static_cast<Derived &>(*this).own_blocks(); }
 };
 
+// A subscriber_stats that lies somewhere else, to be read.
 class subscriber_stats_view : public record_view<subscriber_stats_view, mava_tum_subscriber_stats>,
     public subscriber_stats_fields<subscriber_stats_view>
 {
@@ -279,6 +288,7 @@ public:
     using record_view::record_view;
 };
 
+// A subscriber_stats that lies inside of another record, to be changed.
 class subscriber_stats_editor : public record_editor<subscriber_stats_editor, mava_tum_subscriber_stats>,
     public subscriber_stats_fields<subscriber_stats_editor>, public subscriber_stats_changes<subscriber_stats_editor>
 {
@@ -286,7 +296,9 @@ public:
     using record_editor::record_editor;
 };
 
+// An array of subscriber_stats, to be read.
 using subscriber_stats_list = record_list<subscriber_stats_view, mava_tum_subscriber_stats>;
+// An array of subscriber_stats, to be changed.
 using subscriber_stats_editors = editor_list<subscriber_stats_editor, mava_tum_subscriber_stats>;
 
 // A subscriber's statistics: totals, blocks of counters, services.

@@ -56,6 +56,7 @@ private:
     mava_tum_subscriber_v4 &c() noexcept { return static_cast<Derived &>(*this).mutable_c_record(); }
 };
 
+// A subscriber_v4 that lies somewhere else, to be read.
 class subscriber_v4_view : public record_view<subscriber_v4_view, mava_tum_subscriber_v4>,
     public subscriber_v4_fields<subscriber_v4_view>
 {
@@ -63,6 +64,7 @@ public:
     using record_view::record_view;
 };
 
+// A subscriber_v4 that lies inside of another record, to be changed.
 class subscriber_v4_editor : public record_editor<subscriber_v4_editor, mava_tum_subscriber_v4>,
     public subscriber_v4_fields<subscriber_v4_editor>, public subscriber_v4_changes<subscriber_v4_editor>
 {
@@ -70,7 +72,9 @@ public:
     using record_editor::record_editor;
 };
 
+// An array of subscriber_v4, to be read.
 using subscriber_v4_list = record_list<subscriber_v4_view, mava_tum_subscriber_v4>;
+// An array of subscriber_v4, to be changed.
 using subscriber_v4_editors = editor_list<subscriber_v4_editor, mava_tum_subscriber_v4>;
 
 // A subscriber's IPv4 address. Nested in session_context.
@@ -138,6 +142,7 @@ private:
     block_list *blocks() noexcept { return static_cast<Derived &>(*this).own_blocks(); }
 };
 
+// A subscriber_v6 that lies somewhere else, to be read.
 class subscriber_v6_view : public record_view<subscriber_v6_view, mava_tum_subscriber_v6>,
     public subscriber_v6_fields<subscriber_v6_view>
 {
@@ -145,6 +150,7 @@ public:
     using record_view::record_view;
 };
 
+// A subscriber_v6 that lies inside of another record, to be changed.
 class subscriber_v6_editor : public record_editor<subscriber_v6_editor, mava_tum_subscriber_v6>,
     public subscriber_v6_fields<subscriber_v6_editor>, public subscriber_v6_changes<subscriber_v6_editor>
 {
@@ -152,7 +158,9 @@ public:
     using record_editor::record_editor;
 };
 
+// An array of subscriber_v6, to be read.
 using subscriber_v6_list = record_list<subscriber_v6_view, mava_tum_subscriber_v6>;
+// An array of subscriber_v6, to be changed.
 using subscriber_v6_editors = editor_list<subscriber_v6_editor, mava_tum_subscriber_v6>;
 
 // A subscriber's IPv6 addresses and prefixes. Nested in session_context.
@@ -217,6 +225,7 @@ private:
     block_list *blocks() noexcept { return static_cast<Derived &>(*this).own_blocks(); }
 };
 
+// A ppp_data that lies somewhere else, to be read.
 class ppp_data_view : public record_view<ppp_data_view, mava_tum_ppp_data>,
     public ppp_data_fields<ppp_data_view>
 {
@@ -224,6 +233,7 @@ public:
     using record_view::record_view;
 };
 
+// A ppp_data that lies inside of another record, to be changed.
 class ppp_data_editor : public record_editor<ppp_data_editor, mava_tum_ppp_data>,
     public ppp_data_fields<ppp_data_editor>, public ppp_data_changes<ppp_data_editor>
 {
@@ -231,7 +241,9 @@ public:
     using record_editor::record_editor;
 };
 
+// An array of ppp_data, to be read.
 using ppp_data_list = record_list<ppp_data_view, mava_tum_ppp_data>;
+// An array of ppp_data, to be changed.
 using ppp_data_editors = editor_list<ppp_data_editor, mava_tum_ppp_data>;
 
 // PPP access values. Nested in session_data.
@@ -335,6 +347,7 @@ private:
     block_list *blocks() noexcept { return static_cast<Derived &>(*this).own_blocks(); }
 };
 
+// A l2tp_data that lies somewhere else, to be read.
 class l2tp_data_view : public record_view<l2tp_data_view, mava_tum_l2tp_data>,
     public l2tp_data_fields<l2tp_data_view>
 {
@@ -342,6 +355,7 @@ public:
     using record_view::record_view;
 };
 
+// A l2tp_data that lies inside of another record, to be changed.
 class l2tp_data_editor : public record_editor<l2tp_data_editor, mava_tum_l2tp_data>,
     public l2tp_data_fields<l2tp_data_editor>, public l2tp_data_changes<l2tp_data_editor>
 {
@@ -349,7 +363,9 @@ public:
     using record_editor::record_editor;
 };
 
+// An array of l2tp_data, to be read.
 using l2tp_data_list = record_list<l2tp_data_view, mava_tum_l2tp_data>;
+// An array of l2tp_data, to be changed.
 using l2tp_data_editors = editor_list<l2tp_data_editor, mava_tum_l2tp_data>;
 
 // L2TP access values and tunnel end points. Nested in session_data.
@@ -401,6 +417,7 @@ private:
     mava_tum_vlan_info &c() noexcept { return static_cast<Derived &>(*this).mutable_c_record(); }
 };
 
+// A vlan_info that lies somewhere else, to be read.
 class vlan_info_view : public record_view<vlan_info_view, mava_tum_vlan_info>,
     public vlan_info_fields<vlan_info_view>
 {
@@ -408,6 +425,7 @@ public:
     using record_view::record_view;
 };
 
+// A vlan_info that lies inside of another record, to be changed.
 class vlan_info_editor : public record_editor<vlan_info_editor, mava_tum_vlan_info>,
     public vlan_info_fields<vlan_info_editor>, public vlan_info_changes<vlan_info_editor>
 {
@@ -415,7 +433,9 @@ public:
     using record_editor::record_editor;
 };
 
+// An array of vlan_info, to be read.
 using vlan_info_list = record_list<vlan_info_view, mava_tum_vlan_info>;
+// An array of vlan_info, to be changed.
 using vlan_info_editors = editor_list<vlan_info_editor, mava_tum_vlan_info>;
 
 // VLAN access values. Nested in session_data.
@@ -498,6 +518,7 @@ private:
     block_list *blocks() noexcept { return static_cast<Derived &>(*this).own_blocks(); }
 };
 
+// A session_data that lies somewhere else, to be read.
 class session_data_view : public record_view<session_data_view, mava_tum_session_data>,
     public session_data_fields<session_data_view>
 {
@@ -505,6 +526,7 @@ public:
     using record_view::record_view;
 };
 
+// A session_data that lies inside of another record, to be changed.
 class session_data_editor : public record_editor<session_data_editor, mava_tum_session_data>,
     public session_data_fields<session_data_editor>, public session_data_changes<session_data_editor>
 {
@@ -512,7 +534,9 @@ public:
     using record_editor::record_editor;
 };
 
+// An array of session_data, to be read.
 using session_data_list = record_list<session_data_view, mava_tum_session_data>;
+// An array of session_data, to be changed.
 using session_data_editors = editor_list<session_data_editor, mava_tum_session_data>;
 
 // Per-session values and access records. Nested in session_context.

@@ -1,0 +1,83 @@
+#!/usr/bin/env python3
+"""Prints a header of the C++ layer as Doxygen wants to see it; Doxygen calls it for each file that it reads.
+
+    cpp_header_filter.py HEADER
+
+Comments are turned into Doxygen's as they stand: on lines of their own for what is below them, behind code for that.
+Two kinds of member have none in the headers, because their names say it all; here they get a sentence:
+
+    begin(), size(), operator bool, value_type, ...    what the standard library calls by these names
+    set_field_5(), edit_field_5(), make_field_5(), ...   what the editors of all messages do to field_5
+
+Every line keeps its number.
+"""
+import os
+import re
+import sys
+
+COMMENT = re.compile(r"^( *)//( .*)?$")
+NO_COMMENT = re.compile(r"^ *// (----|clang-format)")  # between two messages; for a tool
+BEHIND_CODE = re.compile(r"^(.*\S) +// (.*)$")
+
+CONTAINER = "As in a container of the standard library."
+OPTIONAL = "As std::optional has it: whether the field is present, and what it holds."
+ITERATOR = "As an input iterator has it."
+KEPT = " When a block is refused, the field stays as it is."
+MEANINGS = [(re.compile(pattern), meaning) for pattern, meaning in (
+    (r"^    using (element_type|value_type|iterator) = ", CONTAINER),
+    (r"^        using \w+ = ", ITERATOR),
+    (r"^ .*[ *](begin|end|size|empty|data)\(\) const noexcept$", CONTAINER),
+    (r"^    (explicit operator bool|bool has_value)\(\) const noexcept$", OPTIONAL),
+    (r"^    const Derived [&*]operator(\*|->)\(\) const noexcept$", OPTIONAL),
+    (r"^        (friend bool|value_type|iterator &?) ?operator(==|!=|\+\+|\*)\(", ITERATOR),
+    (r"^    void set_\w+\(std::optional<", "Sets `{}`; without a value, makes it absent."),
+    (r"^    result set_\w+\(std::optional<", "Sets `{}` to a copy; without a value, makes it absent." + KEPT),
+    (r"^    result set_\w+\(span<", "Sets `{}` to copies; without any, makes it absent." + KEPT),
+    (r"^    \w+ edit_\w+\(\)", "Makes `{}` present, and lets it be changed."),
+    (r"^    void clear_\w+\(\)", "Empties `{}` and makes it absent."),
+    (r"^    \w+ make_\w+\(std::uint32_t count\)",
+     "Gives `{}` so many elements without content, and lets them be changed; none make it absent. When the block is "
+     "refused, the field stays as it is and the list is empty."),
+)]
+
+
+def escaped(text):
+    return re.sub(r"([<>])", r"\\\1", text)
+
+
+def meaning_of(line):
+    for pattern, meaning in MEANINGS:
+        if pattern.match(line):
+            field = re.search(r"\b(?:set|edit|clear|make)_(\w+)\(", line)
+            return meaning.format(field.group(1) if field else "")
+    return None
+
+
+def filtered(lines):
+    """A comment is above a declaration, or above the `template <...>` of one."""
+    is_documented = False
+    for line in lines:
+        found = COMMENT.match(line)
+        if found and not NO_COMMENT.match(line):
+            is_documented = True
+            yield f"{found.group(1)}///{escaped(found.group(2) or '')}"
+            continue
+        meaning = None if is_documented else meaning_of(line)
+        is_documented = is_documented and line.lstrip().startswith("template <")
+        found = BEHIND_CODE.match(line)
+        if meaning:
+            yield f"/** {meaning} */{line}"
+        else:
+            yield f"{found.group(1)} ///< {escaped(found.group(2))}" if found and not NO_COMMENT.match(line) else line
+
+
+def main(path):
+    with open(path, encoding="utf-8") as header:
+        lines = header.read().split("\n")
+    if lines[0].startswith("// "):
+        lines[0] = f"// @file {os.path.basename(path)} {lines[0][3:]}"
+    sys.stdout.write("\n".join(filtered(lines)))
+
+
+if __name__ == "__main__":
+    main(sys.argv[1])
