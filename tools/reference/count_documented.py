@@ -1,9 +1,9 @@
 #!/usr/bin/env python3
 """Counts what the reference documents, and names what it does not.
 
-    count_documented.py XML EXPORTS
+    count_documented.py XML EXPORTS...
 
-XML is the folder that Doxygen wrote, EXPORTS the list of exported names. Doxygen says nothing about macros, nor about
+XML is the folder that Doxygen wrote, EXPORTS the lists of exported names. Doxygen says nothing about macros, nor about
 what is in a file that it was not told about; this does. Prints each symbol and each exported function without
 documentation and, as its last line, how many symbols have one. Exits with 1 if something has none.
 """
@@ -36,7 +36,7 @@ def public_members(compound):
             yield from member.findall("enumvalue")
 
 
-def main(folder, exports_file):
+def main(folder, *exports_files):
     documented, missing, functions = set(), set(), set()
     for element, identity, name in symbols_in(pathlib.Path(folder)):
         if not is_documented(element):
@@ -45,9 +45,8 @@ def main(folder, exports_file):
         documented.add(identity)  # a member may stand in two compounds
         if element.get("kind") == "function":
             functions.add(element.findtext("name"))
-    for name in pathlib.Path(exports_file).read_text(encoding="utf-8").split():
-        if name not in functions:
-            missing.add(f"{name} is exported and not documented")
+    exported = {name for path in exports_files for name in pathlib.Path(path).read_text(encoding="utf-8").split()}
+    missing |= {f"{name} is exported and not documented" for name in exported - functions}
     print("\n".join([*sorted(missing), f"{len(documented)} symbols documented"]))
     return 1 if missing else 0
 

@@ -36,20 +36,21 @@ enum { MAVA_TUM_INSPECT_PATH_BYTES = 128, MAVA_TUM_INSPECT_SENTENCE_BYTES = 320 
 
 /* Kinds of field; see codec_contract.h. */
 enum {
-    MAVA_TUM_INSPECT_VARINT = 0,
-    MAVA_TUM_INSPECT_FIXED32 = 1,
-    MAVA_TUM_INSPECT_BYTES = 2,
-    MAVA_TUM_INSPECT_TEXT = 3,
-    MAVA_TUM_INSPECT_RECORD = 4,
-    MAVA_TUM_INSPECT_RECORD_ARRAY = 5,
-    MAVA_TUM_INSPECT_TEXT_ARRAY = 6
+    MAVA_TUM_INSPECT_VARINT = 0,       /* uint32_t or uint64_t */
+    MAVA_TUM_INSPECT_FIXED32 = 1,      /* uint32_t */
+    MAVA_TUM_INSPECT_BYTES = 2,        /* mava_tum_bytes */
+    MAVA_TUM_INSPECT_TEXT = 3,         /* char * */
+    MAVA_TUM_INSPECT_RECORD = 4,       /* another record, inline */
+    MAVA_TUM_INSPECT_RECORD_ARRAY = 5, /* pointer and count */
+    MAVA_TUM_INSPECT_TEXT_ARRAY = 6    /* pointer and count */
 };
 
 /* What a value is besides a number or bytes. */
 enum { MAVA_TUM_INSPECT_NO_ADDRESS = 0, MAVA_TUM_INSPECT_IPV4 = 1, MAVA_TUM_INSPECT_IPV6 = 2 };
 
+/* A message, as mava_tum_inspect_describe finds it. */
 typedef struct mava_tum_inspect_message {
-    const char *name;
+    const char *name;       /* without mava_tum_ */
     uint32_t field_count;   /* the fields are numbered 1 to field_count */
     uint64_t record_bytes;  /* sizeof(mava_tum_<name>) */
     uint64_t mask_offset;   /* of presence_mask in the record, in bytes */
@@ -57,10 +58,11 @@ typedef struct mava_tum_inspect_message {
     uint32_t has_alias_bit; /* 1: a bytes field is in it, at any depth */
 } mava_tum_inspect_message;
 
+/* A field, as mava_tum_inspect_describe_field finds it. */
 typedef struct mava_tum_inspect_field {
-    const char *name; /* of the member in the codec record */
-    uint32_t number;
-    int32_t kind;
+    const char *name;       /* of the member in the codec record */
+    uint32_t number;        /* on the wire; the presence bit is number - 1 */
+    int32_t kind;           /* MAVA_TUM_INSPECT_VARINT to _TEXT_ARRAY */
     uint32_t value_bits;    /* varint: 32 or 64; fixed32: 32; else 0 */
     int32_t address;        /* MAVA_TUM_INSPECT_NO_ADDRESS, _IPV4 or _IPV6 */
     uint64_t member_offset; /* in the codec record, in bytes */
@@ -91,6 +93,8 @@ MAVA_TUM_API int32_t mava_tum_inspect_describe_field(
 /* Finds the messages, or adapters, whose names are most like `wrong`, which need not be one: at most `capacity`, most
  * similar first, none that has little in common with it, 8 in all. Returns their number. */
 MAVA_TUM_API uint32_t mava_tum_inspect_similar_messages(const char *wrong, const char **names, uint32_t capacity);
+
+/* The same for adapters. */
 MAVA_TUM_API uint32_t mava_tum_inspect_similar_adapters(const char *wrong, const char **names, uint32_t capacity);
 
 /* ---- explain --------------------------------------------------------------------------------------------- */
@@ -111,13 +115,13 @@ MAVA_TUM_API int32_t mava_tum_inspect_judge(
 
 /* Kinds of line. */
 enum {
-    MAVA_TUM_INSPECT_LINE_TAG = 0,
-    MAVA_TUM_INSPECT_LINE_LENGTH = 1,
-    MAVA_TUM_INSPECT_LINE_VALUE = 2,
-    MAVA_TUM_INSPECT_LINE_MORE = 3,  /* goes on with the bytes of the line before */
-    MAVA_TUM_INSPECT_LINE_NOTE = 4,  /* no bytes: something that was only put up with, or that is good to know */
-    MAVA_TUM_INSPECT_LINE_FAULT = 5, /* no bytes: the sentence of the verdict */
-    MAVA_TUM_INSPECT_LINE_UNREAD = 6 /* what a fault leaves unread */
+    MAVA_TUM_INSPECT_LINE_TAG = 0,    /* number and wire type of a field */
+    MAVA_TUM_INSPECT_LINE_LENGTH = 1, /* of what follows, in bytes */
+    MAVA_TUM_INSPECT_LINE_VALUE = 2,  /* or the first bytes of it */
+    MAVA_TUM_INSPECT_LINE_MORE = 3,   /* goes on with the bytes of the line before */
+    MAVA_TUM_INSPECT_LINE_NOTE = 4,   /* no bytes: something that was only put up with, or that is good to know */
+    MAVA_TUM_INSPECT_LINE_FAULT = 5,  /* no bytes: the sentence of the verdict */
+    MAVA_TUM_INSPECT_LINE_UNREAD = 6  /* what a fault leaves unread */
 };
 
 /* A line shows at most so many bytes. */
@@ -125,7 +129,7 @@ enum { MAVA_TUM_INSPECT_ROW_BYTES = 8 };
 
 /* Part of the annotated dump. The lines with bytes, one after the other, are the whole input. */
 typedef struct mava_tum_inspect_line {
-    int32_t kind;
+    int32_t kind;        /* MAVA_TUM_INSPECT_LINE_TAG to _UNREAD */
     uint32_t depth;      /* of nesting, from 0 */
     uint64_t offset;     /* of the first byte */
     uint32_t byte_count; /* 0 to MAVA_TUM_INSPECT_ROW_BYTES */
@@ -133,6 +137,7 @@ typedef struct mava_tum_inspect_line {
     const char *text;    /* what the bytes are; "" where the line before says it */
 } mava_tum_inspect_line;
 
+/* Takes a line. What it points to stays only until the callback returns. */
 typedef void (*mava_tum_inspect_line_fn)(const mava_tum_inspect_line *line, void *context);
 
 /* Calls `line_fn` for each line, in the order of the bytes. `verdict` may be null. Returns MAVA_TUM_OK, whatever the
@@ -163,23 +168,26 @@ enum {
     MAVA_TUM_INSPECT_UNKNOWN_FIELD = 10 /* the message does not know it */
 };
 
+/* Something of a message that would not arrive, or not as it was sent. */
 typedef struct mava_tum_inspect_finding {
-    int32_t kind;
+    int32_t kind;     /* MAVA_TUM_INSPECT_FAULT to _UNKNOWN_FIELD */
     uint64_t offset;  /* of the field's tag; for a fault, of what is wrong */
     uint64_t found;   /* elements, characters, bytes or bits in the message; else 0 */
     uint64_t allowed; /* how many of them the record takes; else 0 */
-    const char *path;
+    const char *path; /* the field in the message; may be "" */
     const char *text; /* "`session_name` has 70 characters at byte 12, of which 64 arrive" */
 } mava_tum_inspect_finding;
 
+/* Takes a finding. What it points to stays only until the callback returns. */
 typedef void (*mava_tum_inspect_finding_fn)(const mava_tum_inspect_finding *finding, void *context);
 
+/* What a check came to. */
 typedef struct mava_tum_inspect_check_result {
-    uint64_t finding_count;
-    uint64_t block_count;  /* blocks that the adapter asks calloc for while it decodes */
-    uint64_t block_bytes;  /* the sum of their sizes */
-    uint64_t record_bytes; /* of the application record, whatever the message holds */
-    mava_tum_inspect_verdict verdict;
+    uint64_t finding_count;           /* as often was the callback called, or would have been */
+    uint64_t block_count;             /* blocks that the adapter asks calloc for while it decodes */
+    uint64_t block_bytes;             /* the sum of their sizes */
+    uint64_t record_bytes;            /* of the application record, whatever the message holds */
+    mava_tum_inspect_verdict verdict; /* on the message itself */
 } mava_tum_inspect_check_result;
 
 /* Looks at a message as the adapter `adapter` decodes it (a message with one adapter may also be named itself). Calls
@@ -198,11 +206,11 @@ MAVA_TUM_API int32_t mava_tum_inspect_memory(const char *message, const uint8_t 
 
 /* A message that the bytes can be. */
 typedef struct mava_tum_inspect_candidate {
-    const char *message;
-    uint64_t unknown_bytes; /* of fields, at any depth, that it does not know; tags and lengths included */
-    uint64_t unknown_fields;
-    uint64_t odd_forms;     /* what only a foreign writer produces: over-long varints, texts that are no UTF-8, ... */
-    uint32_t absent_fields; /* of the message itself */
+    const char *message;     /* its name, which stays for good */
+    uint64_t unknown_bytes;  /* of fields, at any depth, that it does not know; tags and lengths included */
+    uint64_t unknown_fields; /* how many these are */
+    uint64_t odd_forms;      /* what only a foreign writer produces: over-long varints, texts that are no UTF-8, ... */
+    uint32_t absent_fields;  /* of the message itself */
 } mava_tum_inspect_candidate;
 
 /* Finds the messages as which the bytes decode with result 0: at most `capacity`, at `candidates`, the likeliest first:
