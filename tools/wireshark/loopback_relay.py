@@ -9,6 +9,7 @@ Each message is one datagram and nothing but the message. The port that it goes 
 profile/protobuf_udp_message_types has it. What goes on to the other program is what came out of the socket again.
 With RELAY_LOG in the environment, each message is also written to that file: its name, and its bytes in hex.
 """
+import errno
 import os
 import pathlib
 import re
@@ -16,9 +17,10 @@ import socket
 import subprocess
 import sys
 import threading
+import time
 
 SENDER_PORT = 21000  # below those of the messages, so that it means none
-PATIENCE_SECONDS = 10
+PATIENCE_SECONDS = 30
 # By the first byte of a frame: examples/reconciliation/message_kind.h. What comes after the run is not part of it.
 KINDS = [None, "rec_start_req", "rec_resp", "rec_sess_req", "rec_sess_resp", "session_delete", "sess_oper_resp",
          "rec_sess_replay_req", "rec_sess_replay_resp", "rec_complete_req", "rec_resp", None]
@@ -56,10 +58,18 @@ class Path:
 
 
 def bound_socket(address, port):
+    """Waits while another relay has the port: it is the sender's that comes first, so they do not wait for each other."""
     result = socket.socket(socket.AF_INET, socket.SOCK_DGRAM)
     result.settimeout(PATIENCE_SECONDS)
-    result.bind((address, port))
-    return result
+    deadline = time.monotonic() + PATIENCE_SECONDS
+    while True:
+        try:
+            result.bind((address, port))
+            return result
+        except OSError as error:
+            if error.errno != errno.EADDRINUSE or time.monotonic() > deadline:
+                raise SystemExit(f"loopback_relay.py: {address} port {port}: {error.strerror}") from error
+            time.sleep(0.05)
 
 
 def frames(stream):
