@@ -58,7 +58,7 @@ class Path:
 
 
 def bound_socket(address, port):
-    """Waits while another relay has the port: it is the sender's that comes first, so they do not wait for each other."""
+    """Waits while another relay has the port. The sender's comes first, so that no two wait for each other."""
     result = socket.socket(socket.AF_INET, socket.SOCK_DGRAM)
     result.settimeout(PATIENCE_SECONDS)
     deadline = time.monotonic() + PATIENCE_SECONDS
