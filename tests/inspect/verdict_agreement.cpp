@@ -2,9 +2,7 @@
 
 #include "inspect/decode_memory.h"
 #include "inspect/wire_walk.h"
-#include "model/random_source.h"
 #include "model/raw_memory.h"
-#include "model/wire_maker.h"
 
 #include <cstdlib>
 #include <sstream>
@@ -44,6 +42,7 @@ std::ostream &operator<<(std::ostream &stream, const outcome &shown)
 struct counting_blocks {
     memory_asked_for asked;
     std::vector<void *> given;
+    uint64_t fails_at = 0; // this call gives nothing; 0: none
 
     ~counting_blocks()
     {
@@ -56,6 +55,8 @@ struct counting_blocks {
         counting_blocks &self = *static_cast<counting_blocks *>(context);
         ++self.asked.blocks;
         self.asked.bytes += size;
+        if (self.asked.blocks == self.fails_at)
+            return nullptr;
         self.given.push_back(std::malloc(size + 1));
         return self.given.back();
     }
@@ -79,6 +80,19 @@ outcome of_library(const message_description &message, const uint8_t *data, uint
     seen.present = mask_of(message, record);
     seen.asked = blocks.asked;
     return seen;
+}
+
+// The results without an allocator, and with one that fails at its second call.
+bool only_memory_changes(const message_description &message, const uint8_t *data, uint64_t length, int32_t verdict)
+{
+    std::vector<uint64_t> record(message.record_bytes / sizeof(uint64_t) + 1);
+    const int32_t without = message.calls.decode(record.data(), data, length, nullptr, nullptr, MAVA_TUM_ALIAS);
+    counting_blocks blocks;
+    blocks.fails_at = 2;
+    const int32_t failing = message.calls.decode(record.data(), data, length, counting_blocks::give, &blocks, 0);
+    const bool has_failed = blocks.asked.blocks >= blocks.fails_at;
+    return (without == verdict || without == MAVA_TUM_NO_MEMORY) &&
+           failing == (has_failed ? MAVA_TUM_NO_MEMORY : verdict);
 }
 
 class memory_visitor final : public wire_visitor
@@ -131,23 +145,13 @@ wire_bytes bytes_without_order(random_source &random)
     return wire;
 }
 
-wire_bytes some_wire(const mava_tum_model::message &of, const std::vector<wire_bytes> &seeds, random_source &random)
-{
-    if (random.one_in(8))
-        return bytes_without_order(random);
-    wire_bytes wire = random.one_in(2) ? mava_tum_model::random_wire(of, random) : seeds[random.below(seeds.size())];
-    for (uint64_t changes = random.below(6); changes > 0; --changes)
-        mava_tum_model::mutate_wire(of, wire, random);
-    return wire;
-}
-
 void compare_message(const mava_tum_model::message &of, uint64_t rounds, uint64_t seed, agreement &sum)
 {
     random_source random(seed);
     const std::vector<wire_bytes> seeds = mava_tum_model::seed_wires(of);
     const message_description &message = *find_message(of.name);
     for (uint64_t round = 0; round < rounds && sum.difference.empty(); ++round) {
-        const wire_bytes wire = some_wire(of, seeds, random);
+        const wire_bytes wire = some_input(of, seeds, random);
         const comparison compared = compare_with_library(message, wire.data(), wire.size());
         sum.difference = compared.difference;
         ++sum.inputs;
@@ -156,6 +160,16 @@ void compare_message(const mava_tum_model::message &of, uint64_t rounds, uint64_
 }
 
 } // namespace
+
+wire_bytes some_input(const mava_tum_model::message &of, const std::vector<wire_bytes> &seeds, random_source &random)
+{
+    if (random.one_in(8))
+        return bytes_without_order(random);
+    wire_bytes wire = random.one_in(2) ? mava_tum_model::random_wire(of, random) : seeds[random.below(seeds.size())];
+    for (uint64_t changes = random.below(6); changes > 0; --changes)
+        mava_tum_model::mutate_wire(of, wire, random);
+    return wire;
+}
 
 comparison compare_with_library(const message_description &message, const uint8_t *data, uint64_t length)
 {
@@ -167,6 +181,8 @@ comparison compare_with_library(const message_description &message, const uint8_
         if (!(library == walk))
             compared.difference = describe_difference(message, data, length, library, walk);
     }
+    if (compared.difference.empty() && !only_memory_changes(message, data, length, compared.result))
+        compared.difference = std::string(message.name) + ": another result without memory";
     return compared;
 }
 

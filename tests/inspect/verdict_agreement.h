@@ -2,9 +2,12 @@
 #pragma once
 
 #include "inspect/message_table.h"
+#include "model/random_source.h"
+#include "model/wire_maker.h"
 
 #include <cstdint>
 #include <string>
+#include <vector>
 
 namespace mava_tum_test
 {
@@ -14,9 +17,14 @@ struct comparison {
     std::string difference; // empty if both agree; otherwise with the input in hex
 };
 
-// Once copying bytes fields and once aliasing them, with an allocator that never fails.
+// Once copying bytes fields and once aliasing them, with an allocator that never fails. Then without one, and with one
+// that fails at a call: each can only turn the result into MAVA_TUM_NO_MEMORY.
 comparison compare_with_library(
     const mava_tum_inspect::message_description &message, const uint8_t *data, uint64_t length);
+
+// Some input for the message: a seed or a random message with up to five structural changes, or bytes without order.
+mava_tum_model::wire_bytes some_input(const mava_tum_model::message &of,
+    const std::vector<mava_tum_model::wire_bytes> &seeds, mava_tum_model::random_source &random);
 
 struct agreement {
     uint64_t inputs = 0;
@@ -24,8 +32,7 @@ struct agreement {
     std::string difference;   // empty: none
 };
 
-// `rounds` inputs for each of the 40 messages: seeds and random messages, with up to five structural changes each, and
-// bytes without any order. The same `seed` makes the same inputs.
+// `rounds` inputs for each of the 40 messages. The same `seed` makes the same inputs.
 agreement compare_many(uint64_t rounds, uint64_t seed);
 
 } // namespace mava_tum_test
