@@ -29,8 +29,16 @@ struct types_in<std::tuple<Record...>> {
     using type = testing::Types<Record...>;
 };
 
+struct names_of_messages {
+    template <class Record>
+    static std::string GetName(int)
+    {
+        return name_of<Record>;
+    }
+};
+
 using messages = types_in<every_message>::type;
-TYPED_TEST_SUITE(cpp_every_message, messages);
+TYPED_TEST_SUITE(cpp_every_message, messages, names_of_messages);
 
 static_assert(std::tuple_size_v<every_message> == 40, "a class for each message of the codec");
 

@@ -109,5 +109,7 @@ def filled_records(headers):
         for message in header.messages:
             names.append(f"tum::{message.name}")
             lines += message_lines(message)
-    lines += ["using every_message = std::tuple<" + ",\n    ".join(names) + ">;", ""]
+    lines += ["template <class Record>", "constexpr const char *name_of = nullptr;", ""]
+    lines += [f'template <>\ninline constexpr const char *name_of<{name}> = "{name[len("tum::"):]}";' for name in names]
+    lines += ["", "using every_message = std::tuple<" + ",\n    ".join(names) + ">;", ""]
     return HEAD + "\n" + "\n".join(lines) + "\n" + TAIL
