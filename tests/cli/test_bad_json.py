@@ -13,6 +13,11 @@ class SyntaxTest(InspectorTest):
         self.refused("encode", "subscriber_v4", self.file("x.json", '{\n"field_1" 1}'), says=["x.json: ", "line 2"])
         self.refused("encode", "subscriber_v4", data=b"{", says="standard input: parse error at line 1, column 2")
 
+    def test_any_depth_is_read(self):
+        deep = b"[" * 200000 + b"]" * 200000
+        self.refused(*MESSAGE, data=b'{"acl": ' + deep + b"}", says="/acl: expected an object")
+        self.refused(*MESSAGE, data=b'{"record": {}, "message": ' + deep + b"}", says="/message: expected")
+
     def test_text_behind_the_document_is_refused(self):
         self.refused("encode", "subscriber_v4", data=b"{} {}", says="parse error")
 
@@ -34,8 +39,10 @@ class ShapeTest(InspectorTest):
                              (True, "a truth value"), ([], "an array of 0 elements"), ({}, "an object")]:
             self.refuses(MESSAGE, {"qos": [{}, {}, {}, {"field_2": value}]}, f"/qos/3/field_2: {wrong} {found}")
         self.refuses(ROUTES, {"field_2": 65536}, "/field_2: expected a number from 0 to 65535, found 65536")
-        self.refuses(ROUTES, {"ipv4_routes": [{"field_4": 256}]}, "/ipv4_routes/0/field_4: expected a number from 0 to 255")
-        self.refuses(("encode", "session_delete"), {"field_4": 2**64}, "/field_4: expected a number from 0 to 184467440737")
+        self.refuses(ROUTES, {"ipv4_routes": [{"field_4": 256}]},
+                     "/ipv4_routes/0/field_4: expected a number from 0 to 255, found 256")
+        self.refuses(("encode", "session_delete"), {"field_4": 2**64},
+                     "/field_4: expected a number from 0 to 18446744073709551615")
 
     def test_wide_numbers_are_taken_whole(self):
         done = self.succeeds("encode", "session_delete", "-t", "hex", data=b'{"field_4": 18446744073709551615}')
@@ -52,7 +59,8 @@ class ShapeTest(InspectorTest):
         self.refuses(ROUTES, {"a/b~c": 1}, "/a~1b~0c: ")
 
     def test_reserved_members_are_unknown(self):
-        self.refuses(("app", "session_context", "encode"), {"reserved_10": 1}, "/reserved_10: session_context has no such")
+        self.refuses(("app", "session_context", "encode"), {"reserved_10": 1},
+                     "/reserved_10: session_context has no such member")
 
     def test_nested_records_are_objects_and_lists_are_arrays(self):
         self.refuses(MESSAGE, {"acl": 1}, "/acl: expected an object with the fields of subscriber_acl, found 1")
@@ -91,7 +99,8 @@ class ShapeTest(InspectorTest):
         self.assertEqual(done.output, "2a066c696e652d37\n")
 
     def test_a_document_of_another_message_is_refused(self):
-        self.refuses(MESSAGE, {"message": "sub_route", "record": {}}, '/message: expected "session_context", found "sub')
+        self.refuses(MESSAGE, {"message": "sub_route", "record": {}},
+                     '/message: expected "session_context", found "sub_route"')
         self.refuses(MESSAGE, {"record": {"field_1": "x"}}, "/record/field_1: expected a number")
 
 

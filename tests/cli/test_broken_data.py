@@ -1,4 +1,4 @@
-"""Messages that do not decode, do not fit or differ: exit code 1, what is there is printed, one line says what is not."""
+"""Messages that do not decode, do not fit or differ: exit code 1, and what is there is printed."""
 import unittest
 
 from inspector import V4, InspectorTest, frames, run
@@ -13,7 +13,8 @@ class BrokenMessageTest(InspectorTest):
 
     def test_explain_and_app_say_the_same(self):
         for command in [("explain", "subscriber_v4"), ("decode", "--json", "subscriber_v4")]:
-            self.refused(*command, data=V4[:-1], status=1, says="`ipv4_address` has 3 of its 4 bytes at byte 3: result -1")
+            self.refused(*command, data=V4[:-1], status=1,
+                         says="`ipv4_address` has 3 of its 4 bytes at byte 3: result -1")
         done = self.refused("app", "session_delete", "decode", data=b"\x08\x02\x15", status=1, says="result -3")
         self.assertIn('"field_1": 2', done.output)
 
@@ -21,6 +22,13 @@ class BrokenMessageTest(InspectorTest):
         data = frames(V4, V4[:-1], b"\x08", V4)
         for command in [("decode", "subscriber_v4"), ("explain", "subscriber_v4"), ("decode", "-j", "subscriber_v4")]:
             self.refused(*command, data=data, status=1, says=["frame 2 at byte 11: ", "2 of 4 messages do not decode"])
+
+    def test_a_name_with_a_line_end_stays_on_one_line(self):
+        path = self.file("two\nlines", V4[:-1])
+        for command in [("decode", "subscriber_v4"), ("explain", "subscriber_v4"), ("app", "session_delete", "decode")]:
+            self.refused(*command, path, status=1, says="two?lines: ")
+        self.refused("diff", "subscriber_v4", path, path, status=1, says="two?lines: ")
+        self.refused("guess", "-f", "raw", self.file("two\nlines", b"\x0b"), status=1, says="two?lines: ")
 
     def test_guess_says_when_no_message_decodes(self):
         self.refused("guess", "-f", "raw", data=b"\x0b", status=1, says=["none of the 40 messages", "mava-tum explain"])

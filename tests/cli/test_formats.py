@@ -81,7 +81,8 @@ class AdapterTest(InspectorTest):
 
     def test_a_whole_session_comes_back(self):
         record = {"session_value_1": 4, "feature_mask": 1 << 9 | 1 << 10 | 1, "ipv4_address": "192.0.2.1",
-                  "ipv6_part_2": "2001:db8::1", "session_name": "user@example.com", "session_identifier": "00112233445566",
+                  "ipv6_part_2": "2001:db8::1", "session_name": "user@example.com",
+                  "session_identifier": "00112233445566",
                   "qos": [{"value_1": 1, "text_3": "gold"}, {"value_1": 2, "text_12": "\u00e9"}]}
         wire = self.succeeds("app", "session_context", "encode", data=json.dumps(record).encode()).raw
         arrived = json.loads(self.succeeds("app", "session_context", "decode", "-f", "raw", data=wire).output)

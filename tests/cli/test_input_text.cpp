@@ -89,6 +89,7 @@ TEST(utf8_text, longer_forms_and_halves_of_pairs_are_none)
         {"\xFF", "\xC3", "\xC0\xAF", "\xE0\x80\xAF", "\xED\xA0\x80", "\xF4\x90\x80\x80", "\x80", "\xE2\x82"})
         EXPECT_FALSE(mava_tum_cli::is_plain_utf8(text));
     EXPECT_FALSE(mava_tum_cli::is_plain_utf8(std::string_view("\0", 1)));
+    EXPECT_FALSE(mava_tum_cli::is_plain_utf8("\xC2\x9B"));
 }
 
 } // namespace

@@ -2,11 +2,13 @@
 
 #include "command_help.h"
 #include "commands/all_commands.h"
+#include "error_line.h"
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
 #include <fmt/format.h>
-#include <map>
+#include <utility>
+#include <vector>
 
 namespace mava_tum_cli
 {
@@ -29,17 +31,30 @@ void add_adapter(CLI::App &command, command_options &options)
         ->required();
 }
 
+// An option whose value is one of some names.
+template <class Value>
+void add_choice(CLI::App &command, const std::string &option, Value &target,
+    const std::vector<std::pair<std::string, Value>> &choices, const std::string &help, const std::string &value_name)
+{
+    std::vector<std::string> names;
+    for (const auto &choice : choices)
+        names.push_back(choice.first);
+    const auto take = [&target, choices](const std::string &chosen) {
+        for (const auto &[name, value] : choices)
+            if (name == chosen)
+                target = value;
+    };
+    command.add_option_function<std::string>(option, take, help)->check(CLI::IsMember(names))->option_text(value_name);
+}
+
 void add_format(CLI::App &command, command_options &options)
 {
-    static const std::map<std::string, input_format> formats = {{"auto", input_format::automatic},
-        {"raw", input_format::raw}, {"hex", input_format::hex}, {"base64", input_format::base64},
-        {"frames", input_format::frames}};
-    command
-        .add_option("-f,--format", options.format,
-            "what the input is written in: auto, raw, hex, base64, or frames (each message after its length in 4 "
-            "bytes, big-endian)")
-        ->transform(CLI::Transformer(formats))
-        ->option_text("FORMAT");
+    add_choice<input_format>(command, "-f,--format", options.format,
+        {{"auto", input_format::automatic}, {"raw", input_format::raw}, {"hex", input_format::hex},
+            {"base64", input_format::base64}, {"frames", input_format::frames}},
+        "what the input is written in: auto, raw, hex, base64, or frames (each message after its length in 4 bytes, "
+        "big-endian)",
+        "FORMAT");
 }
 
 void add_file(CLI::App &command, command_options &options)
@@ -56,11 +71,10 @@ void add_output(CLI::App &command, command_options &options)
 
 void add_written_as(CLI::App &command, command_options &options)
 {
-    static const std::map<std::string, input_format> formats = {{"raw", input_format::raw}, {"hex", input_format::hex},
-        {"base64", input_format::base64}, {"frames", input_format::frames}};
-    command.add_option("-t,--to", options.written_as, "how to write the message: raw, hex, base64 or frames")
-        ->transform(CLI::Transformer(formats))
-        ->option_text("FORMAT");
+    add_choice<input_format>(command, "-t,--to", options.written_as,
+        {{"raw", input_format::raw}, {"hex", input_format::hex}, {"base64", input_format::base64},
+            {"frames", input_format::frames}},
+        "how to write the message: raw, hex, base64 or frames", "FORMAT");
 }
 
 void add_json(CLI::App &command, command_options &options)
@@ -70,11 +84,9 @@ void add_json(CLI::App &command, command_options &options)
 
 void add_colour(CLI::App &command, command_options &options)
 {
-    static const std::map<std::string, colour_choice> choices = {
-        {"auto", colour_choice::automatic}, {"always", colour_choice::always}, {"never", colour_choice::never}};
-    command.add_option("--color", options.colour, "auto (on a terminal, unless NO_COLOR is set), always or never")
-        ->transform(CLI::Transformer(choices))
-        ->option_text("WHEN");
+    add_choice<colour_choice>(command, "--color", options.colour,
+        {{"auto", colour_choice::automatic}, {"always", colour_choice::always}, {"never", colour_choice::never}},
+        "auto (on a terminal, unless NO_COLOR is set), always or never", "WHEN");
 }
 
 // ---- the commands --------------------------------------------------------------------------------------------
@@ -178,28 +190,21 @@ void declare_all(CLI::App &program, command_options &options)
     }
 }
 
-// ---- errors: one line each -----------------------------------------------------------------------------------
+// ---- errors --------------------------------------------------------------------------------------------------
 
-// File names and values can contain anything.
-std::string on_one_line(std::string text)
+int refuse(const std::string &command, const std::string &what)
 {
-    std::ranges::replace_if(
-        text, [](unsigned char character) { return character < ' ' || character == 0x7F; }, '?');
-    return text;
-}
-
-int refuse(const std::string &who, const std::string &what)
-{
-    fmt::print(stderr, "{}: {}\n", who, on_one_line(what));
+    print_error(command, what);
     return exit_bad_use;
 }
 
 int refuse_arguments(const CLI::App &program, const CLI::ParseError &error)
 {
-    std::string who = program_name;
+    std::string command;
     for (const CLI::App *subcommand : program.get_subcommands())
-        who += " " + subcommand->get_name();
-    return refuse(who, fmt::format("{}; see {} --help", error.what(), who));
+        command = subcommand->get_name();
+    return refuse(
+        command, fmt::format("{}; see {}{}{} --help", error.what(), program_name, command.empty() ? "" : " ", command));
 }
 
 // What the parser would only call a missing subcommand.
@@ -208,7 +213,7 @@ int refuse_command(const std::string &word)
     std::string names;
     for (const command &each : all_commands)
         names += (names.empty() ? "" : ", ") + std::string(each.name);
-    return refuse(program_name, fmt::format("there is no command \"{}\"; name one of {}", word, names));
+    return refuse("", fmt::format("there is no command \"{}\"; name one of {}", word, names));
 }
 
 bool is_command(std::string_view word)
@@ -219,19 +224,15 @@ bool is_command(std::string_view word)
 int run_chosen(const CLI::App &program, const command_options &options)
 {
     const std::string chosen = program.get_subcommands().front()->get_name();
-    for (const command &each : all_commands) {
-        if (each.name != chosen)
-            continue;
-        const std::string who = fmt::format("{} {}", program_name, chosen);
-        try {
-            return each.run(options);
-        } catch (const bad_use &error) {
-            return refuse(who, error.what());
-        } catch (const std::bad_alloc &) {
-            return refuse(who, "not enough memory for this input; give smaller messages");
-        }
+    const command *found =
+        std::ranges::find_if(all_commands, [&chosen](const command &each) { return chosen == each.name; });
+    try {
+        return found->run(options);
+    } catch (const bad_use &error) {
+        return refuse(chosen, error.what());
+    } catch (const std::bad_alloc &) {
+        return refuse(chosen, "not enough memory for this input; give smaller messages");
     }
-    return exit_bad_use;
 }
 
 } // namespace

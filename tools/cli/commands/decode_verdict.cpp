@@ -1,5 +1,6 @@
 #include "commands/decode_verdict.h"
 
+#include "error_line.h"
 #include "inspect/wire_walk.h"
 #include "message/verdict.h"
 
@@ -66,7 +67,7 @@ exit_status fault_report::finish() const
     if (m_broken == 0)
         return exit_ok;
     const std::string sum = m_seen == 1 ? "" : fmt::format("; {} of {} messages do not decode", m_broken, m_seen);
-    fmt::print(stderr, "mava-tum {}: {}{}\n", m_command, m_first, sum);
+    print_error(m_command, m_first + sum);
     return exit_broken_data;
 }
 

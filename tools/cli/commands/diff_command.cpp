@@ -1,6 +1,7 @@
 #include "commands/all_commands.h"
 #include "commands/decode_verdict.h"
 #include "commands/find_by_name.h"
+#include "error_line.h"
 #include "message/field_list.h"
 #include "message/verdict.h"
 #include "output/output_file.h"
@@ -64,8 +65,8 @@ bool both_decode(
         const std::optional<std::string> fault = fault_of(message, is_first ? first : second);
         if (!fault)
             continue;
-        fmt::print(stderr, "mava-tum diff: {}: {} does not decode: {}\n", is_first ? options.file : options.second_file,
-            message.name, *fault);
+        print_error("diff", fmt::format("{}: {} does not decode: {}", is_first ? options.file : options.second_file,
+                                message.name, *fault));
         return false;
     }
     return true;

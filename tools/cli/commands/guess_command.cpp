@@ -1,5 +1,5 @@
-#include "bad_use.h"
 #include "commands/all_commands.h"
+#include "error_line.h"
 #include "input/message_source.h"
 #include "mava_tum_inspect.h"
 #include "output/output_file.h"
@@ -73,10 +73,9 @@ exit_status run_guess(const command_options &options)
     output.commit();
     if (first_unknown.empty())
         return exit_ok;
-    fmt::print(stderr,
-        "mava-tum guess: {}: none of the {} messages decodes from these bytes; see where one breaks with "
-        "mava-tum explain MESSAGE\n",
-        first_unknown, mava_tum_inspect_message_count());
+    print_error("guess", fmt::format("{}: none of the {} messages decodes from these bytes; see where one breaks with "
+                                     "mava-tum explain MESSAGE",
+                             first_unknown, mava_tum_inspect_message_count()));
     return exit_broken_data;
 }
 

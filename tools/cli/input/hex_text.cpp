@@ -36,8 +36,8 @@ public:
         const int digit = hex_digit_value(character);
         if (digit >= 0)
             take_digit(digit);
-        else if ((character == 'x' || character == 'X') && m_high == 0)
-            m_high = -1; // the 0 was the beginning of 0x
+        else if ((character == 'x' || character == 'X') && m_high == 0 && !m_has_prefix)
+            take_prefix();
         else if (is_text_space(character) || character == ':' || character == ',')
             end_byte();
         else
@@ -61,11 +61,19 @@ private:
         }
         m_bytes.push_back(static_cast<uint8_t>(m_high << 4 | digit));
         m_high = -1;
+        m_has_prefix = false;
+    }
+
+    // The 0 before it was no digit.
+    void take_prefix()
+    {
+        m_high = -1;
+        m_has_prefix = true;
     }
 
     void end_byte() const
     {
-        if (m_high >= 0)
+        if (m_high >= 0 || m_has_prefix)
             throw bad_use(fmt::format("{}: {}: odd number of hex digits before here; a byte has two, add the one that "
                                       "is missing",
                 m_where, m_position.to_string()));
@@ -74,7 +82,8 @@ private:
     const std::string &m_where;
     text_position m_position;
     byte_vector m_bytes;
-    int m_high = -1; // the first digit of a byte, while the second is awaited
+    int m_high = -1;           // the first digit of a byte, while the second is awaited
+    bool m_has_prefix = false; // the byte began with 0x
 };
 
 } // namespace

@@ -28,9 +28,15 @@ sequence_kind kind_of(unsigned char first)
     return {0, 0, 0};
 }
 
+// Terminals take some characters behind ASCII for commands.
+bool is_control(uint32_t code)
+{
+    return code >= 0x7F && code < 0xA0;
+}
+
 bool is_character(uint32_t code)
 {
-    return code <= 0x10FFFF && (code < 0xD800 || code > 0xDFFF);
+    return code <= 0x10FFFF && (code < 0xD800 || code > 0xDFFF) && !is_control(code);
 }
 
 } // namespace

@@ -148,9 +148,14 @@ constexpr const char *message_key = "message";
 void check_message_name(const message_description &message, const json &document)
 {
     const auto name = document.find(message_key);
-    if (name != document.end() && *name != message.name)
-        throw bad_use(fmt::format("/{}: expected \"{}\", found {}; name the message that the document holds",
-            message_key, message.name, name->dump()));
+    if (name == document.end() || *name == message.name)
+        return;
+    const std::string place = member_path("", message_key);
+    const std::string expected = fmt::format("\"{}\"", message.name);
+    if (!name->is_string())
+        refuse_value(place, expected, *name);
+    throw bad_use(fmt::format(
+        "{}: expected {}, found {}; name the message that the document holds", place, expected, name->dump()));
 }
 
 } // namespace
