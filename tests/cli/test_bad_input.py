@@ -65,6 +65,11 @@ class HexTest(InspectorTest):
         self.refused("decode", "-f", "hex", "subscriber_v4", data=b"08 0g", says=["column 5", "'g' is no hex digit"])
         self.refused("decode", "-f", "hex", "subscriber_v4", data=b"08\x00", says="byte 0x00 is no hex digit")
 
+    def test_a_slip_in_hex_is_told_without_the_format(self):
+        for data, place in [(b"0801 15 c00o0201\n", "column 12: 'o'"), (b"0801\n15 c0*00201", "line 2, column 6: '*'"),
+                            (b"08 01 15 c0-00-02-01", "column 12: '-'")]:
+            self.refused("decode", "subscriber_v4", data=data, says=place)
+
     def test_hex_without_a_digit_is_told(self):
         self.refused("decode", "-f", "hex", "subscriber_v4", data=b" \n", says="has no hex digit")
 

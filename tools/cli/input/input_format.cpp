@@ -26,7 +26,7 @@ bool is_hex_shaped(const beginning &input)
 {
     return std::ranges::all_of(input.bytes, [](uint8_t character) {
         return hex_digit_value(character) >= 0 || is_text_space(character) || character == ':' || character == ',' ||
-               character == 'x';
+               character == 'x' || character == 'X';
     });
 }
 
@@ -34,6 +34,22 @@ bool is_base64_shaped(const beginning &input)
 {
     return std::ranges::all_of(
         input.bytes, [](uint8_t character) { return is_base64_character(character) || is_text_space(character); });
+}
+
+// Hex with a slip in it: a text of which three quarters are hex digits. Of base64 it is one third.
+bool is_mostly_hex(const beginning &input)
+{
+    size_t digits = 0;
+    size_t others = 0;
+    for (const uint8_t character : input.bytes) {
+        if (hex_digit_value(character) >= 0)
+            ++digits;
+        else if (character > ' ' && character < 0x7F)
+            ++others;
+        else if (!is_text_space(character))
+            return false;
+    }
+    return digits >= 3 * others;
 }
 
 using reader_fn = byte_vector (*)(std::span<const uint8_t>, const std::string &);
@@ -82,7 +98,8 @@ input_format detect_format(input_stream &stream, const plausible_fn &plausible)
         return input_format::frames;
     const bool hex_shaped = is_hex_shaped(input);
     const bool base64_shaped = is_base64_shaped(input);
-    if (!hex_shaped && !base64_shaped)
+    const bool mostly_hex = is_mostly_hex(input);
+    if (!hex_shaped && !base64_shaped && (!mostly_hex || plausible(input.bytes) != plausibility::none))
         return input_format::raw;
     // Text decodes as many a message, as long as what is unknown in it is put up with. So whatever the input looks like
     // most is taken if it decodes, and the rest only if it fits without a remainder.
@@ -99,7 +116,7 @@ input_format detect_format(input_stream &stream, const plausible_fn &plausible)
     if (possible.size() == 1)
         return possible[0];
     // Nothing that decodes: by its looks, so that the fault is told where it is.
-    return hex_shaped ? input_format::hex : input_format::base64;
+    return hex_shaped || mostly_hex ? input_format::hex : input_format::base64;
 }
 
 } // namespace mava_tum_cli
