@@ -1,6 +1,7 @@
 // What holds for the classes of all messages, with every field filled. filled_records.h is written by the build.
 #include "counting_resource.h"
 #include "filled_records.h"
+#include "heap_count.h"
 
 #include <array>
 
@@ -141,17 +142,33 @@ TYPED_TEST(cpp_every_message, is_cloned_whole_or_not_at_all)
 }
 
 // The buffer cannot grow: what it has no room for is refused.
-TYPED_TEST(cpp_every_message, is_decoded_into_a_buffer_alone)
+TYPED_TEST(cpp_every_message, is_decoded_and_encoded_without_a_call_of_the_heap_in_a_buffer_of_the_callers)
 {
     const auto wire = this->full_wire();
+    std::vector<std::uint8_t> again(wire.size());
     std::array<std::byte, 32 * 1024> buffer;
+    const std::size_t calls_before = heap_calls();
     std::pmr::monotonic_buffer_resource resource(buffer.data(), buffer.size(), std::pmr::null_memory_resource());
     TypeParam remembered(&resource);
-    ASSERT_EQ(remembered.decode(wire), tum::result::ok);
-    expect_filled(remembered);
+    const tum::result first = remembered.decode(wire);
     TypeParam kept(tum::memory(tum::monotonic, &resource));
-    ASSERT_EQ(kept.decode(tum::alias, wire), tum::result::ok);
+    const tum::result second = kept.decode(tum::alias, wire);
+    const tum::encoded encoded = kept.encode(again);
+    EXPECT_EQ(heap_calls(), calls_before);
+    ASSERT_EQ(first, tum::result::ok);
+    ASSERT_EQ(second, tum::result::ok);
+    expect_filled(remembered);
     expect_filled(kept);
+    EXPECT_TRUE(encoded);
+    EXPECT_EQ(again, wire);
+}
+
+TEST(cpp_heap_count, sees_the_heap_of_a_record_without_memory_of_the_callers)
+{
+    tum::rec_resp response;
+    const std::size_t calls_before = heap_calls();
+    ASSERT_EQ(response.set_field_2("text"), tum::result::ok);
+    EXPECT_EQ(heap_calls(), calls_before + 1);
 }
 
 } // namespace
