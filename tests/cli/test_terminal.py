@@ -1,11 +1,12 @@
 """What is different on a terminal: colours, the progress line, raw bytes that are not written."""
 import os
 import pty
+import select
 import subprocess
 import time
 import unittest
 
-from inspector import PROGRAM, V4, InspectorTest, frames, run
+from inspector import PROGRAM, SECONDS, V4, InspectorTest, frames, run
 
 ESCAPE = b"\x1b["
 
@@ -73,36 +74,44 @@ class TerminalTest(InspectorTest):
 
 
 class ProgressTest(InspectorTest):
-    def errors_of_slow_input(self, seconds, standard_error):
-        """Feeds frames for so long and returns what was written to standard error."""
-        terminal, other_end = pty.openpty()
-        target = other_end if standard_error == "terminal" else subprocess.PIPE
-        with subprocess.Popen([PROGRAM, "check", "session_delete", "-f", "frames"], stdin=subprocess.PIPE,
-                              stdout=subprocess.DEVNULL, stderr=target) as process:
-            os.close(other_end)
-            end = time.monotonic() + seconds
-            while True:
-                process.stdin.write(frames(b"\x08\x01") * 1000)
-                process.stdin.flush()
-                if time.monotonic() > end:
-                    break
-                time.sleep(0.05)
-            process.stdin.close()
-            content = read_until_end(terminal) if standard_error == "terminal" else process.stderr.read()
-        os.close(terminal)
-        return content
+    command = ("check", "session_delete", "-f", "frames")
+    block = frames(b"\x08\x01") * 1000
+
+    def feed(self, process, is_enough):
+        """Feeds frames with pauses, so that it takes long, until it is enough."""
+        start = time.monotonic()
+        while not is_enough(time.monotonic() - start):
+            process.stdin.write(self.block)
+            process.stdin.flush()
+            time.sleep(0.05)
+        process.stdin.close()
 
     def test_a_long_input_shows_how_far_it_is_and_takes_the_line_away(self):
-        content = self.errors_of_slow_input(1.6, "terminal")
+        terminal, other_end = pty.openpty()
+        with subprocess.Popen([PROGRAM, *self.command], stdin=subprocess.PIPE, stdout=subprocess.DEVNULL,
+                              stderr=other_end) as process:
+            os.close(other_end)
+            self.feed(process, lambda seconds: seconds > SECONDS or select.select([terminal], [], [], 0)[0])
+            content = read_until_end(terminal)
+        os.close(terminal)
         self.assertIn(b"\r\x1b[Kmava-tum: read ", content)
         self.assertTrue(content.endswith(b"\r\x1b[K"), content)
         self.assertNotIn(b"\n", content)
 
     def test_a_short_input_shows_nothing(self):
-        self.assertEqual(self.errors_of_slow_input(0.2, "terminal"), b"")
+        terminal, other_end = pty.openpty()
+        with open(self.file("short", self.block), "rb") as data:
+            subprocess.run([PROGRAM, *self.command], stdin=data, stdout=subprocess.DEVNULL, stderr=other_end,
+                           check=True, timeout=SECONDS)
+        os.close(other_end)
+        self.assertEqual(read_until_end(terminal), b"")
+        os.close(terminal)
 
     def test_no_progress_is_shown_where_nobody_looks(self):
-        self.assertEqual(self.errors_of_slow_input(1.6, "pipe"), b"")
+        with subprocess.Popen([PROGRAM, *self.command], stdin=subprocess.PIPE, stdout=subprocess.DEVNULL,
+                              stderr=subprocess.PIPE) as process:
+            self.feed(process, lambda seconds: seconds > 1.6)
+            self.assertEqual(process.stderr.read(), b"")
 
 
 if __name__ == "__main__":
