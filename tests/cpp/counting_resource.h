@@ -54,7 +54,7 @@ private:
         ASSERT_NE(found, out_.end()) << "a block that is not out came back";
         EXPECT_EQ(found->second, bytes);
         out_.erase(found);
-        ::operator delete(block, bytes, std::align_val_t(alignment));
+        ::operator delete(block, std::align_val_t(alignment));
     }
 
     bool do_is_equal(const std::pmr::memory_resource &other) const noexcept override
