@@ -6,6 +6,7 @@
 #include "inspect/message_table.h"
 
 #include <charconv>
+#include <cstdio>
 #include <cstdlib>
 #include <cstring>
 #include <iostream>
