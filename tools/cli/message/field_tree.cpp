@@ -130,13 +130,12 @@ private:
 
 } // namespace
 
-bool print_tree(const message_description &message, wire_bytes wire, const colours &colour, output_file &output)
+void print_tree(const message_description &message, wire_bytes wire, const colours &colour, output_file &output)
 {
     tree_visitor visitor(wire, colour, output);
     const mava_tum_inspect::walk_result result =
         mava_tum_inspect::walk_message(message, wire.data(), wire.size(), visitor);
     visitor.print_absent(message, result.present, 0);
-    return result.rule == mava_tum_inspect::fault_rule::none;
 }
 
 } // namespace mava_tum_cli

@@ -8,8 +8,7 @@
 namespace mava_tum_cli
 {
 
-// Returns whether the message decodes.
-bool print_tree(
+void print_tree(
     const mava_tum_inspect::message_description &message, wire_bytes wire, const colours &colour, output_file &output);
 
 } // namespace mava_tum_cli
