@@ -71,10 +71,11 @@ public:
     }
 
 private:
-    struct alignas(std::max_align_t) block {
+    struct block {
         block *next;
         std::uint64_t size; // with this header
     };
+    static_assert(sizeof(block) % alignof(std::max_align_t) == 0, "what follows is aligned as the whole is");
 
     static void *take_remembered(std::uint64_t size, void *list) noexcept
     {
