@@ -87,7 +87,14 @@ def test_of_a_long_list_arrive_as_many_elements_as_the_count_says(sent: int, arr
     assert [each["value_1"] for each in received["qos"]] == list(range(arriving))
 
 
-def test_a_count_of_the_callers_own_is_kept() -> None:
-    sent = {"field_3": [{"field_1": 1}, {"field_1": 2}], "field_3_count": 1}
+@pytest.mark.parametrize("names", [("field_3", "field_3_count"), ("field_3_count", "field_3")])
+def test_a_count_of_the_callers_own_is_kept_in_any_order(names: tuple[str, str]) -> None:
+    values = {"field_3": [{"field_1": 1}, {"field_1": 2}], "field_3_count": 1}
+    sent = {name: values[name] for name in names}
     fields = mava_tum.decode("srg_group_rec_replay_req", mava_tum.app_encode("srg_group_rec_replay_req", sent))
     assert fields == {"field_3": [{"field_1": 1}]}
+
+
+def test_no_more_elements_are_read_than_there_are_slots() -> None:
+    record = ffi.new("tum_nal_data_session_context *", {"qos_count": 255})
+    assert len(application_reader.read_record("tum_nal_data_session_context", record, dotted=False)["qos"]) == 8

@@ -137,6 +137,14 @@ def test_an_empty_block_is_a_block() -> None:
         assert blocks.refused
 
 
+def test_a_block_that_was_given_back_is_no_longer_there() -> None:
+    with Blocks() as blocks:
+        block = blocks.obtain(1)
+        blocks.give_back(block)
+        with pytest.raises(KeyError):
+            blocks.give_back(block)
+
+
 def test_a_size_that_no_machine_has_is_refused() -> None:
     for size in (1 << 62, (1 << 64) - 1):
         with Blocks() as blocks:
