@@ -67,9 +67,10 @@ extern "C" uint32_t mava_tum_inspect_format_line(
         add_spaces(text, byte_columns * (MAVA_TUM_INSPECT_ROW_BYTES - line->byte_count) + 2 + 2 * line->depth);
         text.add(prefix_of(line->kind)).add(line->text);
     }
-    const std::size_t kept = capacity == 0 ? 0 : std::min<std::size_t>(text.view().size(), capacity - 1);
-    std::memcpy(buffer, text.c_str(), kept);
-    if (capacity != 0)
+    if (capacity != 0) {
+        const std::size_t kept = std::min<std::size_t>(text.view().size(), capacity - 1);
+        std::memcpy(buffer, text.c_str(), kept);
         buffer[kept] = '\0';
+    }
     return static_cast<uint32_t>(text.view().size());
 }

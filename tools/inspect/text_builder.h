@@ -63,7 +63,7 @@ public:
 
 private:
     static_assert(Size > 4);
-    char text_[Size] = "";
+    char text_[Size] = {};
     std::size_t used_ = 0;
 };
 
