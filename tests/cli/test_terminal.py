@@ -98,6 +98,24 @@ class ProgressTest(InspectorTest):
         self.assertTrue(content.endswith(b"\r\x1b[K"), content)
         self.assertNotIn(b"\n", content)
 
+    def test_an_output_file_leaves_the_terminal_to_it(self):
+        terminal, other_end = pty.openpty()
+        with subprocess.Popen([PROGRAM, *self.command, "-o", os.path.join(self.folder, "out")], stdin=subprocess.PIPE,
+                              stdout=other_end, stderr=other_end) as process:
+            os.close(other_end)
+            self.feed(process, lambda seconds: seconds > SECONDS or select.select([terminal], [], [], 0)[0])
+            self.assertIn(b"mava-tum: read ", read_until_end(terminal))
+        os.close(terminal)
+
+    def test_an_output_on_the_terminal_is_not_disturbed(self):
+        terminal, other_end = pty.openpty()
+        with subprocess.Popen([PROGRAM, *self.command], stdin=subprocess.PIPE, stdout=other_end,
+                              stderr=other_end) as process:
+            os.close(other_end)
+            self.feed(process, lambda seconds: seconds > 1.6)
+            self.assertNotIn(b"mava-tum: read ", read_until_end(terminal))
+        os.close(terminal)
+
     def test_a_short_input_shows_nothing(self):
         terminal, other_end = pty.openpty()
         with open(self.file("short", self.block), "rb") as data:

@@ -52,6 +52,7 @@ exit_status run_app_decode(const app_adapter &adapter, const command_options &op
     const mava_tum_inspect::message_description &message = message_named(std::string(adapter.message));
     message_source source(options.file, options.format, plausibility_of(message));
     output_file output(options.output);
+    source.show_progress_beside(output);
     fault_report report("app", message);
     while (source.next()) {
         output.write(decode_record(adapter, source.message()).dump(source.has_frames() ? -1 : 2) + "\n");

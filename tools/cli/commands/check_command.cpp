@@ -57,6 +57,7 @@ exit_status run_check(const command_options &options)
     const app_adapter &adapter = adapter_named(options.name);
     message_source source(options.file, options.format, plausibility_of(message_named(std::string(adapter.message))));
     output_file output(options.output);
+    source.show_progress_beside(output);
     check_sum sum;
     while (source.next()) {
         const std::span<const uint8_t> wire = source.message();

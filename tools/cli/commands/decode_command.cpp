@@ -14,6 +14,7 @@ exit_status run_decode(const command_options &options)
     const mava_tum_inspect::message_description &message = message_named(options.name);
     message_source source(options.file, options.format, plausibility_of(message));
     output_file output(options.output);
+    source.show_progress_beside(output);
     const colours colour(options.colour, output.is_terminal());
     fault_report report("decode", message);
     while (source.next()) {

@@ -60,6 +60,7 @@ exit_status run_guess(const command_options &options)
 {
     message_source source(options.file, options.format, plausibility_of_any);
     output_file output(options.output);
+    source.show_progress_beside(output);
     std::string first_unknown;
     while (source.next()) {
         const candidates found = guess(source.message());

@@ -41,6 +41,11 @@ public:
     // Everything up to the end. Throws bad_use above `message_limit_bytes`.
     byte_vector read_all();
 
+    void show_progress()
+    {
+        m_progress.allow();
+    }
+
     uint64_t position() const
     {
         return m_position;

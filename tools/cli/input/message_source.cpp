@@ -35,6 +35,12 @@ byte_vector message_source::whole_message()
     return bytes;
 }
 
+void message_source::show_progress_beside(const output_file &output)
+{
+    if (!output.is_terminal())
+        m_stream.show_progress();
+}
+
 bool message_source::next()
 {
     m_begin = m_stream.position();

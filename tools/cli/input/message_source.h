@@ -2,6 +2,7 @@
 #pragma once
 
 #include "input/input_format.h"
+#include "output/output_file.h"
 
 #include <memory>
 
@@ -13,6 +14,9 @@ class message_source
 public:
     // Throws bad_use for what cannot be read or is empty.
     message_source(const std::string &path, input_format format, const plausible_fn &plausible);
+
+    // Lets a line on the terminal say how far the input is read, unless the output goes there.
+    void show_progress_beside(const output_file &output);
 
     // Takes the next message; false after the last.
     bool next();

@@ -21,9 +21,11 @@ std::string mebibytes(uint64_t bytes)
 
 } // namespace
 
-progress_line::progress_line()
-    : m_is_wanted(isatty(STDERR_FILENO) != 0 && isatty(STDOUT_FILENO) == 0), m_next(clock::now() + first_after)
+progress_line::progress_line() : m_next(clock::now() + first_after) {}
+
+void progress_line::allow()
 {
+    m_is_wanted = isatty(STDERR_FILENO) != 0;
 }
 
 progress_line::~progress_line()

@@ -11,11 +11,13 @@ namespace mava_tum_cli
 class progress_line
 {
 public:
-    // Shown only when standard error is a terminal and standard output is not, where it would stand in between.
     progress_line();
     ~progress_line();
     progress_line(const progress_line &) = delete;
     progress_line &operator=(const progress_line &) = delete;
+
+    // Shows it from now on, if standard error is a terminal.
+    void allow();
 
     // `total_bytes` 0: not known.
     void update(uint64_t done_bytes, uint64_t total_bytes);
@@ -23,7 +25,7 @@ public:
 private:
     using clock = std::chrono::steady_clock;
 
-    bool m_is_wanted;
+    bool m_is_wanted = false;
     bool m_is_shown = false;
     clock::time_point m_next;
 };
