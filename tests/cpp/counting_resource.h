@@ -37,7 +37,7 @@ public:
         return out_.size();
     }
 
-private:
+protected:
     void *do_allocate(std::size_t bytes, std::size_t alignment) override
     {
         if (++asked_ == refused_)
@@ -48,6 +48,7 @@ private:
         return block;
     }
 
+private:
     void do_deallocate(void *block, std::size_t bytes, std::size_t alignment) override
     {
         const auto found = out_.find(block);

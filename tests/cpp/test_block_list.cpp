@@ -1,0 +1,64 @@
+// The list of blocks by itself; what records make of it is in test_owning_record.cpp.
+#include "counting_resource.h"
+#include "mava_tum/cpp/block_list.hpp"
+
+#include <cstdint>
+#include <limits>
+
+namespace mava_tum_test
+{
+namespace
+{
+
+using mava_tum::cpp::block_list;
+using mava_tum::cpp::memory;
+
+TEST(cpp_block_list, keeps_its_blocks_when_it_is_moved_to_itself)
+{
+    counting_resource resource;
+    block_list list{memory(&resource)};
+    ASSERT_NE(list.take(10), nullptr);
+    block_list &same = list;
+    list = std::move(same);
+    EXPECT_EQ(resource.blocks_out(), 1U);
+    list.release_all();
+    EXPECT_EQ(resource.blocks_out(), 0U);
+}
+
+TEST(cpp_block_list, gives_blocks_that_are_aligned_as_those_of_the_resource)
+{
+    counting_resource resource;
+    block_list list{memory(&resource)};
+    for (const std::uint64_t size : {1, 15, 16, 17, 100})
+        EXPECT_EQ(reinterpret_cast<std::uintptr_t>(list.take(size)) % alignof(std::max_align_t), 0U);
+}
+
+TEST(cpp_block_list, refuses_a_size_that_has_no_room_for_its_header)
+{
+    counting_resource resource;
+    block_list list{memory(&resource)};
+    EXPECT_EQ(list.take(std::numeric_limits<std::uint64_t>::max()), nullptr);
+    EXPECT_EQ(list.take(std::numeric_limits<std::uint64_t>::max() - 15), nullptr);
+    EXPECT_EQ(resource.asked(), 0U);
+}
+
+// A resource may answer a request for nothing with null; an empty bytes field asks for nothing.
+TEST(cpp_memory, asks_a_monotonic_resource_for_one_byte_where_none_is_needed)
+{
+    class null_for_nothing : public counting_resource
+    {
+        void *do_allocate(std::size_t bytes, std::size_t alignment) override
+        {
+            EXPECT_NE(bytes, 0U);
+            return counting_resource::do_allocate(bytes, alignment);
+        }
+    };
+    null_for_nothing resource;
+    const memory kept(mava_tum::cpp::monotonic, &resource);
+    void *const block = kept.allocate(0);
+    EXPECT_NE(block, nullptr);
+    resource.deallocate(block, 1);
+}
+
+} // namespace
+} // namespace mava_tum_test
