@@ -42,6 +42,33 @@ TEST(cpp_block_list, refuses_a_size_that_has_no_room_for_its_header)
     EXPECT_EQ(resource.asked(), 0U);
 }
 
+TEST(cpp_block_list, gives_nothing_back_to_memory_that_is_taken_back_at_once_and_adds_nothing_to_a_block)
+{
+    class never_given_back : public std::pmr::memory_resource
+    {
+        void *do_allocate(std::size_t bytes, std::size_t) override
+        {
+            EXPECT_EQ(bytes, 10U);
+            return block_;
+        }
+
+        void do_deallocate(void *, std::size_t, std::size_t) override
+        {
+            ADD_FAILURE() << "a block came back";
+        }
+
+        bool do_is_equal(const std::pmr::memory_resource &other) const noexcept override
+        {
+            return this == &other;
+        }
+
+        alignas(std::max_align_t) std::byte block_[64];
+    };
+    never_given_back resource;
+    block_list list{memory(mava_tum::cpp::monotonic, &resource)};
+    EXPECT_NE(list.take(10), nullptr);
+}
+
 // A resource may answer a request for nothing with null; an empty bytes field asks for nothing.
 TEST(cpp_memory, asks_a_monotonic_resource_for_one_byte_where_none_is_needed)
 {
