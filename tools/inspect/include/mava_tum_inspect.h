@@ -171,7 +171,7 @@ enum {
 /* Something of a message that would not arrive, or not as it was sent. */
 typedef struct mava_tum_inspect_finding {
     int32_t kind;     /* MAVA_TUM_INSPECT_FAULT to _UNKNOWN_FIELD */
-    uint64_t offset;  /* of the field's tag; for a fault, of what is wrong */
+    uint64_t offset;  /* of the field's tag; of a missing part, of its record's; of a fault, of what is wrong */
     uint64_t found;   /* elements, characters, bytes or bits in the message; else 0 */
     uint64_t allowed; /* how many of them the record takes; else 0 */
     const char *path; /* the field in the message; may be "" */
