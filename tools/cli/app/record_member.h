@@ -2,7 +2,6 @@
 // members.
 #pragma once
 
-#include "inspect/describe_record.h"
 #include "inspect/member_name.h"
 
 #include <array>
@@ -58,15 +57,32 @@ struct record_layout {
 template <class Record>
 const record_layout &layout_of();
 
+// The record that a pointer to member belongs to, and the type of what it points at.
 template <auto Member>
-using member_value = typename mava_tum::member_of<Member>::value;
+struct member_type;
+
+template <class Record, class Value, Value Record::*Member>
+struct member_type<Member> {
+    using record = Record;
+    using value = Value;
+};
+
+template <auto Member>
+using member_value = typename member_type<Member>::value;
+
+template <auto Member>
+size_t offset_of()
+{
+    static const typename member_type<Member>::record sample{};
+    return static_cast<size_t>(
+        reinterpret_cast<const std::byte *>(&(sample.*Member)) - reinterpret_cast<const std::byte *>(&sample));
+}
 
 template <auto Member>
 record_member describe_member(member_kind kind)
 {
     using value = member_value<Member>;
-    return {mava_tum_inspect::member_name<Member>::name, kind, mava_tum_inspect::offset_of<Member>(), sizeof(value),
-        sizeof(value)};
+    return {mava_tum_inspect::member_name<Member>::name, kind, offset_of<Member>(), sizeof(value), sizeof(value)};
 }
 
 template <auto Member>
@@ -134,7 +150,7 @@ record_member describe_list(member_kind kind)
     static_assert(std::is_unsigned_v<member_value<Count>>);
     record_member member = describe_member<Member>(kind);
     member.element_bytes = sizeof(std::remove_extent_t<member_value<Member>>);
-    member.count_offset = mava_tum_inspect::offset_of<Count>();
+    member.count_offset = offset_of<Count>();
     member.count_bytes = sizeof(member_value<Count>);
     return member;
 }
