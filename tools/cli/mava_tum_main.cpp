@@ -1,4 +1,4 @@
-#include "command_line.h"
+#include "inspector_command_line.h"
 
 int main(int argc, char **argv)
 {

@@ -1,4 +1,4 @@
-#include "command_line.h"
+#include "inspector_command_line.h"
 
 #include "command_help.h"
 #include "commands/all_commands.h"
