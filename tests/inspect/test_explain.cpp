@@ -62,6 +62,14 @@ TEST(inspect_explain, ends_with_the_fault_and_what_is_not_read)
         "       5  00                       not read: 1 byte\n");
 }
 
+TEST(inspect_explain, names_the_wire_type_that_stands_where_another_belongs)
+{
+    EXPECT_EQ(lines_of("subscriber_v4", "0D 01"),
+        "       0  0D                       field_1: field 1, fixed32 instead of varint\n"
+        "                                   fault: `field_1` has wire type 5 instead of 0 at byte 0: result -3\n"
+        "       1  01                       not read: 1 byte\n");
+}
+
 TEST(inspect_explain, shows_the_entries_of_a_broken_run_as_not_decoded)
 {
     EXPECT_EQ(lines_of("session_context", "5A 02 08 01 5A 09 01"),

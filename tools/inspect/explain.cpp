@@ -94,7 +94,7 @@ private:
         tell_part(MAVA_TUM_INSPECT_LINE_LENGTH, at, at.length, length);
     }
 
-    // "qos[1]: field 11, array of records", "unknown field 99, varint"
+    // "qos[1]: field 11, array of records", "field_1: field 1, fixed32 instead of varint", "unknown field 99, varint"
     static void describe_tag(sentence &text, const occurrence &at)
     {
         if (at.field == nullptr) {
@@ -103,7 +103,10 @@ private:
         }
         path_text name;
         append_step(name, at.path);
-        text.add(name.view()).add(": field ").add_number(at.path.number).add(", ").add(kind_name(at.field->kind));
+        text.add(name.view()).add(": field ").add_number(at.path.number).add(", ");
+        if (at.wire_type != wire_type_number(at.field->kind))
+            text.add(wire_type_name(at.wire_type)).add(" instead of ");
+        text.add(kind_name(at.field->kind));
         if (at.field->kind == field_kind::varint && at.field->value_bits == 64)
             text.add(" of 64 bits");
         if (at.field->address != address_kind::none)
