@@ -70,7 +70,7 @@ using service_name = char[65];
 
 void service_name_from_codec(service_name &entry, char *const &name)
 {
-    copy_bounded_text(entry, sizeof(entry), name);
+    copy_bounded_text(&entry[0], sizeof(entry), name);
 }
 
 struct service_start_fields {
