@@ -37,9 +37,10 @@ class Dump:
 
     def __init__(self, text):
         self.costs = collections.Counter()  # instructions by object file, callees not included
+        self.functions = collections.Counter()  # the same by function
         self.calls = collections.Counter()  # calls by name of the callee
         self._objects, self._functions = {}, {}
-        self._object = self._callee = None
+        self._object = self._function = self._callee = None
         self._callee_cost_follows = False
         for line in text.splitlines():
             self._read(line)
@@ -53,12 +54,15 @@ class Dump:
             name = self._name(self._functions, *found.groups())
             if line.startswith("cfn="):
                 self._callee = name
+            else:
+                self._function = name
         elif found := re.match(r"calls=(\d+)", line):
             self.calls[self._callee] += int(found.group(1))
             self._callee_cost_follows = True
         elif found := re.match(r"[+\-*\d]+ (\d+)$", line):
             if not self._callee_cost_follows:
                 self.costs[self._object] += int(found.group(1))
+                self.functions[self._object, self._function] += int(found.group(1))
             self._callee_cost_follows = False
 
     @staticmethod
@@ -75,22 +79,27 @@ class Dump:
         )
 
 
-def count(program):
-    """{(workload, operation, side): Counts}"""
+def dumps_of(program):
+    """{(workload, operation, side): Dump}"""
     with tempfile.TemporaryDirectory(prefix="mava_tum_bench_") as directory:
         command = ["valgrind", "--tool=callgrind", "--quiet", "--callgrind-out-file=" + directory + "/dump", program]
         # Nothing else from outside: the environment moves the stack, and with it the alignment of copies.
         clean = {"PATH": os.environ["PATH"], "GLIBC_TUNABLES": PLAIN_C_LIBRARY, "LC_ALL": "C"}
         subprocess.run(command, env=clean, check=True)
-        counts = {}
+        dumps = {}
         in_order = sorted(pathlib.Path(directory).glob("dump.*"), key=lambda file: int(file.suffix[1:]))
         for file in in_order:
             dump = file.read_text(encoding="utf-8")
             trigger = re.search(r"^desc: Trigger: Client Request: (.*)$", dump, re.MULTILINE)
             if not trigger:
                 continue
-            counts[tuple(trigger.group(1).split("/"))] = Dump(dump).counts()
-    return counts
+            dumps[tuple(trigger.group(1).split("/"))] = Dump(dump)
+    return dumps
+
+
+def count(program):
+    """{(workload, operation, side): Counts}"""
+    return {key: dump.counts() for key, dump in dumps_of(program).items()}
 
 
 def read_kept():

@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Writes what was measured into docs/benchmarks.md and its plots: no figure there is typed by hand.
 
-Reads bench/results/*.json, bench/results/sizes.txt and bench/instructions.tsv.
+Reads bench/results/*.json, the texts beside them, and bench/instructions.tsv.
 """
 
 import json
@@ -115,6 +115,7 @@ def main():
     sizes = (RESULTS / "sizes.txt").read_text(encoding="utf-8")
     blocks = dict([*_run_blocks(), *_scale_blocks(), *_cold_blocks(), *_instruction_blocks()])
     blocks["sizes"] = markdown.fenced(sizes)
+    blocks["profile"] = markdown.fenced((RESULTS / "profile.txt").read_text(encoding="utf-8"))
     PAGE.write_text(markdown.fill(PAGE.read_text(encoding="utf-8"), blocks), encoding="utf-8")
     print(f"{len(blocks)} tables in {PAGE.relative_to(ROOT)}, {len(list(PLOTS.glob('*.svg')))} plots beside it")
 
