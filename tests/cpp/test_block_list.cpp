@@ -25,6 +25,17 @@ TEST(cpp_block_list, keeps_its_blocks_when_it_is_moved_to_itself)
     EXPECT_EQ(resource.blocks_out(), 0U);
 }
 
+TEST(cpp_memory, releases_nothing_where_nothing_goes_back)
+{
+    counting_resource resource;
+    const memory kept(mava_tum::cpp::monotonic, &resource);
+    void *const block = kept.allocate(10);
+    ASSERT_NE(block, nullptr);
+    kept.release(block, 10);
+    EXPECT_EQ(resource.blocks_out(), 1U);
+    resource.deallocate(block, 10);
+}
+
 TEST(cpp_block_list, gives_blocks_that_are_aligned_as_those_of_the_resource)
 {
     counting_resource resource;

@@ -35,6 +35,12 @@ TEST_F(cpp_field_change, leaves_a_text_as_it_is_when_the_block_is_refused)
     EXPECT_EQ(response_.field_6(), "first");
 }
 
+TEST_F(cpp_field_change, keeps_a_text_without_letters_as_present)
+{
+    ASSERT_EQ(response_.set_field_6(std::string_view()), tum::result::ok);
+    EXPECT_EQ(response_.field_6(), "");
+}
+
 TEST_F(cpp_field_change, leaves_bytes_as_they_are_when_the_block_is_refused)
 {
     ASSERT_EQ(response_.set_field_10(bytes_value(1)), tum::result::ok);

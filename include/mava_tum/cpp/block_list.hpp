@@ -39,11 +39,6 @@ public:
         release_all();
     }
 
-    const memory &source() const noexcept
-    {
-        return source_;
-    }
-
     // What the codec is to call, with context().
     mava_tum_alloc_fn allocator() const noexcept
     {
