@@ -118,8 +118,8 @@ template <unsigned FieldNumber, class Fields, size_t Size, size_t Entries>
 // ---- codec -> application ----
 
 // A decoder stores a scalar together with its presence bit, and empties the others first: an absent one is zero, as in
-// the application record. So the bit is not asked: of random content the processor would guess it wrong every third
-// time (that measured up to a quarter of the whole decode).
+// the application record. So the bit is not asked: of random content the processor would often guess it wrong
+// (bench/run, decode adapter, set random).
 
 // L20: a member narrower than the field keeps the low bits.
 template <class Member, class Field>
