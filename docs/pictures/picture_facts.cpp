@@ -161,7 +161,7 @@ int print_memory()
     const byte_vector wire = session_wire();
     for (const uint32_t flags : {uint32_t{0}, uint32_t{MAVA_TUM_ALIAS}}) {
         block_list list;
-        mava_tum_session_context session;
+        mava_tum_session_context session = {}; // a decode keeps the bits of a mask that mean nothing
         if (mava_tum_session_context_decode_ext(&session, wire.data(), wire.size(), take_block, &list, flags) != 0)
             return 1;
         std::puts(flags == 0 ? "# without the alias bit" : "# with the alias bit");
