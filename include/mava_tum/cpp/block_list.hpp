@@ -10,6 +10,7 @@
 
 #include "mava_tum/cpp/memory.hpp"
 
+#include <cstddef>
 #include <new>
 #include <utility>
 
@@ -66,11 +67,11 @@ public:
     }
 
 private:
-    struct block {
+    // What follows is aligned as the whole is.
+    struct alignas(std::max_align_t) block {
         block *next;
         std::uint64_t size; // with this header
     };
-    static_assert(sizeof(block) % alignof(std::max_align_t) == 0, "what follows is aligned as the whole is");
 
     static void *take_remembered(std::uint64_t size, void *list) noexcept
     {
