@@ -67,7 +67,7 @@ public:
     // Null if the block is refused.
     void *allocate(std::uint64_t size) const noexcept
     {
-        return kind_ == kind::of_heap ? std::malloc(static_cast<std::size_t>(size)) : allocate_(size, context_);
+        return kind_ == kind::of_heap ? ask_heap(size) : allocate_(size, context_);
     }
 
     // Takes back a block of `size` bytes that allocate() gave.
@@ -84,10 +84,23 @@ public:
 private:
     enum class kind : std::uint8_t { of_heap, of_resource, of_callbacks, kept };
 
+    // Where addresses have 32 bits, a block can be larger than all of them.
+    static bool is_addressable(std::uint64_t size) noexcept
+    {
+        return static_cast<std::size_t>(size) == size;
+    }
+
+    static void *ask_heap(std::uint64_t size) noexcept
+    {
+        return is_addressable(size) ? std::malloc(static_cast<std::size_t>(size)) : nullptr;
+    }
+
     // An empty bytes field asks for nothing, and a resource may answer that with null, which would be a refusal.
     // Without exceptions there is nothing to catch: a resource that throws none the less ends the program.
     static void *ask_resource(std::uint64_t size, void *resource) noexcept
     {
+        if (!is_addressable(size))
+            return nullptr;
         auto *const asked = static_cast<std::pmr::memory_resource *>(resource);
         const auto bytes = static_cast<std::size_t>(size == 0 ? 1 : size);
 #if defined(__cpp_exceptions)
