@@ -62,12 +62,12 @@
  *   bytes or more the low 32 bits are written, and nobody can read the message.
  *   `segments` and `segment_count`, both optional, receive the output as pieces: on entry `*segment_count` is the
  *   capacity of `segments` in elements, on return the number of pieces, which may be larger: those above the capacity
- *   are only counted, as all are when `segments` is null. Without the alias bit that is one piece, the whole output
- *   (none if it is empty). With it, each bytes field that is not empty is a piece of its own that points at the
- *   record's memory; the result counts only the bytes in `buffer`, and lengths written in front of nested records count
- *   only those too. A record's next piece starts where its own last one ended, so it covers the bytes of nested records
- *   in between again: the pieces one after another are not the message. That mode is for callers who lay out the pieces
- *   themselves.
+ *   are only counted, as all are when `segments` is null; `segments` without a `segment_count` is ignored. Without the
+ *   alias bit that is one piece, the whole output (none if it is empty). With it, each bytes field that is not empty is
+ *   a piece of its own that points at the record's memory, and the result counts only the bytes in `buffer`. One after
+ *   another, the pieces are the message where no record is nested. Where one is, they are not: the length in front of
+ *   it counts only what it has in `buffer`, and the next piece of the record around it starts where that record's own
+ *   last one ended, so it covers the nested bytes again. That is for callers who lay out the pieces themselves.
  *
  * Ownership
  *   A record owns its texts and arrays always, its bytes fields unless it was decoded with the alias bit. After
