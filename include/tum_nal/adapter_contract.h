@@ -4,11 +4,12 @@
  *     void     tum_nal_data_gpb_decode_tum_<name>(const uint8_t *data, uint32_t length, <record> *record);
  *
  * Application record
- *   A flat structure of fixed size without pointers, owned by the caller. Integers are in host byte order, IPv4
- *   addresses too (192.0.2.1 is 0xC0000201); IPv6 addresses and identifiers are byte arrays as they stand on the wire.
- *   A text is a NUL-terminated char array; an empty one is absent. A repeated part is a count and a fixed array, of
- *   which the first `count` elements are used. Members called `reserved_...` are neither read nor set to anything but
- *   zero. The layout is natural alignment, part of the ABI. Beside a member: its field's number, and when it is sent.
+ *   A flat structure of fixed size without pointers, owned by the caller; a record pointer must not be null. Integers
+ *   are in host byte order, IPv4 addresses too (192.0.2.1 is 0xC0000201); IPv6 addresses and identifiers are byte
+ *   arrays as they stand on the wire. A text is a NUL-terminated char array; an empty one is absent. A repeated part is
+ *   a count and a fixed array, of which the first `count` elements are used. Members called `reserved_...` are neither
+ *   read nor set to anything but zero. The layout is natural alignment, part of the ABI. Beside a member: its field's
+ *   number, which most members of a session have in their names instead, and when it is sent.
  *
  * Encode
  *   Returns the size of the message in bytes, also when `capacity` (bytes) is smaller: the output was then cut and

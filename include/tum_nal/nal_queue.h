@@ -3,7 +3,8 @@
  *
  * Embed a `nal_queue_node_t` in each object; a zero-filled node is free. A zero-filled `nal_queue_t` is an empty queue;
  * there is nothing to initialise or to destroy. The queue only rewires links: it owns no memory and calls nothing.
- * Every operation takes constant time. There is no lock: the caller serialises all operations on one queue. */
+ * Every operation takes constant time. There is no lock: the caller serialises all operations on one queue. No argument
+ * may be null. */
 #ifndef TUM_NAL_NAL_QUEUE_H
 #define TUM_NAL_NAL_QUEUE_H
 

@@ -19,9 +19,9 @@ enum { TUM_NAL_SUB_ROUTE_IPV4_ROUTES = 50, TUM_NAL_SUB_ROUTE_IPV6_ROUTES = 50 };
 typedef struct tum_nal_data_ipv4_route {
     uint32_t field_1; /* 1: always */
     char field_2[36]; /* 2: not empty */
-    uint32_t field_3; /* IPv4 address, host byte order */
+    uint32_t field_3; /* 3: non-zero; IPv4 address, host byte order */
     uint8_t field_4;  /* 4: non-zero */
-    uint32_t field_5; /* IPv4 address, host byte order */
+    uint32_t field_5; /* 5: non-zero; IPv4 address, host byte order */
     char field_6[36]; /* 6: not empty */
     uint32_t field_7; /* 7: non-zero, and `field_8` zero */
     uint32_t field_8; /* 7: non-zero; received from field 8 */
@@ -32,9 +32,9 @@ typedef struct tum_nal_data_ipv4_route {
 typedef struct tum_nal_data_ipv6_route {
     uint32_t field_1;    /* 1: always */
     char field_2[36];    /* 2: not empty */
-    uint8_t field_3[16]; /* IPv6 address */
+    uint8_t field_3[16]; /* 3: not all zero; IPv6 address */
     uint8_t field_4;     /* 4: non-zero */
-    uint8_t field_5[16]; /* IPv6 address */
+    uint8_t field_5[16]; /* 5: not all zero; IPv6 address */
     char field_6[36];    /* 6: not empty */
     uint32_t field_7;    /* 7: non-zero */
     uint32_t field_8;    /* 8: non-zero */

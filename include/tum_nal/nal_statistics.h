@@ -34,13 +34,13 @@ typedef struct tum_nal_data_subscriber_stats {
     uint32_t value_3;                                            /* 3: non-zero */
     uint32_t value_4;                                            /* 4: non-zero */
     uint32_t value_5;                                            /* 5: non-zero */
-    uint32_t value_6;                                            /* sent, and decides over `block_7` */
+    uint32_t value_6;                                            /* 6: non-zero; decides over `block_7` */
     tum_nal_data_stats_block block_7;                            /* 7: `value_6` non-zero */
     uint8_t service_count;                                       /* used elements of `services` */
     tum_nal_data_service_entry services[TUM_NAL_STATS_SERVICES]; /* 8: as many as the count says */
-    uint32_t block_10_switch;                                    /* not sent; decides over `block_10` */
+    uint32_t block_10_switch;                                    /* 9: never; only received; decides over `block_10` */
     tum_nal_data_stats_block block_10;                           /* 10: `block_10_switch` non-zero */
-    uint32_t block_12_switch;                                    /* not sent; decides over `block_12` */
+    uint32_t block_12_switch;                                    /* 11: never; only received; decides over `block_12` */
     tum_nal_data_stats_block block_12;                           /* 12: `block_12_switch` non-zero */
 } tum_nal_data_subscriber_stats;
 
