@@ -84,18 +84,32 @@ TEST(encode_scratch, a_block_behind_a_long_one_is_written_whole_or_not_at_all)
     }
 }
 
-// Its address may be null. The undefined-behaviour sanitizer sees whether it is given to memcpy.
-TEST(encode_scratch, an_empty_block_where_the_scratch_is_full_is_written_as_its_length_alone)
+// A text that fills the scratch to every size around its end, and a bytes field behind it.
+void expect_end_behind_a_filled_scratch(const mava_tum_bytes &last, const std::string &expected_end)
 {
+    const std::size_t end_bytes = 2 + last.length;
     for (std::size_t length = 8000; length < 8400; ++length) {
         std::string text(length, 'x');
         mava_tum_sess_oper_resp record = {};
         record.field_8 = text.data();
+        record.field_10 = last;
         mark_present(record, 8, 10);
         const byte_vector wire = encoded(record);
-        ASSERT_EQ(wire.size(), 1 + 2 + length + 2);
-        ASSERT_EQ(hex_of(&wire[wire.size() - 2], 2), "52 00");
+        ASSERT_EQ(wire.size(), 1 + 2 + length + end_bytes);
+        ASSERT_EQ(hex_of(&wire[wire.size() - end_bytes], end_bytes), expected_end) << length;
     }
+}
+
+// Its address may be null. The undefined-behaviour sanitizer sees whether it is given to memcpy.
+TEST(encode_scratch, an_empty_block_where_the_scratch_is_full_is_written_as_its_length_alone)
+{
+    expect_end_behind_a_filled_scratch({}, "52 00");
+}
+
+TEST(encode_scratch, a_block_of_one_byte_where_the_scratch_is_full_is_written)
+{
+    uint8_t byte = 0xAB;
+    expect_end_behind_a_filled_scratch({&byte, 1}, "52 01 AB");
 }
 
 } // namespace
