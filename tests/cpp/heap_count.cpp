@@ -1,5 +1,6 @@
 #include "heap_count.h"
 
+#include <cstdint>
 #include <new>
 
 namespace
@@ -19,13 +20,23 @@ std::size_t heap_calls()
 
 } // namespace mava_tum_test
 
-// The last two are operator new and operator new with an alignment, as the linker knows them.
+// The last two are operator new and operator new with an alignment, as the linker knows them: a size is an unsigned
+// long there where addresses have 64 bits, otherwise an unsigned int.
+#if SIZE_MAX > UINT32_MAX
+#define SIZE_CODE "m"
+#else
+#define SIZE_CODE "j"
+#endif
+
 extern "C" {
 void *__real_malloc(std::size_t size);
 void *__real_calloc(std::size_t count, std::size_t size);
 void *__real_realloc(void *block, std::size_t size);
-void *__real__Znwm(std::size_t size);
-void *__real__ZnwmSt11align_val_t(std::size_t size, std::align_val_t alignment);
+void *real_new(std::size_t size) __asm__("__real__Znw" SIZE_CODE);
+void *real_aligned_new(std::size_t size, std::align_val_t alignment) __asm__("__real__Znw" SIZE_CODE "St11align_val_t");
+void *counted_new(std::size_t size) __asm__("__wrap__Znw" SIZE_CODE);
+void *counted_aligned_new(std::size_t size, std::align_val_t alignment) __asm__(
+    "__wrap__Znw" SIZE_CODE "St11align_val_t");
 
 void *__wrap_malloc(std::size_t size)
 {
@@ -45,15 +56,15 @@ void *__wrap_realloc(void *block, std::size_t size)
     return __real_realloc(block, size);
 }
 
-void *__wrap__Znwm(std::size_t size)
+void *counted_new(std::size_t size)
 {
     ++calls;
-    return __real__Znwm(size);
+    return real_new(size);
 }
 
-void *__wrap__ZnwmSt11align_val_t(std::size_t size, std::align_val_t alignment)
+void *counted_aligned_new(std::size_t size, std::align_val_t alignment)
 {
     ++calls;
-    return __real__ZnwmSt11align_val_t(size, alignment);
+    return real_aligned_new(size, alignment);
 }
 }
