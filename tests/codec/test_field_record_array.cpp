@@ -17,6 +17,7 @@ constexpr uint32_t alias = MAVA_TUM_ALIAS;
 constexpr uint64_t ipv4_route_bytes = sizeof(mava_tum_subscriber_route_ipv4);
 constexpr uint64_t ipv6_route_bytes = sizeof(mava_tum_subscriber_route_ipv6);
 constexpr uint64_t qos_bytes = sizeof(mava_tum_subscriber_qos);
+constexpr uint64_t session_bytes = sizeof(mava_tum_session_context);
 
 void expect_no_ipv4_routes(const route_decode &got, const char *hex)
 {
@@ -52,6 +53,21 @@ TEST(field_record_array, a_run_of_any_length_is_one_block)
     ASSERT_EQ(got.record.qos_count, 3000u);
     for (uint32_t i = 0; i < 3000; ++i)
         ASSERT_EQ(got.record.qos[i].field_1, i);
+}
+
+TEST(field_record_array, an_array_above_4_gib_is_asked_for_with_its_whole_size)
+{
+    // Two bytes of input for each session, and no block for all of them.
+    constexpr uint64_t count = (uint64_t{1} << 32) / session_bytes + 1;
+    byte_vector wire(2 * count);
+    for (std::size_t entry = 0; entry < wire.size(); entry += 2)
+        wire[entry] = 0x22;
+    decoded<mava_tum_rec_sess_replay_req> got(wire);
+    EXPECT_EQ(got.result, MAVA_TUM_NO_MEMORY);
+    EXPECT_EQ(got.allocator.requested_sizes(), (std::vector<uint64_t>{count * session_bytes}));
+    EXPECT_EQ(got.record.field_4, nullptr);
+    EXPECT_EQ(got.record.field_4_count, 0u);
+    EXPECT_EQ(got.present(), 0u);
 }
 
 TEST(field_record_array, the_array_is_obtained_before_the_blocks_of_its_elements_in_wire_order)

@@ -133,6 +133,22 @@ TEST(field_record_array, a_failed_duplicate_of_the_array_is_empty_and_absent_and
     EXPECT_EQ(without.present(), fields(6));
 }
 
+TEST(field_record_array, duplicate_asks_for_the_whole_size_of_an_array_above_4_gib)
+{
+    constexpr uint64_t session_bytes = sizeof(mava_tum_session_context);
+    constexpr uint64_t count = (uint64_t{1} << 32) / session_bytes + 1;
+    mava_tum_session_context never_read{}; // there is no block to copy it to
+    mava_tum_rec_sess_replay_req source{};
+    source.field_4 = &never_read;
+    source.field_4_count = static_cast<uint32_t>(count);
+    mark_present(source, 4);
+    duplicated<mava_tum_rec_sess_replay_req> copy(source);
+    EXPECT_EQ(copy.result, MAVA_TUM_NO_MEMORY);
+    EXPECT_EQ(copy.allocator.requested_sizes(), (std::vector<uint64_t>{count * session_bytes}));
+    EXPECT_EQ(copy.record.field_4_count, 0u);
+    EXPECT_EQ(copy.present(), 0u);
+}
+
 TEST(field_record_array, a_failed_duplicate_inside_an_element_keeps_array_count_and_bit)
 {
     const full_batch source;

@@ -144,6 +144,21 @@ TEST(field_text_array, a_failed_duplicate_of_the_pointers_is_empty_and_absent)
     }
 }
 
+TEST(field_text_array, duplicate_asks_for_the_whole_size_of_an_array_above_4_gib)
+{
+    constexpr uint64_t count = (uint64_t{1} << 32) / pointer_bytes + 1;
+    char *never_read = nullptr; // there is no block to copy it to
+    mava_tum_sess_svc_start source{};
+    source.field_5 = &never_read;
+    source.field_5_count = static_cast<uint32_t>(count);
+    mark_present(source, 5);
+    duplicated<mava_tum_sess_svc_start> copy(source);
+    EXPECT_EQ(copy.result, MAVA_TUM_NO_MEMORY);
+    EXPECT_EQ(copy.allocator.requested_sizes(), (std::vector<uint64_t>{count * pointer_bytes}));
+    EXPECT_EQ(copy.record.field_5_count, 0u);
+    EXPECT_EQ(copy.present(), 0u);
+}
+
 TEST(field_text_array, a_failed_duplicate_of_a_text_leaves_its_slot_null_and_copies_the_others)
 {
     const start_with_texts source;
