@@ -62,6 +62,14 @@ std::vector<session_row> l2tp_rows()
                 },
             .features = TUM_NAL_FEATURE_L2TP,
             .data = "1A 00 22 0C 08 01 15 C0 00 02 02 1D C0 00 02 03"},
+        {.what = "the first L2TP IPv4 end point alone",
+            .fill =
+                [](session &s) {
+                    s.l2tp_kind = TUM_NAL_L2TP_IPV4;
+                    s.l2tp_ipv4_2 = 0xC0000202;
+                },
+            .features = TUM_NAL_FEATURE_L2TP,
+            .data = "1A 00 22 07 08 01 15 C0 00 02 02"},
         {.what = "the second L2TP IPv4 end point alone",
             .fill =
                 [](session &s) {
@@ -88,6 +96,14 @@ std::vector<session_row> l2tp_rows()
                 },
             .features = TUM_NAL_FEATURE_L2TP,
             .data = "1A 00 22 14 08 02 22 10 00000000 00010000 00000000 00000000"},
+        {.what = "the second L2TP IPv6 end point alone, non-zero in its third word",
+            .fill =
+                [](session &s) {
+                    s.l2tp_kind = TUM_NAL_L2TP_IPV6;
+                    set_bytes(s.l2tp_ipv6_5, "00000000 00000000 00000100 00000000");
+                },
+            .features = TUM_NAL_FEATURE_L2TP,
+            .data = "1A 00 22 14 08 02 2A 10 00000000 00000000 00000100 00000000"},
         {.what = "L2TP values 6 to 10",
             .fill =
                 [](session &s) {

@@ -47,6 +47,24 @@ TEST(nal_session_context_sending, l2tp_end_points_of_the_other_kind_stay_behind)
     EXPECT_EQ(sent_hex(record), head + "52 07 1A 00 22 03 08 81 02");
 }
 
+TEST(nal_session_context_sending, one_byte_that_is_not_zero_is_enough_to_send_an_ipv6_address)
+{
+    for (std::size_t byte = 0; byte < 16; ++byte) {
+        session record = zero_record<session>();
+        record.feature_mask = TUM_NAL_FEATURE_L2TP | TUM_NAL_FEATURE_INTERCEPT | TUM_NAL_FEATURE_IPV6_ROUTES;
+        record.l2tp_kind = TUM_NAL_L2TP_IPV6;
+        record.ipv6_route_count = 1;
+        tum_nal_data_ipv6_route &route = record.ipv6_routes[0];
+        for (uint8_t *address :
+            {record.l2tp_ipv6_4, record.l2tp_ipv6_5, record.intercept_ipv6_address, route.field_3, route.field_5})
+            address[byte] = 1;
+        decoded<mava_tum_session_context> got(sent(record), {.flags = MAVA_TUM_ALIAS});
+        EXPECT_EQ(own_bits(got.record.session_data.l2tp), fields(1, 4, 5)) << byte;
+        EXPECT_EQ(own_bits(got.record.li), fields(1, 2, 3, 4, 5, 6, 8)) << byte;
+        EXPECT_EQ(own_bits(got.record.route_ipv6[0]), fields(1, 3, 5)) << byte;
+    }
+}
+
 TEST(nal_session_context_sending, l2tp_values_16_and_18_need_15_and_17)
 {
     expect_sent_as_row({.what = "16 and 18 alone",
