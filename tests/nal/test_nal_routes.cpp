@@ -153,7 +153,7 @@ TEST(nal_routes, a_full_batch_comes_back)
     received_routes got(sent(record));
     EXPECT_EQ(first_difference(*got, record), -1);
     EXPECT_EQ(got.sizes().size(), 2u + 50u * 3u + 50u * 3u);
-    EXPECT_EQ(got.sizes()[0], 50u * 64u);
+    EXPECT_EQ(got.sizes()[0], 50 * sizeof(mava_tum_subscriber_route_ipv4));
 }
 
 // ---- sending ----

@@ -150,7 +150,7 @@ TEST(nal_session_context, a_received_text_and_a_received_list_are_one_calloc_eac
 {
     // A name of 3 characters, then two QoS entries, the second with a text of 1.
     received_session got("52 05 2A 03 61 62 63 5A 02 08 01 5A 03 1A 01 64");
-    const std::vector<std::size_t> expected = {4, 2 * 88, 2};
+    const std::vector<std::size_t> expected = {4, 2 * sizeof(mava_tum_subscriber_qos), 2};
     EXPECT_EQ(got.sizes(), expected);
     EXPECT_STREQ(got->session_name, "abc");
     EXPECT_STREQ(got->qos[1].text_3, "d");
