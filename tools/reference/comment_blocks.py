@@ -23,6 +23,11 @@ class Block:
     rows: list = field(default_factory=list)  # of terms: [term, meaning]
 
 
+def sentence(text):
+    """Of a few words, as they stand behind a term or a value."""
+    return text[0].upper() + text[1:].rstrip(".") + "."
+
+
 def comment_lines(comment):
     """The lines of a C comment without its marks, each as far indented as it stands there."""
     body = re.sub(r"\s*\*/\s*$", "", re.sub(r"^\s*/\*", "", comment))

@@ -3,7 +3,7 @@ import re
 import textwrap
 
 import man_text
-from public_headers import result_codes
+from comment_blocks import sentence
 
 CODE_COLUMNS = 44  # a member that is longer has its comment above it
 PAGE_COLUMNS = 78
@@ -34,12 +34,15 @@ def member_lines(line):
     code, comment = found.groups()
     if len(code) < CODE_COLUMNS and CODE_COLUMNS + len(comment) <= PAGE_COLUMNS:
         return [code.ljust(CODE_COLUMNS) + comment]
-    return ["    " + comment, code]
+    joined = comment.replace(" */", "\0*/")
+    above = textwrap.wrap(joined, PAGE_COLUMNS, initial_indent="    ", subsequent_indent="     * ")
+    return [*(line.replace("\0", " ") for line in above), code]
 
 
 def record_of(functions, header):
-    """The records that the functions take, in the order in which they take them."""
-    types = [re.sub(r"^const |[ *]+\w+$", "", parameter) for function in functions for parameter in function.parameters]
+    """The records that the functions take, or their callbacks, in the order in which they take them."""
+    takers = [*functions, *header.callbacks]
+    types = [re.sub(r"^const |[ *]+\w+$", "", parameter) for function in takers for parameter in function.parameters]
     records = {record.name: record for record in header.records}
     return [records[name] for name in dict.fromkeys(types) if name in records]
 
@@ -53,20 +56,26 @@ def record_lines(record):
 def enum_lines(header):
     lines = []
     for enum in header.enums:
-        values = [line for value in re.split(r"\n|(?<=,) (?=\w)", enum.values)
+        one_to_a_line = r"\n" if "\n" in enum.values else r"(?<=,) "
+        values = [line for value in re.split(one_to_a_line, enum.values)
                   for line in member_lines("    " + value.strip())]
         lines += [*man_text.comment(enum.comment), *man_text.code(["enum {", *values, "};"])]
     return lines
 
 
-def code_lines(functions, contract):
+def callback_lines(header):
+    return [line for callback in header.callbacks
+            for line in (*man_text.comment(callback.comment), *man_text.code(prototype(callback)))]
+
+
+def code_lines(functions, codes):
     """The result codes that the functions name, each with its meaning."""
     text = " ".join(function.comment for function in functions)
     rows = []
-    for name, (value, comment) in result_codes(contract).items():
+    for name, (value, comment) in codes.items():
         if name in text:
             meaning = man_text.plain(comment) if comment.startswith("/*") else comment
-            rows.append((f"{name} ({value})", meaning[0].upper() + meaning[1:].rstrip(".") + "."))
+            rows.append((f"{name} ({value})", sentence(meaning)))
     return [".SH RETURN VALUE", "The result codes are:", *man_text.terms(rows)] if rows else []
 
 
@@ -75,20 +84,18 @@ def subject_of(functions, header, records):
     return records[0].comment if len(functions) < len(header.functions) else header.comment
 
 
-def function_page(header, functions, headers, release):
-    contract = next(other for other in headers if other.path.endswith("codec_contract.h"))
+def function_page(header, functions, library, release):
     records = record_of(functions, header)
     subject = subject_of(functions, header, records)
     names = ", ".join(function.name for function in functions)
     body = [".SH NAME", *textwrap.wrap(f"{names} \\- {man_text.first_sentence(subject)}", PAGE_COLUMNS),
-            ".SH LIBRARY", "libmava_tum (\\-lmava_tum)", *synopsis(header, functions), ".SH DESCRIPTION"]
+            *man_text.library(library.name), *synopsis(header, functions), ".SH DESCRIPTION"]
     if subject == header.comment:
         body += man_text.comment(subject)
     for record in records:
         body += record_lines(record)
-    if functions[0].name.startswith("tum_nal_"):
-        body += enum_lines(header)
+    body += [*enum_lines(header), *callback_lines(header)]
     for function in functions:
         body += [f".SS {function.name}", *man_text.comment(function.comment)]
-    body += [*code_lines(functions, contract), ".SH SEE ALSO", ".BR mava_tum (7)"]
+    body += [*code_lines(functions, library.codes), *man_text.see_also(f"{library.name} (7)")]
     return man_text.page(functions[0].name, 3, release, body)

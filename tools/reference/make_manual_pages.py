@@ -1,20 +1,31 @@
 #!/usr/bin/env python3
-"""Writes the manual pages of the library from its headers.
+"""Writes the manual pages of a library from its headers.
 
-    make_manual_pages.py ROOT OUTPUT
+    make_manual_pages.py ROOT OUTPUT [LIBRARY]
 
-ROOT is the project's folder. OUTPUT/man3 gets a page for each exported function, OUTPUT/man7 the overview. Functions
-that belong together share a page, under the name of the first: the four of a message, the two adapters of an
-application record, the three of the queue. The pages of the others are links to it.
+ROOT is the project's folder, LIBRARY mava_tum, which is meant when there is none, or mava_tum_inspect. OUTPUT/man3 gets
+a page for each exported function, OUTPUT/man7 the overview; the pages of the other library stay. Functions that belong
+together share a page, under the name of the first: the four of a message, the two adapters of an application record,
+the three of the queue, what the header of the inspector has between two dividers. The pages of the others are links to
+it.
 """
 import pathlib
 import re
 import sys
+from dataclasses import dataclass
 from email.utils import parsedate_to_datetime
 
 from function_page import function_page
-from overview_page import overview_page
-from public_headers import read_headers
+from overview_page import codec_overview, inspect_overview
+from public_headers import read_headers, read_parts, result_codes
+
+
+@dataclass
+class Library:
+    name: str  # without lib; that of the overview
+    groups: list  # (header, functions) of each page
+    codes: dict  # what its functions return; see result_codes
+    overview: str
 
 
 def release_of(root):
@@ -37,25 +48,52 @@ def related(header):
     return list(groups.values())
 
 
-def write_group(folder, header, functions, headers, release):
+def codec_codes(headers):
+    return result_codes(next(header for header in headers if header.path.endswith("codec_contract.h")))
+
+
+def codec(root, release):
+    headers = read_headers(root / "include")
+    example = (root / "examples" / "first_session.c").read_text(encoding="utf-8")
+    return Library("mava_tum", [(header, functions) for header in headers for functions in related(header)],
+                   codec_codes(headers), codec_overview(headers, example, release))
+
+
+def inspector(root, release):
+    header, *parts = read_parts(root / "tools" / "inspect" / "include" / "mava_tum_inspect.h")
+    guide = (root / "docs" / "inspect-library.md").read_text(encoding="utf-8")
+    example = re.search(r"save log_why.c -->\n```c\n(.*?)^```$", guide, re.M | re.S).group(1)
+    return Library("mava_tum_inspect", [(part, part.functions) for part in parts],
+                   codec_codes(read_headers(root / "include")) | result_codes(header),
+                   inspect_overview(header, parts, example, release))
+
+
+LIBRARIES = {"mava_tum": codec, "mava_tum_inspect": inspector}
+
+
+def remove_pages(folder, library):
+    for page in folder.glob("man[37]/*.[37]"):
+        if page.name.startswith("mava_tum_inspect") == (library.name == "mava_tum_inspect"):
+            page.unlink()
+
+
+def write_group(folder, header, functions, library, release):
     main = functions[0].name
-    (folder / f"{main}.3").write_text(function_page(header, functions, headers, release), encoding="utf-8")
+    (folder / f"{main}.3").write_text(function_page(header, functions, library, release), encoding="utf-8")
     for function in functions[1:]:
         (folder / f"{function.name}.3").symlink_to(f"{main}.3")
 
 
-def main(root, output):
+def main(root, output, name="mava_tum"):
     root, output = pathlib.Path(root), pathlib.Path(output)
-    release, headers = release_of(root), read_headers(root / "include")
+    release = release_of(root)
+    library = LIBRARIES[name](root, release)
     for section in ("man3", "man7"):
         (output / section).mkdir(parents=True, exist_ok=True)
-        for page in (output / section).glob("*.[37]"):
-            page.unlink()
-    for header in headers:
-        for functions in related(header):
-            write_group(output / "man3", header, functions, headers, release)
-    example = (root / "examples" / "first_session.c").read_text(encoding="utf-8")
-    (output / "man7" / "mava_tum.7").write_text(overview_page(headers, example, release), encoding="utf-8")
+    remove_pages(output, library)
+    for header, functions in library.groups:
+        write_group(output / "man3", header, functions, library, release)
+    (output / "man7" / f"{name}.7").write_text(library.overview, encoding="utf-8")
 
 
 if __name__ == "__main__":

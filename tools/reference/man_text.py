@@ -73,6 +73,15 @@ def first_sentence(text):
     return escaped(text if is_a_name else text[0].lower() + text[1:])
 
 
+def library(name):
+    return [".SH LIBRARY", f"lib{name} (\\-l{name})"]
+
+
+def see_also(*pages):
+    """Each as "mava_tum (7)"."""
+    return [".SH SEE ALSO", *(f".BR {page}," for page in pages[:-1]), f".BR {pages[-1]}"]
+
+
 def page(title, section, release, body):
     """Names are not hyphenated. A paragraph right below a heading is one without being told so."""
     version, date = release

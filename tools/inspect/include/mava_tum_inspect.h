@@ -1,10 +1,10 @@
-/* Says what wire bytes hold and what is wrong with them: for a process that wants to log why a message arrived in part,
- * which neither a result code nor an adapter tells.
+/* Says what wire bytes hold and what is wrong with them. It is for a process that wants to log why a message arrived in
+ * part, which neither a result code nor an adapter tells.
  *
- *     describe   the 40 messages and their fields, by name
- *     explain    wire bytes -> annotated lines, and the verdict: result, byte, field, rule in words
- *     check      is a message inside what an adapter's record can hold?
- *     guess      which of the 40 messages can these bytes be?
+ *     describe   the 40 messages, their fields and the adapters, by name
+ *     explain    wire bytes in annotated lines, and the verdict: result, byte, field, rule in words
+ *     check      what of a message an adapter's record does not hold, and the memory that decoding asks for
+ *     guess      which of the 40 messages given bytes can be
  *
  * A library of its own, libmava_tum_inspect; the codec library carries no names. All functions are pure: they keep no
  * state, log nothing, allocate nothing, and any number of threads may call them. Input of any length is read in
@@ -26,8 +26,11 @@
 extern "C" {
 #endif
 
-/* What functions that take a name return besides MAVA_TUM_OK. Nothing has been written or called then. */
-enum { MAVA_TUM_INSPECT_NO_SUCH_NAME = 1 };
+/* What functions that take a name return besides MAVA_TUM_OK. */
+enum {
+    /* No such message, field or adapter; nothing was written or called. */
+    MAVA_TUM_INSPECT_NO_SUCH_NAME = 1
+};
 
 /* Sizes, in bytes with the NUL: no path and no sentence is longer. */
 enum { MAVA_TUM_INSPECT_PATH_BYTES = 128, MAVA_TUM_INSPECT_SENTENCE_BYTES = 320 };
@@ -187,7 +190,7 @@ typedef struct mava_tum_inspect_check_result {
     uint64_t block_count;             /* blocks that the adapter asks calloc for while it decodes */
     uint64_t block_bytes;             /* the sum of their sizes */
     uint64_t record_bytes;            /* of the application record, whatever the message holds */
-    mava_tum_inspect_verdict verdict; /* on the message itself */
+    mava_tum_inspect_verdict verdict; /* on the message itself, as mava_tum_inspect_judge finds it */
 } mava_tum_inspect_check_result;
 
 /* Looks at a message as the adapter `adapter` decodes it (a message with one adapter may also be named itself). Calls
