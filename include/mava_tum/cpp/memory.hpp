@@ -20,6 +20,7 @@ struct monotonic_t {
 inline constexpr monotonic_t monotonic{}; // to be written as the first argument
 
 // Does not own what it refers to: the resource, or the context of the callbacks, outlives every record that uses it.
+// Neither a resource nor `alloc_fn` may be null.
 class memory
 {
 public:
