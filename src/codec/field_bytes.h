@@ -5,7 +5,6 @@
 #include "codec/counting_writer.h"
 #include "codec/encode_scratch.h"
 #include "codec/frames.h"
-#include "codec/skip_unknown_field.h"
 #include "codec/wire_read.h"
 #include "mava_tum/codec_contract.h"
 
@@ -107,7 +106,7 @@ struct bytes : field_key<Number, wire_type::length_delimited> {
 
     static void write(const owner &record, uint32_t present, counting_writer &writer)
     {
-        if (present & key::bit)
+        if ((present & key::bit) != 0)
             writer.bytes(key::tag, record.*Member);
     }
 

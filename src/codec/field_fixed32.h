@@ -4,7 +4,6 @@
 #include "codec/counting_writer.h"
 #include "codec/encode_scratch.h"
 #include "codec/frames.h"
-#include "codec/skip_unknown_field.h"
 #include "codec/wire_read.h"
 #include "mava_tum/codec_contract.h"
 
@@ -67,7 +66,7 @@ struct fixed32 : field_key<Number, wire_type::fixed32> {
 
     static void write(const owner &record, uint32_t present, counting_writer &writer)
     {
-        if (present & key::bit)
+        if ((present & key::bit) != 0)
             write_value(writer, record.*Member);
     }
 

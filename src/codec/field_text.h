@@ -5,7 +5,6 @@
 #include "codec/counting_writer.h"
 #include "codec/encode_scratch.h"
 #include "codec/frames.h"
-#include "codec/skip_unknown_field.h"
 #include "codec/wire_read.h"
 #include "mava_tum/codec_contract.h"
 

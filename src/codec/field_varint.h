@@ -5,7 +5,6 @@
 #include "codec/encode_scratch.h"
 #include "codec/frames.h"
 #include "codec/read_varint64.h"
-#include "codec/skip_unknown_field.h"
 #include "codec/wire_read.h"
 #include "mava_tum/codec_contract.h"
 
@@ -78,7 +77,7 @@ struct varint : field_key<Number, wire_type::varint> {
 
     static void write(const owner &record, uint32_t present, counting_writer &writer)
     {
-        if (present & key::bit)
+        if ((present & key::bit) != 0)
             write_value(writer, record.*Member);
     }
 

@@ -6,7 +6,7 @@
 #include "codec/frames.h"
 #include "codec/skip_unknown_field.h"
 #include "codec/wire_read.h"
-#include "codec/wire_write.h"
+#include "codec/wire_types.h"
 #include "mava_tum/codec_contract.h"
 
 namespace mava_tum

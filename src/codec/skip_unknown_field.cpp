@@ -1,6 +1,5 @@
 #include "codec/skip_unknown_field.h"
 
-#include "codec/wire_read.h"
 #include "mava_tum/codec_contract.h"
 
 namespace mava_tum

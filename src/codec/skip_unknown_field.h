@@ -1,18 +1,13 @@
 // The step over a field that a message does not know.
 #pragma once
 
+#include "codec/wire_read.h"
 #include "codec/wire_types.h"
 
 #include <cstdint>
 
 namespace mava_tum
 {
-
-// Where a read stopped: the next position, or null and the decode result.
-struct read_end {
-    const uint8_t *next;
-    int32_t failure;
-};
 
 // `at` is the position after the tag. Steps that would pass `end` stop at it: what follows an unknown field that is cut
 // short is the end of the message, with success.

@@ -1,5 +1,6 @@
-// The read primitives. Each tests its own bounds, and nothing else in the decoder does: a position is a pointer that
-// never passes `end`. All return the position after the value, or null when the input ends too early.
+// The read primitives. Each tests its own bounds: a position is a pointer that never passes `end`. Beside them, only
+// the decode frame looks at input, at the first two bytes of a tag, once it has tested that they are there. All return
+// the position after the value, or null when the input ends too early.
 #pragma once
 
 #include "codec/wire_types.h"
@@ -20,6 +21,12 @@ struct varint32_end {
 struct length_end {
     const uint8_t *value; // first byte of the length-delimited value; null: it does not lie inside the input
     uint32_t length;
+};
+
+// What each kind of field makes of its value: the next position, or null and the decode result.
+struct read_end {
+    const uint8_t *next;
+    int32_t failure;
 };
 
 // A tag or a length byte by byte. It stands out of line, since few are longer than two bytes. At least one byte of it

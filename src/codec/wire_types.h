@@ -31,6 +31,12 @@ constexpr uint32_t tag_of(uint32_t field_number, wire_type type)
     return field_number << wire_type_bits | static_cast<uint32_t>(type);
 }
 
+// As it stands on the wire, first byte lowest.
+constexpr uint32_t wire_tag(uint32_t tag)
+{
+    return tag < varint_continues ? tag : (tag & varint_payload) | varint_continues | (tag >> 7) << 8;
+}
+
 constexpr uint32_t field_number_of(uint32_t tag)
 {
     return tag >> wire_type_bits;

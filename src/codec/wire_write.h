@@ -1,5 +1,5 @@
-// The write primitives of the fast encoder. They store whole words into the scratch and may spill up to `spill_bytes`
-// beyond what they write: only the hand-over of the scratch touches the caller's buffer.
+// The write primitives. `put_...` stores whole words into the scratch and may spill up to `spill_bytes` beyond what it
+// writes; `store_...` stores what it writes alone, also into the caller's buffer.
 #pragma once
 
 #include "codec/wire_types.h"
@@ -19,12 +19,6 @@ inline constexpr uint32_t spill_bytes = 16;
     if (std::endian::native == std::endian::big)
         word = __builtin_bswap64(word);
     memcpy(at, &word, sizeof word);
-}
-
-// A tag as it stands on the wire, first byte lowest.
-constexpr uint32_t wire_tag(uint32_t tag)
-{
-    return tag < varint_continues ? tag : (tag & varint_payload) | varint_continues | (tag >> 7) << 8;
 }
 
 // Byte by byte, and nothing beyond what it writes: also straight into the caller's buffer.
