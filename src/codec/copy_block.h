@@ -92,8 +92,7 @@ inline constexpr uint64_t text_step_bytes = 8;
 
 // Copies a text out of its array without looking for its end first, and returns its length; `Size` when no NUL was
 // found in whole steps within a short block. Writes whole steps, up to `text_step_bytes` more than the text. Reads what
-// follows the NUL in the array, and makes nothing of it. A tenth faster than strlen and a copy, on the messages with
-// texts.
+// follows the NUL in the array, and makes nothing of it. Spares the call of strlen and a second look at the text.
 template <size_t Size>
 [[gnu::always_inline]] inline uint64_t copy_array_text(uint8_t *to, const char (&array)[Size])
 {

@@ -20,6 +20,7 @@
 #include "codec/field_record.h"
 #include "codec/message_encode.h"
 
+#include <cstring>
 #include <tuple>
 
 namespace mava_tum

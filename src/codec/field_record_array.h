@@ -6,6 +6,7 @@
 #include "codec/field_record.h"
 
 #include <cstring>
+#include <type_traits>
 
 namespace mava_tum
 {
