@@ -121,10 +121,10 @@ struct l2tp_fields {
         put_nonzero<13>(fields, record.l2tp_value_13);
         put_nonzero<14>(fields, record.l2tp_value_14);
         put_nonzero<15>(fields, record.l2tp_value_15);
-        if (record.l2tp_value_15 != 0)
+        if (record.l2tp_value_15 != 0) // L37
             put_nonzero<16>(fields, record.l2tp_value_16);
         put_nonzero<17>(fields, record.l2tp_value_17);
-        if (record.l2tp_value_17 != 0)
+        if (record.l2tp_value_17 != 0) // L37
             put_nonzero<18>(fields, record.l2tp_value_18);
         put_text<19>(fields, record.l2tp_name);
     }
@@ -173,6 +173,7 @@ inline void vlan_from_codec(tum_nal_data_session_context &record, const mava_tum
 
 // ---- session data ----
 
+// L37: for other kinds the identifier stays behind, and value 9 for all but one.
 inline bool has_session_identifier(const tum_nal_data_session_context &record)
 {
     return record.session_value_1 == TUM_NAL_SESSION_KIND_1 || record.session_value_1 == TUM_NAL_SESSION_KIND_4;

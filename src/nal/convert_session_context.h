@@ -43,7 +43,7 @@ constexpr int any_ipv6_part = TUM_NAL_FEATURE_IPV6_PART_2 | TUM_NAL_FEATURE_IPV6
 template <class Fields>
 void describe_access(Fields &fields, const tum_nal_data_session_context &record)
 {
-    if (has_feature(record, TUM_NAL_FEATURE_IPV4) && record.ipv4_address != 0)
+    if (has_feature(record, TUM_NAL_FEATURE_IPV4) && record.ipv4_address != 0) // L37
         put_record<8, subscriber_v4_fields>(fields, record);
     if (has_feature(record, any_ipv6_part))
         put_record<9, subscriber_v6_fields>(fields, record);

@@ -139,7 +139,7 @@ inline void urpf_from_codec(uint32_t &value_1, uint32_t &value_2, const mava_tum
 
 // ---- accounting ----
 
-// The two values are selected by bits of the accounting flags, not of the feature mask; a selected zero is sent.
+// L37: the two values are selected by bits of the accounting flags, not of the feature mask; a selected zero is sent.
 struct accounting_fields {
     template <class Fields>
     static void describe(Fields &fields, const tum_nal_data_session_context &record)
