@@ -25,6 +25,7 @@ namespace mava_tum
 template <unsigned FieldNumber, class Record>
 bool is_present(const Record &record)
 {
+    static_assert(FieldNumber >= 1 && FieldNumber <= field_count<Record>);
     return (record.presence_mask & presence_bit(FieldNumber)) != 0;
 }
 
