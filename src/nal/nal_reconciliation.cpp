@@ -199,9 +199,9 @@ extern "C" void tum_nal_data_gpb_decode_tum_rec_sess_res(
     mava_tum::decode_frame(data, length, record, mava_tum::rec_sess_res_from_codec, mava_tum_rec_sess_resp_free_ext);
 }
 
-// ---- layout where pointers have 64 bits: programs built against the header rely on it ----
+// ---- layout: programs built against the header rely on it ----
 
-#if UINTPTR_MAX == UINT64_MAX
+#if UINTPTR_MAX == UINT64_MAX // elsewhere a uint64_t may be aligned otherwise
 static_assert(sizeof(tum_nal_data_rec_start_req) == 80 && alignof(tum_nal_data_rec_start_req) == 4);
 static_assert(offsetof(tum_nal_data_rec_start_req, field_2) == 4);
 static_assert(offsetof(tum_nal_data_rec_start_req, field_3) == 8);

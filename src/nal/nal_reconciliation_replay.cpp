@@ -153,9 +153,9 @@ extern "C" void tum_nal_data_gpb_decode_tum_rec_sess_replay_resp(
         data, length, record, mava_tum::rec_sess_replay_resp_from_codec, mava_tum_rec_sess_replay_resp_free_ext);
 }
 
-// ---- layout where pointers have 64 bits: programs built against the header rely on it ----
+// ---- layout: programs built against the header rely on it ----
 
-#if UINTPTR_MAX == UINT64_MAX
+#if UINTPTR_MAX == UINT64_MAX // elsewhere a uint64_t may be aligned otherwise
 static_assert(
     sizeof(tum_nal_data_rec_sess_replay_req_encode) == 8936 && alignof(tum_nal_data_rec_sess_replay_req_encode) == 8);
 static_assert(offsetof(tum_nal_data_rec_sess_replay_req_encode, field_3) == 68);

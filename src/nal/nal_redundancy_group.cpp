@@ -190,9 +190,8 @@ extern "C" void tum_nal_data_gpb_decode_tum_srg_group_rec_replay_resp(
         mava_tum_srg_group_rec_replay_resp_free_ext);
 }
 
-// ---- layout where pointers have 64 bits: programs built against the header rely on it ----
+// ---- layout: programs built against the header rely on it ----
 
-#if UINTPTR_MAX == UINT64_MAX
 static_assert(sizeof(tum_nal_data_srg_group_rec_start_req) == 12 && alignof(tum_nal_data_srg_group_rec_start_req) == 4);
 static_assert(offsetof(tum_nal_data_srg_group_rec_start_req, field_2) == 4);
 static_assert(offsetof(tum_nal_data_srg_group_rec_start_req, field_3) == 8);
@@ -225,4 +224,3 @@ static_assert(offsetof(tum_nal_data_srg_group_rec_replay_resp, field_2) == 8);
 static_assert(offsetof(tum_nal_data_srg_group_rec_replay_resp, field_3_count) == 1268);
 static_assert(offsetof(tum_nal_data_srg_group_rec_replay_resp, field_3) == 1272);
 static_assert(offsetof(tum_nal_data_srg_group_rec_replay_resp, field_4) == 2532);
-#endif

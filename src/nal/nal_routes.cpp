@@ -87,9 +87,8 @@ extern "C" void tum_nal_data_gpb_decode_tum_subscriber_route_resp(
         data, length, record, mava_tum::subscriber_route_resp_from_codec, mava_tum_subscriber_route_resp_free_ext);
 }
 
-// ---- layout where pointers have 64 bits: programs built against the header rely on it ----
+// ---- layout: programs built against the header rely on it ----
 
-#if UINTPTR_MAX == UINT64_MAX
 static_assert(sizeof(tum_nal_data_ipv4_route) == 164 && alignof(tum_nal_data_ipv4_route) == 4);
 static_assert(offsetof(tum_nal_data_ipv4_route, field_2) == 4);
 static_assert(offsetof(tum_nal_data_ipv4_route, field_3) == 40);
@@ -123,4 +122,3 @@ static_assert(sizeof(tum_nal_data_subscriber_route_resp) == 140 && alignof(tum_n
 static_assert(offsetof(tum_nal_data_subscriber_route_resp, field_2) == 4);
 static_assert(offsetof(tum_nal_data_subscriber_route_resp, field_3) == 8);
 static_assert(offsetof(tum_nal_data_subscriber_route_resp, field_4) == 73);
-#endif

@@ -100,9 +100,9 @@ extern "C" void tum_nal_data_gpb_decode_tum_sess_oper_resp(
     mava_tum::decode_frame(data, length, record, mava_tum::sess_oper_resp_from_codec, mava_tum_sess_oper_resp_free_ext);
 }
 
-// ---- layout where pointers have 64 bits: programs built against the header rely on it ----
+// ---- layout: programs built against the header rely on it ----
 
-#if UINTPTR_MAX == UINT64_MAX
+#if UINTPTR_MAX == UINT64_MAX // elsewhere a uint64_t may be aligned otherwise
 static_assert(sizeof(tum_nal_data_session_delete) == 32 && alignof(tum_nal_data_session_delete) == 8);
 static_assert(offsetof(tum_nal_data_session_delete, field_2) == 4);
 static_assert(offsetof(tum_nal_data_session_delete, field_3) == 8);

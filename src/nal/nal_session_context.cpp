@@ -19,9 +19,9 @@ extern "C" void tum_nal_data_gpb_decode_tum_session_context(
         data, length, record, mava_tum::session_context_from_codec, mava_tum_session_context_free_ext);
 }
 
-// ---- layout where pointers have 64 bits: programs built against the header rely on it ----
+// ---- layout: programs built against the header rely on it ----
 
-#if UINTPTR_MAX == UINT64_MAX
+#if UINTPTR_MAX == UINT64_MAX // elsewhere a uint64_t may be aligned otherwise
 static_assert(sizeof(tum_nal_data_qos_element) == 792 && alignof(tum_nal_data_qos_element) == 4);
 static_assert(offsetof(tum_nal_data_qos_element, value_2) == 4);
 static_assert(offsetof(tum_nal_data_qos_element, text_3) == 8);

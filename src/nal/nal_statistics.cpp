@@ -19,9 +19,9 @@ extern "C" void tum_nal_data_gpb_decode_tum_subscriber_stats(
         data, length, record, mava_tum::subscriber_stats_from_codec, mava_tum_subscriber_stats_free_ext);
 }
 
-// ---- layout where pointers have 64 bits: programs built against the header rely on it ----
+// ---- layout: programs built against the header rely on it ----
 
-#if UINTPTR_MAX == UINT64_MAX
+#if UINTPTR_MAX == UINT64_MAX // elsewhere a uint64_t may be aligned otherwise
 static_assert(sizeof(tum_nal_data_stats_block) == 72 && alignof(tum_nal_data_stats_block) == 4);
 
 static_assert(sizeof(tum_nal_data_service_entry) == 140 && alignof(tum_nal_data_service_entry) == 4);
