@@ -1,10 +1,9 @@
 // Text fields: always copied, always terminated, always released.
 #include "support/record_calls.h"
+#include "support/sparse_span.h"
 #include "support/wire_builder.h"
 
 #include <gtest/gtest.h>
-
-#include <sys/mman.h>
 
 namespace mava_tum_test
 {
@@ -90,12 +89,10 @@ TEST(field_text, the_longest_length_asks_for_a_wrapped_size_and_copies_nothing)
     // 0xFFFFFFFF + 1 is 0 in 32 bits: the allocator is asked for 0 bytes, which can hold no text at all.
     constexpr uint64_t text_length = 0xFFFFFFFF;
     const byte_vector start = wire_builder().tag(2, wire_type::length_delimited).bare_varint(text_length);
-    const uint64_t wire_length = start.size() + text_length;
-    void *wire =
-        ::mmap(nullptr, wire_length, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS | MAP_NORESERVE, -1, 0);
-    if (wire == MAP_FAILED)
+    sparse_span wire(start.size() + text_length);
+    if (wire.data() == nullptr)
         GTEST_SKIP() << "no 4 GiB of address space here";
-    std::memcpy(wire, start.data(), start.size());
+    wire.put(0, start);
 
     for (std::size_t failing_call : {0u, 1u}) {
         recording_allocator allocator;
@@ -103,14 +100,13 @@ TEST(field_text, the_longest_length_asks_for_a_wrapped_size_and_copies_nothing)
         allocator.fail_call(failing_call);
         mava_tum_subscriber_httpr record;
         fill_with_ones(record);
-        EXPECT_EQ(mava_tum_subscriber_httpr_decode_ext(&record, static_cast<const uint8_t *>(wire), wire_length,
-                      recording_allocator::allocate, allocator.context()),
+        EXPECT_EQ(mava_tum_subscriber_httpr_decode_ext(
+                      &record, wire.data(), wire.size(), recording_allocator::allocate, allocator.context()),
             MAVA_TUM_NO_MEMORY);
         EXPECT_EQ(allocator.requested_sizes(), (std::vector<uint64_t>{0}));
         EXPECT_EQ(record.field_2, nullptr);
         EXPECT_EQ(own_bits(record), 0u);
     }
-    ::munmap(wire, wire_length);
 }
 
 TEST(field_text, encode_needs_both_bit_and_pointer)
