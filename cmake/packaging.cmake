@@ -1,4 +1,4 @@
-# `cpack` makes mava_tum-<version>-<system>-<processor>.tar.gz: the installed tree, both components, below one folder.
+# `cpack` makes mava_tum-<version>-<system>-<processor>.tar.gz: the installed tree, all components, below one folder.
 set(CPACK_GENERATOR TGZ)
 set(CPACK_PACKAGE_NAME mava_tum)
 set(CPACK_PACKAGE_FILE_NAME "mava_tum-${PROJECT_VERSION}-${CMAKE_SYSTEM_NAME}-${CMAKE_SYSTEM_PROCESSOR}")
