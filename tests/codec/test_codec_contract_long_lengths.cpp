@@ -60,7 +60,7 @@ private:
     sparse_span span_;
 };
 
-TEST(long_lengths, the_longest_bytes_field_is_aliased_and_decoding_goes_on_behind_it)
+TEST(codec_contract, the_longest_bytes_field_is_aliased_and_decoding_goes_on_behind_it)
 {
     const long_input input(bytes_of("08 07"), 4, bytes_of("28 09"));
     if (!input.exists())
@@ -74,7 +74,7 @@ TEST(long_lengths, the_longest_bytes_field_is_aliased_and_decoding_goes_on_behin
     EXPECT_EQ(own_bits(record), fields(1, 4, 5));
 }
 
-TEST(long_lengths, the_longest_bytes_field_asks_for_a_block_of_its_length)
+TEST(codec_contract, the_longest_bytes_field_asks_for_a_block_of_its_length)
 {
     const long_input input(bytes_of("08 07"), 4, bytes_of("28 09"));
     if (!input.exists())
@@ -86,7 +86,7 @@ TEST(long_lengths, the_longest_bytes_field_asks_for_a_block_of_its_length)
     EXPECT_EQ(own_bits(record), fields(1));
 }
 
-TEST(long_lengths, the_longest_record_is_decoded_and_decoding_goes_on_behind_it)
+TEST(codec_contract, the_longest_record_is_decoded_and_decoding_goes_on_behind_it)
 {
     long_input input(bytes_of("08 07"), 3, bytes_of("58 09"));
     if (!input.exists())
@@ -103,7 +103,7 @@ TEST(long_lengths, the_longest_record_is_decoded_and_decoding_goes_on_behind_it)
     EXPECT_EQ(own_bits(record), fields(1, 3, 11));
 }
 
-TEST(long_lengths, the_longest_unknown_field_is_stepped_over_exactly)
+TEST(codec_contract, the_longest_unknown_field_is_stepped_over_exactly)
 {
     const long_input input(bytes_of("08 07"), 9, bytes_of("28 09"));
     if (!input.exists())
@@ -115,7 +115,7 @@ TEST(long_lengths, the_longest_unknown_field_is_stepped_over_exactly)
     EXPECT_EQ(own_bits(record), fields(1, 5));
 }
 
-TEST(long_lengths, the_longest_text_with_a_block_asks_for_one_byte_more)
+TEST(codec_contract, the_longest_text_with_a_block_asks_for_one_byte_more)
 {
     // One byte shorter than the longest, whose block size is 0 (field_text).
     constexpr uint64_t text_length = longest_value - 1;
@@ -132,7 +132,7 @@ TEST(long_lengths, the_longest_text_with_a_block_asks_for_one_byte_more)
     EXPECT_EQ(allocator.requested_sizes(), (std::vector<uint64_t>{text_length + 1}));
 }
 
-TEST(long_lengths, duplicate_asks_for_all_64_bits_of_a_length)
+TEST(codec_contract, duplicate_asks_for_all_64_bits_of_a_length)
 {
     for (const uint64_t length : {four_gib, four_gib + 3}) {
         mava_tum_subscriber_v6 source{};
@@ -162,7 +162,7 @@ void expect_whole_in_long_buffers(const record_type &record, const char *hex)
     }
 }
 
-TEST(long_lengths, a_capacity_above_32_bits_has_room_for_scalars)
+TEST(codec_contract, a_capacity_above_32_bits_has_room_for_scalars)
 {
     mava_tum_subscriber_v4 record{};
     record.ipv4_address = 0x04030201;
@@ -170,7 +170,7 @@ TEST(long_lengths, a_capacity_above_32_bits_has_room_for_scalars)
     expect_whole_in_long_buffers(record, "15 01 02 03 04");
 }
 
-TEST(long_lengths, a_capacity_above_32_bits_has_room_for_texts_and_nested_records)
+TEST(codec_contract, a_capacity_above_32_bits_has_room_for_texts_and_nested_records)
 {
     std::string text = "abc";
     mava_tum_session_data record{};
@@ -181,7 +181,7 @@ TEST(long_lengths, a_capacity_above_32_bits_has_room_for_texts_and_nested_record
     expect_whole_in_long_buffers(record, "22 02 08 05 2A 03 61 62 63");
 }
 
-TEST(long_lengths, what_follows_a_length_above_32_bits_is_written_behind_it)
+TEST(codec_contract, what_follows_a_length_above_32_bits_is_written_behind_it)
 {
     mava_tum_subscriber_li record{};
     record.field_4.length = four_gib + 5; // without a pointer: its place stays untouched
