@@ -1,10 +1,11 @@
-// The IPv4 addresses of codec records: four bytes in network order, held in a number.
+// The IPv4 addresses of codec records: four bytes in network order, held in a number whose lowest byte is the first
+// one.
 #ifndef MAVA_TUM_CPP_IPV4_HPP
 #define MAVA_TUM_CPP_IPV4_HPP
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
-#include <cstring>
 
 namespace mava_tum::cpp
 {
@@ -16,7 +17,10 @@ using ipv4_octets = std::array<std::uint8_t, 4>;
 inline ipv4_octets octets_of(std::uint32_t address) noexcept
 {
     ipv4_octets octets{};
-    std::memcpy(octets.data(), &address, sizeof address);
+    for (auto &octet : octets) {
+        octet = static_cast<std::uint8_t>(address);
+        address >>= 8;
+    }
     return octets;
 }
 
@@ -24,7 +28,8 @@ inline ipv4_octets octets_of(std::uint32_t address) noexcept
 inline std::uint32_t address_of(const ipv4_octets &octets) noexcept
 {
     std::uint32_t address = 0;
-    std::memcpy(&address, octets.data(), sizeof address);
+    for (std::size_t i = octets.size(); i-- > 0;)
+        address = address << 8 | octets[i];
     return address;
 }
 
