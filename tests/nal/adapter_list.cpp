@@ -5,6 +5,7 @@
 #include "nal/sample_session.h"
 #include "support/wire_builder.h"
 
+#include <bit>
 #include <cstddef>
 
 namespace mava_tum_test
@@ -359,16 +360,23 @@ arrival receive(const adapter &tested, const byte_vector &wire, receive_options 
 
 // ---- looking into records ----
 
+// Where the low bytes of a count stand on this host.
+static uint8_t *low_bytes(uint64_t &count, std::size_t bytes)
+{
+    auto *const first = reinterpret_cast<uint8_t *>(&count);
+    return std::endian::native == std::endian::little ? first : first + sizeof count - bytes;
+}
+
 uint64_t count_at(const byte_vector &record, std::size_t offset, std::size_t bytes)
 {
     uint64_t count = 0;
-    std::memcpy(&count, record.data() + offset, bytes);
+    std::memcpy(low_bytes(count, bytes), record.data() + offset, bytes);
     return count;
 }
 
 void set_count(byte_vector &record, std::size_t offset, std::size_t bytes, uint64_t count)
 {
-    std::memcpy(record.data() + offset, &count, bytes);
+    std::memcpy(record.data() + offset, low_bytes(count, bytes), bytes);
 }
 
 void expect_part_of(const adapter &tested, const byte_vector &record, const byte_vector &whole, const std::string &what)

@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cstring>
 #include <string>
 
 namespace mava_tum_test
@@ -221,8 +222,8 @@ TEST(nal_session_context_receiving, a_count_is_taken_modulo_256_and_then_kept_wi
             session expected = zero_record<session>();
             uint8_t *bytes = reinterpret_cast<uint8_t *>(&expected);
             bytes[one.count_offset] = static_cast<uint8_t>(kept);
-            for (std::size_t i = 0; i < kept; ++i)
-                bytes[one.first_value_offset + i * one.stride] = static_cast<uint8_t>(i + 1);
+            for (uint32_t value = 1; value <= kept; ++value)
+                std::memcpy(bytes + one.first_value_offset + (value - 1) * one.stride, &value, sizeof value);
             received_session got(wire);
             EXPECT_EQ(first_difference(*got, expected), -1) << one.field << ": " << count;
         }
