@@ -74,7 +74,7 @@ platform_i686() {
     local model="the model's tables hold the offsets of machines with 64-bit pointers"
     configure=(-DCMAKE_TOOLCHAIN_FILE="$PWD/cmake/toolchains/i686-linux-gnu.cmake")
     left_out=("interop: there is no protobuf runtime among the cross compiler's packages" "injection: $model"
-        "amplification: $model")
+        "amplification: $model" "docs: its pictures show records with 64-bit pointers")
     not_run=("test_model: $model" "replay_messages: likewise" "replay_adapters: likewise")
 }
 
