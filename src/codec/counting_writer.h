@@ -36,6 +36,12 @@ constexpr uint64_t count_block(uint64_t position, uint32_t tag_bytes, uint64_t p
     return advance(count_block_head(position, tag_bytes, payload_bytes), payload_bytes);
 }
 
+// The position after a nested record. Only blocks mind that they wrap.
+constexpr uint64_t count_nested(uint64_t position, uint32_t tag_bytes, uint64_t body_bytes)
+{
+    return count_block_head(position, tag_bytes, body_bytes) + body_bytes;
+}
+
 struct counting_writer {
     uint8_t *buffer;
     uint64_t length;

@@ -98,7 +98,7 @@ struct record : field_key<Number, wire_type::length_delimited> {
         const uint64_t body_bytes = count_record(parent.*Member, gather);
         if (body_bytes == 0 && (present & key::bit) == 0)
             return position;
-        return count_block(position, key::tag_bytes, body_bytes);
+        return count_nested(position, key::tag_bytes, body_bytes);
     }
 
     static void write(const owner &parent, uint32_t present, counting_writer &writer)

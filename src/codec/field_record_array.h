@@ -128,7 +128,7 @@ struct record_array : field_key<Number, wire_type::length_delimited> {
     {
         const uint32_t count = (present & key::bit) != 0 ? record.*CountMember : 0;
         for (uint32_t i = 0; i < count; ++i)
-            position = count_block(position, key::tag_bytes, count_record((record.*Member)[i], gather));
+            position = count_nested(position, key::tag_bytes, count_record((record.*Member)[i], gather));
         return position;
     }
 

@@ -130,6 +130,19 @@ TEST(field_record, encode_writes_the_length_of_its_content_at_every_depth)
     EXPECT_EQ(hex_of(wire.data(), 11), "52 CF 01 22 CC 01 9A 01 C8 01 78");
 }
 
+// No record is that long. What the caller's lengths say is added up all the same, in 64 bits, at every depth.
+TEST(field_record, the_size_of_a_record_is_added_even_where_the_sum_wraps)
+{
+    mava_tum_session_context record{};
+    mava_tum_session_data &session = record.session_data;
+    session.ppp.field_5.length = 0 - uint64_t{20}; // 6 bytes more with its tag and length, and again 6 around it
+    mark_present(session.ppp, 5);
+    session.l2tp.field_4.length = 100; // 102, and again 2 around it
+    mark_present(session.l2tp, 4);
+    EXPECT_EQ(call_encode(session, nullptr, 0), 96u);
+    EXPECT_EQ(call_encode(record, nullptr, 0), 98u);
+}
+
 TEST(field_record, encode_into_a_short_buffer_counts_on_inside_the_record)
 {
     mava_tum_session_data record{};

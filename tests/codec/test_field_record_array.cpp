@@ -203,6 +203,25 @@ TEST(field_record_array, a_failing_allocation_inside_an_element_leaves_the_array
     EXPECT_EQ(got.present(), 0u);
 }
 
+TEST(field_record_array, the_size_of_an_element_is_added_even_where_the_sum_wraps)
+{
+    mava_tum_subscriber_route_ipv6 routes[2] = {};
+    routes[0].field_3.length = 0 - uint64_t{20}; // 6 bytes more with its tag and length, and again 7 around it
+    routes[1].field_3.length = 100;              // 102, and again 3 around it
+    mark_present(routes[0], 3);
+    mark_present(routes[1], 3);
+    mava_tum_session_context session{};
+    session.route_ipv6 = routes;
+    session.route_ipv6_count = 2;
+    mark_present(session, 24);
+    EXPECT_EQ(call_encode(session, nullptr, 0), 98u);
+    mava_tum_rec_sess_replay_req request{};
+    request.field_4 = &session;
+    request.field_4_count = 1;
+    mark_present(request, 4);
+    EXPECT_EQ(call_encode(request, nullptr, 0), 100u);
+}
+
 TEST(field_record_array, an_element_sees_exactly_its_own_span)
 {
     route_decode cut("22 01 08 22 00");
