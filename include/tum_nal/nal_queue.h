@@ -36,8 +36,8 @@ MAVA_TUM_API void nal_queue_enqueue(nal_queue_t *queue, nal_queue_node_t *node);
 MAVA_TUM_API nal_queue_node_t *nal_queue_dequeue(nal_queue_t *queue);
 
 /* Takes `node` out, wherever it stands. Returns 1 when it was taken out and is free now; 0 when `queue` is empty, and
- * then the node is not touched, or when the node has no neighbour and is not the only node of this queue: it is free,
- * or alone in another queue and stays there. It does not check that the node belongs to this queue: a node inside
+ * then the node is not touched, or when the node has no neighbour and is neither head nor tail of this queue: it is
+ * free, or alone in another queue and stays there. It does not check that the node belongs to this queue: a node inside
  * another one is unlinked from its neighbours there, 1 is returned and the count of `queue` goes down, while head, tail
  * and count of the other queue stay. */
 MAVA_TUM_API int32_t nal_queue_delete(nal_queue_t *queue, nal_queue_node_t *node);
