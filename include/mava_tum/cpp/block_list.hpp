@@ -10,7 +10,6 @@
 
 #include "mava_tum/cpp/memory.hpp"
 
-#include <cstddef>
 #include <new>
 #include <utility>
 
@@ -67,8 +66,8 @@ public:
     }
 
 private:
-    // What follows is aligned as the whole is.
-    struct alignas(std::max_align_t) block {
+    // Holds the widest values that a record can hold: where it is aligned, so is any record behind it.
+    struct block {
         block *next;
         std::uint64_t size; // with this header
     };
