@@ -181,8 +181,9 @@ TEST(leniency, L14_a_list_of_empty_sessions_asks_for_328_times_its_bytes)
     EXPECT_EQ(got.record.field_4_count, 1'000u);
     const uint64_t asked = 1'000 * sizeof(mava_tum_session_context);
     EXPECT_EQ(got.allocator.requested_sizes(), (std::vector<uint64_t>{asked}));
-    if (sizeof(void *) == 8)
+    if (sizeof(void *) == 8) {
         EXPECT_EQ(asked, 328 * wire.bytes().size());
+    }
 }
 
 } // namespace
