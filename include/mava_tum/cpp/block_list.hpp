@@ -10,6 +10,7 @@
 
 #include "mava_tum/cpp/memory.hpp"
 
+#include <cstddef>
 #include <new>
 #include <utility>
 
@@ -66,11 +67,14 @@ public:
     }
 
 private:
-    // Holds the widest values that a record can hold: where it is aligned, so is any record behind it.
     struct block {
         block *next;
-        std::uint64_t size; // with this header
+        std::uint64_t size; // with the header
     };
+
+    // What follows is aligned as the whole is, also where a block is smaller than the widest alignment.
+    static constexpr std::size_t header_bytes =
+        (sizeof(block) + alignof(std::max_align_t) - 1) / alignof(std::max_align_t) * alignof(std::max_align_t);
 
     static void *take_remembered(std::uint64_t size, void *list) noexcept
     {
@@ -79,14 +83,14 @@ private:
 
     void *remember(std::uint64_t size) noexcept
     {
-        const std::uint64_t with_header = size + sizeof(block);
+        const std::uint64_t with_header = size + header_bytes;
         if (with_header < size)
             return nullptr;
-        void *const memory = source_.allocate(with_header);
-        if (memory == nullptr)
+        void *const taken = source_.allocate(with_header);
+        if (taken == nullptr)
             return nullptr;
-        newest_ = ::new (memory) block{newest_, with_header};
-        return newest_ + 1;
+        newest_ = ::new (taken) block{newest_, with_header};
+        return static_cast<unsigned char *>(taken) + header_bytes;
     }
 
     memory source_;
