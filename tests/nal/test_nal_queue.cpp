@@ -253,17 +253,25 @@ child_end run_in_child(enqueue_call &&enqueue)
     return ended;
 }
 
+// What the program itself wrote: an emulator adds a line of its own.
+std::string without_emulator(const std::string &errors)
+{
+    const std::string added = "qemu: uncaught target signal 6 (Aborted) - core dumped\n";
+    const std::size_t at = errors.rfind(added);
+    return at != std::string::npos && at + added.size() == errors.size() ? errors.substr(0, at) : errors;
+}
+
 template <class enqueue_call>
 void expect_refused(const char *what, enqueue_call &&enqueue)
 {
     const child_end ended = run_in_child(enqueue);
     EXPECT_TRUE(WIFSIGNALED(ended.status)) << what;
     EXPECT_EQ(WTERMSIG(ended.status), SIGABRT) << what;
-    const std::string expected =
+    EXPECT_EQ(without_emulator(ended.errors),
         std::string(program_invocation_short_name) +
-        ": subscriber/tarvo_nal/quen/src/nal_queue:21: void nal_queue_enqueue(nal_queue_t *, nal_queue_node_t *): "
-        "Assertion `!node->prev && !node->next && queue->head != node' failed.\n";
-    EXPECT_EQ(ended.errors.substr(0, expected.size()), expected) << what; // an emulator adds a line of its own
+            ": subscriber/tarvo_nal/quen/src/nal_queue:21: void nal_queue_enqueue(nal_queue_t *, nal_queue_node_t *): "
+            "Assertion `!node->prev && !node->next && queue->head != node' failed.\n")
+        << what;
 }
 
 TEST(nal_queue, a_node_that_is_not_free_ends_the_process_with_the_assertion)
