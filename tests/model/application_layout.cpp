@@ -8,25 +8,6 @@
 namespace mava_tum_model
 {
 
-namespace
-{
-
-uint64_t number_of_bytes(const uint8_t *at, uint32_t bytes)
-{
-    switch (bytes) {
-    case 1:
-        return load<uint8_t>(at, 0);
-    case 2:
-        return load<uint16_t>(at, 0);
-    case 4:
-        return load<uint32_t>(at, 0);
-    default:
-        return load<uint64_t>(at, 0);
-    }
-}
-
-} // namespace
-
 bool slot_view::filled() const
 {
     const uint8_t *own = content();
@@ -35,7 +16,7 @@ bool slot_view::filled() const
 
 uint64_t slot_view::number() const
 {
-    return number_of_bytes(content(), own_.bytes);
+    return load_number(content(), own_.bytes);
 }
 
 uint64_t slot_view::number_in(slot_kind kind, const field_path &path) const
@@ -45,7 +26,7 @@ uint64_t slot_view::number_in(slot_kind kind, const field_path &path) const
         const bool a_number = member.kind == kind || (kind == slot_kind::number && member.kind == slot_kind::address);
         const bool found_it = a_number && std::memcmp(member.path.numbers, path.numbers, sizeof path.numbers) == 0;
         if (found_it)
-            found = number_of_bytes(record_ + offset, member.bytes);
+            found = load_number(record_ + offset, member.bytes);
         return !found_it;
     });
     return found;

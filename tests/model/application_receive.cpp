@@ -30,30 +30,12 @@ bool arrives(const received_value &end, const slot &member)
     return is_present(*end.of, end.record, decides);
 }
 
-// The low bytes of the value; the machine's own order is that of the record.
-void put_number(uint8_t *at, uint64_t value, uint32_t bytes)
-{
-    switch (bytes) {
-    case 1:
-        store(at, 0, static_cast<uint8_t>(value));
-        break;
-    case 2:
-        store(at, 0, static_cast<uint16_t>(value));
-        break;
-    case 4:
-        store(at, 0, static_cast<uint32_t>(value));
-        break;
-    default:
-        store(at, 0, value);
-    }
-}
-
 void receive_number(const received_value &end, const slot &member, uint8_t *at)
 {
     const bool wide = end.leaf->kind == field_kind::varint64;
     const uint64_t value =
         wide ? load<uint64_t>(end.record, end.leaf->offset) : load<uint32_t>(end.record, end.leaf->offset);
-    put_number(at, value, member.bytes);
+    store_number(at, value, member.bytes);
 }
 
 void receive_address(const received_value &end, uint8_t *at)
@@ -115,7 +97,7 @@ void receive_slot(const message &of, const uint8_t *record, const slot &member, 
         receive_bytes(end, member, at);
         break;
     case slot_kind::count:
-        put_number(at, elements_received(end, member.bytes, member.slots), member.bytes);
+        store_number(at, elements_received(end, member.bytes, member.slots), member.bytes);
         break;
     default:
         receive_list(end, member, at);

@@ -23,6 +23,38 @@ void store(uint8_t *record, uint32_t offset, value_type value)
     std::memcpy(record + offset, &value, sizeof value);
 }
 
+// An integer of `bytes` bytes, in the machine's own order, which is that of the record. Storing keeps the low bytes.
+inline void store_number(uint8_t *at, uint64_t value, uint32_t bytes)
+{
+    switch (bytes) {
+    case 1:
+        store(at, 0, static_cast<uint8_t>(value));
+        break;
+    case 2:
+        store(at, 0, static_cast<uint16_t>(value));
+        break;
+    case 4:
+        store(at, 0, static_cast<uint32_t>(value));
+        break;
+    default:
+        store(at, 0, value);
+    }
+}
+
+inline uint64_t load_number(const uint8_t *at, uint32_t bytes)
+{
+    switch (bytes) {
+    case 1:
+        return load<uint8_t>(at, 0);
+    case 2:
+        return load<uint16_t>(at, 0);
+    case 4:
+        return load<uint32_t>(at, 0);
+    default:
+        return load<uint64_t>(at, 0);
+    }
+}
+
 inline uint8_t *load_pointer(const uint8_t *record, uint32_t offset)
 {
     return load<uint8_t *>(record, offset);
