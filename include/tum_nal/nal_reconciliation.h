@@ -21,6 +21,18 @@ enum {
     TUM_NAL_REC_SERVICE_NAMES = 8    /* services of one start */
 };
 
+/* Bytes of the largest message that each encode adapter below makes. */
+enum {
+    TUM_NAL_REC_START_REQ_MAX_SIZE = 82,         /* start request */
+    TUM_NAL_REC_START_RES_MAX_SIZE = 78,         /* its answer */
+    TUM_NAL_REC_COMPLETE_REQ_MAX_SIZE = 82,      /* complete request */
+    TUM_NAL_REC_COMPLETE_RES_MAX_SIZE = 78,      /* its answer */
+    TUM_NAL_REC_SESS_REQ_MAX_SIZE = 892,         /* batch of session states */
+    TUM_NAL_REC_SESS_RES_MAX_SIZE = 765,         /* its answer */
+    TUM_NAL_REC_SESS_REPLAY_REQ_MAX_SIZE = 9295, /* replay request */
+    TUM_NAL_REC_SESS_REPLAY_RESP_MAX_SIZE = 2497 /* its answer */
+};
+
 /* Opens a run. Sent: the numbers always, the text when not empty.
  * Not symmetric: a decode puts the message's field 3 into `field_1` and leaves `field_2` and `field_3` zero. */
 typedef struct tum_nal_data_rec_start_req {

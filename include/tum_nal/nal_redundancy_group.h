@@ -13,6 +13,15 @@ extern "C" {
 /* Slots of each list of group data. */
 enum { TUM_NAL_SRG_GROUPS = 15 };
 
+/* Bytes of the largest message that each encode adapter below makes. */
+enum {
+    TUM_NAL_SRG_GROUP_REC_START_REQ_MAX_SIZE = 16,    /* start request */
+    TUM_NAL_SRG_GROUP_REC_RESP_MAX_SIZE = 12,         /* answer to a start or a complete request */
+    TUM_NAL_SRG_GROUP_REC_COMPLETE_REQ_MAX_SIZE = 16, /* complete request */
+    TUM_NAL_SRG_GROUP_REC_REPLAY_REQ_MAX_SIZE = 1393, /* replay request */
+    TUM_NAL_SRG_GROUP_REC_REPLAY_RESP_MAX_SIZE = 2772 /* its answer */
+};
+
 /* Opens a run. All three fields are always sent, zeros too. */
 typedef struct tum_nal_data_srg_group_rec_start_req {
     uint32_t field_1; /* 1: always */

@@ -13,6 +13,9 @@ extern "C" {
 /* Slots of a route batch. */
 enum { TUM_NAL_SUB_ROUTE_IPV4_ROUTES = 50, TUM_NAL_SUB_ROUTE_IPV6_ROUTES = 50 };
 
+/* Bytes of the largest message that each encode adapter below makes. */
+enum { TUM_NAL_SUB_ROUTE_MAX_SIZE = 18722, TUM_NAL_SUBSCRIBER_ROUTE_RESP_MAX_SIZE = 144 };
+
 /* One IPv4 route. Sent: `field_1` always, all others when not zero or empty.
  * Texts are received up to 32, 32 and 64 characters, although their arrays hold 35, 35 and 67.
  * Not symmetric: a non-zero `field_8` is sent in the place of `field_7`; a received field 8 arrives in `field_8`. */

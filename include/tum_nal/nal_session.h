@@ -14,6 +14,9 @@ extern "C" {
 /* The largest `field_1` of a session_delete that is sent. */
 enum { TUM_NAL_SESSION_DELETE_MAX_FIELD_1 = 5 };
 
+/* Bytes of the largest message that each encode adapter below makes. */
+enum { TUM_NAL_SESSION_DELETE_MAX_SIZE = 29, TUM_NAL_SESS_OPER_RESP_MAX_SIZE = 2072 };
+
 /* A request to remove a session. Sent: `field_1` when it is at most 5, 0 included (6 and more are left out, and arrive
  * as 0); the others when not zero. */
 typedef struct tum_nal_data_session_delete {

@@ -14,6 +14,9 @@ extern "C" {
 /* Slots of a session. */
 enum { TUM_NAL_SESSION_QOS_ENTRIES = 8, TUM_NAL_SESSION_IPV4_ROUTES = 4, TUM_NAL_SESSION_IPV6_ROUTES = 4 };
 
+/* Bytes of the largest message that the encode adapter below makes. */
+enum { TUM_NAL_SESSION_CONTEXT_MAX_SIZE = 9207 };
+
 /* Bits of `feature_mask`. The mask is sent as it is; on encode its bits also decide which members are sent. On decode
  * they decide nothing: what the message holds arrives. Bits without a name here select nothing. */
 enum {

@@ -13,6 +13,9 @@ extern "C" {
 /* Slots and counters. */
 enum { TUM_NAL_STATS_COUNTERS = 18, TUM_NAL_STATS_SERVICES = 8 };
 
+/* Bytes of the largest message that the encode adapter below makes. */
+enum { TUM_NAL_SUBSCRIBER_STATS_MAX_SIZE = 1836 };
+
 /* Counter k of the message stands in `counter[k - 1]`. Counters that are zero are not sent. */
 typedef struct tum_nal_data_stats_block {
     uint32_t counter[TUM_NAL_STATS_COUNTERS]; /* 1 to 18: non-zero */

@@ -814,6 +814,7 @@ MAVA_TUM_API int32_t nal_queue_delete(nal_queue_t *queue, nal_queue_node_t *node
 extern "C" {
 #endif
 enum { TUM_NAL_SUB_ROUTE_IPV4_ROUTES = 50, TUM_NAL_SUB_ROUTE_IPV6_ROUTES = 50 };
+enum { TUM_NAL_SUB_ROUTE_MAX_SIZE = 18722, TUM_NAL_SUBSCRIBER_ROUTE_RESP_MAX_SIZE = 144 };
 typedef struct tum_nal_data_ipv4_route {
     uint32_t field_1;
     char field_2[36];
@@ -868,6 +869,7 @@ MAVA_TUM_API void tum_nal_data_gpb_decode_tum_subscriber_route_resp(
 extern "C" {
 #endif
 enum { TUM_NAL_SESSION_QOS_ENTRIES = 8, TUM_NAL_SESSION_IPV4_ROUTES = 4, TUM_NAL_SESSION_IPV6_ROUTES = 4 };
+enum { TUM_NAL_SESSION_CONTEXT_MAX_SIZE = 9207 };
 enum {
     TUM_NAL_FEATURE_QOS = 1 << 0,
     TUM_NAL_FEATURE_REDIRECT = 1 << 1,
@@ -1016,6 +1018,7 @@ MAVA_TUM_API void tum_nal_data_gpb_decode_tum_session_context(
 extern "C" {
 #endif
 enum { TUM_NAL_STATS_COUNTERS = 18, TUM_NAL_STATS_SERVICES = 8 };
+enum { TUM_NAL_SUBSCRIBER_STATS_MAX_SIZE = 1836 };
 typedef struct tum_nal_data_stats_block {
     uint32_t counter[TUM_NAL_STATS_COUNTERS];
 } tum_nal_data_stats_block;
@@ -1055,6 +1058,16 @@ enum {
     TUM_NAL_REC_REPLAY_FAILURES = 1,
     TUM_NAL_REC_SERVICE_STARTS = 1,
     TUM_NAL_REC_SERVICE_NAMES = 8
+};
+enum {
+    TUM_NAL_REC_START_REQ_MAX_SIZE = 82,
+    TUM_NAL_REC_START_RES_MAX_SIZE = 78,
+    TUM_NAL_REC_COMPLETE_REQ_MAX_SIZE = 82,
+    TUM_NAL_REC_COMPLETE_RES_MAX_SIZE = 78,
+    TUM_NAL_REC_SESS_REQ_MAX_SIZE = 892,
+    TUM_NAL_REC_SESS_RES_MAX_SIZE = 765,
+    TUM_NAL_REC_SESS_REPLAY_REQ_MAX_SIZE = 9295,
+    TUM_NAL_REC_SESS_REPLAY_RESP_MAX_SIZE = 2497
 };
 typedef struct tum_nal_data_rec_start_req {
     uint32_t field_1;
@@ -1176,6 +1189,13 @@ MAVA_TUM_API void tum_nal_data_gpb_decode_tum_rec_sess_replay_resp(
 extern "C" {
 #endif
 enum { TUM_NAL_SRG_GROUPS = 15 };
+enum {
+    TUM_NAL_SRG_GROUP_REC_START_REQ_MAX_SIZE = 16,
+    TUM_NAL_SRG_GROUP_REC_RESP_MAX_SIZE = 12,
+    TUM_NAL_SRG_GROUP_REC_COMPLETE_REQ_MAX_SIZE = 16,
+    TUM_NAL_SRG_GROUP_REC_REPLAY_REQ_MAX_SIZE = 1393,
+    TUM_NAL_SRG_GROUP_REC_REPLAY_RESP_MAX_SIZE = 2772
+};
 typedef struct tum_nal_data_srg_group_rec_start_req {
     uint32_t field_1;
     uint16_t field_2;
@@ -1242,6 +1262,7 @@ MAVA_TUM_API void tum_nal_data_gpb_decode_tum_srg_group_rec_replay_resp(
 extern "C" {
 #endif
 enum { TUM_NAL_SESSION_DELETE_MAX_FIELD_1 = 5 };
+enum { TUM_NAL_SESSION_DELETE_MAX_SIZE = 29, TUM_NAL_SESS_OPER_RESP_MAX_SIZE = 2072 };
 typedef struct tum_nal_data_session_delete {
     uint32_t field_1;
     uint32_t field_2;
