@@ -29,10 +29,8 @@ tum_nal_data_session_context decoded(std::span<const uint8_t> wire)
 
 std::vector<uint8_t> encoded(const tum_nal_data_session_context &session)
 {
-    std::array<uint8_t, 2 * sizeof session> buffer; // a number takes up to twice its size on the wire, a text does not
+    std::array<uint8_t, TUM_NAL_SESSION_CONTEXT_MAX_SIZE> buffer;
     const uint64_t size = tum_nal_data_gpb_encode_tum_session_context(&session, buffer.data(), buffer.size());
-    if (size > buffer.size()) // the output was cut
-        throw std::length_error(std::string(session.session_text) + ": the session is too long");
     return {buffer.data(), buffer.data() + size};
 }
 
