@@ -1,0 +1,33 @@
+// One wire through a decode adapter, and what it received, changed records and random ones through the encode adapter.
+// What an adapter allocates, how long it takes and its stack are not part of its behaviour here.
+#pragma once
+
+#include "adapters.h"
+#include "encode_runs.h"
+#include "message_runs.h"
+#include "model/application_layout.h"
+
+namespace mava_tum_behaviour
+{
+
+class adapter_runs
+{
+public:
+    adapter_runs(behaviour_table &table, std::size_t adapter_index);
+
+    void run(const wire_input &input);
+    void decode(std::span<const uint8_t> wire);
+
+private:
+    void encode(behaviour_row &row, uint64_t seed);
+
+    const mava_tum_fuzz::adapter &adapter_;
+    const mava_tum_model::application_layout &sent_layout_;
+    guarded_output received_;
+    guarded_output sent_;
+    guarded_output output_;
+    behaviour_row &decode_row_;
+    behaviour_row *encode_rows_[3];
+};
+
+} // namespace mava_tum_behaviour
