@@ -1,3 +1,4 @@
+// The count of a run, before an array is allocated for it.
 #include "codec/array_run.h"
 
 namespace mava_tum
@@ -5,19 +6,18 @@ namespace mava_tum
 
 run_count count_run(const uint8_t *at, const uint8_t *end, uint32_t field_number)
 {
+    run_position position{at, end, field_number};
     for (uint64_t elements = 1;; ++elements) {
-        const length_end entry = read_length(at, end);
-        if (entry.value == nullptr)
+        if (position.element().data == nullptr)
             return {0, false};
-        at = entry.value + entry.length;
-        if (at == end)
+        switch (position.next()) {
+        case run_position::follower::element:
+            break;
+        case run_position::follower::other_field:
             return {elements, true};
-        const varint32_end tag = read_tag(at, end);
-        if (tag.next == nullptr)
+        case run_position::follower::truncated:
             return {0, false};
-        if (field_number_of(tag.value) != field_number) // L5: the wire type of later entries is not looked at
-            return {elements, true};
-        at = tag.next;
+        }
     }
 }
 

@@ -44,13 +44,10 @@ struct block_sink {
 struct decode_context {
     block_source blocks;
     uint32_t flags;
-    // Set by the adapters only: gives back what a record holds before its second occurrence is decoded over it. The
-    // exported decoders have no such callback, and the memory is dropped.
-    mava_tum_release_fn release_fn;
 
     static decode_context for_caller(mava_tum_alloc_fn alloc_fn, void *alloc_ctx, uint32_t flags = 0)
     {
-        return {{alloc_fn, alloc_ctx}, flags, nullptr};
+        return {{alloc_fn, alloc_ctx}, flags};
     }
 
     bool aliases() const

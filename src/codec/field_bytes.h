@@ -2,7 +2,6 @@
 // second occurrence is refused.
 #pragma once
 
-#include "codec/counting_writer.h"
 #include "codec/encode_scratch.h"
 #include "codec/frames.h"
 #include "codec/wire_read.h"
@@ -14,39 +13,39 @@ namespace mava_tum
 {
 
 // The order of the tests is part of the contract: second occurrence, allocator, length, allocation.
-[[gnu::noinline]] inline read_end read_any_bytes(
+[[gnu::noinline]] inline field_read read_any_bytes(
     mava_tum_bytes &field, const uint8_t *at, const uint8_t *end, const decode_context &context)
 {
     if (field.data != nullptr)
-        return {nullptr, MAVA_TUM_TRUNCATED};
+        return field_read::failed(MAVA_TUM_TRUNCATED);
     if (!context.aliases() && context.blocks.alloc_fn == nullptr)
-        return {nullptr, MAVA_TUM_NO_MEMORY};
-    const length_end payload = read_length(at, end);
-    if (payload.value == nullptr)
-        return {nullptr, MAVA_TUM_TRUNCATED};
-    uint8_t *data = const_cast<uint8_t *>(payload.value); // the caller of an aliasing decode knows it is the input
+        return field_read::failed(MAVA_TUM_NO_MEMORY);
+    const payload found = read_payload(at, end);
+    if (found.data == nullptr)
+        return field_read::failed(MAVA_TUM_TRUNCATED);
+    uint8_t *data = const_cast<uint8_t *>(found.data); // the caller of an aliasing decode knows it is the input
     if (!context.aliases()) {
-        data = static_cast<uint8_t *>(context.blocks.obtain(payload.length));
+        data = static_cast<uint8_t *>(context.blocks.obtain(found.length));
         if (data == nullptr)
-            return {nullptr, MAVA_TUM_NO_MEMORY};
-        memcpy(data, payload.value, payload.length);
+            return field_read::failed(MAVA_TUM_NO_MEMORY);
+        memcpy(data, found.data, found.length);
     }
-    field = {data, payload.length};
-    return {payload.value + payload.length, MAVA_TUM_OK};
+    field = {data, found.length};
+    return field_read::ends_at(found.end());
 }
 
-// The same; what nearly every field is that the adapters decode (the first, whole, short, aliased) is read inline.
-[[gnu::always_inline]] inline read_end read_bytes(
+// The same; the most frequent case (first occurrence, whole, below 128 bytes, aliased) is read inline.
+[[gnu::always_inline]] inline field_read read_bytes(
     mava_tum_bytes &field, const uint8_t *at, const uint8_t *end, const decode_context &context)
 {
     if (field.data != nullptr || !context.aliases() || !is_short_payload(at, end)) [[unlikely]]
         return read_any_bytes(field, at, end, context);
     const uint32_t length = *at++;
     field = {const_cast<uint8_t *>(at), length};
-    return {at + length, MAVA_TUM_OK};
+    return field_read::ends_at(at + length);
 }
 
-// A copy owns its block, whatever the source does; an empty one has none. Returns false when no block was to be had.
+// A copy owns its block, whatever the source does; an empty one has none. Returns false if allocation fails.
 [[gnu::noinline]] inline bool copy_bytes(
     mava_tum_bytes &destination, const mava_tum_bytes &source, const block_source &blocks)
 {
@@ -62,13 +61,17 @@ namespace mava_tum
     return true;
 }
 
+namespace kind
+{
+
 template <uint32_t Number, auto Member>
 struct bytes : field_key<Number, wire_type::length_delimited> {
     using key = field_key<Number, wire_type::length_delimited>;
     using owner = typename member_of<Member>::record;
 
-    static constexpr uint32_t max_head_bytes = key::tag_bytes + max_varint32_bytes;
-    static constexpr uint32_t max_put_bytes = key::tag_bytes + max_short_put_bytes;
+    static constexpr field_shape shape = field_shape::bytes;
+    static constexpr uint32_t max_head_bytes = key::tag.length + max_varint32_bytes;
+    static constexpr uint32_t max_put_bytes = key::tag.length + max_short_put_bytes;
     static constexpr bool is_scalar = false;
     static constexpr bool holds_bytes = true;
     static constexpr bool asks_for_room = true;
@@ -78,36 +81,17 @@ struct bytes : field_key<Number, wire_type::length_delimited> {
         record.*Member = {nullptr, 0};
     }
 
-    [[gnu::always_inline]] static read_end read(
+    [[gnu::always_inline]] static field_read read(
         owner &record, bool, const uint8_t *at, const uint8_t *end, const decode_context &context)
     {
         return read_bytes(record.*Member, at, end, context);
     }
 
-    [[gnu::always_inline]] static uint8_t *put(
-        const owner &record, uint32_t present, uint8_t *at, encode_scratch &scratch, bool top)
-    {
-        if ((present & key::bit) == 0)
-            return at;
-        const mava_tum_bytes &field = record.*Member;
-        if (field.data == nullptr) [[unlikely]]
-            return put_any_block(at, wire_tag(key::tag), key::tag_bytes, nullptr, field.length, scratch, top);
-        return put_block<key::tag_bytes>(at, wire_tag(key::tag), field.data, field.length, scratch, top);
-    }
-
-    static uint64_t count(const owner &record, uint32_t present, bool gather, uint64_t position)
-    {
-        if ((present & key::bit) == 0)
-            return position;
-        const uint64_t length = (record.*Member).length;
-        return gather ? count_block_head(position, key::tag_bytes, length)
-                      : count_block(position, key::tag_bytes, length);
-    }
-
-    static void write(const owner &record, uint32_t present, counting_writer &writer)
+    template <class Fields>
+    [[gnu::always_inline]] static void describe(Fields &fields, const owner &record, uint32_t present)
     {
         if ((present & key::bit) != 0)
-            writer.bytes(key::tag, record.*Member);
+            fields.template bytes<Number>(record.*Member);
     }
 
     [[gnu::always_inline]] static bool copy(
@@ -125,5 +109,7 @@ struct bytes : field_key<Number, wire_type::length_delimited> {
             blocks.release((record.*Member).data);
     }
 };
+
+} // namespace kind
 
 } // namespace mava_tum

@@ -1,5 +1,5 @@
 // record_array: contiguous records and their count. All elements arrive in one run; a second run is refused. The array
-// is one block, zeroed here: neither the spare bits nor the pointers of an element depend on the allocator.
+// is one block, zeroed here: neither the reserved bits nor the pointers of an element depend on the allocator.
 #pragma once
 
 #include "codec/array_run.h"
@@ -22,45 +22,46 @@ template <class Element>
 }
 
 // The order of the tests is part of the contract: second run, allocator, the whole run's bounds, allocation. `at` is
-// the position after the first entry's tag; `next` of the result is null on failure. The array is attached before its
-// elements are decoded, so that it is released even when one of them fails.
+// the position after the first element's tag. The array is attached before its elements are decoded, so that it is
+// released even when one of them fails.
 template <class Element>
-[[gnu::always_inline]] inline read_end start_run(Element *&array, uint32_t &count, uint32_t field_number,
+[[gnu::always_inline]] inline field_read start_run(Element *&array, uint32_t &count, uint32_t field_number,
     const uint8_t *at, const uint8_t *end, const block_source &blocks)
 {
     if (array != nullptr)
-        return {nullptr, MAVA_TUM_TRUNCATED};
+        return field_read::failed(MAVA_TUM_TRUNCATED);
     if (blocks.alloc_fn == nullptr)
-        return {nullptr, MAVA_TUM_NO_MEMORY};
+        return field_read::failed(MAVA_TUM_NO_MEMORY);
     const run_count run = count_run(at, end, field_number);
     if (!run.is_whole)
-        return {nullptr, MAVA_TUM_TRUNCATED};
+        return field_read::failed(MAVA_TUM_TRUNCATED);
     Element *elements = obtain_array<Element>(run.elements, blocks);
     if (elements == nullptr)
-        return {nullptr, MAVA_TUM_NO_MEMORY};
+        return field_read::failed(MAVA_TUM_NO_MEMORY);
     array = elements;
     count = static_cast<uint32_t>(run.elements);
-    return {at, MAVA_TUM_OK};
+    return field_read::ends_at(at);
 }
 
 template <class Element>
-[[gnu::noinline]] read_end read_record_array(Element *&array, uint32_t &count, uint32_t field_number, const uint8_t *at,
-    const uint8_t *end, const decode_context &context)
+[[gnu::noinline]] field_read read_record_array(Element *&array, uint32_t &count, uint32_t field_number,
+    const uint8_t *at, const uint8_t *end, const decode_context &context)
 {
-    const read_end run = start_run(array, count, field_number, at, end, context.blocks);
+    const field_read run = start_run(array, count, field_number, at, end, context.blocks);
     if (run.next == nullptr)
         return run;
+    run_position position{at, end, field_number};
     for (uint32_t i = 0; i < count; ++i) {
-        const length_end entry = read_run_entry(at, end, i == 0);
-        at = entry.value + entry.length;
-        const int32_t result = decode_record(array[i], entry.value, at, context);
+        const payload element = position.element();
+        const int32_t result = decode_element_record(array[i], element.data, element.end(), context);
         if (result != MAVA_TUM_OK)
-            return {nullptr, result};
+            return field_read::failed(result);
+        position.next();
     }
-    return {at, MAVA_TUM_OK};
+    return field_read::ends_at(position.at);
 }
 
-// Elements that cannot be copied keep their slot, so that what they did copy stays reachable.
+// Elements that cannot be copied keep their place, so that what they did copy stays reachable.
 template <class Element>
 [[gnu::noinline]] bool copy_elements(
     Element *destination, const Element *source, uint32_t count, const block_source &blocks)
@@ -81,19 +82,23 @@ template <class Element>
     count = 0;
 }
 
+namespace kind
+{
+
 template <uint32_t Number, auto Member, auto CountMember>
 struct record_array : field_key<Number, wire_type::length_delimited> {
     using key = field_key<Number, wire_type::length_delimited>;
     using owner = typename member_of<Member>::record;
-    using element = std::remove_pointer_t<typename member_of<Member>::value>;
+    using nested = std::remove_pointer_t<typename member_of<Member>::value>;
 
+    static constexpr field_shape shape = field_shape::record_array;
     // Each element asks for room first, so the elements count once.
     static constexpr uint32_t max_put_bytes =
-        key::tag_bytes + max_length_gap_bytes + mava_tum::max_put_bytes<element>();
+        key::tag.length + max_length_gap_bytes + mava_tum::max_put_bytes<nested>();
     static constexpr uint32_t max_head_bytes =
-        key::tag_bytes + max_length_gap_bytes + mava_tum::max_head_bytes<element>();
+        key::tag.length + max_length_gap_bytes + mava_tum::max_head_bytes<nested>();
     static constexpr bool is_scalar = false;
-    static constexpr bool holds_bytes = mava_tum::holds_bytes<element>();
+    static constexpr bool holds_bytes = mava_tum::holds_bytes<nested>();
     static constexpr bool asks_for_room = true;
 
     [[gnu::always_inline]] static void reset(owner &record)
@@ -102,43 +107,18 @@ struct record_array : field_key<Number, wire_type::length_delimited> {
         record.*CountMember = 0;
     }
 
-    [[gnu::always_inline]] static read_end read(
+    [[gnu::always_inline]] static field_read read(
         owner &record, bool, const uint8_t *at, const uint8_t *end, const decode_context &context)
     {
         return read_record_array(record.*Member, record.*CountMember, Number, at, end, context);
     }
 
-    [[gnu::always_inline]] static uint8_t *put(
-        const owner &record, uint32_t present, uint8_t *at, encode_scratch &scratch, bool top)
+    template <class Fields>
+    [[gnu::always_inline]] static void describe(Fields &fields, const owner &record, uint32_t present)
     {
-        const uint32_t count = (present & key::bit) != 0 ? record.*CountMember : 0;
-        const uint8_t *const mark = scratch.element_mark(top);
-        for (uint32_t i = 0; i < count; ++i) {
-            if (at > mark)
-                at = make_room(scratch, at, top);
-            if (at != nullptr)
-                at = put_nested_record((record.*Member)[i], at, wire_tag(key::tag), key::tag_bytes, scratch);
-            if (at == nullptr)
-                return nullptr;
-        }
-        return at;
-    }
-
-    static uint64_t count(const owner &record, uint32_t present, bool gather, uint64_t position)
-    {
-        const uint32_t count = (present & key::bit) != 0 ? record.*CountMember : 0;
-        for (uint32_t i = 0; i < count; ++i)
-            position = count_nested(position, key::tag_bytes, count_record((record.*Member)[i], gather));
-        return position;
-    }
-
-    static void write(const owner &record, uint32_t present, counting_writer &writer)
-    {
-        const uint32_t count = (present & key::bit) != 0 ? record.*CountMember : 0;
-        for (uint32_t i = 0; i < count; ++i) {
-            const element &nested = (record.*Member)[i];
-            write_nested_record(nested, count_record(nested, writer.gather), key::tag, writer);
-        }
+        const nested *const array = record.*Member;
+        fields.repeat((present & key::bit) != 0 ? record.*CountMember : 0,
+            [&](uint32_t i) { fields.template record<Number, codec_description<nested>>(array[i]); });
     }
 
     [[gnu::always_inline]] static bool copy(
@@ -149,7 +129,7 @@ struct record_array : field_key<Number, wire_type::length_delimited> {
         destination.*CountMember = 0;
         if (count == 0)
             return true;
-        element *const array = obtain_array<element>(count, blocks);
+        nested *const array = obtain_array<nested>(count, blocks);
         if (array == nullptr) {
             lost |= key::bit;
             return false;
@@ -164,5 +144,7 @@ struct record_array : field_key<Number, wire_type::length_delimited> {
         release_record_array(record.*Member, record.*CountMember, blocks);
     }
 };
+
+} // namespace kind
 
 } // namespace mava_tum

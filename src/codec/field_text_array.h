@@ -10,23 +10,24 @@
 namespace mava_tum
 {
 
-[[gnu::noinline]] inline read_end read_text_array(char **&array, uint32_t &count, uint32_t field_number,
+[[gnu::noinline]] inline field_read read_text_array(char **&array, uint32_t &count, uint32_t field_number,
     const uint8_t *at, const uint8_t *end, const decode_context &context)
 {
-    const read_end run = start_run(array, count, field_number, at, end, context.blocks);
+    const field_read run = start_run(array, count, field_number, at, end, context.blocks);
     if (run.next == nullptr)
         return run;
+    run_position position{at, end, field_number};
     for (uint32_t i = 0; i < count; ++i) {
-        const length_end entry = read_run_entry(at, end, i == 0);
-        at = entry.value + entry.length;
-        array[i] = copy_payload_as_text(entry.value, entry.length, context.blocks);
+        const payload element = position.element();
+        array[i] = copy_payload_as_text(element.data, element.length, context.blocks);
         if (array[i] == nullptr)
-            return {nullptr, MAVA_TUM_NO_MEMORY};
+            return field_read::failed(MAVA_TUM_NO_MEMORY);
+        position.next();
     }
-    return {at, MAVA_TUM_OK};
+    return field_read::ends_at(position.at);
 }
 
-// A text that cannot be copied leaves its slot null; the array, its count and its bit stay.
+// A text that cannot be copied leaves its element null; the array, its count and its bit stay.
 [[gnu::noinline]] inline bool copy_texts(
     char **destination, char *const *source, uint32_t count, const block_source &blocks)
 {
@@ -45,14 +46,18 @@ namespace mava_tum
     count = 0;
 }
 
+namespace kind
+{
+
 template <uint32_t Number, auto Member, auto CountMember>
 struct text_array : field_key<Number, wire_type::length_delimited> {
     using key = field_key<Number, wire_type::length_delimited>;
     using owner = typename member_of<Member>::record;
 
     // Each text asks for room first, so the texts count once.
-    static constexpr uint32_t max_head_bytes = key::tag_bytes + max_varint32_bytes;
-    static constexpr uint32_t max_put_bytes = key::tag_bytes + max_short_put_bytes;
+    static constexpr field_shape shape = field_shape::text_array;
+    static constexpr uint32_t max_head_bytes = key::tag.length + max_varint32_bytes;
+    static constexpr uint32_t max_put_bytes = key::tag.length + max_short_put_bytes;
     static constexpr bool is_scalar = false;
     static constexpr bool asks_for_room = true;
 
@@ -62,40 +67,21 @@ struct text_array : field_key<Number, wire_type::length_delimited> {
         record.*CountMember = 0;
     }
 
-    [[gnu::always_inline]] static read_end read(
+    [[gnu::always_inline]] static field_read read(
         owner &record, bool, const uint8_t *at, const uint8_t *end, const decode_context &context)
     {
         return read_text_array(record.*Member, record.*CountMember, Number, at, end, context);
     }
 
-    [[gnu::always_inline]] static uint8_t *put(
-        const owner &record, uint32_t present, uint8_t *at, encode_scratch &scratch, bool top)
+    // An element may be null after a duplicate that ran out of memory; it is left out.
+    template <class Fields>
+    [[gnu::always_inline]] static void describe(Fields &fields, const owner &record, uint32_t present)
     {
-        const uint8_t *const mark = scratch.element_mark(top);
-        for (const char *text : texts(record, present)) {
-            if (at > mark)
-                at = make_room(scratch, at, top);
-            if (at != nullptr && text != nullptr)
-                at = put_block<key::tag_bytes>(at, wire_tag(key::tag), text, strlen(text), scratch, top);
-            if (at == nullptr)
-                return nullptr;
-        }
-        return at;
-    }
-
-    static uint64_t count(const owner &record, uint32_t present, bool, uint64_t position)
-    {
-        for (const char *text : texts(record, present))
-            if (text != nullptr)
-                position = count_block(position, key::tag_bytes, strlen(text));
-        return position;
-    }
-
-    static void write(const owner &record, uint32_t present, counting_writer &writer)
-    {
-        for (const char *text : texts(record, present))
-            if (text != nullptr)
-                writer.block(key::tag, text, strlen(text));
+        char *const *const array = record.*Member;
+        fields.repeat((present & key::bit) != 0 ? record.*CountMember : 0, [&](uint32_t i) {
+            if (array[i] != nullptr)
+                fields.template text<Number>(array[i]);
+        });
     }
 
     [[gnu::always_inline]] static bool copy(
@@ -115,27 +101,8 @@ struct text_array : field_key<Number, wire_type::length_delimited> {
     {
         release_text_array(record.*Member, record.*CountMember, blocks);
     }
-
-private:
-    struct text_range {
-        char *const *first;
-        uint32_t count;
-
-        char *const *begin() const
-        {
-            return first;
-        }
-        char *const *end() const
-        {
-            return first + count;
-        }
-    };
-
-    // What an encode writes. A slot may be null after a duplicate that ran out of memory; it is left out.
-    [[gnu::always_inline]] static text_range texts(const owner &record, uint32_t present)
-    {
-        return {record.*Member, (present & key::bit) != 0 ? record.*CountMember : 0};
-    }
 };
+
+} // namespace kind
 
 } // namespace mava_tum

@@ -9,10 +9,7 @@
 namespace mava_tum
 {
 
-struct counting_writer;
-struct encode_scratch;
-
-// Decode: zeroes all fields and clears the own bits, at every depth; spare bits stay.
+// Decode: zeroes all fields and clears the own bits, at every depth; reserved bits stay.
 template <class Record>
 void reset_record(Record &record);
 
@@ -20,34 +17,20 @@ void reset_record(Record &record);
 template <class Record>
 int32_t decode_record(Record &record, const uint8_t *at, const uint8_t *end, const decode_context &context);
 
+// Decode: the same for an element of an array.
+template <class Record>
+int32_t decode_element_record(Record &record, const uint8_t *at, const uint8_t *end, const decode_context &context);
+
 // Encode: whether the record could produce a byte although its parent's bit is clear.
 template <class Record>
 bool has_content(const Record &record);
 
-// Encode: writes the fields into the scratch at `at`. `top` is true for the message itself, false for a nested record.
-// Returns the position after them, or null when the exact writer must take over.
+// Encode: a codec record as a description of its fields.
 template <class Record>
-uint8_t *put_record(const Record &record, uint8_t *at, encode_scratch &scratch, bool top);
+struct codec_description;
 
-// The same, inlined where it stands.
-template <class Record, class... Field>
-uint8_t *put_fields(field_list<Field...>, const Record &record, uint8_t *at, encode_scratch &scratch, bool top);
-
-// Encode: the most that put_record writes without asking for room.
-template <class Record>
-constexpr uint32_t max_put_bytes();
-
-// Encode: the same without the payloads of texts and bytes: how large a record of its kind is.
-template <class Record>
-constexpr uint32_t max_head_bytes();
-
-// Encode: the exact size. In gather mode the contents of bytes fields do not count.
-template <class Record>
-uint64_t count_record(const Record &record, bool gather);
-
-// Encode: the fields through the exact writer.
-template <class Record>
-void write_record(const Record &record, counting_writer &writer);
+// Encode: whether a nested record without a field is written, as a tag and an empty payload.
+enum class if_empty : uint8_t { write, leave_out };
 
 // Duplicate: returns whether everything could be copied.
 template <class Record>

@@ -2,22 +2,19 @@
 //
 //     template <> struct schema<mava_tum_vlan_info> {
 //         using self = mava_tum_vlan_info;
-//         using fields = field_list<varint<1, &self::field_1>, varint<2, &self::field_2>>;
+//         using fields = field_list<kind::varint<1, &self::field_1>, kind::varint<2, &self::field_2>>;
 //     };
 //
-// The kinds of field, each with all its operations in field_<kind>.h: varint, fixed32, bytes, text, record,
-// record_array, text_array. A kind has:
+// The kinds of field, each with its rules in field_<kind>.h: varint, fixed32, bytes, text, record, record_array,
+// text_array. A kind has:
 //
 //     number, type, tag, bit       constants
-//     max_put_bytes                the most that `put` writes without asking for room
+//     shape                        what of it is read and written
+//     max_put_bytes                the most that the fast path writes without asking for room
 //     max_head_bytes               the same without the payloads of texts and bytes
 //     reset(record)                decode: the empty value
-//     read(...)                    decode: one occurrence, or one run of an array
-//     put(...)                     encode: the fast writer, into the scratch
-//     store(...)                   encode: scalars only, byte by byte into the caller's buffer
-//     count(...), write(...)       encode: the exact writer, for short buffers and pieces
-//     put_value, store_value,      scalars only: the same for a value that is in no record (direct_encode.h)
-//     value_bytes, write_value
+//     read(record, ...)            decode: one occurrence, or one run of an array
+//     describe(fields, record, present)   encode: names the value, if it is present, to a writer (encode_fields.h)
 //     copy(...)                    duplicate
 //     release(...)                 free
 #pragma once
@@ -26,6 +23,7 @@
 #include "codec/wire_types.h"
 
 #include <cstdint>
+#include <tuple>
 
 namespace mava_tum
 {
@@ -47,15 +45,18 @@ inline constexpr uint32_t field_count = fields_of<Record>::size;
 template <class Record>
 inline constexpr uint32_t own_bits = presence_bits_up_to(field_count<Record>);
 
+// What a field holds on the wire.
+enum class field_shape : uint8_t { number, bytes, text, record, record_array, text_array };
+
 // What a field number and a wire type fix.
 template <uint32_t Number, wire_type Type>
 struct field_key {
     static constexpr uint32_t number = Number;
     static constexpr wire_type type = Type;
-    static constexpr uint32_t tag = tag_of(Number, Type);
+    static constexpr uint32_t tag_value = mava_tum::tag_value(Number, Type);
+    static constexpr field_tag tag = make_field_tag(Number, Type);
     static constexpr uint32_t bit = presence_bit(Number);
-    static constexpr uint32_t tag_bytes = tag < varint_continues ? 1 : 2;
-    static_assert(tag < 1u << 14, "a tag takes one or two bytes");
+    static_assert(tag_value < 1u << 14, "a tag takes one or two bytes");
 
     // What most kinds are not; the others say so themselves.
     static constexpr bool holds_bytes = false;   // a bytes field, here or in a nested record
@@ -79,6 +80,17 @@ struct member_of<Member> {
     using record = Record;
     using value = Value;
 };
+
+template <class List>
+struct fields_by_number;
+
+template <class... Field>
+struct fields_by_number<field_list<Field...>> {
+    using all = std::tuple<Field...>;
+};
+
+template <class Record, uint32_t Number>
+using field_at = std::tuple_element_t<Number - 1, typename fields_by_number<fields_of<Record>>::all>;
 
 // Field numbers run from 1 without a gap, so that a field's number gives its presence bit, and the bits fit the mask.
 template <class Record, class... Field>
@@ -110,11 +122,11 @@ constexpr bool all_scalar(field_list<Field...>)
 template <class Record>
 inline constexpr bool is_flat = all_scalar(fields_of<Record>{});
 
-// Flat records of a few fields are put inline: their bodies are shorter than a call.
-inline constexpr uint32_t max_inline_fields = 3;
+// Flat records of a few fields are written and read inline: that is shorter than a call.
+inline constexpr uint32_t max_tiny_fields = 3;
 
 template <class Record>
-inline constexpr bool is_put_inline = is_flat<Record> && (field_count<Record> <= max_inline_fields);
+inline constexpr bool is_tiny = is_flat<Record> && (field_count<Record> <= max_tiny_fields);
 
 // Such messages have the alias bit.
 template <class Record>
@@ -127,6 +139,32 @@ template <class Record>
 constexpr bool asks_for_room()
 {
     return any_asks_for_room(fields_of<Record>{});
+}
+
+// The most that the fast path writes of a record without asking for room.
+template <class... Field>
+constexpr uint32_t sum_of_put_bytes(field_list<Field...>)
+{
+    return (0 + ... + Field::max_put_bytes);
+}
+
+template <class Record>
+constexpr uint32_t max_put_bytes()
+{
+    return sum_of_put_bytes(fields_of<Record>{});
+}
+
+// The same without the payloads of texts and bytes: how large a record of its kind is.
+template <class... Field>
+constexpr uint32_t sum_of_head_bytes(field_list<Field...>)
+{
+    return (0 + ... + Field::max_head_bytes);
+}
+
+template <class Record>
+constexpr uint32_t max_head_bytes()
+{
+    return sum_of_head_bytes(fields_of<Record>{});
 }
 
 } // namespace mava_tum

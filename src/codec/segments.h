@@ -1,4 +1,4 @@
-// The pieces in which an encoder reports its output, for callers that ask for them.
+// The segments in which an encoder reports its output, for callers that ask for them.
 #pragma once
 
 #include "mava_tum/codec_contract.h"
@@ -19,7 +19,7 @@ struct segment_list {
         return {count != nullptr, items, count == nullptr || items == nullptr ? 0 : *count, 0};
     }
 
-    // Pieces beyond the capacity are counted, not stored.
+    // Segments beyond the capacity are counted, not stored.
     void add(const uint8_t *data, uint64_t length)
     {
         if (count < capacity)
@@ -36,8 +36,8 @@ struct segment_list {
     }
 };
 
-// Where a piece at `offset` lies. An integer sum, since the position may lie beyond a short buffer.
-inline const uint8_t *piece_address(const uint8_t *buffer, uint64_t offset)
+// Where a segment at `offset` lies. An integer sum, since the position may lie beyond a short buffer.
+inline const uint8_t *segment_address(const uint8_t *buffer, uint64_t offset)
 {
     if (buffer == nullptr)
         return nullptr;

@@ -1,33 +1,34 @@
+// The step over a field that a message does not know.
 #include "codec/skip_unknown_field.h"
-
-#include "mava_tum/codec_contract.h"
 
 namespace mava_tum
 {
 
 // L3: no bounds test. The step is clamped only so that no pointer beyond the input is ever formed.
-static read_end step_over(const uint8_t *at, const uint8_t *end, uint32_t bytes)
+static field_read step_over(const uint8_t *at, const uint8_t *end, uint32_t bytes)
 {
     if (bytes > static_cast<uint64_t>(end - at))
-        return {end, MAVA_TUM_OK};
-    return {at + bytes, MAVA_TUM_OK};
+        return field_read::ends_at(end);
+    return field_read::ends_at(at + bytes);
 }
 
-static read_end skip_varint(const uint8_t *at, const uint8_t *end)
+static field_read skip_varint(const uint8_t *at, const uint8_t *end)
 {
-    const varint32_end varint = read_varint32(at, end);
-    return {varint.next, MAVA_TUM_TRUNCATED};
+    const number_read<uint32_t> varint = read_varint32(at, end);
+    if (varint.next == nullptr)
+        return field_read::failed(MAVA_TUM_TRUNCATED);
+    return field_read::ends_at(varint.next);
 }
 
-static read_end skip_length_delimited(const uint8_t *at, const uint8_t *end)
+static field_read skip_length_delimited(const uint8_t *at, const uint8_t *end)
 {
-    const varint32_end length = read_length_varint(at, end);
+    const number_read<uint32_t> length = read_length_varint(at, end);
     if (length.next == nullptr)
-        return {nullptr, MAVA_TUM_TRUNCATED};
+        return field_read::failed(MAVA_TUM_TRUNCATED);
     return step_over(length.next, end, length.value);
 }
 
-read_end skip_unknown_field(wire_type type, const uint8_t *at, const uint8_t *end)
+field_read skip_unknown_field(wire_type type, const uint8_t *at, const uint8_t *end)
 {
     switch (type) {
     case wire_type::varint:
@@ -39,7 +40,7 @@ read_end skip_unknown_field(wire_type type, const uint8_t *at, const uint8_t *en
     case wire_type::fixed32:
         return step_over(at, end, fixed32_bytes);
     default:
-        return {nullptr, MAVA_TUM_UNSUPPORTED_WIRE_TYPE};
+        return field_read::failed(MAVA_TUM_UNSUPPORTED_WIRE_TYPE);
     }
 }
 

@@ -9,8 +9,8 @@
 namespace mava_tum
 {
 
-// `at` is the position after the tag. Steps that would pass `end` stop at it: what follows an unknown field that is cut
-// short is the end of the message, with success.
-read_end skip_unknown_field(wire_type type, const uint8_t *at, const uint8_t *end);
+// `at` is the position after the tag. Steps that would pass `end` stop at it: what follows an unknown field that is
+// truncated is the end of the message, with success.
+field_read skip_unknown_field(wire_type type, const uint8_t *at, const uint8_t *end);
 
 } // namespace mava_tum

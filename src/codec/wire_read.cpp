@@ -1,9 +1,10 @@
+// The out-of-line part of the read primitives.
 #include "codec/wire_read.h"
 
 namespace mava_tum
 {
 
-varint32_end read_long_varint32(const uint8_t *at, const uint8_t *end)
+number_read<uint32_t> read_long_varint32(const uint8_t *at, const uint8_t *end)
 {
     return read_varint32(at, end);
 }

@@ -1,9 +1,9 @@
 // The read primitives. Each tests its own bounds: a position is a pointer that never passes `end`. Beside them, only
-// the decode frame looks at input, at the first two bytes of a tag, once it has tested that they are there. All return
-// the position after the value, or null when the input ends too early.
+// the decode engine looks at input, at the first two bytes of a tag, after testing that they are there.
 #pragma once
 
 #include "codec/wire_types.h"
+#include "mava_tum/codec_contract.h"
 
 #include <bit>
 #include <cstddef>
@@ -13,34 +13,57 @@
 namespace mava_tum
 {
 
-struct varint32_end {
-    const uint8_t *next; // null: the input ended inside the varint
-    uint32_t value;
+// A number and the position after it.
+template <class Value>
+struct number_read {
+    const uint8_t *next; // null: the input ended inside the number
+    Value value;
+
+    static number_read truncated()
+    {
+        return {nullptr, 0};
+    }
 };
 
-struct length_end {
-    const uint8_t *value; // first byte of the length-delimited value; null: it does not lie inside the input
+// The value of a length-delimited field.
+struct payload {
+    const uint8_t *data; // null: it does not lie inside the input
     uint32_t length;
+
+    const uint8_t *end() const
+    {
+        return data + length;
+    }
 };
 
-// What each kind of field makes of its value: the next position, or null and the decode result.
-struct read_end {
-    const uint8_t *next;
+// The outcome of reading a field: the position after it, or a decode result other than MAVA_TUM_OK.
+struct field_read {
+    const uint8_t *next; // null: failed
     int32_t failure;
+
+    static field_read ends_at(const uint8_t *next)
+    {
+        return {next, MAVA_TUM_OK};
+    }
+
+    static field_read failed(int32_t result)
+    {
+        return {nullptr, result};
+    }
 };
 
 // A tag or a length byte by byte. It stands out of line, since few are longer than two bytes. At least one byte of it
 // lies inside the input.
-varint32_end read_long_varint32(const uint8_t *at, const uint8_t *end);
+number_read<uint32_t> read_long_varint32(const uint8_t *at, const uint8_t *end);
 
 // A 32-bit varint whose first byte is known to lie inside the input; short ones are read inline.
-[[gnu::always_inline]] inline varint32_end read_started_varint32(const uint8_t *at, const uint8_t *end)
+[[gnu::always_inline]] inline number_read<uint32_t> read_started_varint32(const uint8_t *at, const uint8_t *end)
 {
     uint32_t byte = *at++;
     if (byte < varint_continues) [[likely]]
         return {at, byte};
     if (at == end)
-        return {nullptr, 0};
+        return number_read<uint32_t>::truncated();
     uint32_t value = byte & varint_payload;
     byte = *at++;
     value |= (byte & varint_payload) << 7;
@@ -50,7 +73,7 @@ varint32_end read_long_varint32(const uint8_t *at, const uint8_t *end);
 }
 
 // A tag. The caller has tested that `at` lies before `end`.
-[[gnu::always_inline]] inline varint32_end read_tag(const uint8_t *at, const uint8_t *end)
+[[gnu::always_inline]] inline number_read<uint32_t> read_tag(const uint8_t *at, const uint8_t *end)
 {
     return read_started_varint32(at, end);
 }
@@ -65,55 +88,56 @@ template <uint32_t index>
 }
 
 // A value, of any width inline.
-[[gnu::always_inline]] inline varint32_end read_varint32(const uint8_t *at, const uint8_t *end)
+[[gnu::always_inline]] inline number_read<uint32_t> read_varint32(const uint8_t *at, const uint8_t *end)
 {
+    constexpr number_read<uint32_t> truncated{nullptr, 0};
     if (at == end)
-        return {nullptr, 0};
+        return truncated;
     uint32_t byte = *at++;
     uint32_t value = byte;
     if (byte < varint_continues) [[likely]]
         return {at, value};
     if (at == end)
-        return {nullptr, 0};
+        return truncated;
     if (add_varint_byte<1>(at, value, byte))
         return {at, value};
     if (at == end)
-        return {nullptr, 0};
+        return truncated;
     if (add_varint_byte<2>(at, value, byte))
         return {at, value};
     if (at == end)
-        return {nullptr, 0};
+        return truncated;
     if (add_varint_byte<3>(at, value, byte))
         return {at, value};
     if (at == end)
-        return {nullptr, 0};
+        return truncated;
     add_varint_byte<4>(at, value, byte);
     while (byte >= varint_continues) {
         if (at == end)
-            return {nullptr, 0};
+            return truncated;
         byte = *at++; // L1: further bytes are stepped over, however many
     }
     return {at, value};
 }
 
 // A length prefix without regard to what follows it.
-[[gnu::always_inline]] inline varint32_end read_length_varint(const uint8_t *at, const uint8_t *end)
+[[gnu::always_inline]] inline number_read<uint32_t> read_length_varint(const uint8_t *at, const uint8_t *end)
 {
     if (at == end)
-        return {nullptr, 0};
+        return number_read<uint32_t>::truncated();
     return read_started_varint32(at, end);
 }
 
-// A length prefix and the test that its value lies inside the input.
-[[gnu::always_inline]] inline length_end read_length(const uint8_t *at, const uint8_t *end)
+// A length prefix and the test that its payload lies inside the input.
+[[gnu::always_inline]] inline payload read_payload(const uint8_t *at, const uint8_t *end)
 {
-    const varint32_end length = read_length_varint(at, end);
+    const number_read<uint32_t> length = read_length_varint(at, end);
     if (length.next == nullptr || length.value > static_cast<uint64_t>(end - length.next))
         return {nullptr, 0};
     return {length.next, length.value};
 }
 
-// Whether a length prefix of one byte and its whole value stand at `at`.
+// Whether a length prefix of one byte and its whole payload stand at `at`.
 [[gnu::always_inline]] inline bool is_short_payload(const uint8_t *at, const uint8_t *end)
 {
     return at != end && *at < varint_continues && *at < end - at;
@@ -124,10 +148,18 @@ constexpr uint32_t little_endian(uint32_t value)
     return std::endian::native == std::endian::little ? value : __builtin_bswap32(value);
 }
 
-[[gnu::always_inline]] inline varint32_end read_fixed32(const uint8_t *at, const uint8_t *end)
+// Eight bytes, the first one lowest. The caller has tested that they lie inside the input.
+[[gnu::always_inline]] inline uint64_t load_word(const uint8_t *at)
 {
-    if (end - at < static_cast<ptrdiff_t>(fixed32_bytes))
-        return {nullptr, 0};
+    uint64_t word;
+    memcpy(&word, at, sizeof word);
+    return std::endian::native == std::endian::little ? word : __builtin_bswap64(word);
+}
+
+[[gnu::always_inline]] inline number_read<uint32_t> read_fixed32(const uint8_t *at, const uint8_t *end)
+{
+    if (static_cast<uint64_t>(end - at) < fixed32_bytes)
+        return number_read<uint32_t>::truncated();
     uint32_t value;
     memcpy(&value, at, fixed32_bytes);
     return {at + fixed32_bytes, little_endian(value)};

@@ -6,7 +6,7 @@
 namespace mava_tum
 {
 
-enum class wire_type : uint32_t {
+enum class wire_type : uint8_t {
     varint = 0,
     fixed64 = 1, // only ever skipped: no message has a fixed64 field
     length_delimited = 2,
@@ -26,15 +26,10 @@ inline constexpr uint32_t max_varint64_bytes = 10;
 inline constexpr uint8_t varint_continues = 0x80;
 inline constexpr uint8_t varint_payload = 0x7f;
 
-constexpr uint32_t tag_of(uint32_t field_number, wire_type type)
+// A tag's value, as a decoder reads it.
+constexpr uint32_t tag_value(uint32_t field_number, wire_type type)
 {
     return field_number << wire_type_bits | static_cast<uint32_t>(type);
-}
-
-// As it stands on the wire, first byte lowest.
-constexpr uint32_t wire_tag(uint32_t tag)
-{
-    return tag < varint_continues ? tag : (tag & varint_payload) | varint_continues | (tag >> 7) << 8;
 }
 
 constexpr uint32_t field_number_of(uint32_t tag)
@@ -45,6 +40,20 @@ constexpr uint32_t field_number_of(uint32_t tag)
 constexpr wire_type wire_type_of(uint32_t tag)
 {
     return static_cast<wire_type>(tag & wire_type_mask);
+}
+
+// A tag on the wire, in its shortest form: its bytes, the first one lowest, and how many they are, 1 or 2.
+struct field_tag {
+    uint32_t bytes;
+    uint32_t length;
+};
+
+constexpr field_tag make_field_tag(uint32_t field_number, wire_type type)
+{
+    const uint32_t value = tag_value(field_number, type);
+    if (value < varint_continues)
+        return {value, 1};
+    return {(value & varint_payload) | varint_continues | (value >> 7) << 8, 2};
 }
 
 } // namespace mava_tum

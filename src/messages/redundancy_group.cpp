@@ -1,39 +1,8 @@
 // The redundancy-group messages: exported functions.
 #include "mava_tum/redundancy_group.h"
-#include "messages/owned_decode.h"
 #include "messages/redundancy_group_schema.h"
 
 using namespace mava_tum;
-
-void mava_tum::decode_owned(mava_tum_srg_group_rec_start_req &record, const uint8_t *data, uint64_t length,
-    mava_tum_alloc_fn alloc_fn, mava_tum_release_fn release_fn)
-{
-    decode_for_adapter(record, data, length, alloc_fn, release_fn);
-}
-
-void mava_tum::decode_owned(mava_tum_srg_group_rec_resp &record, const uint8_t *data, uint64_t length,
-    mava_tum_alloc_fn alloc_fn, mava_tum_release_fn release_fn)
-{
-    decode_for_adapter(record, data, length, alloc_fn, release_fn);
-}
-
-void mava_tum::decode_owned(mava_tum_srg_group_rec_complete_req &record, const uint8_t *data, uint64_t length,
-    mava_tum_alloc_fn alloc_fn, mava_tum_release_fn release_fn)
-{
-    decode_for_adapter(record, data, length, alloc_fn, release_fn);
-}
-
-void mava_tum::decode_owned(mava_tum_srg_group_rec_replay_req &record, const uint8_t *data, uint64_t length,
-    mava_tum_alloc_fn alloc_fn, mava_tum_release_fn release_fn)
-{
-    decode_for_adapter(record, data, length, alloc_fn, release_fn);
-}
-
-void mava_tum::decode_owned(mava_tum_srg_group_rec_replay_resp &record, const uint8_t *data, uint64_t length,
-    mava_tum_alloc_fn alloc_fn, mava_tum_release_fn release_fn)
-{
-    decode_for_adapter(record, data, length, alloc_fn, release_fn);
-}
 
 int32_t mava_tum_srg_group_rec_start_req_decode_ext(
     mava_tum_srg_group_rec_start_req *record, const uint8_t *data, uint64_t length)

@@ -1,21 +1,8 @@
 // The route messages: exported functions.
 #include "mava_tum/routes.h"
-#include "messages/owned_decode.h"
 #include "messages/routes_schema.h"
 
 using namespace mava_tum;
-
-void mava_tum::decode_owned(mava_tum_sub_route &record, const uint8_t *data, uint64_t length,
-    mava_tum_alloc_fn alloc_fn, mava_tum_release_fn release_fn)
-{
-    decode_for_adapter(record, data, length, alloc_fn, release_fn);
-}
-
-void mava_tum::decode_owned(mava_tum_subscriber_route_resp &record, const uint8_t *data, uint64_t length,
-    mava_tum_alloc_fn alloc_fn, mava_tum_release_fn release_fn)
-{
-    decode_for_adapter(record, data, length, alloc_fn, release_fn);
-}
 
 int32_t mava_tum_sub_route_decode_ext(mava_tum_sub_route *record, const uint8_t *data, uint64_t length,
     mava_tum_alloc_fn alloc_fn, void *alloc_ctx, uint32_t flags)

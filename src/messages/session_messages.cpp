@@ -1,26 +1,7 @@
 // The session messages: exported functions.
-#include "messages/owned_decode.h"
 #include "messages/session_messages_schema.h"
 
 using namespace mava_tum;
-
-void mava_tum::decode_owned(mava_tum_session_context &record, const uint8_t *data, uint64_t length,
-    mava_tum_alloc_fn alloc_fn, mava_tum_release_fn release_fn)
-{
-    decode_for_adapter(record, data, length, alloc_fn, release_fn);
-}
-
-void mava_tum::decode_owned(mava_tum_session_delete &record, const uint8_t *data, uint64_t length,
-    mava_tum_alloc_fn alloc_fn, mava_tum_release_fn release_fn)
-{
-    decode_for_adapter(record, data, length, alloc_fn, release_fn);
-}
-
-void mava_tum::decode_owned(mava_tum_sess_oper_resp &record, const uint8_t *data, uint64_t length,
-    mava_tum_alloc_fn alloc_fn, mava_tum_release_fn release_fn)
-{
-    decode_for_adapter(record, data, length, alloc_fn, release_fn);
-}
 
 int32_t mava_tum_session_context_decode_ext(mava_tum_session_context *record, const uint8_t *data, uint64_t length,
     mava_tum_alloc_fn alloc_fn, void *alloc_ctx, uint32_t flags)

@@ -1,14 +1,7 @@
 // The statistics messages: exported functions.
-#include "messages/owned_decode.h"
 #include "messages/statistics_schema.h"
 
 using namespace mava_tum;
-
-void mava_tum::decode_owned(mava_tum_subscriber_stats &record, const uint8_t *data, uint64_t length,
-    mava_tum_alloc_fn alloc_fn, mava_tum_release_fn release_fn)
-{
-    decode_for_adapter(record, data, length, alloc_fn, release_fn);
-}
 
 int32_t mava_tum_stats_decode_ext(mava_tum_stats *record, const uint8_t *data, uint64_t length)
 {

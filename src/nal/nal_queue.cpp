@@ -1,6 +1,5 @@
+// The intrusive queue.
 #include "tum_nal/nal_queue.h"
-
-#include <cstddef>
 
 // Declared here because <assert.h> does not offer it where assertions are off, and ours are never off.
 extern "C" [[noreturn]] void __assert_fail(
@@ -92,14 +91,3 @@ extern "C" int32_t nal_queue_delete(nal_queue_t *queue, nal_queue_node_t *node)
     --queue->count;
     return 1;
 }
-
-// ---- layout where pointers have 64 bits: programs built against the header rely on it ----
-
-#if UINTPTR_MAX == UINT64_MAX
-static_assert(sizeof(nal_queue_node_t) == 16 && alignof(nal_queue_node_t) == 8);
-static_assert(offsetof(nal_queue_node_t, next) == 8);
-
-static_assert(sizeof(nal_queue_t) == 24 && alignof(nal_queue_t) == 8);
-static_assert(offsetof(nal_queue_t, tail) == 8);
-static_assert(offsetof(nal_queue_t, count) == 16);
-#endif
