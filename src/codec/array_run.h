@@ -22,6 +22,12 @@ struct run_position {
         return found;
     }
 
+    // To the next element of a run that has been counted: all of it lies inside the input.
+    void step_over_tag()
+    {
+        at = read_tag(at, end).next;
+    }
+
     enum class follower { element, other_field, truncated };
 
     // What stands behind the element that was read last.

@@ -49,18 +49,19 @@ inline constexpr uint64_t short_block_bytes = 4 * sizeof(two_words);
 }
 
 // Longer blocks, by a call: where the compiler knows a limit of the length, it would put a string instruction in place
-// of memcpy, which takes half as long again.
-[[gnu::noinline]] inline void copy_long_block(uint8_t *to, const uint8_t *from, uint64_t length)
+// of memcpy, which takes half as long again. As memcpy, it returns `to`, which the caller then need not keep.
+[[gnu::noinline]] inline uint8_t *copy_long_block(uint8_t *to, const uint8_t *from, uint64_t length)
 {
-    memcpy(to, from, length);
+    return static_cast<uint8_t *>(memcpy(to, from, length));
 }
 
-[[gnu::always_inline]] inline void copy_block(uint8_t *to, const uint8_t *from, uint64_t length)
+// Returns `to`.
+[[gnu::always_inline]] inline uint8_t *copy_block(uint8_t *to, const uint8_t *from, uint64_t length)
 {
     if (length > short_block_bytes)
-        copy_long_block(to, from, length);
-    else
-        copy_short_block(to, from, length);
+        return copy_long_block(to, from, length);
+    copy_short_block(to, from, length);
+    return to;
 }
 
 } // namespace mava_tum

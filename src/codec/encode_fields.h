@@ -162,8 +162,7 @@ struct exact_fields {
     void number(Value value)
     {
         using field = field_at<Message, Number>;
-        writer.tag(field::tag);
-        field::format::write(writer, value);
+        field::format::write(writer, field::tag, value);
     }
 
     template <uint32_t Number>
@@ -200,8 +199,8 @@ struct exact_fields {
         const uint64_t nested_bytes = size.position;
         if (nested_bytes == 0 && empty == if_empty::leave_out)
             return;
-        writer.tag(field::tag);
-        writer.varint(static_cast<uint32_t>(nested_bytes));
+        if (!writer.start_nested(field::tag, nested_bytes))
+            return;
         exact_writer nested = writer.nested(holds_bytes<nested_message>() ? output_mode::gather : output_mode::copy);
         write_described<nested_message, Description>(source, nested);
         nested.finish();

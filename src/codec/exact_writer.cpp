@@ -22,31 +22,28 @@ void exact_writer::byte(uint8_t value)
     ++position;
 }
 
-void exact_writer::tag(field_tag tag)
+void exact_writer::tag(field_tag field)
 {
-    byte(static_cast<uint8_t>(tag.bytes));
-    if (tag.length == 2)
-        byte(static_cast<uint8_t>(tag.bytes >> 8));
+    byte(static_cast<uint8_t>(field.bytes));
+    if (field.length == 2)
+        byte(static_cast<uint8_t>(field.bytes >> 8));
 }
 
-void exact_writer::varint(uint64_t value)
+void exact_writer::varint_field(field_tag field, uint64_t value)
 {
-    if (position >= length) { // nothing is stored: the size of a nested message, or a short buffer
-        position += varint_bytes(value);
+    if (is_full()) {
+        position += field.length + varint_bytes(value);
         return;
     }
-    uint8_t stored[max_varint64_bytes];
-    const uint8_t *const end = store_varint(stored, value);
-    for (const uint8_t *at = stored; at != end; ++at)
-        byte(*at);
+    tag(field);
+    emit_varint(value, [this](uint8_t stored) { byte(stored); });
 }
 
-void exact_writer::fixed32(uint32_t value)
+void exact_writer::fixed32_field(field_tag field, uint32_t value)
 {
-    uint8_t stored[fixed32_bytes];
-    store_fixed32(stored, value);
-    for (const uint8_t stored_byte : stored)
-        byte(stored_byte);
+    tag(field);
+    for (uint32_t shift = 0; shift < 32; shift += 8)
+        byte(static_cast<uint8_t>(value >> shift));
 }
 
 void exact_writer::copy(const void *data, uint64_t payload_length)
@@ -59,8 +56,7 @@ void exact_writer::copy(const void *data, uint64_t payload_length)
 
 void exact_writer::block(field_tag field, const void *data, uint64_t payload_length)
 {
-    tag(field);
-    varint(static_cast<uint32_t>(payload_length));
+    varint_field(field, static_cast<uint32_t>(payload_length));
     copy(data, payload_length);
 }
 
@@ -68,13 +64,21 @@ void exact_writer::bytes_field(field_tag field, const mava_tum_bytes &value)
 {
     if (mode == output_mode::copy)
         return block(field, value.data, value.length);
-    tag(field);
-    varint(static_cast<uint32_t>(value.length));
+    varint_field(field, static_cast<uint32_t>(value.length));
     if (value.length == 0 || !segments.wanted)
         return;
     segments.add(segment_address(buffer, segment_start), position - segment_start);
     segments.add(value.data, value.length);
     segment_start = position;
+}
+
+bool exact_writer::start_nested(field_tag field, uint64_t nested_bytes)
+{
+    varint_field(field, static_cast<uint32_t>(nested_bytes));
+    if (!is_full() || segments.wanted)
+        return true;
+    position += nested_bytes;
+    return false;
 }
 
 exact_writer exact_writer::nested(output_mode nested_mode) const

@@ -24,16 +24,17 @@ struct exact_writer {
     uint64_t position = 0;
     uint64_t segment_start = 0; // gather mode: the end of the last segment of this record's own
 
-    void byte(uint8_t value);
-    void tag(field_tag tag);
-    void varint(uint64_t value);
-    void fixed32(uint32_t value);
+    void varint_field(field_tag field, uint64_t value);
+    void fixed32_field(field_tag field, uint32_t value);
 
     // Tag, length, payload in the buffer: the payload whole or, when it does not fit, not at all.
     void block(field_tag field, const void *data, uint64_t payload_length);
 
     // A bytes field: in gather mode its payload becomes a segment and does not advance the position.
     void bytes_field(field_tag field, const mava_tum_bytes &value);
+
+    // Tag and length of a nested message. False where it is complete with that, since only the size is wanted.
+    bool start_nested(field_tag field, uint64_t nested_bytes);
 
     // The writer of a nested message at the position, in `nested_mode` unless this one copies.
     exact_writer nested(output_mode nested_mode) const;
@@ -43,6 +44,15 @@ struct exact_writer {
     void finish();
 
 private:
+    void byte(uint8_t value);
+    void tag(field_tag field);
+
+    // Nothing more is stored: behind a short buffer, and where only the size is wanted.
+    bool is_full() const
+    {
+        return position >= length;
+    }
+
     void copy(const void *data, uint64_t payload_length);
 };
 

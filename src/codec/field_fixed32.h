@@ -33,9 +33,9 @@ struct fixed32_format {
         return fixed32_bytes;
     }
 
-    static void write(exact_writer &writer, uint32_t value)
+    static void write(exact_writer &writer, field_tag tag, uint32_t value)
     {
-        writer.fixed32(value);
+        writer.fixed32_field(tag, value);
     }
 };
 

@@ -15,7 +15,7 @@ namespace mava_tum::kind
 //     put(at, tag, value)    the fast path, with the tag
 //     store(at, value)       byte by byte into the caller's buffer
 //     bytes(value)           the size
-//     write(writer, value)   the exact path
+//     write(writer, tag, value)   the exact path, with the tag
 template <uint32_t Number, auto Member, class Format>
 struct number_field : field_key<Number, Format::type> {
     using key = field_key<Number, Format::type>;

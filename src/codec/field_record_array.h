@@ -52,11 +52,12 @@ template <class Element>
         return run;
     run_position position{at, end, field_number};
     for (uint32_t i = 0; i < count; ++i) {
+        if (i != 0)
+            position.step_over_tag();
         const payload element = position.element();
         const int32_t result = decode_element_record(array[i], element.data, element.end(), context);
         if (result != MAVA_TUM_OK)
             return field_read::failed(result);
-        position.next();
     }
     return field_read::ends_at(position.at);
 }

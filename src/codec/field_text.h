@@ -21,8 +21,7 @@ namespace mava_tum
     if (block == nullptr || length == UINT32_MAX)
         return nullptr;
     block[length] = '\0';
-    copy_block(block, data, length);
-    return reinterpret_cast<char *>(block);
+    return reinterpret_cast<char *>(copy_block(block, data, length));
 }
 
 // The order of the tests is part of the contract: second occurrence, allocator, length, allocation.

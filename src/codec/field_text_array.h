@@ -18,11 +18,12 @@ namespace mava_tum
         return run;
     run_position position{at, end, field_number};
     for (uint32_t i = 0; i < count; ++i) {
+        if (i != 0)
+            position.step_over_tag();
         const payload element = position.element();
         array[i] = copy_payload_as_text(element.data, element.length, context.blocks);
         if (array[i] == nullptr)
             return field_read::failed(MAVA_TUM_NO_MEMORY);
-        position.next();
     }
     return field_read::ends_at(position.at);
 }

@@ -45,9 +45,9 @@ struct varint_format {
         return varint_bytes(value);
     }
 
-    static void write(exact_writer &writer, Value value)
+    static void write(exact_writer &writer, field_tag tag, Value value)
     {
-        writer.varint(value);
+        writer.varint_field(tag, value);
     }
 };
 

@@ -95,14 +95,15 @@ template <class Message, class Description, class Source>
 {
     size_of_numbers<Message> measured;
     Description::describe(measured, source);
-    if (measured.size > target.length && target.length != 0)
-        return encode_exactly<Message, Description>(source, target);
+    const uint64_t size = measured.size;
     if (target.length != 0) {
+        if (size > target.length) [[unlikely]]
+            return encode_exactly<Message, Description>(source, target);
         stored_numbers<Message> stored{target.buffer};
         Description::describe(stored, source);
     }
-    report_one_segment(target, measured.size);
-    return measured.size;
+    report_one_segment(target, size);
+    return size;
 }
 
 template <class Message, class Description, class Source>

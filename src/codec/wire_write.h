@@ -27,13 +27,20 @@ constexpr uint64_t varint_bytes(uint64_t value)
     return (bits * 9 + 64) / 64; // a division by 7, rounded up, that holds for up to 64 bits
 }
 
-// Byte by byte, and nothing beyond what it writes: also straight into the caller's buffer.
+// The bytes of a varint, one after the other.
+template <class Value, class Emit>
+[[gnu::always_inline]] inline void emit_varint(Value value, const Emit &emit)
+{
+    for (; value >= varint_continues; value >>= 7)
+        emit(static_cast<uint8_t>(value | varint_continues));
+    emit(static_cast<uint8_t>(value));
+}
+
+// Nothing beyond what it writes: also straight into the caller's buffer.
 template <class Value>
 [[gnu::always_inline]] inline uint8_t *store_varint(uint8_t *at, Value value)
 {
-    for (; value >= varint_continues; value >>= 7)
-        *at++ = static_cast<uint8_t>(value | varint_continues);
-    *at++ = static_cast<uint8_t>(value);
+    emit_varint(value, [&](uint8_t byte) { *at++ = byte; });
     return at;
 }
 
