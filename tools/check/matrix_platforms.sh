@@ -39,15 +39,14 @@ platform_memory() {
     configure=("${clang[@]}")
     sanitizers=memory
     flags="-D_GLIBCXX_EXTERN_TEMPLATE=0 -fsanitize-memory-track-origins=1"
-    targets=(check_exhaustive replay_by_stdio_messages replay_by_stdio_adapters)
+    targets=(check_exhaustive replay_messages replay_adapters)
     left_out=("interop: it needs the protobuf runtime, which is not instrumented")
 }
 
 run_memory() {
     local question length
     for question in messages adapters; do
-        run_plain "replay_$question" xargs "$build/tests/memory/replay_by_stdio_$question" \
-            < <(find "fuzz/corpus/$question" -type f | sort)
+        run_plain "replay_$question" "$build/fuzz/replay_$question" "fuzz/corpus/$question.packed"
     done
     run_plain capacities "$build/tests/model/check_exhaustive" capacities
     for length in 0 1 2; do

@@ -42,7 +42,7 @@ class Program:
         path, _, selected = name.partition(" ")
         self.name = os.path.basename(name)
         if self.name.startswith("replay_"):
-            arguments = [os.path.join(corpus, self.name[len("replay_"):])]
+            arguments = [os.path.join(corpus, self.name[len("replay_"):] + ".packed")]
         else:
             arguments = ["--gtest_fail_fast", "--gtest_brief=1", f"--gtest_filter={selected or '*'}"]
         self.command = [os.path.join(build, path), *arguments]
