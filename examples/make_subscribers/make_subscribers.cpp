@@ -1,4 +1,4 @@
-// Makes examples/subscribers.csv, always the same one: make_subscribers > subscribers.csv
+// Makes the subscribers of the examples, always the same ones: make_subscribers > subscribers.csv
 //
 // The subscribers are made up. Their addresses, names and hardware addresses come from the ranges that are set aside
 // for documentation. Seven of eight are ordinary households; every eighth uses all that a session has room for.
