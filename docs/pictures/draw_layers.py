@@ -42,7 +42,7 @@ def edges(project):
 
 def exported(project):
     """How many functions are exported: adapters, codec, queue."""
-    with open(os.path.join(project, "tests/abi/exports.txt"), encoding="utf-8") as file:
+    with open(os.path.join(project, "src/exports.txt"), encoding="utf-8") as file:
         names = file.read().split()
     prefixes = ("tum_nal_data_gpb_", "mava_tum_", "nal_queue_")
     counts = [sum(name.startswith(prefix) for name in names) for prefix in prefixes]

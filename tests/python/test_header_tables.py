@@ -94,7 +94,7 @@ def test_an_adapter_with_one_direction_is_refused() -> None:
 
 
 def test_the_headers_declare_every_exported_function(source_folder: Path) -> None:
-    exported = (source_folder / "tests/abi/exports.txt").read_text(encoding="utf-8").split()
+    exported = (source_folder / "src/exports.txt").read_text(encoding="utf-8").split()
     declared = read_headers(source_folder / "include").functions
     assert sorted(declared) == sorted(exported)
     assert all(callable(getattr(library, name)) for name in exported)
