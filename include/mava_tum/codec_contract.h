@@ -81,9 +81,9 @@
 
 #include <stdint.h>
 
-#if defined(__GNUC__)
+#if !defined(MAVA_TUM_API) && defined(__GNUC__) /* the static library is compiled with an empty one */
 #define MAVA_TUM_API __attribute__((visibility("default")))
-#else
+#elif !defined(MAVA_TUM_API)
 #define MAVA_TUM_API
 #endif
 
