@@ -8,11 +8,12 @@ endif()
 set(MAVA_TUM_MANUAL_PAGES "${PROJECT_BINARY_DIR}/man")
 file(GLOB_RECURSE page_sources CONFIGURE_DEPENDS
     "${PROJECT_SOURCE_DIR}/include/*.h" "${PROJECT_SOURCE_DIR}/tools/reference/*.py")
-list(APPEND page_sources "${PROJECT_SOURCE_DIR}/debian/changelog" "${PROJECT_SOURCE_DIR}/examples/first_session.c")
+list(APPEND page_sources "${PROJECT_SOURCE_DIR}/examples/first_session.c")
+set(page_release ${PROJECT_VERSION} ${MAVA_TUM_RELEASE_DATE})
 # Without its cache of compiled modules, which would lie in the source folder.
 add_custom_command(OUTPUT "${MAVA_TUM_MANUAL_PAGES}/man7/mava_tum.7"
     COMMAND Python3::Interpreter -B "${PROJECT_SOURCE_DIR}/tools/reference/make_manual_pages.py"
-        "${PROJECT_SOURCE_DIR}" "${MAVA_TUM_MANUAL_PAGES}"
+        "${PROJECT_SOURCE_DIR}" "${MAVA_TUM_MANUAL_PAGES}" mava_tum ${page_release}
     DEPENDS ${page_sources}
     COMMENT "Making the manual pages"
     VERBATIM)

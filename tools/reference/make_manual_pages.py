@@ -1,19 +1,18 @@
 #!/usr/bin/env python3
 """Writes the manual pages of a library from its headers.
 
-    make_manual_pages.py ROOT OUTPUT [LIBRARY]
+    make_manual_pages.py ROOT OUTPUT LIBRARY VERSION DATE
 
-ROOT is the project's folder, LIBRARY mava_tum, which is meant when there is none, or mava_tum_inspect. OUTPUT/man3 gets
-a page for each exported function, OUTPUT/man7 the overview; the pages of the other library stay. Functions that belong
-together share a page, under the name of the first: the four of a message, the two adapters of an application record,
-the three of the queue, what the header of the inspector has between two dividers. The pages of the others are links to
-it.
+ROOT is the project's folder, LIBRARY mava_tum or mava_tum_inspect. VERSION and DATE are those of the project, as
+CMakeLists.txt has them: pages are the same whenever they are made. OUTPUT/man3 gets a page for each exported function,
+OUTPUT/man7 the overview; the pages of the other library stay. Functions that belong together share a page, under the
+name of the first: the four of a message, the two adapters of an application record, the three of the queue, what the
+header of the inspector has between two dividers. The pages of the others are links to it.
 """
 import pathlib
 import re
 import sys
 from dataclasses import dataclass
-from email.utils import parsedate_to_datetime
 
 from function_page import function_page
 from overview_page import codec_overview, inspect_overview
@@ -26,14 +25,6 @@ class Library:
     groups: list  # (header, functions) of each page
     codes: dict  # what its functions return; see result_codes
     overview: str
-
-
-def release_of(root):
-    """("1.0.0", "2026-11-21"), as the changelog of the package has them: pages are the same whenever they are made."""
-    text = (root / "debian" / "changelog").read_text(encoding="utf-8")
-    version = re.match(r"\S+ \(([^)-]+)", text).group(1)
-    date = parsedate_to_datetime(re.search(r"^ -- .*>  (.*)$", text, re.M).group(1))
-    return version, date.date().isoformat()
 
 
 def related(header):
@@ -84,9 +75,9 @@ def write_group(folder, header, functions, library, release):
         (folder / f"{function.name}.3").symlink_to(f"{main}.3")
 
 
-def main(root, output, name="mava_tum"):
+def main(root, output, name, version, date):
     root, output = pathlib.Path(root), pathlib.Path(output)
-    release = release_of(root)
+    release = version, date
     library = LIBRARIES[name](root, release)
     for section in ("man3", "man7"):
         (output / section).mkdir(parents=True, exist_ok=True)
