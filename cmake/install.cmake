@@ -3,9 +3,11 @@
 include(CMakePackageConfigHelpers)
 
 # For the loader, and for whoever gets the library without its sources.
-install(TARGETS mava_tum_shared
-    EXPORT mava_tum-targets
-    LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}" COMPONENT runtime NAMELINK_COMPONENT development)
+if(BUILD_SHARED_LIBS)
+    install(TARGETS mava_tum_shared
+        EXPORT mava_tum-targets
+        LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}" COMPONENT runtime NAMELINK_COMPONENT development)
+endif()
 install(FILES "${PROJECT_SOURCE_DIR}/LICENSE" DESTINATION "${CMAKE_INSTALL_DOCDIR}" COMPONENT runtime)
 
 # For the compiler.
@@ -42,5 +44,3 @@ endforeach()
 configure_file(cmake/mava_tum.pc.in "${PROJECT_BINARY_DIR}/mava_tum.pc" @ONLY)
 install(FILES "${PROJECT_BINARY_DIR}/mava_tum.pc"
     DESTINATION "${CMAKE_INSTALL_LIBDIR}/pkgconfig" COMPONENT development)
-
-include(cmake/manual_pages.cmake)

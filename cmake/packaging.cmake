@@ -1,3 +1,23 @@
+# What concerns the installed tree as a whole. Last, since it asks which components there are.
+
+# `cmake --install . --component <name>` would do nothing, and say nothing, for a component that does not exist. CMake
+# runs this code for whatever name it is given.
+get_cmake_property(components COMPONENTS)
+list(REMOVE_ITEM components Unspecified)
+list(JOIN components ", " components_text)
+install(CODE "
+    set(components \"${components}\")
+    list(FIND components \"\${CMAKE_INSTALL_COMPONENT}\" place)
+    if(CMAKE_INSTALL_COMPONENT AND place EQUAL -1)
+        message(FATAL_ERROR \"no component '\${CMAKE_INSTALL_COMPONENT}'; this build has ${components_text}\")
+    endif()"
+    ALL_COMPONENTS)
+
+add_custom_target(uninstall
+    COMMAND "${CMAKE_COMMAND}" "-DBUILD=${PROJECT_BINARY_DIR}" -P "${CMAKE_CURRENT_LIST_DIR}/uninstall.cmake"
+    COMMENT "Removing the installed files"
+    VERBATIM)
+
 # `cpack` makes mava_tum-<version>-<system>-<processor>.tar.gz: the installed tree, all components, below one folder.
 set(CPACK_GENERATOR TGZ)
 set(CPACK_PACKAGE_NAME mava_tum)

@@ -1,0 +1,26 @@
+# Every option, with its default; docs/build-options.md has them in one table. As part of another project, this one
+# builds the libraries alone.
+if(PROJECT_IS_TOP_LEVEL)
+    option(BUILD_SHARED_LIBS "Build the shared library; otherwise mava_tum::mava_tum is the static one" ON)
+    option(BUILD_TESTING "Build the tests" ON)
+elseif(NOT DEFINED BUILD_SHARED_LIBS)
+    set(BUILD_SHARED_LIBS ON) # in this folder: the cache is the parent's
+endif()
+if(MAVA_TUM_LINK_STATIC)
+    message(DEPRECATION "MAVA_TUM_LINK_STATIC: use BUILD_SHARED_LIBS=OFF")
+    set(BUILD_SHARED_LIBS OFF)
+endif()
+
+option(MAVA_TUM_BUILD_EXAMPLES "Build the examples" ${PROJECT_IS_TOP_LEVEL})
+option(MAVA_TUM_BUILD_PYTHON "Make the Python module and the printers of gdb" ${PROJECT_IS_TOP_LEVEL})
+option(MAVA_TUM_BUILD_TOOLS "Build the tools around the library" ${PROJECT_IS_TOP_LEVEL})
+option(MAVA_TUM_BUILD_BENCH "Build the benchmarks" OFF)
+option(MAVA_TUM_INSTALL "Install the library; as part of another project, with that project" ${PROJECT_IS_TOP_LEVEL})
+option(MAVA_TUM_REQUIRE_ALL "Stop if something that a part needs is not installed, rather than leave the part out" OFF)
+option(MAVA_TUM_WARNINGS_AS_ERRORS "Stop at the first compiler warning" OFF)
+option(MAVA_TUM_COVERAGE "Build everything with coverage counters" OFF)
+option(MAVA_TUM_FUZZ "Instrument the library for fuzzing, and build the targets" OFF)
+set(MAVA_TUM_SANITIZE OFF CACHE STRING "Build everything with these sanitizers; ON means address,undefined,leak")
+set(MAVA_TUM_PYTHON_INSTALL_DIR "lib/python3/dist-packages" CACHE STRING "Where the Python module is installed")
+set(MAVA_TUM_PYTHON_TEST_SECONDS 300 CACHE STRING "After how long a test of the Python module is stopped")
+set(MAVA_TUM_TESTS_LEFT_OUT "" CACHE STRING "Folders below tests/ that this platform cannot build or run")
