@@ -2,15 +2,22 @@
 
 from __future__ import annotations
 
+import copyreg
 from typing import Any
 
 
 class Error(Exception):
-    """The base of all errors of this package."""
+    """The base of all errors of this package. They can be pickled and copied."""
+
+    def __reduce__(self) -> tuple[Any, ...]:
+        # Exception would call the class with `args`, which is the text alone: constructors that take more would fail.
+        return copyreg.__newobj__, (type(self), *self.args), self.__dict__
 
 
 class LibraryError(Error, ImportError):
     """The shared library cannot be loaded."""
+
+    __reduce__ = ImportError.__reduce__  # an ImportError keeps its text outside of `__dict__` too
 
 
 class UnknownNameError(Error, LookupError):
