@@ -7,17 +7,17 @@ from typing import Any
 from .calls import call_codec
 from .errors import DecodeError
 from .library import ffi, library
-from .memory import Blocks
+from .memory import DEFAULT_LIMIT, Blocks, LimitReached
 from .schema import MESSAGES, RESULTS, Field, Message, find_message
 from .values import CODEC_ORDER, from_bytes, to_dotted, to_text
 
 
 def decode(name: str, data: bytes | bytearray | memoryview, *, dotted: bool = False,
-           memory_limit: int | None = None) -> dict[str, Any]:
+           memory_limit: int | None = DEFAULT_LIMIT) -> dict[str, Any]:
     """Decodes one message. Fields that the bytes do not hold are not in the result.
 
-    `dotted` gives IPv4 addresses as texts. `memory_limit` bounds the bytes that the codec may ask for: set it for bytes
-    from anywhere, since a list of empty elements asks for many times its size. Raises DecodeError."""
+    `dotted` gives IPv4 addresses as texts. `memory_limit` bounds the bytes of memory that the codec and the result may
+    take together: 64 MiB unless given, None for no limit. Raises DecodeError."""
     message = find_message(name)
     record = ffi.new(f"{message.c_type} *")
     # A copy, unless it is bytes: nobody may change the input while it is read.
@@ -28,7 +28,9 @@ def decode(name: str, data: bytes | bytearray | memoryview, *, dotted: bool = Fa
                      **blocks.arguments()}
         result = call_codec(message, "decode_ext", arguments)
         try:
-            fields = read_record(message, record, dotted)
+            fields = read_record(message, record, dotted, blocks)
+        except LimitReached:
+            fields, result = {}, library.MAVA_TUM_NO_MEMORY
         finally:
             call_codec(message, "free_ext", arguments)
         if result != library.MAVA_TUM_OK:
@@ -39,43 +41,46 @@ def decode(name: str, data: bytes | bytearray | memoryview, *, dotted: bool = Fa
 def _decode_error(message: Message, result: int, partial: dict[str, Any], blocks: Blocks) -> DecodeError:
     name, text = RESULTS[result]
     if blocks.refused:
-        limit = "this machine has" if blocks.limit is None else f"memory_limit = {blocks.limit} bytes"
-        text = f"the message asks for more memory than {limit}"
+        text = "decoding takes more memory than " + (
+            "this machine has" if blocks.limit is None else f"memory_limit = {blocks.limit} bytes; pass a larger "
+            "limit, or None for no limit, if you trust the sender")
     return DecodeError(message.name, result, name, text, partial)
 
 
-def read_record(message: Message, record: Any, dotted: bool) -> dict[str, Any]:
+def read_record(message: Message, record: Any, dotted: bool, blocks: Blocks) -> dict[str, Any]:
     """The fields whose presence bits are set."""
     mask = record.presence_mask
-    return {field.name: READERS[field.kind](field, record, dotted)
-            for field in message.fields.values() if mask >> field.bit & 1}
+    fields = {field.name: READERS[field.kind](field, record, dotted, blocks)
+              for field in message.fields.values() if mask >> field.bit & 1}
+    blocks.count_record(fields)
+    return fields
 
 
-def read_number(field: Field, record: Any, dotted: bool) -> int | str:
+def read_number(field: Field, record: Any, dotted: bool, blocks: Blocks) -> int | str:
     number: int = getattr(record, field.name)
     return to_dotted(number, CODEC_ORDER) if dotted and field.address else number
 
 
-def read_bytes(field: Field, record: Any, dotted: bool) -> bytes:
+def read_bytes(field: Field, record: Any, dotted: bool, blocks: Blocks) -> bytes:
     value = getattr(record, field.name)
     return bytes(ffi.buffer(value.data, value.length))
 
 
-def read_text(field: Field, record: Any, dotted: bool) -> str:
+def read_text(field: Field, record: Any, dotted: bool, blocks: Blocks) -> str:
     return to_text(ffi.string(getattr(record, field.name)))
 
 
-def read_nested(field: Field, record: Any, dotted: bool) -> dict[str, Any]:
-    return read_record(MESSAGES[field.of], getattr(record, field.name), dotted)
+def read_nested(field: Field, record: Any, dotted: bool, blocks: Blocks) -> dict[str, Any]:
+    return read_record(MESSAGES[field.of], getattr(record, field.name), dotted, blocks)
 
 
-def read_record_array(field: Field, record: Any, dotted: bool) -> list[dict[str, Any]]:
+def read_record_array(field: Field, record: Any, dotted: bool, blocks: Blocks) -> list[dict[str, Any]]:
     elements, count = getattr(record, field.name), getattr(record, field.count)
     element = MESSAGES[field.of]
-    return [read_record(element, elements[index], dotted) for index in range(count)]
+    return [read_record(element, elements[index], dotted, blocks) for index in range(count)]
 
 
-def read_text_array(field: Field, record: Any, dotted: bool) -> list[str]:
+def read_text_array(field: Field, record: Any, dotted: bool, blocks: Blocks) -> list[str]:
     elements, count = getattr(record, field.name), getattr(record, field.count)
     return [to_text(ffi.string(elements[index])) for index in range(count)]
 

@@ -5,6 +5,7 @@ from __future__ import annotations
 import os
 import subprocess
 import sys
+import tracemalloc
 from collections.abc import Callable
 from typing import Any
 
@@ -126,12 +127,47 @@ def test_what_was_decoded_before_the_fault_is_in_the_error() -> None:
     assert caught.value.partial == {"field_1": 7, "qos": [{"field_3": "A"}]}
 
 
+EMPTY_SESSION = bytes.fromhex("22 00")  # in a rec_sess_replay_req, where it takes 656 bytes
+ABOVE_THE_LIMIT = ("DecodeError: {}: MAVA_TUM_NO_MEMORY (-4): decoding takes more memory than memory_limit = {} bytes; "
+                   "pass a larger limit, or None for no limit, if you trust the sender")
+
+
 def test_a_message_above_the_memory_limit_is_refused_and_says_so() -> None:
-    wire = bytes.fromhex("22 00") * 1000
+    wire = EMPTY_SESSION * 1000
     assert len(mava_tum.decode("rec_sess_replay_req", wire)["field_4"]) == 1000
-    assert refused(mava_tum.decode, "rec_sess_replay_req", wire, memory_limit=100_000) == (
-        "DecodeError: rec_sess_replay_req: MAVA_TUM_NO_MEMORY (-4): the message asks for more memory than "
-        "memory_limit = 100000 bytes")
+    assert refused(mava_tum.decode, "rec_sess_replay_req", wire, memory_limit=100_000) == ABOVE_THE_LIMIT.format(
+        "rec_sess_replay_req", 100000)
+
+
+def test_what_was_decoded_before_the_memory_limit_is_in_the_error() -> None:
+    with pytest.raises(DecodeError) as caught:
+        mava_tum.decode("rec_sess_replay_req", bytes.fromhex("08 07") + EMPTY_SESSION * 1000, memory_limit=100_000)
+    assert caught.value.partial == {"field_1": 7}
+
+
+def test_there_is_a_memory_limit_unless_the_caller_takes_it_away() -> None:
+    wire = EMPTY_SESSION * 110_000
+    assert refused(mava_tum.decode, "rec_sess_replay_req", wire) == ABOVE_THE_LIMIT.format(
+        "rec_sess_replay_req", 64 << 20)
+    assert len(mava_tum.decode("rec_sess_replay_req", wire, memory_limit=None)["field_4"]) == 110_000
+
+
+@pytest.mark.parametrize(("message", "field", "element"), [
+    ("sess_svc_start", "field_5", "2A 00"),  # many short texts, each in a block of its own
+    ("rec_sess_resp", "field_2", "12 02 08 01"),  # 12 bytes for the codec, a dict of one number in the result
+    ("sub_route", "ipv6_routes", "2A 00"),
+])
+def test_the_memory_limit_bounds_what_python_takes_too(message: str, field: str, element: str) -> None:
+    wire = bytes.fromhex(element) * 20_000
+    assert len(mava_tum.decode(message, wire, memory_limit=8_000_000)[field]) == 20_000
+    tracemalloc.start()
+    try:
+        assert refused(mava_tum.decode, message, wire, memory_limit=1_000_000) == ABOVE_THE_LIMIT.format(
+            message, 1_000_000)
+        _, peak = tracemalloc.get_traced_memory()
+    finally:
+        tracemalloc.stop()
+    assert peak < 1_300_000
 
 
 @pytest.mark.parametrize("data", ["text", 7, None, [1, 2]])
