@@ -7,6 +7,7 @@ import unittest
 PROGRAM = os.environ["MAVA_TUM"]
 SOURCES = os.environ["MAVA_TUM_SOURCES"]
 SECONDS = 60
+EXTRA_ENVIRONMENT = {}  # of all runs; a test may add to it
 
 # A subscriber_v4 of 7 bytes: field_1 is 1, the address 192.0.2.1.
 V4 = bytes.fromhex("080115c0000201")
@@ -27,7 +28,7 @@ class Done:
 
 
 def run(*arguments, data=b"", environment=None, folder=None):
-    settings = {"PATH": os.environ["PATH"], "LC_ALL": "C", **(environment or {})}
+    settings = {"PATH": os.environ["PATH"], "LC_ALL": "C", **EXTRA_ENVIRONMENT, **(environment or {})}
     return Done(subprocess.run([PROGRAM, *arguments], input=data, capture_output=True, timeout=SECONDS, check=False,
                                env=settings, cwd=folder))
 

@@ -1,14 +1,12 @@
 #include "output/output_file.h"
 
 #include "bad_use.h"
+#include "output/output_place.h"
 
 #include <cerrno>
-#include <climits>
-#include <cstdlib>
 #include <cstring>
 #include <fcntl.h>
 #include <fmt/format.h>
-#include <sys/stat.h>
 #include <unistd.h>
 
 namespace mava_tum_cli
@@ -19,63 +17,38 @@ namespace
 
 constexpr size_t flush_bytes = 64 * 1024;
 
-mode_t mode_of_new_files()
-{
-    const mode_t mask = umask(0);
-    umask(mask);
-    return 0666 & ~mask;
-}
-
-// A device or a pipe is written to, not replaced.
-bool is_special_file(const std::string &path)
-{
-    struct stat status {
-    };
-    return stat(path.c_str(), &status) == 0 && !S_ISREG(status.st_mode);
-}
-
-// The file that a symbolic link leads to is replaced, not the link.
-std::string resolved(const std::string &path)
-{
-    char *real = realpath(path.c_str(), nullptr);
-    std::string target = real != nullptr ? real : path;
-    std::free(real);
-    return target;
-}
-
 } // namespace
 
-output_file::output_file(std::string path) : m_path(std::move(path))
+output_file::output_file(std::string path) : m_path(std::move(path)), m_fd(open_place())
 {
-    if (m_path.empty() || m_path == "-") {
-        m_path = "standard output";
-        m_fd = STDOUT_FILENO;
-        return;
-    }
-    open_target();
     if (m_fd < 0)
         refuse("cannot write", errno);
 }
 
-void output_file::open_target()
+int output_file::open_place()
 {
-    if (is_special_file(m_path)) {
-        m_fd = open(m_path.c_str(), O_WRONLY | O_CLOEXEC);
-        return;
+    if (m_path.empty() || m_path == "-") {
+        m_path = "standard output";
+        return fcntl(STDOUT_FILENO, F_DUPFD_CLOEXEC, 0);
     }
-    m_path = resolved(m_path);
-    m_temporary = m_path + ".XXXXXX";
-    m_fd = mkostemp(m_temporary.data(), O_CLOEXEC);
-    if (m_fd < 0)
-        m_temporary.clear();
+    const output_place place = place_of(m_path);
+    switch (place.kind) {
+    case place_kind::descriptor:
+        return fcntl(place.number, F_DUPFD_CLOEXEC, 0);
+    case place_kind::special:
+        return open(place.path.c_str(), O_WRONLY | O_NOCTTY | O_CLOEXEC);
+    case place_kind::file:
+        return m_pending.emplace(place.path).fd();
+    case place_kind::refused:
+        errno = place.number;
+    }
+    return -1;
 }
 
 output_file::~output_file()
 {
-    if (m_fd > STDERR_FILENO)
+    if (!m_pending)
         close(m_fd);
-    if (!m_temporary.empty())
-        unlink(m_temporary.c_str());
 }
 
 void output_file::refuse(const char *what, int error) const
@@ -111,11 +84,8 @@ void output_file::write(std::span<const uint8_t> bytes)
 void output_file::commit()
 {
     flush();
-    if (m_temporary.empty())
-        return;
-    if (fchmod(m_fd, mode_of_new_files()) != 0 || rename(m_temporary.c_str(), m_path.c_str()) != 0)
-        refuse("cannot give the file its name", errno);
-    m_temporary.clear();
+    if (m_pending && !m_pending->publish())
+        refuse("cannot write", errno);
 }
 
 bool output_file::is_terminal() const

@@ -1,7 +1,11 @@
-// Where a command writes: standard output, or a file that appears under its name only when all of it is written.
+// Where a command writes: standard output, something that is open or special, or a file that appears under its name only
+// when all of it is written.
 #pragma once
 
+#include "output/pending_file.h"
+
 #include <cstdint>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -28,13 +32,13 @@ public:
     bool is_terminal() const;
 
 private:
-    void open_target();
+    int open_place();
     void flush();
     [[noreturn]] void refuse(const char *what, int error) const;
 
     std::string m_path;
-    std::string m_temporary; // empty: written in place
-    int m_fd = -1;
+    std::optional<pending_file> m_pending; // nothing: written in place
+    int m_fd;                              // of the pending file, or one that is open for this alone
     std::string m_waiting;
 };
 
