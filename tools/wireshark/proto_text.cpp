@@ -82,7 +82,7 @@ std::string address_table()
 
 std::string port_table()
 {
-    std::string text = "# Which message travels to which UDP port. Made by make_proto; do not edit.\n";
+    std::string text = "# Which message travels to which UDP port. Change it as you need: install_profile keeps changes.\n";
     unsigned port = port_before_first;
     for (const message_description &message : mava_tum_inspect::all_messages())
         text += "\"" + std::to_string(++port) + "\",\"mava_tum." + message.name + "\"\n";
