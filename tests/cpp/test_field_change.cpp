@@ -117,6 +117,16 @@ TEST(cpp_record_editor, marks_the_record_and_those_around_it_as_present)
     EXPECT_EQ(session.session_data().ppp().field_1(), 3U);
 }
 
+TEST(cpp_record_editor, starts_with_an_empty_record_where_it_was_absent)
+{
+    tum::session_context session;
+    session.mutable_c_record().session_data.presence_mask = 1U << 1; // as a failed decode leaves it
+    session.edit_session_data().set_field_1(1);
+    EXPECT_FALSE(session.session_data().field_2());
+    session.edit_session_data().set_field_2(2);
+    EXPECT_EQ(session.session_data().field_1(), 1U);
+}
+
 TEST(cpp_record_editor, clears_a_record_with_all_that_is_in_it)
 {
     tum::session_context session;

@@ -54,6 +54,35 @@ TEST(cpp_record_view, can_be_asked_through_an_absent_record)
     EXPECT_EQ(session.session_data().ppp().field_1().value_or(9), 9U);
 }
 
+// Field 10, in it field 3 with a number, and then a tag without a value: the C decoder leaves what came before the fault
+// in a record that it does not mark present.
+constexpr const char *fault_inside_session_data = "52 05 1A 02 08 03 08";
+
+TEST(cpp_record_view, shows_no_field_of_a_record_that_a_failed_decode_has_not_marked_present)
+{
+    tum::session_context session;
+    ASSERT_EQ(session.decode(bytes_of(fault_inside_session_data)), tum::result::truncated);
+    ASSERT_NE(session.c_record().session_data.presence_mask, 0);
+    EXPECT_FALSE(session.session_data());
+    EXPECT_FALSE(session.session_data().ppp());
+    EXPECT_FALSE(session.session_data().ppp().field_1());
+    EXPECT_EQ(session.session_data().encoded_size(), 0U);
+}
+
+TEST(cpp_record_view, shows_no_field_of_an_absent_record_that_was_filled_in_c)
+{
+    mava_tum_session_context in_c = {};
+    in_c.session_data.presence_mask = 1U << 9 | 1U << 1;
+    in_c.session_data.field_2 = 7;
+    in_c.session_data.vlan.presence_mask = 1;
+    const tum::session_data_view shown = tum::session_context_view(in_c).session_data();
+    EXPECT_FALSE(shown.field_2());
+    EXPECT_FALSE(shown.vlan());
+    EXPECT_FALSE(shown.vlan().field_1());
+    EXPECT_FALSE(tum::session_data_view(in_c.session_data, false).field_2());
+    EXPECT_TRUE(tum::session_data_view(in_c.session_data).field_2());
+}
+
 TEST(cpp_record_view, of_a_record_that_is_present_and_empty_is_true)
 {
     tum::session_context session;

@@ -3,6 +3,7 @@
 #define MAVA_TUM_CPP_FIELD_CHANGE_HPP
 
 #include "mava_tum/cpp/block_list.hpp"
+#include "mava_tum/cpp/field_access.hpp"
 #include "mava_tum/cpp/list_view.hpp"
 #include "mava_tum/cpp/result.hpp"
 #include "mava_tum/cpp/span.hpp"
@@ -71,6 +72,8 @@ result set_bytes(Record &record, mava_tum_bytes &member, block_list *blocks, std
 template <unsigned number, class Editor, class Record, class Nested>
 Editor edit_record(Record &record, Nested &member, block_list *blocks) noexcept
 {
+    if (!access::is_present<number>(record))
+        member = Nested{}; // see absent_record
     mark<number>(record, true);
     return Editor(member, blocks);
 }

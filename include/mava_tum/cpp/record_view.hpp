@@ -7,6 +7,11 @@
 namespace mava_tum::cpp
 {
 
+// What the view of an absent record shows. The field's own place need not be empty: a decode that fails inside of a
+// nested record leaves there what came before the fault, and does not mark the record present.
+template <class Record>
+inline constexpr Record absent_record{};
+
 // Like an optional: true when the field it came from is present. All fields of an absent record are absent, so a chain
 // of them need not be tested link by link. Valid as long as the record it refers to stays where it is and as it is.
 template <class Derived, class Record>
@@ -14,7 +19,10 @@ class record_view : public encoding<Derived>
 {
 public:
     // Any record of the codec can be read through a view.
-    explicit record_view(const Record &record, bool present = true) noexcept : record_(&record), present_(present) {}
+    explicit record_view(const Record &record, bool present = true) noexcept
+        : record_(present ? &record : &absent_record<Record>), present_(present)
+    {
+    }
 
     bool has_value() const noexcept
     {
@@ -36,7 +44,7 @@ public:
         return static_cast<const Derived *>(this);
     }
 
-    // For the C functions.
+    // For the C functions. Of an absent record: one without content.
     const Record &c_record() const noexcept
     {
         return *record_;
