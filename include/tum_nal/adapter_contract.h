@@ -26,10 +26,7 @@
  *   NUL; values wider than their member keep their low bits; of a list longer than its array (a count in 8 bits is
  *   first taken modulo 256) the first elements arrive and the count says how many; of a bytes value longer than its
  *   array the first bytes arrive, a shorter one is followed by zeros. `data` may be null when `length` is 0; it must
- *   not overlap `record`.
- *   Memory for texts and arrays is obtained from calloc and given back through free before the call returns; when it
- *   runs out, the message counts as malformed at that field. The amount is bounded by the message, not by the record:
- *   bound `length`.
+ *   not overlap `record`. Nothing is allocated, whatever the input: all that a call needs is its stack.
  *
  * Stack
  *   An encode adapter needs at most 12 KiB, a decode adapter at most 4 KiB.
