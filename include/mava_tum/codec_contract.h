@@ -60,14 +60,15 @@
  *   it, a text or bytes field that does not fit whole is left out whole, and the full size is still returned. Nothing
  *   is written beyond the returned size. Lengths on the wire have 32 bits: of a text, bytes field or record of 2^32
  *   bytes or more the low 32 bits are written, and nobody can read the message.
- *   `segments` and `segment_count`, both optional, receive the output as pieces: on entry `*segment_count` is the
- *   capacity of `segments` in elements, on return the number of pieces, which may be larger: those above the capacity
+ *   `segments` and `segment_count`, both optional, receive the output as segments: on entry `*segment_count` is the
+ *   capacity of `segments` in elements, on return the number of segments, which may be larger: those above the capacity
  *   are only counted, as all are when `segments` is null; `segments` without a `segment_count` is ignored. Without the
- *   alias bit that is one piece, the whole output (none if it is empty). With it, each bytes field that is not empty is
- *   a piece of its own that points at the record's memory, and the result counts only the bytes in `buffer`. One after
- *   another, the pieces are the message where no record is nested. Where one is, they are not: the length in front of
- *   it counts only what it has in `buffer`, and the next piece of the record around it starts where that record's own
- *   last one ended, so it covers the nested bytes again. That is for callers who lay out the pieces themselves.
+ *   alias bit that is one segment, the whole output (none if it is empty). With it, each bytes field that is not empty
+ *   is a segment of its own that points at the record's memory, and the result counts only the bytes in `buffer`. One
+ *   after another, the segments are the message where no record is nested. Where one is, they are not: the length in
+ *   front of it counts only what it has in `buffer`, and the next segment of the record around it starts where that
+ *   record's own last one ended, so it covers the nested bytes again. That is for callers who lay out the segments
+ *   themselves.
  *
  * Ownership
  *   A record owns its texts and arrays always, its bytes fields unless it was decoded with the alias bit. After
@@ -126,8 +127,8 @@ typedef struct mava_tum_bytes {
     uint64_t length; /* bytes at `data` */
 } mava_tum_bytes;
 
-/* One piece of an encoder's output. `length` is in bytes. `data` is null for a piece that lies in the buffer when the
- * call had no buffer there. */
+/* One segment of an encoder's output. `length` is in bytes. `data` is null for a segment that lies in the buffer when
+ * the call had no buffer there. */
 typedef struct mava_tum_segment {
     const uint8_t *data; /* the first byte */
     uint64_t length;     /* bytes at `data` */

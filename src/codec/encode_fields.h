@@ -26,7 +26,7 @@
 #include "codec/copy_text.h"
 #include "codec/encode_scratch.h"
 #include "codec/exact_writer.h"
-#include "codec/frames.h"
+#include "codec/operations.h"
 
 #include <cstring>
 

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "codec/encode_scratch.h"
-#include "codec/frames.h"
+#include "codec/operations.h"
 #include "codec/wire_read.h"
 #include "mava_tum/codec_contract.h"
 

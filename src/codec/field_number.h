@@ -1,7 +1,7 @@
 // What the two kinds of number have in common. The last occurrence wins.
 #pragma once
 
-#include "codec/frames.h"
+#include "codec/operations.h"
 #include "codec/wire_read.h"
 
 namespace mava_tum::kind

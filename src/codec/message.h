@@ -1,4 +1,4 @@
-// All that a message's source needs: the kinds of field and the four frames.
+// All that a message's source needs: the kinds of field and the four operations.
 #pragma once
 
 #include "codec/field_bytes.h"

@@ -13,7 +13,7 @@
 #pragma once
 
 #include "codec/decode_unmatched.h"
-#include "codec/frames.h"
+#include "codec/operations.h"
 #include "codec/wire_read.h"
 
 #include <array>

@@ -1,7 +1,7 @@
-// The duplicate frame. It never stops early: what cannot be copied is left empty and absent.
+// The duplicate of a whole record. It never stops early: what cannot be copied is left empty and absent.
 #pragma once
 
-#include "codec/frames.h"
+#include "codec/operations.h"
 #include "mava_tum/codec_contract.h"
 
 namespace mava_tum

@@ -1,7 +1,7 @@
-// The free frame. Lengths of bytes fields, scalars and presence bits stay as they are.
+// The free of a whole record. Lengths of bytes fields, scalars and presence bits stay as they are.
 #pragma once
 
-#include "codec/frames.h"
+#include "codec/operations.h"
 
 namespace mava_tum
 {

@@ -2,7 +2,7 @@
 #include "support/expect_ownership.h"
 #include "support/expect_schema.h"
 #include "support/full_session_context.h"
-#include "support/gathered_pieces.h"
+#include "support/gathered_segments.h"
 #include "support/record_calls.h"
 
 #include <gtest/gtest.h>
@@ -252,7 +252,7 @@ const std::vector<std::string> pieces_of_the_replay = {
 TEST(rec_sess_replay_req, gathered_bytes_of_sessions_are_pieces_and_no_length_counts_them)
 {
     const replay_with_bytes source;
-    gathered_pieces got(source.record);
+    gathered_segments got(source.record);
     EXPECT_EQ(got.bytes_in_buffer(), "08 01 22 02 32 02 22 08 38 07 52 04 1A 02 2A 01 28 05");
     EXPECT_EQ(got.stored(), pieces_of_the_replay);
     EXPECT_EQ(got.list[1].data, source.own.data());
@@ -260,11 +260,11 @@ TEST(rec_sess_replay_req, gathered_bytes_of_sessions_are_pieces_and_no_length_co
     EXPECT_EQ(call_encode(source.record, nullptr, 0), 21u) << "in copy mode the contents count";
 }
 
-TEST(rec_sess_replay_req, gathered_pieces_are_counted_past_the_capacity)
+TEST(rec_sess_replay_req, gathered_segments_are_counted_past_the_capacity)
 {
     const replay_with_bytes source;
     for (uint32_t capacity = 0; capacity < pieces_of_the_replay.size(); ++capacity) {
-        gathered_pieces got(source.record, capacity);
+        gathered_segments got(source.record, capacity);
         EXPECT_EQ(got.count, pieces_of_the_replay.size()) << capacity;
         EXPECT_EQ(got.stored(), std::vector<std::string>(pieces_of_the_replay.begin(),
                                     pieces_of_the_replay.begin() + static_cast<std::ptrdiff_t>(capacity)));

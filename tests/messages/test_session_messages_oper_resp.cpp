@@ -1,7 +1,7 @@
 // sess_oper_resp: five scalars, three texts, the statistics of the session and a bytes field.
 #include "support/expect_ownership.h"
 #include "support/expect_schema.h"
-#include "support/gathered_pieces.h"
+#include "support/gathered_segments.h"
 #include "support/record_calls.h"
 
 #include <gtest/gtest.h>
@@ -235,12 +235,12 @@ TEST(sess_oper_resp, free_releases_texts_statistics_and_then_field_10_unless_it_
 TEST(sess_oper_resp, gathered_statistics_are_one_piece_and_field_10_another)
 {
     answer_decode got("08 01 32 02 61 62 4A 07 42 05 0A 03 67 68 69 52 03 AA BB CC");
-    gathered_pieces pieces(got.record);
+    gathered_segments pieces(got.record);
     EXPECT_EQ(pieces.bytes_in_buffer(), "08 01 32 02 61 62 4A 07 42 05 0A 03 67 68 69 52 03");
     EXPECT_EQ(pieces.stored(), (std::vector<std::string>{"8+7", "0+17", "AA BB CC"}));
     EXPECT_EQ(pieces.list[2].data, got.record.field_10.data);
     for (uint32_t capacity : {0u, 1u, 2u})
-        EXPECT_EQ(gathered_pieces(got.record, capacity).count, 3u) << "counted past the capacity";
+        EXPECT_EQ(gathered_segments(got.record, capacity).count, 3u) << "counted past the capacity";
 }
 
 TEST(sess_oper_resp, copy_mode_is_one_piece_whatever_is_nested)

@@ -148,14 +148,14 @@ TEST_P(every_capacity, is_not_needed_to_learn_the_size)
     }
 }
 
-struct gathered_pieces {
+struct gathered_segments {
     std::array<mava_tum_segment, segment_capacity> stored;
     uint32_t count;
 };
 
-gathered_pieces gather(const message &tested, const void *record, guarded_buffer &buffer, uint32_t capacity)
+gathered_segments gather(const message &tested, const void *record, guarded_buffer &buffer, uint32_t capacity)
 {
-    gathered_pieces pieces;
+    gathered_segments pieces;
     pieces.stored.fill({nullptr, 0xABABABAB});
     pieces.count = capacity;
     tested.encode(record, buffer.data(), buffer.size(), pieces.stored.data(), &pieces.count, MAVA_TUM_ALIAS);
@@ -169,11 +169,11 @@ TEST_P(every_capacity, of_segments_is_kept_to_and_all_pieces_are_counted)
         record_storage record(tested, seed.value);
         const expected_wire wire = wire_of(seed.value, mode_of(tested, MAVA_TUM_ALIAS));
         guarded_buffer buffer(wire.bytes.size());
-        const gathered_pieces all = gather(tested, record.get(), buffer, segment_capacity);
+        const gathered_segments all = gather(tested, record.get(), buffer, segment_capacity);
         ASSERT_LE(all.count, segment_capacity) << seed.name;
         for (uint32_t capacity = 0; capacity <= all.count + 1; ++capacity) {
             SCOPED_TRACE(seed.name + " record, room for " + std::to_string(capacity) + " pieces");
-            const gathered_pieces some = gather(tested, record.get(), buffer, capacity);
+            const gathered_segments some = gather(tested, record.get(), buffer, capacity);
             EXPECT_EQ(some.count, wire.piece_count);
             for (uint32_t i = 0; i < segment_capacity; ++i) {
                 const bool stored = i < capacity && i < all.count;
@@ -198,7 +198,7 @@ TEST_P(every_capacity, gathers_each_bytes_field_from_the_record_itself_in_wire_o
         SCOPED_TRACE(seed.name);
         record_storage record(tested, seed.value);
         guarded_buffer buffer(wire_of(seed.value).bytes.size());
-        const gathered_pieces pieces = gather(tested, record.get(), buffer, segment_capacity);
+        const gathered_segments pieces = gather(tested, record.get(), buffer, segment_capacity);
         std::vector<mava_tum_bytes> outside;
         for (uint32_t i = 0; i < pieces.count; ++i) {
             if (!lies_in(pieces.stored[i], buffer))

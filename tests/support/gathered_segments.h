@@ -12,14 +12,14 @@
 namespace mava_tum_test
 {
 
-struct gathered_pieces {
+struct gathered_segments {
     guarded_buffer buffer;
     std::vector<mava_tum_segment> list;
     uint32_t count;
     uint64_t size;
 
     template <class record_type>
-    explicit gathered_pieces(const record_type &record, uint32_t capacity = 64)
+    explicit gathered_segments(const record_type &record, uint32_t capacity = 64)
         : buffer(call_encode(record, nullptr, 0, nullptr, nullptr, MAVA_TUM_ALIAS)), list(capacity), count(capacity)
     {
         size = call_encode(record, buffer.data(), buffer.size(), list.data(), &count, MAVA_TUM_ALIAS);
