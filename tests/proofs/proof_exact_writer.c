@@ -1,20 +1,5 @@
-// src/codec/counting_writer.h and .cpp, line by line. What differs, and why: README.md.
-#include "proof_counting_writer.h"
-
-uint64_t proof_varint_bytes(uint64_t value)
-{
-    uint64_t bytes = 1;
-    /*@
-      loop invariant range: 1 <= bytes <= 10;
-      loop invariant value: value == shifted(\at(value, Pre), bytes - 1);
-      loop invariant needed: bytes <= varint_size(\at(value, Pre));
-      loop assigns value, bytes;
-      loop variant value;
-    */
-    for (; value >= 0x80; value /= 0x80)
-        ++bytes;
-    return bytes;
-}
+// src/codec/exact_writer.h and .cpp, line by line. What differs, and why: README.md.
+#include "proof_exact_writer.h"
 
 uint64_t proof_advance(uint64_t position, uint64_t payload_bytes)
 {
@@ -23,39 +8,47 @@ uint64_t proof_advance(uint64_t position, uint64_t payload_bytes)
     return payload_bytes > left ? position : position + payload_bytes;
 }
 
-void proof_writer_byte(struct counting_writer *writer, uint8_t value)
+void proof_writer_byte(struct exact_writer *writer, uint8_t value)
 {
     if (writer->position < writer->length)
         writer->buffer[writer->position] = value;
     ++writer->position;
 }
 
-void proof_writer_varint(struct counting_writer *writer, uint64_t value)
+void proof_writer_tag(struct exact_writer *writer, struct field_tag tag)
 {
-    //@ ghost uint64_t written = 0;
-    /*@
-      loop invariant writer: is_writer(writer);
-      loop invariant range: 0 <= written <= 9;
-      loop invariant value: value == shifted(\at(value, Pre), written);
-      loop invariant needed: written < varint_size(\at(value, Pre));
-      loop invariant position: \at(writer->position, Pre) + 10 <= 0xFFFFFFFFFFFFFFFF ==>
-        writer->position == \at(writer->position, Pre) + written;
-      loop invariant stored: \at(writer->position, Pre) + 10 <= 0xFFFFFFFFFFFFFFFF ==>
-        \forall integer i; 0 <= i < written && \at(writer->position, Pre) + i < writer->length ==>
-          writer->buffer[\at(writer->position, Pre) + i] == varint_byte(\at(value, Pre), i);
-      loop invariant kept: \at(writer->position, Pre) + 10 <= 0xFFFFFFFFFFFFFFFF ==>
-        kept_but{Pre, Here}(writer, \at(writer->position, Pre), writer->position);
-      loop assigns value, written, writer->position, writer->buffer[0 .. writer->length - 1];
-      loop variant value;
-    */
-    for (; value >= 0x80; value /= 0x80) {
-        proof_writer_byte(writer, (uint8_t)(value % 0x80 + 0x80));
-        //@ ghost ++written;
-    }
-    proof_writer_byte(writer, (uint8_t)value);
+    proof_writer_byte(writer, (uint8_t)(tag.bytes % 0x100));
+    if (tag.length == 2)
+        proof_writer_byte(writer, (uint8_t)(tag.bytes / 0x100));
 }
 
-void proof_writer_fixed32(struct counting_writer *writer, uint32_t value)
+void proof_writer_varint(struct exact_writer *writer, uint64_t value)
+{
+    if (writer->position >= writer->length) {
+        writer->position += proof_varint_bytes(value);
+        return;
+    }
+    uint8_t stored[10];
+    const uint8_t *const end = proof_store_varint(stored, value);
+    const uint64_t bytes = (uint64_t)(end - stored);
+    /*@
+      loop invariant writer: is_writer(writer);
+      loop invariant range: 0 <= i <= bytes;
+      loop invariant position: \at(writer->position, Pre) + 10 <= 0xFFFFFFFFFFFFFFFF ==>
+        writer->position == \at(writer->position, Pre) + i;
+      loop invariant stored: \at(writer->position, Pre) + 10 <= 0xFFFFFFFFFFFFFFFF ==>
+        \forall integer k; 0 <= k < i && \at(writer->position, Pre) + k < writer->length ==>
+          writer->buffer[\at(writer->position, Pre) + k] == stored[k];
+      loop invariant kept: \at(writer->position, Pre) + 10 <= 0xFFFFFFFFFFFFFFFF ==>
+        kept_but{Pre, Here}(writer, \at(writer->position, Pre), writer->position);
+      loop assigns i, writer->position, writer->buffer[0 .. writer->length - 1];
+      loop variant bytes - i;
+    */
+    for (uint64_t i = 0; i < bytes; ++i)
+        proof_writer_byte(writer, stored[i]);
+}
+
+void proof_writer_fixed32(struct exact_writer *writer, uint32_t value)
 {
     proof_writer_byte(writer, (uint8_t)(value % 0x100));
     proof_writer_byte(writer, (uint8_t)(value / 0x100 % 0x100));
@@ -85,7 +78,7 @@ static void copy_bytes(uint8_t *to, const uint8_t *from, uint64_t bytes)
         to[i] = from[i];
 }
 
-void proof_writer_copy(struct counting_writer *writer, const uint8_t *data, uint64_t payload_length)
+void proof_writer_copy(struct exact_writer *writer, const uint8_t *data, uint64_t payload_length)
 {
     const uint64_t end = proof_advance(writer->position, payload_length);
     if (data != NULL && end != writer->position && end <= writer->length)
@@ -93,16 +86,17 @@ void proof_writer_copy(struct counting_writer *writer, const uint8_t *data, uint
     writer->position = end;
 }
 
-void proof_writer_block(struct counting_writer *writer, uint32_t tag, const uint8_t *data, uint64_t payload_length)
+void proof_writer_block(
+    struct exact_writer *writer, struct field_tag tag, const uint8_t *data, uint64_t payload_length)
 {
-    proof_writer_varint(writer, tag);
+    proof_writer_tag(writer, tag);
     proof_writer_varint(writer, (uint32_t)payload_length);
     proof_writer_copy(writer, data, payload_length);
 }
 
-struct counting_writer proof_writer_nested(const struct counting_writer *writer)
+struct exact_writer proof_writer_nested(const struct exact_writer *writer)
 {
     if (writer->position >= writer->length)
-        return (struct counting_writer){NULL, 0, 0};
-    return (struct counting_writer){writer->buffer + writer->position, writer->length - writer->position, 0};
+        return (struct exact_writer){NULL, 0, 0};
+    return (struct exact_writer){writer->buffer + writer->position, writer->length - writer->position, 0};
 }

@@ -4,7 +4,7 @@
 
 #include "proof_span.h"
 
-struct varint64_end {
+struct number_read64 {
     const uint8_t *next;
     uint64_t value;
 };
@@ -19,17 +19,17 @@ struct varint64_end {
 */
 
 /*@
-  requires input: span(at - 1, end) && inside(at - 1, at, end);
-  requires first: at[-1] == first && first >= 0x80;
+  requires input: span(at, end);
+  requires started: at < end;
   terminates \true;
   exits \false;
   assigns \nothing;
-  ensures cut: \result.next == \null ==> varint_is_cut(at - 1, end) && \result.value == 0;
+  ensures cut: \result.next == \null ==> varint_is_cut(at, end) && \result.value == 0;
   ensures position: \result.next != \null ==> inside(at, \result.next, end);
-  ensures whole: \result.next != \null ==> is_varint(at - 1, \result.next - (at - 1));
-  ensures value: \result.next != \null ==> \result.value == varint64_value(at - 1, \result.next - (at - 1));
+  ensures whole: \result.next != \null ==> is_varint(at, \result.next - at);
+  ensures value: \result.next != \null ==> \result.value == varint64_value(at, \result.next - at);
 */
-struct varint64_end proof_read_long_varint64(const uint8_t *at, const uint8_t *end, uint8_t first);
+struct number_read64 proof_read_long_varint64(const uint8_t *at, const uint8_t *end);
 
 /*@
   requires input: span(at, end);
@@ -41,6 +41,6 @@ struct varint64_end proof_read_long_varint64(const uint8_t *at, const uint8_t *e
   ensures whole: \result.next != \null ==> is_varint(at, \result.next - at);
   ensures value: \result.next != \null ==> \result.value == varint64_value(at, \result.next - at);
 */
-struct varint64_end proof_read_varint64(const uint8_t *at, const uint8_t *end);
+struct number_read64 proof_read_varint64(const uint8_t *at, const uint8_t *end);
 
 #endif

@@ -8,11 +8,11 @@
   assigns \nothing;
   ensures step: \result.next == stepped(at, end, bytes) && \result.failure == 0;
 */
-static struct read_end step_over(const uint8_t *at, const uint8_t *end, uint32_t bytes)
+static struct field_read step_over(const uint8_t *at, const uint8_t *end, uint32_t bytes)
 {
     if (bytes > (uint64_t)(end - at))
-        return (struct read_end){end, 0};
-    return (struct read_end){at + bytes, 0};
+        return (struct field_read){end, 0};
+    return (struct field_read){at + bytes, 0};
 }
 
 /*@
@@ -20,14 +20,16 @@ static struct read_end step_over(const uint8_t *at, const uint8_t *end, uint32_t
   terminates \true;
   exits \false;
   assigns \nothing;
-  ensures failure: \result.failure == -1;
-  ensures cut: \result.next == \null ==> varint_is_cut(at, end);
-  ensures position: \result.next != \null ==> inside(at, \result.next, end) && is_varint(at, \result.next - at);
+  ensures cut: \result.next == \null ==> varint_is_cut(at, end) && \result.failure == -1;
+  ensures position: \result.next != \null ==> inside(at, \result.next, end) && is_varint(at, \result.next - at) &&
+    \result.failure == 0;
 */
-static struct read_end skip_varint(const uint8_t *at, const uint8_t *end)
+static struct field_read skip_varint(const uint8_t *at, const uint8_t *end)
 {
-    const struct varint32_end varint = proof_read_varint32(at, end);
-    return (struct read_end){varint.next, -1};
+    const struct number_read32 varint = proof_read_varint32(at, end);
+    if (varint.next == NULL)
+        return (struct field_read){NULL, -1};
+    return (struct field_read){varint.next, 0};
 }
 
 /*@
@@ -40,15 +42,15 @@ static struct read_end skip_varint(const uint8_t *at, const uint8_t *end)
   ensures step: \result.next != \null ==> \exists integer n; 1 <= n <= end - at && is_varint(at, n) &&
     \result.next == stepped(at + n, end, varint32_value(at, n));
 */
-static struct read_end skip_length_delimited(const uint8_t *at, const uint8_t *end)
+static struct field_read skip_length_delimited(const uint8_t *at, const uint8_t *end)
 {
-    const struct varint32_end length = proof_read_length_varint(at, end);
+    const struct number_read32 length = proof_read_length_varint(at, end);
     if (length.next == NULL)
-        return (struct read_end){NULL, -1};
+        return (struct field_read){NULL, -1};
     return step_over(length.next, end, length.value);
 }
 
-struct read_end proof_skip_unknown_field(uint32_t type, const uint8_t *at, const uint8_t *end)
+struct field_read proof_skip_unknown_field(uint32_t type, const uint8_t *at, const uint8_t *end)
 {
     switch (type) {
     case 0:
@@ -60,6 +62,6 @@ struct read_end proof_skip_unknown_field(uint32_t type, const uint8_t *at, const
     case 5:
         return step_over(at, end, 4);
     default:
-        return (struct read_end){NULL, -2};
+        return (struct field_read){NULL, -2};
     }
 }

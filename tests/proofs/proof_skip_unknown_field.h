@@ -4,7 +4,7 @@
 
 #include "proof_wire_read.h"
 
-struct read_end {
+struct field_read {
     const uint8_t *next;
     int32_t failure;
 };
@@ -26,11 +26,11 @@ struct read_end {
   ensures cut: (type == 0 || type == 2) && \result.next == \null ==> varint_is_cut(at, end) && \result.failure == -1;
   ensures position: \result.next != \null ==>
     \base_addr(\result.next) == \base_addr(at) && 0 <= \result.next - at <= end - at;
-  ensures varint: type == 0 && \result.next != \null ==> is_varint(at, \result.next - at);
+  ensures varint: type == 0 && \result.next != \null ==> is_varint(at, \result.next - at) && \result.failure == 0;
   ensures length_delimited: type == 2 && \result.next != \null ==> \result.failure == 0 &&
     \exists integer n; 1 <= n <= end - at && is_varint(at, n) &&
       \result.next == stepped(at + n, end, varint32_value(at, n));
 */
-struct read_end proof_skip_unknown_field(uint32_t type, const uint8_t *at, const uint8_t *end);
+struct field_read proof_skip_unknown_field(uint32_t type, const uint8_t *at, const uint8_t *end);
 
 #endif

@@ -4,13 +4,13 @@
 
 #include "proof_span.h"
 
-struct varint32_end {
+struct number_read32 {
     const uint8_t *next;
     uint32_t value;
 };
 
-struct length_end {
-    const uint8_t *value;
+struct payload {
+    const uint8_t *data;
     uint32_t length;
 };
 
@@ -24,7 +24,7 @@ struct length_end {
   ensures whole: \result.next != \null ==> is_varint(at, \result.next - at);
   ensures value: \result.next != \null ==> \result.value == varint32_value(at, \result.next - at);
 */
-struct varint32_end proof_read_varint32(const uint8_t *at, const uint8_t *end);
+struct number_read32 proof_read_varint32(const uint8_t *at, const uint8_t *end);
 
 /*@
   requires input: span(at, end);
@@ -37,7 +37,7 @@ struct varint32_end proof_read_varint32(const uint8_t *at, const uint8_t *end);
   ensures whole: \result.next != \null ==> is_varint(at, \result.next - at);
   ensures value: \result.next != \null ==> \result.value == varint32_value(at, \result.next - at);
 */
-struct varint32_end proof_read_started_varint32(const uint8_t *at, const uint8_t *end);
+struct number_read32 proof_read_started_varint32(const uint8_t *at, const uint8_t *end);
 
 /*@
   requires input: span(at, end);
@@ -49,22 +49,22 @@ struct varint32_end proof_read_started_varint32(const uint8_t *at, const uint8_t
   ensures whole: \result.next != \null ==> is_varint(at, \result.next - at);
   ensures value: \result.next != \null ==> \result.value == varint32_value(at, \result.next - at);
 */
-struct varint32_end proof_read_length_varint(const uint8_t *at, const uint8_t *end);
+struct number_read32 proof_read_length_varint(const uint8_t *at, const uint8_t *end);
 
 /*@
   requires input: span(at, end);
   terminates \true;
   exits \false;
   assigns \nothing;
-  ensures position: \result.value != \null ==> inside(at, \result.value, end);
-  ensures whole: \result.value != \null ==> is_varint(at, \result.value - at);
-  ensures length: \result.value != \null ==> \result.length == varint32_value(at, \result.value - at);
-  ensures fits: \result.value != \null ==> \result.length <= end - \result.value;
-  ensures readable: \result.value != \null ==> \valid_read(\result.value + (0 .. \result.length - 1));
-  ensures refused: \result.value == \null ==> \result.length == 0 &&
+  ensures position: \result.data != \null ==> inside(at, \result.data, end);
+  ensures whole: \result.data != \null ==> is_varint(at, \result.data - at);
+  ensures length: \result.data != \null ==> \result.length == varint32_value(at, \result.data - at);
+  ensures fits: \result.data != \null ==> \result.length <= end - \result.data;
+  ensures readable: \result.data != \null ==> \valid_read(\result.data + (0 .. \result.length - 1));
+  ensures refused: \result.data == \null ==> \result.length == 0 &&
     \forall integer n; 1 <= n <= end - at && is_varint(at, n) ==> n + varint32_value(at, n) > end - at;
 */
-struct length_end proof_read_length(const uint8_t *at, const uint8_t *end);
+struct payload proof_read_payload(const uint8_t *at, const uint8_t *end);
 
 /*@
   requires input: span(at, end);
@@ -86,6 +86,6 @@ int proof_is_short_payload(const uint8_t *at, const uint8_t *end);
   ensures value: \result.next != \null ==>
     \result.value == at[0] + 0x100 * at[1] + 0x10000 * at[2] + 0x1000000 * at[3];
 */
-struct varint32_end proof_read_fixed32(const uint8_t *at, const uint8_t *end);
+struct number_read32 proof_read_fixed32(const uint8_t *at, const uint8_t *end);
 
 #endif

@@ -1,11 +1,13 @@
 // Are the reads that are proved the reads of the library? Every input of up to 3 bytes, and longer ones at the edges:
 // the same position, value and result, with the input directly before an inaccessible page.
+#include "codec/array_run.h"
 #include "codec/read_varint64.h"
 #include "codec/skip_unknown_field.h"
 #include "codec/wire_read.h"
 #include "support/guarded_buffer.h"
 
 extern "C" {
+#include "proofs/proof_array_run.h"
 #include "proofs/proof_read_varint64.h"
 #include "proofs/proof_skip_unknown_field.h"
 #include "proofs/proof_wire_read.h"
@@ -70,9 +72,9 @@ bool same_varint(const library_read &expected, const proved_read &proved)
 
 bool same_lengths(const uint8_t *at, const uint8_t *end)
 {
-    const mava_tum::length_end expected = mava_tum::read_length(at, end);
-    const length_end proved = proof_read_length(at, end);
-    return expected.value == proved.value && expected.length == proved.length &&
+    const mava_tum::payload expected = mava_tum::read_payload(at, end);
+    const payload proved = proof_read_payload(at, end);
+    return expected.data == proved.data && expected.length == proved.length &&
            mava_tum::is_short_payload(at, end) == (proof_is_short_payload(at, end) != 0) &&
            same_varint(mava_tum::read_length_varint(at, end), proof_read_length_varint(at, end));
 }
@@ -80,13 +82,40 @@ bool same_lengths(const uint8_t *at, const uint8_t *end)
 bool same_skips(const uint8_t *at, const uint8_t *end)
 {
     for (uint32_t type = 0; type < 8; ++type) {
-        const mava_tum::read_end expected =
+        const mava_tum::field_read expected =
             mava_tum::skip_unknown_field(static_cast<mava_tum::wire_type>(type), at, end);
-        const read_end proved = proof_skip_unknown_field(type, at, end);
+        const field_read proved = proof_skip_unknown_field(type, at, end);
         if (expected.next != proved.next || expected.failure != proved.failure)
             return false;
     }
     return true;
+}
+
+bool same_payload(const mava_tum::payload &expected, const payload &proved)
+{
+    return expected.data == proved.data && expected.length == proved.length;
+}
+
+follower proved_name_of(mava_tum::run_position::follower answer)
+{
+    using library = mava_tum::run_position::follower;
+    return answer == library::element       ? follower_element
+           : answer == library::other_field ? follower_other_field
+                                            : follower_truncated;
+}
+
+// One step of each kind, and the count.
+bool same_runs(const uint8_t *at, const uint8_t *end, uint32_t field_number)
+{
+    mava_tum::run_position library{at, end, field_number};
+    run_position transcription{at, end, field_number};
+    if (proved_name_of(library.next()) != proof_run_next(&transcription) || library.at != transcription.at)
+        return false;
+    if (!same_payload(library.element(), proof_run_element(&transcription)) || library.at != transcription.at)
+        return false;
+    const mava_tum::run_count expected = mava_tum::count_run(at, end, field_number);
+    const run_count proved = proof_count_run(at, end, field_number);
+    return expected.elements == proved.elements && expected.is_whole == proved.is_whole;
 }
 
 bool same_reads(const uint8_t *at, const uint8_t *end)
@@ -96,7 +125,7 @@ bool same_reads(const uint8_t *at, const uint8_t *end)
     return same_varint(mava_tum::read_varint32(at, end), proof_read_varint32(at, end)) &&
            same_varint(mava_tum::read_fixed32(at, end), proof_read_fixed32(at, end)) &&
            same_varint(mava_tum::read_varint64(at, end), proof_read_varint64(at, end)) && same_lengths(at, end) &&
-           same_skips(at, end);
+           same_skips(at, end) && same_runs(at, end, 1) && same_runs(at, end, 0);
 }
 
 // Each tail of the bytes too.
@@ -157,6 +186,24 @@ TEST(proof_reads, the_proved_reads_are_those_of_the_library_for_lengths_around_w
                 bytes.resize(bytes.size() + left, 0x2A);
                 expect_same_reads(given, bytes);
             }
+        }
+    }
+}
+
+TEST(proof_reads, the_proved_runs_are_those_of_the_library_for_every_cut_of_arrays_with_any_field_behind_them)
+{
+    input given;
+    for (std::size_t elements = 1; elements <= 5; ++elements) {
+        for (uint32_t tag = 0; tag < 0x100; ++tag) {
+            byte_vector bytes;
+            for (std::size_t i = 0; i < elements; ++i) {
+                bytes.insert(bytes.end(), i == 0 ? 0 : 1, 0x0A);
+                bytes.push_back(static_cast<uint8_t>(i));
+                bytes.insert(bytes.end(), i, 0x0A);
+            }
+            bytes.insert(bytes.end(), {static_cast<uint8_t>(tag), 0x02, 0x0A, 0x01});
+            for (; !bytes.empty(); bytes.pop_back())
+                expect_same_reads(given, bytes);
         }
     }
 }
