@@ -13,13 +13,10 @@
 #include "message_runs.h"
 #include "model/wire_maker.h"
 #include "queue_runs.h"
+#include "recorded_inputs.h"
 
-#include <algorithm>
 #include <cstdio>
 #include <exception>
-#include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -27,7 +24,6 @@
 namespace
 {
 
-namespace fs = std::filesystem;
 using namespace mava_tum_behaviour;
 using namespace mava_tum_model;
 
@@ -41,22 +37,15 @@ struct corpus_input {
     wire_bytes wire;
 };
 
-// In the order of their names, which is the same on every machine.
-std::vector<corpus_input> read_corpus(const fs::path &folder, std::size_t count)
+std::vector<corpus_input> read_corpus(const std::string &file, std::size_t count)
 {
-    std::vector<fs::path> files;
-    for (const fs::directory_entry &entry : fs::directory_iterator(folder))
-        files.push_back(entry.path());
-    std::sort(files.begin(), files.end());
     std::vector<corpus_input> inputs;
-    for (const fs::path &file : files) {
-        std::ifstream stream(file, std::ios::binary);
-        const wire_bytes bytes((std::istreambuf_iterator<char>(stream)), std::istreambuf_iterator<char>());
+    for (const wire_bytes &bytes : mava_tum_fuzz::read_inputs(file)) {
         if (bytes.size() >= corpus_header_bytes)
             inputs.push_back({bytes[0] % count, {bytes.begin() + corpus_header_bytes, bytes.end()}});
     }
     if (inputs.empty())
-        throw std::runtime_error(folder.string() + " has no inputs");
+        throw std::runtime_error(file + " has no inputs");
     return inputs;
 }
 
@@ -187,10 +176,10 @@ try {
         std::fprintf(stderr, "usage: behaviour [--function NAME --dump] <fuzz/corpus>\n");
         return 2;
     }
-    const fs::path corpora = given.back();
+    const std::string &corpora = given.back();
     behaviour_table table(dump ? given[1] : std::string());
-    run_messages(table, read_corpus(corpora / "messages", message_count));
-    run_adapters(table, read_corpus(corpora / "adapters", mava_tum_fuzz::adapter_count));
+    run_messages(table, read_corpus(corpora + "/messages.packed", message_count));
+    run_adapters(table, read_corpus(corpora + "/adapters.packed", mava_tum_fuzz::adapter_count));
     run_queue(table);
     if (!dump)
         print_rows(table);
