@@ -22,6 +22,20 @@ void proof_writer_tag(struct exact_writer *writer, struct field_tag tag)
         proof_writer_byte(writer, (uint8_t)(tag.bytes / 0x100));
 }
 
+// The end of a local array is something the provers cannot subtract from: the difference is taken in here.
+/*@
+  requires room: \valid(stored + (0 .. 9));
+  terminates \true;
+  exits \false;
+  assigns stored[0 .. 9];
+  ensures size: \result == varint_size(value) && 1 <= \result <= 10;
+  ensures stored: \forall integer i; 0 <= i < \result ==> stored[i] == varint_byte(value, i);
+*/
+static uint64_t store_and_count(uint8_t *stored, uint64_t value)
+{
+    return (uint64_t)(proof_store_varint(stored, value) - stored);
+}
+
 void proof_writer_varint(struct exact_writer *writer, uint64_t value)
 {
     if (writer->position >= writer->length) {
@@ -29,9 +43,9 @@ void proof_writer_varint(struct exact_writer *writer, uint64_t value)
         return;
     }
     uint8_t stored[10];
-    const uint8_t *const end = proof_store_varint(stored, value);
-    const uint64_t bytes = (uint64_t)(end - stored);
+    const uint64_t bytes = store_and_count(stored, value);
     /*@
+      loop invariant kept_here: \forall integer k; 0 <= k < bytes ==> stored[k] == varint_byte(value, k);
       loop invariant writer: is_writer(writer);
       loop invariant range: 0 <= i <= bytes;
       loop invariant position: \at(writer->position, Pre) + 10 <= 0xFFFFFFFFFFFFFFFF ==>
