@@ -1,10 +1,12 @@
-// Calls the codec's functions of any message. Some of them take an allocator or flags and some do not: an overload for
-// each shape, all of them inlined to the plain call.
+// Calls the codec's functions of any message: some of them take an allocator or flags and some do not.
 #ifndef MAVA_TUM_CPP_CODEC_CALLS_HPP
 #define MAVA_TUM_CPP_CODEC_CALLS_HPP
 
 #include "mava_tum/cpp/result.hpp"
 #include "mava_tum/cpp/span.hpp"
+
+#include <tuple>
+#include <utility>
 
 namespace mava_tum::cpp
 {
@@ -16,63 +18,19 @@ namespace mava_tum::cpp
 template <class Record>
 struct codec_of;
 
-// What a decode or a duplicate asks for blocks.
-struct block_source {
-    mava_tum_alloc_fn allocator;
-    void *context;
-};
-
-template <class Record>
-std::int32_t call_decode(std::int32_t (*decode)(Record *, const std::uint8_t *, std::uint64_t), Record &record,
-    bytes_view wire, block_source, std::uint32_t)
+template <class Result, class... Taken, std::size_t... Index, class Arguments>
+Result call_with(Result (*function)(Taken...), std::index_sequence<Index...>, const Arguments &arguments)
 {
-    return decode(&record, wire.data(), wire.size());
+    return function(std::get<Index>(arguments)...);
 }
 
-template <class Record>
-std::int32_t call_decode(
-    std::int32_t (*decode)(Record *, const std::uint8_t *, std::uint64_t, mava_tum_alloc_fn, void *), Record &record,
-    bytes_view wire, block_source blocks, std::uint32_t)
+// Calls a function of the codec with as many of the arguments as it takes. The functions of one kind take the same
+// parameters in the same order; those of a message that has no use for the last ones end before them.
+template <class Result, class... Taken, class... Given>
+Result call_codec(Result (*function)(Taken...), const Given &...given)
 {
-    return decode(&record, wire.data(), wire.size(), blocks.allocator, blocks.context);
-}
-
-template <class Record>
-std::int32_t call_decode(
-    std::int32_t (*decode)(Record *, const std::uint8_t *, std::uint64_t, mava_tum_alloc_fn, void *, std::uint32_t),
-    Record &record, bytes_view wire, block_source blocks, std::uint32_t flags)
-{
-    return decode(&record, wire.data(), wire.size(), blocks.allocator, blocks.context, flags);
-}
-
-template <class Record>
-std::uint64_t call_encode(
-    std::uint64_t (*encode)(const Record *, std::uint8_t *, std::uint64_t, mava_tum_segment *, std::uint32_t *),
-    const Record &record, span<std::uint8_t> buffer)
-{
-    return encode(&record, buffer.data(), buffer.size(), nullptr, nullptr);
-}
-
-template <class Record>
-std::uint64_t call_encode(std::uint64_t (*encode)(const Record *, std::uint8_t *, std::uint64_t, mava_tum_segment *,
-                              std::uint32_t *, std::uint32_t),
-    const Record &record, span<std::uint8_t> buffer)
-{
-    return encode(&record, buffer.data(), buffer.size(), nullptr, nullptr, 0);
-}
-
-template <class Record>
-std::int32_t call_duplicate(
-    std::int32_t (*duplicate)(Record *, const Record *), Record &destination, const Record &source, block_source)
-{
-    return duplicate(&destination, &source);
-}
-
-template <class Record>
-std::int32_t call_duplicate(std::int32_t (*duplicate)(Record *, const Record *, mava_tum_alloc_fn, void *),
-    Record &destination, const Record &source, block_source blocks)
-{
-    return duplicate(&destination, &source, blocks.allocator, blocks.context);
+    static_assert(sizeof...(Taken) <= sizeof...(Given), "an argument is missing");
+    return call_with(function, std::index_sequence_for<Taken...>(), std::tie(given...));
 }
 
 } // namespace mava_tum::cpp

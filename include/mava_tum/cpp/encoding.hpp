@@ -37,7 +37,8 @@ public:
     {
         const auto &record = static_cast<const Derived &>(*this).c_record();
         using message = codec_of<std::decay_t<decltype(record)>>;
-        const std::uint64_t size = call_encode(message::encode, record, buffer);
+        const std::uint64_t size =
+            call_codec(message::encode, &record, buffer.data(), buffer.size(), nullptr, nullptr, std::uint32_t{0});
         return {size, size <= buffer.size()};
     }
 

@@ -68,7 +68,8 @@ public:
         if (&source.c_record() == &record_)
             return result::ok;
         clear();
-        const auto code = static_cast<result>(call_duplicate(message::duplicate, record_, source.c_record(), asked()));
+        const auto code = static_cast<result>(
+            call_codec(message::duplicate, &record_, &source.c_record(), blocks_.allocator(), blocks_.context()));
         if (code != result::ok)
             clear();
         return code;
@@ -134,15 +135,11 @@ private:
         return nullptr;
     }
 
-    block_source asked() noexcept
-    {
-        return {blocks_.allocator(), blocks_.context()};
-    }
-
     result decode(bytes_view wire, std::uint32_t flags) noexcept
     {
         blocks_.release_all();
-        return static_cast<result>(call_decode(message::decode, record_, wire, asked(), flags));
+        return static_cast<result>(call_codec(
+            message::decode, &record_, wire.data(), wire.size(), blocks_.allocator(), blocks_.context(), flags));
     }
 
     Record record_{};
