@@ -8,9 +8,9 @@ from __future__ import annotations
 import sys
 from pathlib import Path
 
-sys.path.insert(0, str(Path(__file__).parents[2] / "python" / "generate"))
+sys.path.insert(0, str(Path(__file__).parents[2] / "catalogue"))
 
-from read_headers import Headers, read_headers  # noqa: E402  (found by the line above)
+from header_reader import Header, read_headers  # noqa: E402  (found by the line above)
 
 PROGRAM = """#include "mava_tum.h"
 
@@ -29,11 +29,11 @@ int main(void)
 """
 
 
-def lines_for(headers: Headers) -> list[str]:
+def lines_for(headers: list[Header]) -> list[str]:
     lines = []
-    for record, members in headers.records.items():
-        lines.append(f"    RECORD({record});")
-        lines += [f"    MEMBER({record}, {member.name});" for member in members]
+    for record in (each for header in headers for each in header.records):
+        lines.append(f"    RECORD({record.name});")
+        lines += [f"    MEMBER({record.name}, {member.name});" for member in record.members]
     return lines
 
 
