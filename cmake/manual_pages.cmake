@@ -7,7 +7,8 @@ endif()
 
 set(MAVA_TUM_MANUAL_PAGES "${PROJECT_BINARY_DIR}/man")
 file(GLOB_RECURSE page_sources CONFIGURE_DEPENDS
-    "${PROJECT_SOURCE_DIR}/include/*.h" "${PROJECT_SOURCE_DIR}/tools/reference/*.py")
+    "${PROJECT_SOURCE_DIR}/include/*.h" "${PROJECT_SOURCE_DIR}/tools/reference/*.py"
+    "${PROJECT_SOURCE_DIR}/catalogue/*.py")
 list(APPEND page_sources "${PROJECT_SOURCE_DIR}/debian/changelog" "${PROJECT_SOURCE_DIR}/examples/first_session.c")
 # Without its cache of compiled modules, which would lie in the source folder.
 add_custom_command(OUTPUT "${MAVA_TUM_MANUAL_PAGES}/man7/mava_tum.7"
