@@ -109,8 +109,6 @@ struct record_member {
     std::size_t count_offset;
     std::size_t count_bytes;
     const record_layout *layout; // record, records: of the record, or of an element; otherwise null
-    // Of the field that it is received from; of `numbers` the first. 0: not received, or the header does not say it.
-    uint32_t number;
 
     constexpr std::size_t slots() const
     {
@@ -118,10 +116,35 @@ struct record_member {
     }
 };
 
+enum class limit_kind : uint8_t {
+    number, // `allowed`: bits of the member
+    text,   // characters that are taken, without the NUL
+    bytes,  // bytes of the array
+    record, // its fields arrive in `members`
+    list,   // elements; of each, the fields arrive in `members`
+    texts   // elements; of each, `text_characters` characters are taken
+};
+
+// What takes a field of a message, and how much of it.
+struct member_limit {
+    uint32_t number; // of the field in its message
+    limit_kind kind;
+    uint64_t allowed;
+    const char *member;       // its name; null for a record whose fields have members of their own
+    std::size_t offset;       // of the member in its application record, or in the element of a list
+    std::size_t member_bytes; // its size; of a list, of one element
+    uint32_t only_with;       // other than 0: it arrives only when this field of the same record is there too
+    uint32_t count_bits;      // list, texts: of the member that counts the elements
+    std::size_t count_offset; // and where it is
+    uint64_t text_characters;
+    std::span<const member_limit> members;
+};
+
 struct record_layout {
     std::string_view name; // as in tum_nal_data_<name>
     std::size_t size_bytes;
     std::span<const record_member> members;
+    std::span<const member_limit> limits; // empty where it is only sent
 };
 
 // The place of an application record in tables::records.

@@ -188,6 +188,9 @@ class TestLibrary(unittest.TestCase):
         exported = (ROOT / "tests" / "abi" / "exports.txt").read_text(encoding="utf-8").split()
         declared = [each.name for header in self.library.headers for each in header.functions]
         self.assertEqual(sorted(declared), sorted(exported))
+        for beginning in ("tum_nal_data_gpb_encode_tum_", "tum_nal_data_gpb_decode_tum_"):
+            self.assertEqual(sorted(name.removeprefix(beginning) for name in exported if name.startswith(beginning)),
+                             sorted(self.library.adapters))
 
     def test_there_are_40_messages_and_19_adapters(self):
         self.assertEqual(len(self.library.in_documented_order()), 40)

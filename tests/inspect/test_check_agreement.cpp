@@ -51,7 +51,7 @@ void expect_agreement(const adapter_description &adapter, const byte_vector &inp
 void expect_memory(const adapter_description &adapter, const byte_vector &input)
 {
     const checked found = check(adapter.name, input);
-    std::vector<uint64_t> record(adapter.record_bytes / sizeof(uint64_t) + 1);
+    std::vector<uint64_t> record(adapter.received->size_bytes / sizeof(uint64_t) + 1);
     const calloc_watch watch;
     adapter.decode(input.data(), static_cast<uint32_t>(input.size()), record.data());
     const std::vector<std::size_t> &sizes = watch.sizes();
@@ -65,7 +65,7 @@ void for_each_input(Expectation expect)
 {
     uint64_t seed = 0;
     for (const adapter_description &adapter : all_adapters()) {
-        const mava_tum_model::message &of = *mava_tum_model::find_message(adapter.message->name);
+        const mava_tum_model::message &of = *mava_tum_model::find_message(adapter.carried->name);
         random_source random(++seed);
         for (int round = 0; round < rounds && !testing::Test::HasFailure(); ++round) {
             mava_tum_model::wire_bytes wire = mava_tum_model::random_wire(of, random);
