@@ -25,11 +25,6 @@ struct tables {
 
 FIELD_KINDS = {"64-bit varint": "varint", "array of records": "record_array", "array of texts": "text_array"}
 
-# Which bytes fields hold IPv6 addresses: neither the wire nor the headers tell. Those that arrive in an application
-# record arrive in 16 bytes there, and a test compares.
-IPV6_FIELDS = {
-    "subscriber_v6": (2, 3, 4, 6), "l2tp_data": (4, 5), "subscriber_li": (8,), "subscriber_route_ipv6": (3, 5)}
-
 
 class CppWriter:
     def __init__(self, library: Library) -> None:
@@ -41,18 +36,12 @@ class CppWriter:
 
     # ---- messages ----
 
-    @staticmethod
-    def address_of(message: Message, field: Field) -> str:
-        if field.number in IPV6_FIELDS.get(message.name, ()):
-            return "ipv6"
-        return "ipv4" if field.is_ipv4 else "none"
-
     def field_row(self, message: Message, field: Field) -> str:
         kind = FIELD_KINDS.get(field.kind, field.kind)
         count = f"offsetof({message.c_type}, {field.count})" if field.count else "0"
         nested = f"&tables::messages[{self.message_places[field.of]}]" if field.of else "nullptr"
         return (f'    {{{field.number}, "{field.name}", field_kind::{kind}, {field.bits}, '
-                f"address_kind::{self.address_of(message, field)}, offsetof({message.c_type}, {field.name}), {count}, "
+                f"address_kind::{message.address_of(field) or 'none'}, offsetof({message.c_type}, {field.name}), {count}, "
                 f"{nested}}},")
 
     def message_lines(self, message: Message) -> list[str]:

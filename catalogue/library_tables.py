@@ -32,6 +32,10 @@ KINDS = {
     "array of records": ("", 1),
     "array of texts": ("char", 2),
 }
+# Which bytes fields hold IPv6 addresses: neither the wire nor the headers tell. Those that arrive in an application
+# record arrive in 16 bytes there, and a test compares. The others are identifiers, or nobody's (L26).
+IPV6_FIELDS = {
+    "subscriber_v6": (2, 3, 4, 6), "l2tp_data": (4, 5), "subscriber_li": (8,), "subscriber_route_ipv6": (3, 5)}
 NUMBER_KINDS = ("varint", "64-bit varint", "fixed32")
 ARRAY_KINDS = ("array of records", "array of texts")
 
@@ -75,6 +79,12 @@ class Message:
     @property
     def name(self) -> str:
         return message_name(self.c_type)
+
+    def address_of(self, field: Field) -> str:
+        """ipv4, ipv6 or ""."""
+        if field.number in IPV6_FIELDS.get(self.name, ()):
+            return "ipv6"
+        return "ipv4" if field.is_ipv4 else ""
 
 
 @dataclass(frozen=True)
