@@ -1,5 +1,5 @@
-"""Writes a C program that prints what its compiler makes of the public headers: for each record a line with name and
-size, then one for each member with name, offset and size.
+"""Writes a C program that prints what its compiler makes of the public headers: for each record a line with name, size
+and alignment, then one for each member with name, offset and size.
 
     write_layout_program.py <include folder> <file to write>"""
 
@@ -8,16 +8,16 @@ from __future__ import annotations
 import sys
 from pathlib import Path
 
-sys.path.insert(0, str(Path(__file__).parents[2] / "catalogue"))
+sys.path.insert(0, str(Path(__file__).resolve().parents[2] / "catalogue"))
 
-from header_reader import Header, read_headers  # noqa: E402  (found by the line above)
+from header_reader import read_headers  # noqa: E402  (found by the line above)
 
 PROGRAM = """#include "mava_tum.h"
 
 #include <stddef.h>
 #include <stdio.h>
 
-#define RECORD(record) printf("%s %zu\\n", #record, sizeof(record))
+#define RECORD(record) printf("%s %zu %zu\\n", #record, sizeof(record), _Alignof(record))
 #define MEMBER(record, member) \\
     printf("%s.%s %zu %zu\\n", #record, #member, offsetof(record, member), sizeof(((record *)0)->member))
 
@@ -28,20 +28,9 @@ int main(void)
 }}
 """
 
-
-def lines_for(headers: list[Header]) -> list[str]:
-    lines = []
-    for record in (each for header in headers for each in header.records):
-        lines.append(f"    RECORD({record.name});")
-        lines += [f"    MEMBER({record.name}, {member.name});" for member in record.members]
-    return lines
-
-
-def main(arguments: list[str]) -> int:
-    include_folder, output = (Path(each) for each in arguments)
-    output.write_text(PROGRAM.format(lines="\n".join(lines_for(read_headers(include_folder)))), encoding="utf-8")
-    return 0
-
-
-if __name__ == "__main__":
-    sys.exit(main(sys.argv[1:]))
+include_folder, output = (Path(each) for each in sys.argv[1:])
+lines = []
+for record in (each for header in read_headers(include_folder) for each in header.records):
+    lines.append(f"    RECORD({record.name});")
+    lines += [f"    MEMBER({record.name}, {member.name});" for member in record.members]
+output.write_text(PROGRAM.format(lines="\n".join(lines)), encoding="utf-8")
