@@ -153,9 +153,9 @@ def layer_header(messages, owning):
     others = [path.removeprefix("mava_tum/").removesuffix(".h") for path in header.includes]
     guard = f"MAVA_TUM_CPP_{header.stem.upper()}_HPP"
     lines = [
-        f"// Classes over the records of mava_tum/{header.stem}.h, which says what the fields are.",
+        f"// Classes over the records of mava_tum/{header.stem}.h, generated from it by tools/cpp_layer/make_cpp_layer.",
         "//",
-        "// Written by tools/cpp_layer/make_cpp_layer from that header: change either of them, not this file.",
+        "// That header says what the fields are. Change it or the generator, not this file.",
         f"#ifndef {guard}", f"#define {guard}", "",
         *(f'#include "mava_tum/cpp/{stem}.hpp"'
           for stem in sorted([stem for stem in others if stem != "codec_contract"] + ["field_access", "field_change", "owning_record", "record_editor",
