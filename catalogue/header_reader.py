@@ -2,7 +2,7 @@
 
 The headers are written in one way, and the reader knows no other: it stops, with file and line, at the first thing that
 it does not know. It takes nothing on trust for long: the compiler sees every type and member again that it found
-(docs/decisions/0010-one-catalogue.md)."""
+(docs/decisions/0011-one-catalogue.md)."""
 
 from __future__ import annotations
 
