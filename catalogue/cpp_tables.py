@@ -2,7 +2,7 @@
 
 from __future__ import annotations
 
-from library_tables import MESSAGE_PREFIX, RECORD_PREFIX, Adapter, Field, Library, Message, Slot
+from library_tables import MESSAGE_PREFIX, RECORD_PREFIX, Adapter, ApplicationMember, Field, Library, Message
 from member_limits import LimitWriter
 
 HEAD = """\
@@ -40,9 +40,9 @@ class CppWriter:
         kind = FIELD_KINDS.get(field.kind, field.kind)
         count = f"offsetof({message.c_type}, {field.count})" if field.count else "0"
         nested = f"&tables::messages[{self.message_places[field.of]}]" if field.of else "nullptr"
-        return (f'    {{{field.number}, "{field.name}", field_kind::{kind}, {field.bits}, '
-                f"address_kind::{message.address_of(field) or 'none'}, offsetof({message.c_type}, {field.name}), {count}, "
-                f"{nested}}},")
+        address = message.address_of(field) or "none"
+        return (f'    {{{field.number}, "{field.name}", field_kind::{kind}, {field.bits}, address_kind::{address}, '
+                f"offsetof({message.c_type}, {field.name}), {count}, {nested}}},")
 
     def message_lines(self, message: Message) -> list[str]:
         decode, encode, duplicate, free = (function.name for function in message.functions.values())
@@ -71,25 +71,25 @@ class CppWriter:
 
     # ---- application records ----
 
-    def slot_row(self, record: str, slot: Slot, counts: set[str]) -> str:
-        kind = "reserved" if slot.is_reserved else "count" if slot.name in counts else slot.kind
-        if slot.address and not slot.is_reserved:
-            kind = slot.address
-        size = f"sizeof({record}::{slot.name})"
-        element = f"sizeof({record}::{slot.name}[0])" if slot.kind in ("numbers", "records", "texts") else size
-        count = f"offsetof({record}, {slot.count}), sizeof({record}::{slot.count})" if slot.count else "0, 0"
-        c_type = slot.member.c_type
+    def member_row(self, record: str, member: ApplicationMember, counts: set[str]) -> str:
+        kind = "reserved" if member.is_reserved else "count" if member.name in counts else member.kind
+        if member.address and not member.is_reserved:
+            kind = member.address
+        size = f"sizeof({record}::{member.name})"
+        element = f"sizeof({record}::{member.name}[0])" if member.kind in ("numbers", "records", "texts") else size
+        count = f"offsetof({record}, {member.count}), sizeof({record}::{member.count})" if member.count else "0, 0"
+        c_type = member.declared.c_type
         layout = f"&tables::records[{self.record_places[c_type]}]" if c_type in self.record_places else "nullptr"
-        return (f'    {{"{slot.name}", member_kind::{kind}, offsetof({record}, {slot.name}), {size}, {element}, '
+        return (f'    {{"{member.name}", member_kind::{kind}, offsetof({record}, {member.name}), {size}, {element}, '
                 f"{count}, {layout}}},")
 
-    def record_lines(self, record: str, slots: list[Slot]) -> list[str]:
-        counts = {slot.count for slot in slots}
+    def record_lines(self, record: str, members: list[ApplicationMember]) -> list[str]:
+        counts = {member.count for member in members}
         return ["",
                 "template <>",
                 f"inline constexpr std::size_t record_place<{record}> = {self.record_places[record]};",
                 f"inline constexpr record_member {record.removeprefix(RECORD_PREFIX)}_members[] = {{",
-                *(self.slot_row(record, slot, counts) for slot in slots),
+                *(self.member_row(record, member, counts) for member in members),
                 "};"]
 
     def records_table(self) -> list[str]:
@@ -127,8 +127,8 @@ class CppWriter:
         for message in self.messages:
             lines += self.message_lines(message)
         lines += self.messages_table()
-        for record, slots in self.library.records.items():
-            lines += self.record_lines(record, slots)
+        for record, members in self.library.records.items():
+            lines += self.record_lines(record, members)
         lines += self.records_table()
         for adapter in self.adapters:
             lines += self.adapter_lines(adapter)

@@ -5,10 +5,10 @@ from __future__ import annotations
 from typing import Any
 
 from header_reader import Constant, plain_text
-from library_tables import Field, Library, Message, Slot
+from library_tables import ApplicationMember, Field, Library, Message
 
 FIELD_KINDS = {"64-bit varint": "varint", "array of records": "record_array", "array of texts": "text_array"}
-SLOT_KINDS = {"numbers": "number_array", "records": "record_array", "texts": "text_array"}
+MEMBER_KINDS = {"numbers": "number_array", "records": "record_array", "texts": "text_array"}
 
 
 def without_empty(row: dict[str, Any]) -> dict[str, Any]:
@@ -30,15 +30,16 @@ def message_row(message: Message) -> dict[str, Any]:
                           for end, function in message.functions.items()}}
 
 
-def slot_row(slot: Slot) -> dict[str, Any]:
+def member_row(member: ApplicationMember) -> dict[str, Any]:
     """Sizes are in bytes, slots in elements."""
-    *slots, size = slot.member.sizes if slot.kind in ("text", "bytes", "texts") else (*slot.member.sizes, None)
-    is_number = slot.kind in ("number", "numbers")
+    has_size = member.kind in ("text", "bytes", "texts")
+    *slots, size = member.declared.sizes if has_size else (*member.declared.sizes, None)
+    is_number = member.kind in ("number", "numbers")
     return without_empty({
-        "name": slot.name, "kind": SLOT_KINDS.get(slot.kind, slot.kind),
-        "bits": int(slot.member.c_type.removeprefix("uint").removesuffix("_t")) if is_number else None,
-        "of": slot.member.c_type if slot.kind in ("record", "records") else "",
-        "slots": slots[0] if slots else None, "size": size, "address": slot.address, "count": slot.count})
+        "name": member.name, "kind": MEMBER_KINDS.get(member.kind, member.kind),
+        "bits": int(member.declared.c_type.removeprefix("uint").removesuffix("_t")) if is_number else None,
+        "of": member.declared.c_type if member.kind in ("record", "records") else "",
+        "slots": slots[0] if slots else None, "size": size, "address": member.address, "count": member.count})
 
 
 def result_text(constant: Constant) -> str:
@@ -51,8 +52,8 @@ def json_tables(library: Library) -> dict[str, Any]:
                  for name, constant in enum.constants.items()}
     return {
         "messages": {name: message_row(each) for name, each in library.messages.items()},
-        "application_records": {c_type: {"members": [slot_row(each) for each in slots if not each.is_reserved]}
-                                for c_type, slots in library.records.items()},
+        "application_records": {c_type: {"members": [member_row(each) for each in members if not each.is_reserved]}
+                                for c_type, members in library.records.items()},
         "adapters": {each.name: {"encode": each.sent, "decode": each.received} for each in library.adapters.values()},
         "results": {name: {"value": each.value, "text": result_text(each)}
                     for name, each in constants.items() if name.startswith("MAVA_TUM_") and each.value <= 0},

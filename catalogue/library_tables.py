@@ -88,12 +88,12 @@ class Message:
 
 
 @dataclass(frozen=True)
-class Slot:
+class ApplicationMember:
     """A member of an application record. `kind` is number, numbers, bytes, text, texts, record or records; `address`
     ipv4, ipv6 or ""; `count` the member that counts the elements of an array. `number` is that of the field that it is
     received from, of an array of numbers the first; 0: it is not received, or the header does not say from where."""
 
-    member: Member
+    declared: Member
     kind: str
     address: str
     count: str
@@ -101,7 +101,7 @@ class Slot:
 
     @property
     def name(self) -> str:
-        return self.member.name
+        return self.declared.name
 
     @property
     def is_reserved(self) -> bool:
@@ -128,7 +128,7 @@ class Library:
 
     headers: list[Header]
     messages: dict[str, Message]
-    records: dict[str, list[Slot]]
+    records: dict[str, list[ApplicationMember]]
     adapters: dict[str, Adapter]
 
     def in_documented_order(self) -> list[Message]:
@@ -284,16 +284,17 @@ def received_number(member: Member) -> int:
     return int(number[1]) if number and not re.search("not received|received in", member.comment) else 0
 
 
-def describe_record(record: Record) -> list[Slot]:
-    slots = []
+def describe_record(record: Record) -> list[ApplicationMember]:
+    members = []
     try:
-        for member in record.members:
-            kind = kind_of(member)
-            count = count_of(member, record.members) if kind in ("records", "texts") else ""
-            slots.append(Slot(member, kind, address_of(kind, member), count, received_number(member)))
+        for declared in record.members:
+            kind = kind_of(declared)
+            count = count_of(declared, record.members) if kind in ("records", "texts") else ""
+            members.append(ApplicationMember(declared, kind, address_of(kind, declared), count,
+                                             received_number(declared)))
     except HeaderError as error:
         raise HeaderError(f"{record.name}: {error}") from error
-    return slots
+    return members
 
 
 # ---- adapters ----

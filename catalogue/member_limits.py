@@ -6,7 +6,7 @@ import re
 from dataclasses import dataclass, field
 
 from header_reader import HeaderError
-from library_tables import RECORD_PREFIX, Library, Message, Slot
+from library_tables import RECORD_PREFIX, ApplicationMember, Library, Message
 
 SESSION = RECORD_PREFIX + "session_context"
 
@@ -34,48 +34,48 @@ KINDS = {"numbers": "number", "ipv6": "bytes", "records": "list"}
 
 @dataclass
 class Limit:
-    """What takes field `number`: a member, of an array of numbers one element, or, without a slot, the members that
+    """What takes field `number`: a member, of an array of numbers one element, or, without a member, the members that
     take the fields of the nested record."""
 
     number: int
-    slot: Slot | None = None
+    member: ApplicationMember | None = None
     element: int = 0
     parts: list[Limit] = field(default_factory=list)
 
 
-def session_path(slot: Slot) -> tuple[int, ...]:
+def session_path(member: ApplicationMember) -> tuple[int, ...]:
     """The numbers of the fields that lead to it."""
-    if slot.name in SESSION_MEMBERS:
-        return SESSION_MEMBERS[slot.name]
+    if member.name in SESSION_MEMBERS:
+        return SESSION_MEMBERS[member.name]
     for beginning in sorted(SESSION_PARTS, key=len, reverse=True):
-        number = re.fullmatch(rf"{beginning}_[a-z0-9]+_(\d+)", slot.name)
+        number = re.fullmatch(rf"{beginning}_[a-z0-9]+_(\d+)", member.name)
         if number:
             return (*SESSION_PARTS[beginning], int(number[1]))
-    raise HeaderError(f"{SESSION}.{slot.name}: its name does not tell its field")
+    raise HeaderError(f"{SESSION}.{member.name}: its name does not tell its field")
 
 
-def add_limit(limits: list[Limit], path: tuple[int, ...], slot: Slot) -> None:
+def add_limit(limits: list[Limit], path: tuple[int, ...], member: ApplicationMember) -> None:
     first, *rest = path
     if not rest:
-        limits.append(Limit(first, slot))
+        limits.append(Limit(first, member))
         return
-    part = next((each for each in limits if each.number == first and not each.slot), None)
+    part = next((each for each in limits if each.number == first and not each.member), None)
     if part is None:
         part = Limit(first)
         limits.append(part)
-    add_limit(part.parts, tuple(rest), slot)
+    add_limit(part.parts, tuple(rest), member)
 
 
-def limits_of(c_type: str, slots: list[Slot]) -> list[Limit]:
+def limits_of(c_type: str, members: list[ApplicationMember]) -> list[Limit]:
     limits: list[Limit] = []
-    counts = {slot.count for slot in slots}
-    for slot in slots:
-        if c_type == SESSION and not slot.is_reserved and slot.name not in counts:
-            add_limit(limits, session_path(slot), slot)
-        elif slot.kind == "numbers":
-            limits += [Limit(slot.number + element, slot, element) for element in range(slot.member.sizes[0])]
-        elif slot.number:
-            limits.append(Limit(slot.number, slot))
+    counts = {member.count for member in members}
+    for member in members:
+        if c_type == SESSION and not member.is_reserved and member.name not in counts:
+            add_limit(limits, session_path(member), member)
+        elif member.kind == "numbers":
+            limits += [Limit(member.number + element, member, element) for element in range(member.declared.sizes[0])]
+        elif member.number:
+            limits.append(Limit(member.number, member))
     return limits
 
 
@@ -104,19 +104,23 @@ class LimitWriter:
         if not 0 < limit.number <= len(message.fields):
             raise HeaderError(f"{c_type}: {message.name} has no field {limit.number}")
         nested = self.library.messages.get(message.fields[limit.number - 1].of)
-        if limit.slot is None:
+        if limit.member is None:
             inner = f"{table}_{limit.number}"
             self.write_table(inner, c_type, limit.parts, nested)
             return f"    {{{limit.number}, limit_kind::record, 0, nullptr, 0, 0, 0, 0, 0, 0, {inner}}},"
-        slot = limit.slot
-        inner = self.write_record(slot.member.c_type, nested) if slot.kind in ("record", "records") else "{}"
-        member, kind = f"{c_type}::{slot.name}", KINDS.get(slot.kind, slot.kind)
-        element = f"{member}[0]" if slot.kind in ("numbers", "records", "texts") else member
-        offset = f"offsetof({c_type}, {slot.name}) + {limit.element} * sizeof({element})"
-        count = f"8 * sizeof({c_type}::{slot.count}), offsetof({c_type}, {slot.count})" if slot.count else "0, 0"
-        characters = CHARACTERS.get(slot.member.sizes[-1] if slot.member.sizes else 0, f"sizeof({element}) - 1")
-        allowed = {"number": f"8 * sizeof({element})", "text": characters, "bytes": f"sizeof({member})", "record": "0",
-                   "list": f"sizeof({member}) / sizeof({element})",
-                   "texts": f"sizeof({member}) / sizeof({element})"}[kind]
-        return (f'    {{{limit.number}, limit_kind::{kind}, {allowed}, "{slot.name}", {offset}, sizeof({element}), '
-                f"{ONLY_WITH.get(slot.name, 0)}, {count}, {characters if kind == 'texts' else 0}, {inner}}},")
+        return self.member_row(c_type, limit.number, limit.member, limit.element, nested)
+
+    def member_row(self, c_type: str, number: int, member: ApplicationMember, element: int,
+                   nested: Message | None) -> str:
+        is_nested = member.kind in ("record", "records")
+        inner = self.write_record(member.declared.c_type, nested) if is_nested else "{}"
+        kind = KINDS.get(member.kind, member.kind)
+        whole = f"{c_type}::{member.name}"
+        one = f"{whole}[0]" if member.kind in ("numbers", "records", "texts") else whole
+        count = f"8 * sizeof({c_type}::{member.count}), offsetof({c_type}, {member.count})" if member.count else "0, 0"
+        characters = CHARACTERS.get((0, *member.declared.sizes)[-1], f"sizeof({one}) - 1")
+        allowed = {"number": f"8 * sizeof({one})", "text": characters, "bytes": f"sizeof({whole})", "record": "0",
+                   "list": f"sizeof({whole}) / sizeof({one})", "texts": f"sizeof({whole}) / sizeof({one})"}[kind]
+        return (f'    {{{number}, limit_kind::{kind}, {allowed}, "{member.name}", '
+                f"offsetof({c_type}, {member.name}) + {element} * sizeof({one}), sizeof({one}), "
+                f"{ONLY_WITH.get(member.name, 0)}, {count}, {characters if kind == 'texts' else 0}, {inner}}},")

@@ -96,16 +96,18 @@ class TestReader(Case):
                 read_headers(folder)
 
     def test_a_comment_belongs_to_what_is_just_below_it_or_before_it_on_its_line(self):
-        header = HeaderReader().read("marks.h", "/* File. */\n\n/* Two; of them. */\nenum { A = 1 << 3, /* a */ B = -1 };"
-                                                "\n/* Not this. */\n\nMAVA_TUM_API void call(void);\n")
+        text = ("/* File. */\n\n/* Two; of them. */\nenum { A = 1 << 3, /* a */ B = -1 };\n"
+                "/* Not this. */\n\nMAVA_TUM_API void call(void);\n")
+        header = HeaderReader().read("marks.h", text)
         self.assertEqual([header.comment, header.enums[0].comment], ["/* File. */", "/* Two; of them. */"])
         self.assertEqual(header.functions[0].comment, "")
         constants = header.enums[0].constants
         self.assertEqual([(each.value, each.comment) for each in constants.values()], [(8, "/* a */"), (-1, "")])
 
     def test_a_comment_with_a_semicolon_is_no_member(self):
-        slots = application_record("    /* Two; of them. */", "    uint32_t a; /* sent; received */", "    uint32_t b;")
-        self.assertEqual([(slot.name, slot.member.comment) for slot in slots], [("a", "sent; received"), ("b", "")])
+        members = application_record("    /* Two; of them. */", "    uint32_t a; /* sent; received */",
+                                     "    uint32_t b;")
+        self.assertEqual([(each.name, each.declared.comment) for each in members], [("a", "sent; received"), ("b", "")])
 
 
 class TestMessages(Case):
@@ -158,12 +160,12 @@ class TestApplicationRecords(Case):
                             application_record)
 
     def test_a_member_is_received_from_the_field_that_its_comment_names(self):
-        slots = application_record("    uint32_t a; /* 1: always; received from field 3 */",
+        members = application_record("    uint32_t a; /* 1: always; received from field 3 */",
                                    "    uint32_t b; /* 2: always; not received */",
                                    "    uint32_t c; /* 3: always; received in `a` */",
                                    "    uint32_t d[4]; /* 4 to 7: non-zero */", "    uint32_t e; /* 8 */",
                                    "    uint32_t f; /* always */")
-        self.assertEqual([slot.number for slot in slots], [3, 0, 0, 4, 8, 0])
+        self.assertEqual([each.number for each in members], [3, 0, 0, 4, 8, 0])
 
     def test_an_adapter_is_its_two_functions_and_the_message_that_both_name(self):
         rest = message(FIELD, MASK, functions=FUNCTIONS + record("tum_nal_data_mark", "    uint32_t a;") + ADAPTERS)
@@ -197,9 +199,9 @@ class TestLibrary(unittest.TestCase):
         self.assertEqual(len(self.library.adapters_in_documented_order()), 19)
 
     def test_every_array_of_an_application_record_is_counted_or_used_whole(self):
-        for c_type, slots in self.library.records.items():
-            for slot in slots:
-                self.assertEqual(bool(slot.count), slot.kind in ("records", "texts"), f"{c_type}.{slot.name}")
+        for c_type, members in self.library.records.items():
+            for each in members:
+                self.assertEqual(bool(each.count), each.kind in ("records", "texts"), f"{c_type}.{each.name}")
 
     def test_result_texts_are_those_of_the_codes(self):
         results = json_tables(self.library)["results"]
