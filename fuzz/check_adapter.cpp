@@ -1,6 +1,5 @@
 #include "check_adapter.h"
 
-#include "adapters.h"
 #include "calloc_log.h"
 #include "model/application_receive.h"
 #include "model/application_send.h"
@@ -97,8 +96,9 @@ private:
 std::string adapter_check::compare_received(const uint8_t *codec_record)
 {
     const uint32_t size = layouts_.received->extent.bytes;
-    if (size != adapter_.received_bytes)
-        return "the record has " + std::to_string(adapter_.received_bytes) + " bytes, expected " + std::to_string(size);
+    if (size != adapter_.received->size_bytes)
+        return "the record has " + std::to_string(adapter_.received->size_bytes) + " bytes, expected " +
+               std::to_string(size);
     expected_.resize(size);
     model_receive(message_, codec_record, *layouts_.received, expected_.data());
     if (received_ == expected_)
@@ -111,14 +111,14 @@ std::string adapter_check::compare_received(const uint8_t *codec_record)
 std::string adapter_check::receive()
 {
     constexpr uint8_t not_written = 0xDD;
-    uint8_t *record = before_the_page(adapter_.received_bytes);
-    std::memset(record, not_written, adapter_.received_bytes);
+    uint8_t *record = before_the_page(adapter_.received->size_bytes);
+    std::memset(record, not_written, adapter_.received->size_bytes);
     block_log asked(checked_.plan);
     {
         const calloc_log live(asked);
         adapter_.decode(checked_.wire.data(), static_cast<uint32_t>(checked_.wire.size()), record);
     }
-    received_.assign(record, record + adapter_.received_bytes);
+    received_.assign(record, record + adapter_.received->size_bytes);
     if (asked.released_wrongly())
         return "a block was freed twice";
     if (asked.outstanding() != 0)
@@ -134,14 +134,11 @@ std::string adapter_check::receive()
 // Texts must keep their NUL: bytes that are zero stay so, others become anything.
 void adapter_check::place_record_to_send()
 {
-    sent_ = before_the_page(adapter_.sent_bytes);
-    if (adapter_.to_sent != nullptr)
-        adapter_.to_sent(sent_, received_.data());
-    else
-        std::copy(received_.begin(), received_.end(), sent_);
+    sent_ = before_the_page(adapter_.sent->size_bytes);
+    make_record_to_send(adapter_, sent_, received_.data());
     if (random_.one_in(2))
         return;
-    for (std::size_t index = 0; index < adapter_.sent_bytes; ++index) {
+    for (std::size_t index = 0; index < adapter_.sent->size_bytes; ++index) {
         if (sent_[index] != 0 && random_.one_in(8))
             sent_[index] = static_cast<uint8_t>(random_.one_in(6) ? 0 : random_.next() | 1);
     }
@@ -150,7 +147,7 @@ void adapter_check::place_record_to_send()
 // Into exactly the size that is needed, or a part of it, or more.
 std::string adapter_check::send()
 {
-    before_send_.assign(sent_, sent_ + adapter_.sent_bytes);
+    before_send_.assign(sent_, sent_ + adapter_.sent->size_bytes);
     block_log asked;
     const calloc_log live(asked);
     const uint64_t size = adapter_.encode(sent_, nullptr, 0);
@@ -202,7 +199,7 @@ const message &message_of_adapter(std::size_t index)
     static const auto messages = [] {
         std::array<const message *, adapter_count> found;
         for (std::size_t each = 0; each < adapter_count; ++each)
-            found[each] = find_message(adapter_at(each).message);
+            found[each] = mava_tum_model::find_message(adapter_at(each).carried->name);
         return found;
     }();
     return *messages[index];

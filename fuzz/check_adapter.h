@@ -1,6 +1,7 @@
 // One input through one adapter, both ways.
 #pragma once
 
+#include "adapter_records.h"
 #include "model/block_log.h"
 
 #include <cstddef>
@@ -10,8 +11,6 @@
 
 namespace mava_tum_fuzz
 {
-
-constexpr std::size_t adapter_count = 19;
 
 // The message that the adapter sends and receives.
 const mava_tum_model::message &message_of_adapter(std::size_t index);
@@ -29,8 +28,8 @@ bool read_adapter_case(std::span<const uint8_t> bytes, adapter_case &read);
 
 // Empty if all of this holds, otherwise what does not:
 // receiving: nothing outside the record is touched, every byte of it is the one that the model predicts, and so are the
-// blocks asked for, and all are given back; sending: nothing is allocated, the record is only read, and the size and the
-// bytes, into a buffer of any capacity, are those that the model predicts.
+// blocks asked for, and all are given back; sending: nothing is allocated, the record is only read, and the size and
+// the bytes, into a buffer of any capacity, are those that the model predicts.
 std::string check_adapter(const adapter_case &checked);
 
 } // namespace mava_tum_fuzz

@@ -1,5 +1,4 @@
 // The adapters receive and send what the model predicts: seeds, well-formed inputs and wrong ones, without an engine.
-#include "adapters.h"
 #include "check_adapter.h"
 #include "model/wire_maker.h"
 

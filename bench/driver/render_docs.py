@@ -6,6 +6,7 @@ Reads bench/results/*.json, the texts beside them, and bench/instructions.tsv.
 
 import json
 import pathlib
+import re
 import statistics
 
 import markdown
@@ -24,6 +25,7 @@ RESULTS = ROOT / "bench" / "results"
 PAGE = ROOT / "docs" / "benchmarks.md"
 PLOTS = ROOT / "docs" / "benchmarks"
 PUBLISHED_OPERATIONS = ("decode", "encode", "duplicate", "encode_adapter", "decode_adapter")
+SHOWN_MESSAGES = 10
 COLD_SIDES = ("ours", "ours bump", "ours calloc", "protobuf reused", "protobuf new", "protozero")
 
 
@@ -74,6 +76,19 @@ def _run_blocks():
     write_plots(measurements, cells, PLOTS)
 
 
+def dearest(rows):
+    """Of a table of messages those that cost most for a byte; all are in scale.json."""
+    title, *messages = rows
+    return [title, *sorted(messages, key=lambda row: -float(row[title.index("ns/byte")]))[:SHOWN_MESSAGES]]
+
+
+def largest(sizes):
+    """Of a table of sizes the title, the largest messages and the sums; scripts/message_sizes prints all."""
+    lines = [line for line in sizes.splitlines() if not line.startswith("#")]
+    sums = next(number for number, line in enumerate(lines) if re.match(r"\d+ messages ", line))
+    return "\n".join([*lines[:1 + SHOWN_MESSAGES], "...", *lines[sums:]])
+
+
 def _scale_blocks():
     document = json.loads((RESULTS / "scale.json").read_text(encoding="utf-8"))
     replay = {}
@@ -84,7 +99,7 @@ def _scale_blocks():
     yield "scale-replay", markdown.table(replay_rows(replay))
     for operation in GROWING:
         name = f"scale-{operation.replace(' ', '-')}"
-        yield name, markdown.text_table(growth_rows(document["growth"], operation))
+        yield name, markdown.text_table(dearest(growth_rows(document["growth"], operation)))
     write_scale_plots(replay, document["growth"], PLOTS)
 
 
@@ -114,7 +129,7 @@ def _instruction_blocks():
 def main():
     sizes = (RESULTS / "sizes.txt").read_text(encoding="utf-8")
     blocks = dict([*_run_blocks(), *_scale_blocks(), *_cold_blocks(), *_instruction_blocks()])
-    blocks["sizes"] = markdown.fenced(sizes)
+    blocks["sizes"] = markdown.fenced(largest(sizes))
     blocks["profile"] = markdown.fenced((RESULTS / "profile.txt").read_text(encoding="utf-8"))
     PAGE.write_text(markdown.fill(PAGE.read_text(encoding="utf-8"), blocks), encoding="utf-8")
     print(f"{len(blocks)} tables in {PAGE.relative_to(ROOT)}, {len(list(PLOTS.glob('*.svg')))} plots beside it")

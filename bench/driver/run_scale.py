@@ -95,7 +95,7 @@ def as_json(description, replay, threads, series, judgements):
     parts = [f'"machine": {json.dumps(description, indent=1)}']
     for name in ("verdicts", "threads", "replay", "growth"):
         parts.append(f'"{name}": [\n' + ",\n".join(json.dumps(entry) for entry in document[name]) + "\n]")
-    return "{\n" + ",\n".join(parts) + "\n}\n"
+    return '{"generated": "by bench/scale",\n' + ",\n".join(parts) + "\n}\n"
 
 
 def main():

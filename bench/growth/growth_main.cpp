@@ -74,6 +74,15 @@ void measure(const char *operation, const char *name, const growing_input &input
     }
 }
 
+// Null: none carries the message.
+const mava_tum_catalogue::adapter *first_adapter_of(const library_message &carried)
+{
+    for (const mava_tum_catalogue::adapter &adapter : mava_tum_catalogue::all_adapters())
+        if (adapter.carried == &carried)
+            return &adapter;
+    return nullptr;
+}
+
 void measure_decoders(const message &of, const library_message &functions, const limits &within)
 {
     const auto decoding = decode_call(functions);
@@ -82,10 +91,8 @@ void measure_decoders(const message &of, const library_message &functions, const
         if (largest == 0)
             stop("decode", of.name, input);
         measure("decode", of.name, input, largest, within, *decoding);
-        for (const decode_adapter &adapter : decode_adapters()) {
-            if (std::string(of.name) == adapter.message)
-                measure("decode adapter", of.name, input, largest, within, *adapter_call(adapter));
-        }
+        if (const mava_tum_catalogue::adapter *adapter = first_adapter_of(functions))
+            measure("decode adapter", of.name, input, largest, within, *adapter_call(*adapter));
     }
 }
 

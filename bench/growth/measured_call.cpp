@@ -104,7 +104,8 @@ private:
 class adapter_decoding final : public measured_call
 {
 public:
-    explicit adapter_decoding(const decode_adapter &adapter) : adapter_(adapter), record_(adapter.record_bytes / 8 + 1)
+    explicit adapter_decoding(const mava_tum_catalogue::adapter &adapter)
+        : adapter_(adapter), record_(adapter.received->size_bytes / 8 + 1)
     {
     }
 
@@ -126,7 +127,7 @@ public:
     }
 
 private:
-    const decode_adapter &adapter_;
+    const mava_tum_catalogue::adapter &adapter_;
     std::vector<uint64_t> record_;
     const wire_bytes *wire_ = nullptr;
 };
@@ -143,7 +144,7 @@ std::unique_ptr<measured_call> encode_call(const library_message &of)
     return std::make_unique<encoding>(of);
 }
 
-std::unique_ptr<measured_call> adapter_call(const decode_adapter &adapter)
+std::unique_ptr<measured_call> adapter_call(const mava_tum_catalogue::adapter &adapter)
 {
     return std::make_unique<adapter_decoding>(adapter);
 }

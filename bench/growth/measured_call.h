@@ -30,14 +30,8 @@ std::unique_ptr<measured_call> decode_call(const mava_tum_model::library_message
 // Encode of the record that a decode of the input brings, into a buffer of exactly the size.
 std::unique_ptr<measured_call> encode_call(const mava_tum_model::library_message &of);
 
-struct decode_adapter {
-    const char *message;
-    uint64_t record_bytes;
-    void (*decode)(const uint8_t *data, uint32_t length, void *record);
-};
-
-const std::vector<decode_adapter> &decode_adapters();
-std::unique_ptr<measured_call> adapter_call(const decode_adapter &adapter);
+// Decode through the adapter.
+std::unique_ptr<measured_call> adapter_call(const mava_tum_catalogue::adapter &adapter);
 
 } // namespace bench
 

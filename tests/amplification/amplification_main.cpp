@@ -1,7 +1,7 @@
 // check_amplification
 // For every message, how much memory its decoder asks for per wire byte at worst: the input made for that, the limit
 // that follows from the message's fields, and a search over short inputs for one that goes above it. Prints the rows of
-// the table in docs/trust.md and the worst of all; exits with 1 when an input went above a limit.
+// the table in docs/figures/memory.md and the worst of all; exits with 1 when an input went above a limit.
 #include "amplification/asked_limit.h"
 #include "amplification/measured_decode.h"
 #include "amplification/short_inputs.h"

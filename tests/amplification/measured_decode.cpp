@@ -1,6 +1,6 @@
 #include "amplification/measured_decode.h"
 
-#include "adapters.h"
+#include "check_adapter.h"
 #include "calloc_log.h"
 #include "model/block_log.h"
 #include "model/library_calls.h"

@@ -99,7 +99,7 @@ adapter_runs::adapter_runs(behaviour_table &table, std::size_t adapter_index)
 
 void adapter_runs::decode(std::span<const uint8_t> wire)
 {
-    adapter_.decode(wire.data(), static_cast<uint32_t>(wire.size()), received_.prepare(adapter_.received_bytes));
+    adapter_.decode(wire.data(), static_cast<uint32_t>(wire.size()), received_.prepare(adapter_.received->size_bytes));
     call_hash hash;
     received_.add_bytes(hash);
     decode_row_.add(wire, 0, hash);
@@ -122,19 +122,16 @@ void adapter_runs::run(const wire_input &input)
     const uint64_t part = random.below(6);
     if (!input.every_part && part > random_values)
         return;
-    uint8_t *sent = sent_.prepare(adapter_.sent_bytes);
-    if (adapter_.to_sent != nullptr)
-        adapter_.to_sent(sent, received_.buffer().data());
-    else
-        std::memcpy(sent, received_.buffer().data(), adapter_.sent_bytes);
+    uint8_t *sent = sent_.prepare(adapter_.sent->size_bytes);
+    mava_tum_fuzz::make_record_to_send(adapter_, sent, received_.buffer().data());
     if (input.every_part || part == received)
         encode(*encode_rows_[received], input.seed);
     if (input.every_part || part == changed) {
-        change_bytes({sent, adapter_.sent_bytes}, random);
+        change_bytes({sent, adapter_.sent->size_bytes}, random);
         encode(*encode_rows_[changed], input.seed);
     }
     if (input.every_part || part == random_values) {
-        fill_record(sent_layout_, sent_.prepare(adapter_.sent_bytes), random);
+        fill_record(sent_layout_, sent_.prepare(adapter_.sent->size_bytes), random);
         encode(*encode_rows_[random_values], input.seed);
     }
 }

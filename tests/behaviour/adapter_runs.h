@@ -2,7 +2,7 @@
 // What an adapter allocates, how long it takes and its stack are not part of its behaviour here.
 #pragma once
 
-#include "adapters.h"
+#include "adapter_records.h"
 #include "encode_runs.h"
 #include "message_runs.h"
 #include "model/application_layout.h"

@@ -148,7 +148,7 @@ void run_messages(behaviour_table &table, const std::vector<corpus_input> &corpu
 void run_adapters(behaviour_table &table, const std::vector<corpus_input> &corpus)
 {
     for (std::size_t index = 0; index < mava_tum_fuzz::adapter_count; ++index) {
-        const message &of = *find_message(mava_tum_fuzz::adapter_at(index).message);
+        const message &of = *find_message(mava_tum_fuzz::adapter_at(index).carried->name);
         adapter_runs runs(table, index);
         for (const corpus_input &input : corpus)
             runs.decode(input.wire);

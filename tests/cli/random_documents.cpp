@@ -90,7 +90,7 @@ json random_documents::record(const record_layout &layout)
 {
     json document = json::object();
     for (const record_member &each : layout.members)
-        if (each.kind != member_kind::reserved)
+        if (mava_tum_cli::is_in_json(each))
             document[std::string(each.name)] = member(each);
     return document;
 }

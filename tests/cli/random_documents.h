@@ -1,7 +1,7 @@
 // Random JSON of messages and of application records, as `decode --json` and `app ... decode` print it.
 #pragma once
 
-#include "app/record_member.h"
+#include "app/record_json.h"
 #include "inspect/message_table.h"
 #include "json/json_values.h"
 

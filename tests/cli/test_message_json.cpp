@@ -33,10 +33,10 @@ void release(void *pointer, void *)
 byte_vector through_the_library(const message_description &message, const byte_vector &wire)
 {
     const auto record = std::make_unique<std::byte[]>(message.record_bytes);
-    EXPECT_EQ(message.calls.decode(record.get(), wire.data(), wire.size(), allocate, nullptr, 0), MAVA_TUM_OK);
-    byte_vector again(message.calls.encode(record.get(), nullptr, 0, nullptr, nullptr, 0));
-    message.calls.encode(record.get(), again.data(), again.size(), nullptr, nullptr, 0);
-    message.calls.free(record.get(), release, nullptr, 0);
+    EXPECT_EQ(message.decode(record.get(), wire.data(), wire.size(), allocate, nullptr, 0), MAVA_TUM_OK);
+    byte_vector again(message.encode(record.get(), nullptr, 0, nullptr, nullptr, 0));
+    message.encode(record.get(), again.data(), again.size(), nullptr, nullptr, 0);
+    message.free(record.get(), release, nullptr, 0);
     return again;
 }
 

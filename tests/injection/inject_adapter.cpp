@@ -1,6 +1,5 @@
 #include "injection/inject_adapter.h"
 
-#include "adapters.h"
 #include "calloc_log.h"
 #include "check_adapter.h"
 #include "model/application_receive.h"
@@ -28,7 +27,7 @@ constexpr uint8_t not_written = 0xDD;
 // Beforehand no byte of the record is zero.
 std::vector<uint8_t> receive(const adapter &tested, std::span<const uint8_t> wire, block_log &blocks)
 {
-    std::vector<uint8_t> record(tested.received_bytes, not_written);
+    std::vector<uint8_t> record(tested.received->size_bytes, not_written);
     const calloc_log live(blocks);
     tested.decode(wire.data(), static_cast<uint32_t>(wire.size()), record.data());
     return record;

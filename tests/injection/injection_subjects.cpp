@@ -1,6 +1,5 @@
 #include "injection/injection_subjects.h"
 
-#include "adapters.h"
 #include "check_adapter.h"
 #include "injection/inject_adapter.h"
 #include "injection/inject_message.h"

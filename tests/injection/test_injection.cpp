@@ -4,7 +4,6 @@
 #include "injection/inject_message.h"
 #include "injection/injection_subjects.h"
 
-#include "adapters.h"
 #include "check_adapter.h"
 #include "model/message_tables.h"
 #include "model/model.h"

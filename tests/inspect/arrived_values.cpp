@@ -137,17 +137,17 @@ private:
 
 std::vector<uint8_t> decode_record(const adapter_description &adapter, const byte_vector &input)
 {
-    std::vector<uint64_t> aligned(adapter.record_bytes / sizeof(uint64_t) + 1, ~uint64_t{0});
+    std::vector<uint64_t> aligned(adapter.received->size_bytes / sizeof(uint64_t) + 1, ~uint64_t{0});
     adapter.decode(input.data(), static_cast<uint32_t>(input.size()), aligned.data());
     const uint8_t *record = reinterpret_cast<const uint8_t *>(aligned.data());
-    return {record, record + adapter.record_bytes};
+    return {record, record + adapter.received->size_bytes};
 }
 
 std::vector<std::string> lost_in(const adapter_description &adapter, const byte_vector &input)
 {
     const std::vector<uint8_t> record = decode_record(adapter, input);
-    arrival visitor(adapter.members, record.data(), input.data());
-    walk_message(*adapter.message, input.data(), input.size(), visitor);
+    arrival visitor(adapter.received->limits, record.data(), input.data());
+    walk_message(*adapter.carried, input.data(), input.size(), visitor);
     return visitor.lost;
 }
 

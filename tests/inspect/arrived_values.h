@@ -2,7 +2,7 @@
 // The limits tell where to look; the record comes from the adapter itself.
 #pragma once
 
-#include "inspect/limits/adapter_limits.h"
+#include "inspect/message_table.h"
 #include "support/hex.h"
 
 #include <cstdint>

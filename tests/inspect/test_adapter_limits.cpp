@@ -2,7 +2,7 @@
 // which something must be.
 #include "inspect/arrived_values.h"
 #include "inspect/inspect_calls.h"
-#include "inspect/limits/adapter_limits.h"
+#include "inspect/message_table.h"
 #include "support/wire_builder.h"
 
 #include <gtest/gtest.h>
@@ -50,7 +50,7 @@ void for_each_limit(const std::function<void(const tested_limit &)> &test)
 {
     const wrapper bare = [](const byte_vector &content) { return content; };
     for (const adapter_description &adapter : all_adapters())
-        for_each_limit(adapter, *adapter.message, adapter.members, bare, adapter.name, test);
+        for_each_limit(adapter, *adapter.carried, adapter.received->limits, bare, adapter.name, test);
 }
 
 // ---- expectations ----
@@ -208,8 +208,8 @@ TEST(adapter_limits, a_field_without_a_member_leaves_no_trace_unless_it_is_zero)
 {
     std::size_t dropped = 0;
     for (const adapter_description &adapter : all_adapters())
-        for (const field_description &field : adapter.message->fields)
-            if (find_limit(adapter.members, field.number) == nullptr) {
+        for (const field_description &field : adapter.carried->fields)
+            if (find_limit(adapter.received->limits, field.number) == nullptr) {
                 expect_dropped(adapter, field);
                 ++dropped;
             }
@@ -244,7 +244,7 @@ TEST(adapter_limits, every_field_is_taken_or_known_to_be_dropped)
 TEST(adapter_limits, names_the_19_adapters)
 {
     EXPECT_EQ(all_adapters().size(), 19u);
-    EXPECT_STREQ(find_adapter("rec_start_res")->message->name, "rec_resp");
+    EXPECT_STREQ(find_adapter("rec_start_res")->carried->name, "rec_resp");
     EXPECT_STREQ(find_adapter("rec_sess_resp")->name, "rec_sess_res");
     EXPECT_EQ(find_adapter("rec_resp"), nullptr) << "two adapters carry it";
     EXPECT_EQ(find_adapter("subscriber_v4"), nullptr);

@@ -50,7 +50,7 @@ TEST(inspect_check, finds_exactly_what_the_adapters_lose)
     tally seen;
     uint64_t seed = 0;
     for (const adapter_description &adapter : all_adapters()) {
-        const mava_tum_model::message &of = *mava_tum_model::find_message(adapter.message->name);
+        const mava_tum_model::message &of = *mava_tum_model::find_message(adapter.carried->name);
         random_source random(++seed);
         for (int round = 0; round < rounds && !testing::Test::HasFailure(); ++round) {
             mava_tum_model::wire_bytes wire = mava_tum_model::random_wire(of, random);

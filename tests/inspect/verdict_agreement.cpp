@@ -76,7 +76,7 @@ outcome of_library(const message_description &message, const uint8_t *data, uint
     counting_blocks blocks;
     std::vector<uint64_t> record(message.record_bytes / sizeof(uint64_t) + 1);
     seen.result =
-        message.calls.decode(record.data(), data, length, counting_blocks::give, &blocks, aliases ? MAVA_TUM_ALIAS : 0);
+        message.decode(record.data(), data, length, counting_blocks::give, &blocks, aliases ? MAVA_TUM_ALIAS : 0);
     seen.present = mask_of(message, record);
     seen.asked = blocks.asked;
     return seen;
@@ -86,10 +86,10 @@ outcome of_library(const message_description &message, const uint8_t *data, uint
 bool only_memory_changes(const message_description &message, const uint8_t *data, uint64_t length, int32_t verdict)
 {
     std::vector<uint64_t> record(message.record_bytes / sizeof(uint64_t) + 1);
-    const int32_t without = message.calls.decode(record.data(), data, length, nullptr, nullptr, MAVA_TUM_ALIAS);
+    const int32_t without = message.decode(record.data(), data, length, nullptr, nullptr, MAVA_TUM_ALIAS);
     counting_blocks blocks;
     blocks.fails_at = 2;
-    const int32_t failing = message.calls.decode(record.data(), data, length, counting_blocks::give, &blocks, 0);
+    const int32_t failing = message.decode(record.data(), data, length, counting_blocks::give, &blocks, 0);
     const bool has_failed = blocks.asked.blocks >= blocks.fails_at;
     return (without == verdict || without == MAVA_TUM_NO_MEMORY) &&
            failing == (has_failed ? MAVA_TUM_NO_MEMORY : verdict);

@@ -134,7 +134,7 @@ TEST(subscriber_qos, duplicate_loses_exactly_the_texts_that_could_not_be_copied)
 {
     qos_decode source(full_qos());
     const uint32_t text_fields[] = {3, 4, 5, 9, 10, 11, 12};
-    const uint32_t all = message_functions<mava_tum_subscriber_qos>::own_bits;
+    const uint32_t all = all_own_bits<mava_tum_subscriber_qos>;
     for (std::size_t failing = 1; failing <= 7; ++failing) {
         duplicated<mava_tum_subscriber_qos> copy(source.record, {.failing_call = failing});
         EXPECT_EQ(copy.result, MAVA_TUM_NO_MEMORY) << failing;

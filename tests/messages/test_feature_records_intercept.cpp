@@ -190,7 +190,7 @@ TYPED_TEST(scalar_feature, free_does_nothing)
     decoded<TypeParam> got("08 AC 02");
     got.free_now();
     EXPECT_EQ(encoded_hex(got.record), "08 AC 02");
-    message_functions<TypeParam>::release(nullptr);
+    message_row<TypeParam>::release(nullptr);
 }
 
 } // namespace

@@ -72,7 +72,7 @@ TEST(session_context, decode_stores_each_value_in_its_own_member)
     EXPECT_EQ(record.acct.field_1, 22u);
     EXPECT_EQ(record.route_ipv4_count, 2u);
     EXPECT_EQ(record.route_ipv6_count, 2u);
-    EXPECT_EQ(got.present(), message_functions<mava_tum_session_context>::own_bits);
+    EXPECT_EQ(got.present(), all_own_bits<mava_tum_session_context>);
 }
 
 TEST(session_context, encode_of_a_decoded_record_gives_the_same_bytes_in_both_modes)
@@ -89,7 +89,7 @@ void mark_everything(mava_tum_session_context &record)
 {
     const auto mark = [](auto &nested) {
         using record_type = std::remove_reference_t<decltype(nested)>;
-        nested.presence_mask = static_cast<decltype(nested.presence_mask)>(message_functions<record_type>::own_bits);
+        nested.presence_mask = static_cast<decltype(nested.presence_mask)>(all_own_bits<record_type>);
     };
     mark(record);
     mark(record.subscriber_v4);

@@ -16,7 +16,7 @@ using answer_copy = duplicated<mava_tum_sess_oper_resp>;
 
 constexpr uint32_t alias = MAVA_TUM_ALIAS;
 constexpr uint64_t service_bytes = sizeof(mava_tum_service_stats);
-constexpr uint32_t all_bits = message_functions<mava_tum_sess_oper_resp>::own_bits;
+constexpr uint32_t all_bits = all_own_bits<mava_tum_sess_oper_resp>;
 
 // Every block of memory has a size of its own.
 constexpr const char *full = "08 01 10 02 18 03 20 04 28 05 32 01 61 3A 02 62 63 42 03 64 65 66 "

@@ -13,7 +13,7 @@ using context_decode = decoded<mava_tum_session_context>;
 using context_copy = duplicated<mava_tum_session_context>;
 
 constexpr uint32_t alias = MAVA_TUM_ALIAS;
-constexpr uint32_t all_fields = message_functions<mava_tum_session_context>::own_bits;
+constexpr uint32_t all_fields = all_own_bits<mava_tum_session_context>;
 
 // What a duplicate asks for when call number `failing` fails: an array that is missing has no elements to copy.
 std::vector<uint64_t> sizes_of_a_duplicate(std::size_t failing)

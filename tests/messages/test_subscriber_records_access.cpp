@@ -188,7 +188,7 @@ TEST(l2tp_data, duplicate_of_a_present_null_field_19_stays_null_and_present)
 TEST(l2tp_data, duplicate_takes_fields_4_5_and_19_and_survives_the_failure_of_any)
 {
     l2tp_decode source(full_l2tp());
-    const uint32_t all = message_functions<mava_tum_l2tp_data>::own_bits;
+    const uint32_t all = all_own_bits<mava_tum_l2tp_data>;
     const uint32_t lost[] = {0, fields(4), fields(5), fields(19)};
     for (std::size_t failing = 0; failing <= 3; ++failing) {
         duplicated<mava_tum_l2tp_data> copy(source.record, {.failing_call = failing});

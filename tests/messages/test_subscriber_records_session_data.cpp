@@ -154,7 +154,7 @@ TEST(session_data, duplicate_takes_its_blocks_in_schema_order)
 TEST(session_data, duplicate_loses_exactly_what_could_not_be_copied)
 {
     session_data_decode source(full_session_data);
-    const uint32_t all = message_functions<mava_tum_session_data>::own_bits;
+    const uint32_t all = all_own_bits<mava_tum_session_data>;
     const uint32_t lost[] = {0, 0, 0, 0, fields(5), fields(6), fields(7), fields(8)};
     for (std::size_t failing = 1; failing <= 8; ++failing) {
         duplicated<mava_tum_session_data> copy(source.record, {.failing_call = failing});
@@ -176,7 +176,7 @@ TEST(session_data, free_releases_in_schema_order_and_once)
         EXPECT_EQ(got.allocator.released(), expected) << "flags " << flags;
         got.free_now();
         EXPECT_EQ(got.allocator.released().size(), expected.size()) << "flags " << flags;
-        EXPECT_EQ(got.present(), message_functions<mava_tum_session_data>::own_bits);
+        EXPECT_EQ(got.present(), all_own_bits<mava_tum_session_data>);
         EXPECT_EQ(got.record.field_11, 11u);
     }
 }

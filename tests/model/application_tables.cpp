@@ -1,3 +1,5 @@
+// A second copy of every application record, typed by hand from its description so that it can disagree. See
+// application_layout.h.
 #include "model/application_layout.h"
 
 #include <cstring>

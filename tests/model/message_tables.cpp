@@ -1,3 +1,4 @@
+// A second copy of every message, typed by hand from its description so that it can disagree. See message_tables.h.
 #include "model/message_tables.h"
 
 #include <array>

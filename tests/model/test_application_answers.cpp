@@ -128,7 +128,6 @@ TEST(application_model, sends_what_the_description_says)
         {"session_delete", {{0, 5}}, "08 05"},
         {"session_delete", {{0, 6}}, ""},
         {"srg_group_rec_start_req", {}, "08 00 10 00 18 00"},
-        {"srg_group_rec_resp", {}, ""},
         {"srg_group_rec_complete_req", {}, ""},
         {"subscriber_route_resp", {}, "08 00 10 00"},
         {"sub_route", {}, "08 00 10 00 18 00 30 00"},

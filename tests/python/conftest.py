@@ -3,7 +3,6 @@
 from __future__ import annotations
 
 import os
-import sys
 from pathlib import Path
 from typing import Any
 
@@ -12,7 +11,6 @@ import strategies
 from hypothesis import HealthCheck, settings
 
 SOURCE = Path(os.environ["MAVA_TUM_SOURCE"])
-sys.path.insert(0, str(SOURCE / "python" / "generate"))
 
 # The ordinary run tries the same few examples each time; tools/check/python many and others.
 EXAMPLES = os.environ.get("MAVA_TUM_EXAMPLES")

@@ -11,9 +11,9 @@ from mava_tum.library import ffi
 from mava_tum.schema import APPLICATION_RECORDS, MESSAGES
 
 LAYOUT = subprocess.run([os.environ["MAVA_TUM_LAYOUT"]], capture_output=True, text=True, check=True).stdout.split("\n")
-SIZES = {name: int(size) for name, size in (line.split() for line in LAYOUT if line.count(" ") == 1)}
-MEMBERS = {tuple(name.split(".")): (int(offset), int(size))
-           for name, offset, size in (line.split() for line in LAYOUT if line.count(" ") == 2)}
+ROWS = {name: (int(first), int(second)) for name, first, second in (line.split() for line in LAYOUT if line)}
+SIZES = {name: size for name, (size, _) in ROWS.items() if "." not in name}
+MEMBERS = {tuple(name.split(".")): place for name, place in ROWS.items() if "." in name}
 
 
 @pytest.mark.parametrize("record", SIZES)

@@ -19,11 +19,7 @@ namespace mava_tum_test
 template <class record_type>
 void free_null_record()
 {
-    constexpr auto release = message_functions<record_type>::release;
-    if constexpr (std::is_invocable_v<decltype(release), record_type *>)
-        release(nullptr);
-    else
-        release(nullptr, nullptr, nullptr, ~0u);
+    mava_tum_catalogue::message_of<record_type>().free(nullptr, nullptr, nullptr, ~0u);
 }
 
 // For messages of scalars only. `all_fields` is the wire of a record in which every field is present.
@@ -32,7 +28,7 @@ void expect_owns_no_memory(std::string_view all_fields)
 {
     decoded<record_type> source(all_fields);
     EXPECT_EQ(source.result, MAVA_TUM_OK);
-    EXPECT_EQ(source.present(), message_functions<record_type>::own_bits);
+    EXPECT_EQ(source.present(), all_own_bits<record_type>);
     EXPECT_TRUE(source.allocator.calls().empty());
     EXPECT_EQ(decoded<record_type>(all_fields, {.allocator_given = false}).result, MAVA_TUM_OK);
 
@@ -62,7 +58,7 @@ void expect_a_copy_takes_own_bits_only()
     fill_with_ones(source);
     std::memset(static_cast<void *>(&destination), 0, sizeof destination);
     EXPECT_EQ(call_duplicate<record_type>(destination, source, nullptr, nullptr), MAVA_TUM_OK);
-    EXPECT_EQ(destination.presence_mask, message_functions<record_type>::own_bits) << "no spare bit of the source";
+    EXPECT_EQ(destination.presence_mask, all_own_bits<record_type>) << "no spare bit of the source";
 }
 
 // For messages whose functions take flags although they hold no bytes field.

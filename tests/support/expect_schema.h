@@ -43,7 +43,7 @@ void expect_any_order_in_and_ascending_order_out(const std::vector<field_row> &r
         descending = joined({bytes_of(row.sample), descending});
         all |= fields(row.number);
     }
-    EXPECT_EQ(all, message_functions<record_type>::own_bits) << "the rows name every field";
+    EXPECT_EQ(all, all_own_bits<record_type>) << "the rows name every field";
     decoded<record_type> got(descending);
     EXPECT_EQ(got.result, MAVA_TUM_OK);
     EXPECT_EQ(got.present(), all);

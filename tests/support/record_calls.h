@@ -3,9 +3,9 @@
 // that must have everything back at the end.
 #pragma once
 
+#include "catalogue.h"
 #include "support/guarded_buffer.h"
 #include "support/hex.h"
-#include "support/message_functions.h"
 #include "support/recording_allocator.h"
 
 #include <gtest/gtest.h>
@@ -14,11 +14,13 @@
 #include <cstdint>
 #include <cstring>
 #include <string_view>
-#include <type_traits>
 #include <vector>
 
 namespace mava_tum_test
 {
+
+using mava_tum::cpp::call_codec;
+using mava_tum_catalogue::message_row;
 
 // ---- one call each, whatever parameters the message's function takes ----
 
@@ -26,49 +28,26 @@ template <class record_type>
 int32_t call_decode(record_type &record, const uint8_t *data, uint64_t length, mava_tum_alloc_fn alloc_fn,
     void *alloc_ctx, uint32_t flags)
 {
-    constexpr auto decode = message_functions<record_type>::decode;
-    using decode_type = decltype(decode);
-    if constexpr (std::is_invocable_v<decode_type, record_type *, const uint8_t *, uint64_t>)
-        return decode(&record, data, length);
-    else if constexpr (std::is_invocable_v<decode_type, record_type *, const uint8_t *, uint64_t, mava_tum_alloc_fn,
-                           void *>)
-        return decode(&record, data, length, alloc_fn, alloc_ctx);
-    else
-        return decode(&record, data, length, alloc_fn, alloc_ctx, flags);
+    return call_codec(message_row<record_type>::decode, &record, data, length, alloc_fn, alloc_ctx, flags);
 }
 
 template <class record_type>
 uint64_t call_encode(const record_type &record, uint8_t *buffer, uint64_t length, mava_tum_segment *segments = nullptr,
     uint32_t *segment_count = nullptr, uint32_t flags = 0)
 {
-    constexpr auto encode = message_functions<record_type>::encode;
-    if constexpr (std::is_invocable_v<decltype(encode), const record_type *, uint8_t *, uint64_t, mava_tum_segment *,
-                      uint32_t *>)
-        return encode(&record, buffer, length, segments, segment_count);
-    else
-        return encode(&record, buffer, length, segments, segment_count, flags);
+    return call_codec(message_row<record_type>::encode, &record, buffer, length, segments, segment_count, flags);
 }
 
 template <class record_type>
 int32_t call_duplicate(record_type &destination, const record_type &source, mava_tum_alloc_fn alloc_fn, void *alloc_ctx)
 {
-    constexpr auto duplicate = message_functions<record_type>::duplicate;
-    if constexpr (std::is_invocable_v<decltype(duplicate), record_type *, const record_type *>)
-        return duplicate(&destination, &source);
-    else
-        return duplicate(&destination, &source, alloc_fn, alloc_ctx);
+    return call_codec(message_row<record_type>::duplicate, &destination, &source, alloc_fn, alloc_ctx);
 }
 
 template <class record_type>
 void call_free(record_type &record, mava_tum_release_fn release_fn, void *release_ctx, uint32_t flags)
 {
-    constexpr auto release = message_functions<record_type>::release;
-    if constexpr (std::is_invocable_v<decltype(release), record_type *>)
-        release(&record);
-    else if constexpr (std::is_invocable_v<decltype(release), record_type *, mava_tum_release_fn, void *>)
-        release(&record, release_fn, release_ctx);
-    else
-        release(&record, release_fn, release_ctx, flags);
+    call_codec(message_row<record_type>::release, &record, release_fn, release_ctx, flags);
 }
 
 template <class record_type>
@@ -92,17 +71,26 @@ void mark_present(record_type &record, number... numbers)
     record.presence_mask = static_cast<decltype(record.presence_mask)>(record.presence_mask | fields(numbers...));
 }
 
+// The bits of the presence mask that belong to a field. All others are spare.
+template <class record_type>
+inline constexpr uint32_t all_own_bits = (1u << mava_tum_catalogue::message_of<record_type>().fields.size()) - 1;
+
+template <class record_type>
+struct message_functions {
+    static constexpr uint32_t own_bits = all_own_bits<record_type>;
+};
+
 template <class record_type>
 uint32_t own_bits(const record_type &record)
 {
-    return record.presence_mask & message_functions<record_type>::own_bits;
+    return record.presence_mask & all_own_bits<record_type>;
 }
 
 template <class record_type>
 constexpr uint32_t all_spare_bits()
 {
     constexpr decltype(record_type::presence_mask) all_ones = static_cast<decltype(record_type::presence_mask)>(~0u);
-    return all_ones & ~message_functions<record_type>::own_bits;
+    return all_ones & ~all_own_bits<record_type>;
 }
 
 template <class record_type>

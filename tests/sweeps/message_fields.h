@@ -1,7 +1,7 @@
 // The fields of every record, written down a second time: independent of the code under test, which has a list of its
 // own. A field is its kind, its number and its member. Field number n owns bit n-1 of the presence mask.
 //
-// A new message gets one `visit_fields` in the file of its group and one line in message_list.cpp.
+// A new message gets one `visit_fields` in the file of its group.
 #pragma once
 
 #include "sweeps/message_fields_parts.h"

@@ -1,4 +1,5 @@
-// The fields of the reconciliation, of sessions and of redundancy groups. See message_fields.h.
+// A second copy, written by hand so that it can disagree: the fields of the reconciliation of sessions and of redundancy
+// groups. See message_fields.h.
 #pragma once
 
 #include "mava_tum/reconciliation.h"

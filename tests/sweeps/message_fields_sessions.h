@@ -1,4 +1,5 @@
-// The fields of sessions, routes and statistics, and of the answers about them. See message_fields.h.
+// A second copy, written by hand so that it can disagree: the fields of sessions, routes and statistics, and of the
+// answers about them. See message_fields.h.
 #pragma once
 
 #include "mava_tum/routes.h"

@@ -100,8 +100,8 @@ void print_message(const message_description &message)
     record_filler filler;
     std::vector<uint64_t> record(message.record_bytes / sizeof(uint64_t) + 1);
     filler.fill(message, reinterpret_cast<char *>(record.data()));
-    std::vector<uint8_t> wire(message.calls.encode(record.data(), nullptr, 0, nullptr, nullptr, 0));
-    message.calls.encode(record.data(), wire.data(), wire.size(), nullptr, nullptr, 0);
+    std::vector<uint8_t> wire(message.encode(record.data(), nullptr, 0, nullptr, nullptr, 0));
+    message.encode(record.data(), wire.data(), wire.size(), nullptr, nullptr, 0);
     std::printf("%s ", message.name);
     for (const uint8_t byte : wire)
         std::printf("%02x", byte);

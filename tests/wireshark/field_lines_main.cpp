@@ -119,11 +119,11 @@ bool print_message(const std::string &name, const std::vector<uint8_t> &bytes)
     if (message == nullptr)
         return false;
     std::vector<uint64_t> record(message->record_bytes / sizeof(uint64_t) + 1); // aligned for any record
-    const int32_t result = message->calls.decode(record.data(), bytes.data(), bytes.size(), allocate, nullptr, 0);
+    const int32_t result = message->decode(record.data(), bytes.data(), bytes.size(), allocate, nullptr, 0);
     std::cout << name << "\n";
     if (result == MAVA_TUM_OK)
         print_fields(*message, record.data());
-    message->calls.free(record.data(), release, nullptr, 0);
+    message->free(record.data(), release, nullptr, 0);
     return result == MAVA_TUM_OK;
 }
 

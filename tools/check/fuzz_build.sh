@@ -3,7 +3,7 @@
 
 # build_for_fuzzing <build folder> <target>...
 build_for_fuzzing() {
-    require_packages clang-19 libclang-rt-19-dev cmake ninja-build libgtest-dev pkg-config protobuf-compiler \
+    require_packages clang-19 libclang-rt-19-dev cmake ninja-build python3 libgtest-dev pkg-config protobuf-compiler \
         libprotobuf-dev
     # Debug: fortified calls would hide the sanitizers' own interceptors.
     cmake -C tools/check/library_only.cmake -G Ninja -S . -B "$1" \

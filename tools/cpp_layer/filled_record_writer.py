@@ -1,5 +1,5 @@
 """Writes test code that sets every field of every message through its setter and looks at it through its getter."""
-from layer_writer import NUMBER_TYPES, cpp_name
+from layer_writer import NUMBER_TYPES
 
 HEAD = """\
 // Every field of every message, set and looked at through the C++ layer. Written by tools/cpp_layer/make_cpp_layer.
@@ -28,7 +28,7 @@ def fill_line(field):
     if field.kind in ("text", "bytes", "array of texts"):
         value = {"text": "text_value", "bytes": "bytes_value", "array of texts": "texts_value"}[field.kind]
         return f"    EXPECT_EQ(target.set_{name}({value}({n})), tum::result::ok);"
-    nested = cpp_name(field.type)
+    nested = field.of
     if field.kind == "record":
         return f"    fill_{nested}(target.edit_{name}());"
     return (f"    for (auto element : target.make_{name}(list_length))\n"
@@ -45,7 +45,7 @@ def expect_filled_line(field):
         return f"    EXPECT_TRUE(is_bytes_value(source.{name}(), {n}));"
     if field.kind == "array of texts":
         return f"    EXPECT_TRUE(is_texts_value(source.{name}(), {n}));"
-    nested = cpp_name(field.type)
+    nested = field.of
     if field.kind == "record":
         return (f"    EXPECT_TRUE(source.{name}().has_value());\n"
                 f"    expect_filled_{nested}(source.{name}());")
@@ -60,7 +60,7 @@ def expect_absent_line(field):
         return f"    EXPECT_TRUE(source.{name}().empty());"
     lines = f"    EXPECT_FALSE(source.{name}().has_value());"
     if field.kind == "record":
-        lines += f"\n    expect_absent_{cpp_name(field.type)}(source.{name}());"
+        lines += f"\n    expect_absent_{field.of}(source.{name}());"
     return lines
 
 
@@ -102,13 +102,9 @@ def message_lines(message):
         yield ""
 
 
-def filled_records(headers):
-    lines = []
-    names = []
-    for header in headers:
-        for message in header.messages:
-            names.append(f"tum::{message.name}")
-            lines += message_lines(message)
+def filled_records(messages):
+    names = [f"tum::{message.name}" for message in messages]
+    lines = [line for message in messages for line in message_lines(message)]
     lines += ["template <class Record>", "constexpr const char *name_of = nullptr;", ""]
     lines += [f'template <>\ninline constexpr const char *name_of<{name}> = "{name[len("tum::"):]}";' for name in names]
     lines += ["", "using every_message = std::tuple<" + ",\n    ".join(names) + ">;", ""]

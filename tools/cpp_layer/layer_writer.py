@@ -1,7 +1,5 @@
 """Writes the classes of the C++ layer for the messages of one header of the codec."""
-from codec_header import HeaderError
-
-PREFIX = "mava_tum_"
+from header_reader import HeaderError
 
 # Names of the classes' own members, which no field may take.
 RESERVED = {
@@ -10,10 +8,6 @@ RESERVED = {
 }
 
 NUMBER_TYPES = {"varint": "std::uint32_t", "64-bit varint": "std::uint64_t", "fixed32": "std::uint32_t"}
-
-
-def cpp_name(record):
-    return record.removeprefix(PREFIX)
 
 
 def getter(field):
@@ -26,9 +20,9 @@ def getter(field):
     if field.kind == "bytes":
         return "std::optional<bytes_view>", f"access::bytes_of<{n}>(c(), c().{name})"
     if field.kind == "record":
-        view = f"{cpp_name(field.type)}_view"
+        view = f"{field.of}_view"
         return view, f"access::record_of<{n}, {view}>(c(), c().{name})"
-    items = "text_list" if field.kind == "array of texts" else f"{cpp_name(field.type)}_list"
+    items = "text_list" if field.kind == "array of texts" else f"{field.of}_list"
     return items, f"access::list_of<{n}, {items}>(c(), c().{name}, c().{field.count})"
 
 
@@ -45,7 +39,7 @@ def setters(field):
         return [("result", f"set_{name}(std::optional<bytes_view> bytes)",
                  f"return change::set_bytes<{n}>(c(), c().{name}, blocks(), bytes);")]
     if field.kind == "record":
-        editor = f"{cpp_name(field.type)}_editor"
+        editor = f"{field.of}_editor"
         return [(editor, f"edit_{name}()",
                  f"return change::edit_record<{n}, {editor}>(c(), c().{name}, blocks());"),
                 ("void", f"clear_{name}()", f"change::clear_record<{n}>(c(), c().{name});")]
@@ -53,7 +47,7 @@ def setters(field):
     if field.kind == "array of texts":
         return [("result", f"set_{name}(span<const std::string_view> texts)",
                  f"return change::set_texts<{n}>({target}, texts);")]
-    editors = f"{cpp_name(field.type)}_editors"
+    editors = f"{field.of}_editors"
     return [(editors, f"make_{name}(std::uint32_t count)",
              f"return change::make_list<{n}, {editors}>({target}, count);")]
 
@@ -71,7 +65,7 @@ def fields_class(message):
         yield f"    {type_name} {field.name}() const noexcept {{ return {call}; }}"
     yield ""
     yield "private:"
-    yield (f"    const {message.record} &c() const noexcept "
+    yield (f"    const {message.c_type} &c() const noexcept "
            "{ return static_cast<const Derived &>(*this).c_record(); }")
     yield "};"
 
@@ -87,14 +81,14 @@ def changes_class(message):
         yield f"    {type_name} {declaration} noexcept {{ {call} }}"
     yield ""
     yield "private:"
-    yield f"    {message.record} &c() noexcept {{ return static_cast<Derived &>(*this).mutable_c_record(); }}"
+    yield f"    {message.c_type} &c() noexcept {{ return static_cast<Derived &>(*this).mutable_c_record(); }}"
     if any("blocks()" in call for _, _, call in functions):
         yield "    block_list *blocks() noexcept { return static_cast<Derived &>(*this).own_blocks(); }"
     yield "};"
 
 
 def codec_class(message, owns_memory):
-    name, record = message.name, message.record
+    name, record = message.name, message.c_type
     yield f"class {name}_view;"
     yield f"class {name}_editor;"
     yield ""
@@ -110,7 +104,7 @@ def codec_class(message, owns_memory):
 
 
 def using_classes(message):
-    name, record = message.name, message.record
+    name, record = message.name, message.c_type
     yield f"// A {name} that lies somewhere else, to be read."
     yield f"class {name}_view : public record_view<{name}_view, {record}>,"
     yield f"    public {name}_fields<{name}_view>"
@@ -144,7 +138,7 @@ def using_classes(message):
 def message_lines(message, owns_memory):
     taken = RESERVED.intersection(field.name for field in message.fields)
     if taken:
-        raise HeaderError(f"{message.record}: the C++ layer has a member of its own called {taken.pop()}")
+        raise HeaderError(f"{message.c_type}: the C++ layer has a member of its own called {taken.pop()}")
     yield f"// ---- {message.name} ".ljust(119, "-")
     yield ""
     for part in (codec_class(message, owns_memory), fields_class(message), changes_class(message),
@@ -153,20 +147,23 @@ def message_lines(message, owns_memory):
         yield ""
 
 
-def layer_header(header, owning):
+def layer_header(messages, owning):
+    """The classes of the messages of one header."""
+    header = messages[0].header
+    others = [path.removeprefix("mava_tum/").removesuffix(".h") for path in header.includes]
     guard = f"MAVA_TUM_CPP_{header.stem.upper()}_HPP"
     lines = [
-        f"// Classes over the records of mava_tum/{header.stem}.h, which says what the fields are.",
+        f"// Classes over the records of mava_tum/{header.stem}.h, generated from it by tools/cpp_layer/make_cpp_layer.",
         "//",
-        "// Written by tools/cpp_layer/make_cpp_layer from that header: change either of them, not this file.",
+        "// That header says what the fields are. Change it or the generator, not this file.",
         f"#ifndef {guard}", f"#define {guard}", "",
         *(f'#include "mava_tum/cpp/{stem}.hpp"'
-          for stem in sorted(header.includes + ["field_access", "field_change", "owning_record", "record_editor",
+          for stem in sorted([stem for stem in others if stem != "codec_contract"] + ["field_access", "field_change", "owning_record", "record_editor",
                                                 "record_view"])),
         f'#include "mava_tum/{header.stem}.h"', "",
         "// clang-format off", "namespace mava_tum::cpp", "{", "",
     ]
-    for message in header.messages:
-        lines += message_lines(message, message.record in owning)
+    for message in messages:
+        lines += message_lines(message, message.name in owning)
     lines += ["} // namespace mava_tum::cpp", "// clang-format on", "", "#endif"]
     return "\n".join(lines) + "\n"

@@ -1,6 +1,5 @@
 // The part of the C interface for those who do not know what they have, or what it is called.
 #include "inspect/guess.h"
-#include "inspect/limits/adapter_limits.h"
 #include "inspect/message_table.h"
 #include "inspect/similar_names.h"
 

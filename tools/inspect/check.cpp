@@ -34,7 +34,7 @@ public:
         void *context, mava_tum_inspect_check_result &result)
         : data_(data), finding_fn_(finding_fn), context_(context), result_(result)
     {
-        frames_[0].members = adapter.members;
+        frames_[0].members = adapter.received->limits;
         frames_[0].arrives = true;
     }
 
@@ -210,10 +210,10 @@ void check_message(const adapter_description &adapter, const uint8_t *data, uint
     mava_tum_inspect_finding_fn finding_fn, void *context, mava_tum_inspect_check_result &result)
 {
     result = {};
-    result.record_bytes = adapter.record_bytes;
+    result.record_bytes = adapter.received->size_bytes;
     fill_success(result.verdict, length);
     checker visitor(adapter, data, finding_fn, context, result);
-    walk_message(*adapter.message, data, length, visitor);
+    walk_message(*adapter.carried, data, length, visitor);
 }
 
 } // namespace mava_tum_inspect

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "inspect/fault_text.h"
-#include "inspect/limits/adapter_limits.h"
+#include "inspect/message_table.h"
 #include "inspect/wire_event.h"
 #include "mava_tum_inspect.h"
 

@@ -48,7 +48,7 @@ def record_of(functions, header):
 
 
 def record_lines(record):
-    members = [line for member in record.members.split("\n") for line in member_lines(member)]
+    members = [line for member in record.body.split("\n") for line in member_lines(member)]
     return [*man_text.comment(record.comment),
             *man_text.code(["typedef struct " + record.tag + " {", *members, "} " + record.name + ";"])]
 
@@ -72,10 +72,9 @@ def code_lines(functions, codes):
     """The result codes that the functions name, each with its meaning."""
     text = " ".join(function.comment for function in functions)
     rows = []
-    for name, (value, comment) in codes.items():
+    for name, code in codes.items():
         if name in text:
-            meaning = man_text.plain(comment) if comment.startswith("/*") else comment
-            rows.append((f"{name} ({value})", sentence(meaning)))
+            rows.append((f"{name} ({code.value})", sentence(man_text.plain(code.comment))))
     return [".SH RETURN VALUE", "The result codes are:", *man_text.terms(rows)] if rows else []
 
 

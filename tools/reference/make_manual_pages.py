@@ -14,9 +14,13 @@ import re
 import sys
 from dataclasses import dataclass
 
-from function_page import function_page
-from overview_page import codec_overview, inspect_overview
-from public_headers import read_headers, read_parts, result_codes
+sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[2] / "catalogue"))
+
+from header_reader import Header, HeaderReader, read_headers  # noqa: E402  (found by the line above)
+
+from comment_blocks import blocks_of, sentence  # noqa: E402
+from function_page import function_page  # noqa: E402
+from overview_page import codec_overview, inspect_overview  # noqa: E402
 
 
 @dataclass
@@ -39,23 +43,43 @@ def related(header):
     return list(groups.values())
 
 
+def result_codes(header):
+    """The codes that functions return: the first enumeration of the header."""
+    return header.enums[0].constants
+
+
+def codec_headers(root):
+    """In the order of their names, without the one that includes all others."""
+    return sorted(read_headers(root / "include")[:-1], key=lambda header: header.path)
+
+
 def codec_codes(headers):
     return result_codes(next(header for header in headers if header.path.endswith("codec_contract.h")))
 
 
+def parts_of(path):
+    """What a header declares above its first divider, then what below each: as the headers that they could be."""
+    header = HeaderReader().read(path.name, path.read_text(encoding="utf-8"))
+    # The list in the comment of the header says what its parts are about.
+    subjects = dict(row for block in blocks_of(header.comment) for row in block.rows)
+    return [Header(header.path, sentence(subjects[title]) if title else header.comment,
+                   declarations=[each for each in header.declarations if each.divider == title])
+            for title in ["", *header.dividers]]
+
+
 def codec(root, release):
-    headers = read_headers(root / "include")
+    headers = codec_headers(root)
     example = (root / "examples" / "first_session.c").read_text(encoding="utf-8")
     return Library("mava_tum", [(header, functions) for header in headers for functions in related(header)],
                    codec_codes(headers), codec_overview(headers, example, release))
 
 
 def inspector(root, release):
-    header, *parts = read_parts(root / "tools" / "inspect" / "include" / "mava_tum_inspect.h")
+    header, *parts = parts_of(root / "tools" / "inspect" / "include" / "mava_tum_inspect.h")
     guide = (root / "docs" / "inspect-library.md").read_text(encoding="utf-8")
     example = re.search(r"save log_why.c -->\n```c\n(.*?)^```$", guide, re.M | re.S).group(1)
     return Library("mava_tum_inspect", [(part, part.functions) for part in parts],
-                   codec_codes(read_headers(root / "include")) | result_codes(header),
+                   codec_codes(codec_headers(root)) | result_codes(header),
                    inspect_overview(header, parts, example, release))
 
 

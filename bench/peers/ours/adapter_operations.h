@@ -48,7 +48,7 @@ void add_heap_floor(suite &operations, const char *operation)
 template <class Adapter>
 void add_adapter(suite &operations)
 {
-    using application = typename Adapter::application;
+    using application = typename Adapter::sent;
     const corpus &content = operations.content();
     auto sent = std::make_shared<std::vector<application>>(records_to_send<application>(content));
     auto buffer = std::make_shared<std::vector<uint8_t>>(content.longest_wire() + 64 * 1024);

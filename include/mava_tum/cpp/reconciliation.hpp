@@ -1,6 +1,6 @@
-// Classes over the records of mava_tum/reconciliation.h, which says what the fields are.
+// Classes over the records of mava_tum/reconciliation.h, generated from it by tools/cpp_layer/make_cpp_layer.
 //
-// Written by tools/cpp_layer/make_cpp_layer from that header: change either of them, not this file.
+// That header says what the fields are. Change it or the generator, not this file.
 #ifndef MAVA_TUM_CPP_RECONCILIATION_HPP
 #define MAVA_TUM_CPP_RECONCILIATION_HPP
 

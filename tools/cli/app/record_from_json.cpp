@@ -80,7 +80,7 @@ const record_member &member_named(const record_layout &layout, const std::string
 {
     std::string known;
     for (const record_member &member : layout.members) {
-        if (member.kind == member_kind::reserved)
+        if (!is_in_json(member))
             continue;
         if (member.name == name)
             return member;

@@ -65,7 +65,7 @@ json json_of_record(const record_layout &layout, const std::byte *record)
 {
     json object = json::object();
     for (const record_member &member : layout.members)
-        if (member.kind != member_kind::reserved)
+        if (is_in_json(member))
             object[std::string(member.name)] = json_of_member(member, record);
     return object;
 }

@@ -16,29 +16,31 @@ namespace mava_tum_cli
 namespace
 {
 
+using mava_tum_inspect::adapter_description;
+
 // Aligned for any record.
 std::unique_ptr<std::byte[]> block_for(const record_layout &layout)
 {
     return std::make_unique<std::byte[]>(layout.size_bytes);
 }
 
-byte_vector encode_record(const app_adapter &adapter, const json &document)
+byte_vector encode_record(const adapter_description &adapter, const json &document)
 {
-    const auto record = block_for(*adapter.encode_layout);
-    record_of_json(*adapter.encode_layout, document, "", record.get());
+    const auto record = block_for(*adapter.sent);
+    record_of_json(*adapter.sent, document, "", record.get());
     byte_vector wire(adapter.encode(record.get(), nullptr, 0));
     adapter.encode(record.get(), wire.data(), static_cast<uint32_t>(wire.size()));
     return wire;
 }
 
-json decode_record(const app_adapter &adapter, std::span<const uint8_t> wire)
+json decode_record(const adapter_description &adapter, std::span<const uint8_t> wire)
 {
-    const auto record = block_for(*adapter.decode_layout);
+    const auto record = block_for(*adapter.received);
     adapter.decode(wire.data(), static_cast<uint32_t>(wire.size()), record.get());
-    return json_of_record(*adapter.decode_layout, record.get());
+    return json_of_record(*adapter.received, record.get());
 }
 
-exit_status run_app_encode(const app_adapter &adapter, const command_options &options)
+exit_status run_app_encode(const adapter_description &adapter, const command_options &options)
 {
     const json document = read_json_file(options.file);
     write_wire(at_place(options.file, [&] { return encode_record(adapter, document); }), options);
@@ -47,9 +49,9 @@ exit_status run_app_encode(const app_adapter &adapter, const command_options &op
 
 // What is broken is printed as far as it arrives: that is what the application sees. One document a line when there are
 // several messages.
-exit_status run_app_decode(const app_adapter &adapter, const command_options &options)
+exit_status run_app_decode(const adapter_description &adapter, const command_options &options)
 {
-    const mava_tum_inspect::message_description &message = message_named(std::string(adapter.message));
+    const mava_tum_inspect::message_description &message = *adapter.carried;
     message_source source(options.file, options.format, plausibility_of(message));
     output_file output(options.output);
     source.show_progress_beside(output);
@@ -66,7 +68,7 @@ exit_status run_app_decode(const app_adapter &adapter, const command_options &op
 
 exit_status run_app(const command_options &options)
 {
-    const app_adapter &adapter = adapter_named(options.name);
+    const adapter_description &adapter = adapter_named(options.name);
     return options.direction == "encode" ? run_app_encode(adapter, options) : run_app_decode(adapter, options);
 }
 

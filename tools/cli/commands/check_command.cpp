@@ -46,8 +46,8 @@ struct check_sum {
 
 exit_status run_check(const command_options &options)
 {
-    const app_adapter &adapter = adapter_named(options.name);
-    message_source source(options.file, options.format, plausibility_of(message_named(std::string(adapter.message))));
+    const mava_tum_inspect::adapter_description &adapter = adapter_named(options.name);
+    message_source source(options.file, options.format, plausibility_of(*adapter.carried));
     output_file output(options.output);
     source.show_progress_beside(output);
     check_sum sum;
@@ -56,8 +56,7 @@ exit_status run_check(const command_options &options)
         finding_writer writer{
             source.has_frames() ? fmt::format("frame {} at byte {}: ", source.number(), source.begin()) : "", output};
         mava_tum_inspect_check_result result{};
-        mava_tum_inspect_check(
-            std::string(adapter.name).c_str(), wire.data(), wire.size(), write_finding, &writer, &result);
+        mava_tum_inspect_check(adapter.name, wire.data(), wire.size(), write_finding, &writer, &result);
         sum.add(result);
     }
     output.write(sum.to_string());

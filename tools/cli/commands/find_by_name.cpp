@@ -37,9 +37,9 @@ const mava_tum_inspect::message_description &message_named(const std::string &na
         nearest_names(name, mava_tum_inspect_similar_messages)));
 }
 
-const app_adapter &adapter_named(const std::string &name)
+const mava_tum_inspect::adapter_description &adapter_named(const std::string &name)
 {
-    if (const app_adapter *adapter = find_adapter(name))
+    if (const mava_tum_inspect::adapter_description *adapter = mava_tum_catalogue::find_adapter(name))
         return *adapter;
     throw bad_use(fmt::format("there is no adapter \"{}\"{}; mava-tum list has all names", name,
         nearest_names(name, mava_tum_inspect_similar_adapters)));

@@ -1,7 +1,6 @@
 // Messages and adapters by the name that the command line gives.
 #pragma once
 
-#include "app/app_adapters.h"
 #include "inspect/message_table.h"
 
 #include <string>
@@ -11,6 +10,6 @@ namespace mava_tum_cli
 
 // Both throw bad_use that offers the nearest names.
 const mava_tum_inspect::message_description &message_named(const std::string &name);
-const app_adapter &adapter_named(const std::string &name);
+const mava_tum_inspect::adapter_description &adapter_named(const std::string &name);
 
 } // namespace mava_tum_cli

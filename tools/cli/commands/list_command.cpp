@@ -1,4 +1,3 @@
-#include "app/app_adapters.h"
 #include "commands/all_commands.h"
 #include "commands/find_by_name.h"
 #include "output/output_file.h"
@@ -12,14 +11,15 @@ namespace mava_tum_cli
 namespace
 {
 
+using mava_tum_inspect::adapter_description;
 using mava_tum_inspect::field_description;
 using mava_tum_inspect::message_description;
 
-std::string adapters_of(std::string_view message)
+std::string adapters_of(const message_description &message)
 {
     std::string names;
-    for (const app_adapter &adapter : all_adapters())
-        if (adapter.message == message)
+    for (const adapter_description &adapter : mava_tum_inspect::all_adapters())
+        if (adapter.carried == &message)
             names += (names.empty() ? "" : ", ") + std::string(adapter.name);
     return names;
 }
@@ -47,7 +47,7 @@ void list_messages(output_file &output)
     output.write(fmt::format("{:<28}{:>6}  {}\n", "message", "fields", "adapters"));
     for (const message_description &message : mava_tum_inspect::all_messages())
         output.write(line_without_trailing_blanks(
-            fmt::format("{:<28}{:>6}  {}", message.name, message.fields.size(), adapters_of(message.name))));
+            fmt::format("{:<28}{:>6}  {}", message.name, message.fields.size(), adapters_of(message))));
 }
 
 void list_fields(const message_description &message, output_file &output)

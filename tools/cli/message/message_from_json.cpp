@@ -169,8 +169,8 @@ byte_vector encode_json(const message_description &message, const json &document
     const std::byte *record = is_wrapped
                                   ? filler.filled_record(message, document[record_key], member_path("", record_key))
                                   : filler.filled_record(message, document, "");
-    byte_vector wire(message.calls.encode(record, nullptr, 0, nullptr, nullptr, 0));
-    message.calls.encode(record, wire.data(), wire.size(), nullptr, nullptr, 0);
+    byte_vector wire(message.encode(record, nullptr, 0, nullptr, nullptr, 0));
+    message.encode(record, wire.data(), wire.size(), nullptr, nullptr, 0);
     return wire;
 }
 
