@@ -21,7 +21,7 @@ ITEMS = {kind: re.compile(pattern, re.DOTALL) for kind, pattern in {
     "guard": r"#ifndef (?P<name>\w+_H)\n#define (?P=name)\n",
     "end": r"#endif\s*\Z",
     "extern": r'#ifdef __cplusplus\n(?:extern "C" \{|\})\n#endif\n',
-    "export": r"#if defined\(__GNUC__\)\n#define MAVA_TUM_API [^\n]+\n#else\n#define MAVA_TUM_API\n#endif\n",
+    "export": r"#if !defined\(MAVA_TUM_API\)[^\n]*\n#define MAVA_TUM_API [^\n]+\n#elif [^\n]*\n#define MAVA_TUM_API\n#endif\n",
     "record": r"typedef struct (?P<tag>\w+) \{\n(?P<body>.*?)\n\} (?P<name>\w+);",
     "callback": r"typedef (?P<type>[\w ]*?[\s*]+)(?P<name>\(\*\w+\))\((?P<parameters>[^;()]*)\);",
     "function": r"MAVA_TUM_API (?P<type>[\w ]*?[\s*]+)(?P<name>\w+)\(\s*(?P<parameters>[^;()]*)\);",
