@@ -1,10 +1,10 @@
 // Sending and receiving through the adapters as tests want it: records and inputs end before an inaccessible page, the
-// receiver's record holds rubbish beforehand, encoders may not allocate, decoders may keep nothing.
+// receiver's record is filled with ones beforehand, and no adapter may call an allocator.
 #pragma once
 
 #include "nal/adapter_functions.h"
-#include "nal/calloc_watch.h"
 #include "support/guarded_buffer.h"
+#include "support/heap_count.h"
 #include "support/hex.h"
 
 #include <gtest/gtest.h>
@@ -20,13 +20,18 @@ namespace mava_tum_test
 template <class record_type>
 uint64_t call_encode_adapter(const record_type &record, uint8_t *buffer, uint32_t capacity)
 {
-    return adapter_functions<record_type>::encode(&record, buffer, capacity);
+    const std::size_t before = heap_calls();
+    const uint64_t size = adapter_functions<record_type>::encode(&record, buffer, capacity);
+    EXPECT_EQ(heap_calls(), before) << "an encode adapter called an allocator";
+    return size;
 }
 
 template <class record_type>
 void call_decode_adapter(const uint8_t *data, uint32_t length, record_type &record)
 {
+    const std::size_t before = heap_calls();
     adapter_functions<record_type>::decode(data, length, &record);
+    EXPECT_EQ(heap_calls(), before) << "a decode adapter called an allocator";
 }
 
 // All bytes zero, padding too, so that records can be compared as bytes.
@@ -45,12 +50,10 @@ byte_vector sent(const record_type &record)
     page_end_buffer memory(sizeof record);
     std::memcpy(memory.data(), &record, sizeof record);
     const record_type &placed = *reinterpret_cast<const record_type *>(memory.data());
-    calloc_watch watch;
     const uint64_t size = call_encode_adapter(placed, nullptr, 0);
     guarded_buffer buffer(size);
     EXPECT_EQ(call_encode_adapter(placed, buffer.data(), static_cast<uint32_t>(size)), size);
     EXPECT_TRUE(buffer.guards_intact());
-    EXPECT_EQ(watch.sizes().size(), 0u) << "an encode adapter allocated";
     EXPECT_EQ(std::memcmp(&placed, &record, sizeof record), 0) << "an encode adapter wrote into its record";
     return buffer.content();
 }
@@ -106,28 +109,16 @@ void expect_every_capacity_gives_a_prefix(const record_type &record, std::size_t
     }
 }
 
-struct receive_options {
-    std::size_t failing_call = 0;      // this call of calloc fails, once; 0 for none
-    std::size_t failing_from_call = 0; // this one and all later ones
-};
-
-// One decode and what it left. `sizes` are those of its calls of calloc.
+// One decode and what it left.
 template <class record_type>
 class received
 {
 public:
-    explicit received(const byte_vector &wire, receive_options options = {}) : memory_(sizeof(record_type))
+    explicit received(const byte_vector &wire) : memory_(sizeof(record_type))
     {
         page_end_buffer input(wire);
         std::memset(memory_.data(), 0xFF, sizeof(record_type));
-        calloc_watch watch;
-        if (options.failing_call != 0)
-            watch.fail_call(options.failing_call);
-        if (options.failing_from_call != 0)
-            watch.fail_from_call(options.failing_from_call);
         call_decode_adapter(input.data(), static_cast<uint32_t>(wire.size()), record());
-        EXPECT_EQ(watch.outstanding_count(), 0u) << "a decode adapter kept memory";
-        sizes_ = watch.sizes();
     }
 
     explicit received(std::string_view hex) : received(bytes_of(hex)) {}
@@ -142,11 +133,6 @@ public:
         return &record();
     }
 
-    const std::vector<std::size_t> &sizes() const
-    {
-        return sizes_;
-    }
-
 private:
     record_type &record()
     {
@@ -154,7 +140,6 @@ private:
     }
 
     page_end_buffer memory_;
-    std::vector<std::size_t> sizes_;
 };
 
 using received_session = received<tum_nal_data_session_context>;

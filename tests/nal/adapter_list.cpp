@@ -329,33 +329,29 @@ const std::vector<adapter> &all_adapters()
 byte_vector send(const adapter &tested, const byte_vector &record)
 {
     page_end_buffer placed(record);
-    calloc_watch watch;
-    const uint64_t size = tested.encode(placed.data(), nullptr, 0);
+    const auto encode = [&](uint8_t *buffer, uint64_t capacity) {
+        uint64_t size = 0;
+        EXPECT_EQ(
+            heap_calls_of([&] { size = tested.encode(placed.data(), buffer, static_cast<uint32_t>(capacity)); }), 0u)
+            << tested.name << " called an allocator while it encoded";
+        return size;
+    };
+    const uint64_t size = encode(nullptr, 0);
     guarded_buffer buffer(size);
-    EXPECT_EQ(tested.encode(placed.data(), buffer.data(), static_cast<uint32_t>(size)), size) << tested.name;
+    EXPECT_EQ(encode(buffer.data(), size), size) << tested.name;
     EXPECT_TRUE(buffer.guards_intact()) << tested.name;
-    EXPECT_EQ(watch.sizes().size(), 0u) << tested.name << " allocated while it encoded";
     EXPECT_EQ(std::memcmp(placed.data(), record.data(), record.size()), 0) << tested.name << " wrote into its record";
     return buffer.content();
 }
 
-arrival receive(const adapter &tested, const byte_vector &wire, receive_options options)
+byte_vector receive(const adapter &tested, const byte_vector &wire)
 {
     page_end_buffer input(wire);
     page_end_buffer record(byte_vector(tested.received.size(), 0xFF));
-    arrival arrived;
-    {
-        calloc_watch watch;
-        if (options.failing_call != 0)
-            watch.fail_call(options.failing_call);
-        if (options.failing_from_call != 0)
-            watch.fail_from_call(options.failing_from_call);
-        tested.decode(input.data(), static_cast<uint32_t>(wire.size()), record.data());
-        EXPECT_EQ(watch.outstanding_count(), 0u) << tested.name << " kept memory";
-        arrived.calloc_sizes = watch.sizes();
-    }
-    arrived.record.assign(record.data(), record.data() + record.size());
-    return arrived;
+    EXPECT_EQ(
+        heap_calls_of([&] { tested.decode(input.data(), static_cast<uint32_t>(wire.size()), record.data()); }), 0u)
+        << tested.name << " called an allocator while it decoded";
+    return byte_vector(record.data(), record.data() + record.size());
 }
 
 // ---- looking into records ----

@@ -48,12 +48,8 @@ const std::vector<adapter> &all_adapters();
 // The complete message of `record`, which stands before an inaccessible page while it is read.
 byte_vector send(const adapter &tested, const byte_vector &record);
 
-struct arrival {
-    byte_vector record; // it stood before an inaccessible page
-    std::vector<std::size_t> calloc_sizes;
-};
-
-arrival receive(const adapter &tested, const byte_vector &wire, receive_options options = {});
+// What the message leaves in a record, which stands before an inaccessible page.
+byte_vector receive(const adapter &tested, const byte_vector &wire);
 
 // ---- looking into records ----
 

@@ -1,6 +1,5 @@
-// Every adapter through every cut of its message, every capacity of its buffer and every failing calloc, and damaged
-// messages. `send` and `receive` check on the way that nothing outside the record and the buffer is touched and that
-// all memory is given back.
+// Every adapter through every cut of its message and every capacity of its buffer, and damaged messages. `send` and
+// `receive` check on the way that nothing outside the record and the buffer is touched and that no allocator is called.
 #include "nal/adapter_list.h"
 #include "support/wire_builder.h"
 
@@ -89,28 +88,28 @@ std::size_t arriving_bytes(const std::vector<wire_field> &fields, std::size_t cu
     return complete == 0 ? 0 : fields[complete - 1].end;
 }
 
-TEST(adapter_frame_sweeps, a_cut_message_arrives_as_its_complete_fields_say)
+TEST(adapter_contract_sweeps, a_cut_message_arrives_as_its_complete_fields_say)
 {
     for (const adapter &tested : all_adapters()) {
         const byte_vector wire = send(tested, swept_record(tested));
-        const byte_vector whole = receive(tested, wire).record;
+        const byte_vector whole = receive(tested, wire);
         const std::vector<wire_field> fields = fields_in(wire);
         std::map<std::size_t, byte_vector> records; // by the bytes that arrive
         for (std::size_t cut = 0; cut < wire.size(); ++cut) {
             const auto at = [&](std::size_t length) { return wire.begin() + static_cast<std::ptrdiff_t>(length); };
             const std::size_t arriving = arriving_bytes(fields, cut);
             if (records.count(arriving) == 0) {
-                records[arriving] = receive(tested, byte_vector(wire.begin(), at(arriving))).record;
+                records[arriving] = receive(tested, byte_vector(wire.begin(), at(arriving)));
                 expect_part_of(tested, records[arriving], whole, "first " + std::to_string(arriving) + " bytes");
             }
-            ASSERT_EQ(receive(tested, byte_vector(wire.begin(), at(cut))).record, records[arriving])
+            ASSERT_EQ(receive(tested, byte_vector(wire.begin(), at(cut))), records[arriving])
                 << tested.name << " cut at " << cut << ", of which " << arriving << " bytes arrive";
         }
         EXPECT_EQ(records.begin()->second, byte_vector(whole.size(), 0)) << tested.name;
     }
 }
 
-TEST(adapter_frame_sweeps, each_complete_field_of_a_message_adds_to_what_arrives)
+TEST(adapter_contract_sweeps, each_complete_field_of_a_message_adds_to_what_arrives)
 {
     const auto content = [](const byte_vector &record) {
         return static_cast<std::size_t>(record.size()) -
@@ -121,7 +120,7 @@ TEST(adapter_frame_sweeps, each_complete_field_of_a_message_adds_to_what_arrives
         std::size_t before = 0;
         for (const wire_field &field : fields_in(wire)) {
             const auto end = wire.begin() + static_cast<std::ptrdiff_t>(field.end);
-            const std::size_t after = content(receive(tested, byte_vector(wire.begin(), end)).record);
+            const std::size_t after = content(receive(tested, byte_vector(wire.begin(), end)));
             const bool dropped = std::string(tested.name) == "rec_start_req" && field.number < 3;
             EXPECT_EQ(after > before, !dropped) << tested.name << ", field " << field.number;
             before = after;
@@ -131,7 +130,7 @@ TEST(adapter_frame_sweeps, each_complete_field_of_a_message_adds_to_what_arrives
 
 // ---- capacities ----
 
-TEST(adapter_frame_sweeps, every_capacity_gives_the_size_and_a_prefix)
+TEST(adapter_contract_sweeps, every_capacity_gives_the_size_and_a_prefix)
 {
     constexpr std::size_t longest_block = 255; // a text or address that does not fit whole is left out whole
     for (const adapter &tested : all_adapters()) {
@@ -156,38 +155,6 @@ TEST(adapter_frame_sweeps, every_capacity_gives_the_size_and_a_prefix)
     }
 }
 
-// ---- failing allocations ----
-
-TEST(adapter_frame_sweeps, every_calloc_that_fails_ends_the_message_there)
-{
-    for (const adapter &tested : all_adapters()) {
-        const byte_vector wire = send(tested, swept_record(tested));
-        const arrival whole = receive(tested, wire);
-        for (std::size_t failing = 1; failing <= whole.calloc_sizes.size(); ++failing) {
-            const arrival once = receive(tested, wire, {.failing_call = failing});
-            ASSERT_EQ(once.calloc_sizes.size(), failing) << tested.name << " went on after a failure";
-            ASSERT_NE(once.record, whole.record) << tested.name << ", call " << failing;
-            expect_part_of(tested, once.record, whole.record, "call " + std::to_string(failing));
-            ASSERT_EQ(receive(tested, wire, {.failing_from_call = failing}).record, once.record) << tested.name;
-        }
-    }
-}
-
-TEST(adapter_frame_sweeps, calloc_is_asked_for_texts_and_lists_only)
-{
-    std::map<std::string, std::size_t> calls;
-    for (const adapter &tested : all_adapters())
-        calls[tested.name] = receive(tested, send(tested, tested.sent)).calloc_sizes.size();
-    // 1 list and 8 names in statistics; in the session 3 lists, 48 + 24 texts in them and 9 beside them.
-    const std::map<std::string, std::size_t> expected = {{"session_context", 84}, {"session_delete", 0},
-        {"sess_oper_resp", 3 + 9}, {"subscriber_stats", 9}, {"sub_route", 302}, {"subscriber_route_resp", 2},
-        {"rec_start_req", 1}, {"rec_start_res", 1}, {"rec_complete_req", 1}, {"rec_complete_res", 1},
-        {"rec_sess_req", 1 + 2}, {"rec_sess_res", 1}, {"rec_sess_replay_req", 1 + 84 + 1},
-        {"rec_sess_replay_resp", 1 + 9 + 1 + 9 + 1}, {"srg_group_rec_start_req", 0}, {"srg_group_rec_resp", 0},
-        {"srg_group_rec_complete_req", 0}, {"srg_group_rec_replay_req", 16}, {"srg_group_rec_replay_resp", 32}};
-    EXPECT_EQ(calls, expected);
-}
-
 // ---- damage ----
 
 // Whatever arrived, its counts stay within the slots and it can be sent again.
@@ -199,7 +166,7 @@ void expect_consistent(const adapter &tested, const byte_vector &record)
         send(tested, record);
 }
 
-TEST(adapter_frame_sweeps, damaged_messages_stay_inside_the_record_and_leave_nothing_behind)
+TEST(adapter_contract_sweeps, damaged_messages_stay_inside_the_record)
 {
     std::mt19937 random(30);
     for (const adapter &tested : all_adapters()) {
@@ -209,7 +176,7 @@ TEST(adapter_frame_sweeps, damaged_messages_stay_inside_the_record_and_leave_not
             byte_vector damaged = wire;
             for (std::size_t hits = random() % 4 + 1; hits > 0; --hits)
                 damaged[random() % damaged.size()] = static_cast<uint8_t>(random());
-            const byte_vector record = receive(tested, damaged).record;
+            const byte_vector record = receive(tested, damaged);
             changed += record != tested.received;
             expect_consistent(tested, record);
         }
@@ -217,22 +184,21 @@ TEST(adapter_frame_sweeps, damaged_messages_stay_inside_the_record_and_leave_not
     }
 }
 
-TEST(adapter_frame_sweeps, lengths_that_lie_stay_inside_the_record_and_leave_nothing_behind)
+TEST(adapter_contract_sweeps, lengths_that_lie_stay_inside_the_record)
 {
     for (const adapter &tested : all_adapters()) {
         for (uint32_t field = 1; field <= 24; ++field) {
             for (uint64_t length : {uint64_t{2}, uint64_t{0x7F}, uint64_t{0x7FFFFFFF}, uint64_t{0xFFFFFFFF}}) {
                 const byte_vector wire =
                     wire_builder().tag(field, wire_type::length_delimited).bare_varint(length).raw("61");
-                const arrival arrived = receive(tested, wire);
-                ASSERT_EQ(arrived.record, byte_vector(tested.received.size(), 0)) << tested.name << ", field " << field;
-                ASSERT_TRUE(arrived.calloc_sizes.empty()) << tested.name << ", field " << field;
+                ASSERT_EQ(receive(tested, wire), byte_vector(tested.received.size(), 0))
+                    << tested.name << ", field " << field;
             }
         }
     }
 }
 
-TEST(adapter_frame_sweeps, bytes_without_any_order_stay_inside_the_record_and_leave_nothing_behind)
+TEST(adapter_contract_sweeps, bytes_without_any_order_stay_inside_the_record)
 {
     std::mt19937 random(31);
     for (const adapter &tested : all_adapters()) {
@@ -240,7 +206,7 @@ TEST(adapter_frame_sweeps, bytes_without_any_order_stay_inside_the_record_and_le
             byte_vector noise(random() % 48);
             for (uint8_t &byte : noise)
                 byte = static_cast<uint8_t>(random());
-            expect_consistent(tested, receive(tested, noise).record);
+            expect_consistent(tested, receive(tested, noise));
         }
     }
 }

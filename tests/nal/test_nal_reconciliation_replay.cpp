@@ -95,11 +95,13 @@ TEST(nal_reconciliation_replay, a_session_that_fails_does_not_arrive)
         "08 07 22 07 08 07 52 05 2A 01 61 0D 28 05"}});
 }
 
-TEST(nal_reconciliation_replay, what_a_replaced_record_of_a_session_held_is_given_back)
+TEST(nal_reconciliation_replay, a_replaced_record_of_a_session_leaves_nothing_behind)
 {
-    received<request_received> got("22 0A 52 03 2A 01 61 52 03 2A 01 62");
-    EXPECT_STREQ(got->field_4[0].session_name, "b");
-    EXPECT_EQ(got.sizes().size(), 3u);
+    received<request_received> got("22 0D 52 06 2A 01 61 3A 01 63 52 03 2A 01 62");
+    request_received expected = zero_record<request_received>();
+    expected.field_4_count = 1;
+    set_text(expected.field_4[0].session_name, "b");
+    EXPECT_EQ(first_difference(*got, expected), -1);
 }
 
 // ---- rec_sess_replay_resp ----
@@ -200,7 +202,6 @@ TEST(nal_reconciliation_replay, of_258_texts_of_a_start_the_count_is_2)
     EXPECT_EQ(got->field_3[0].field_5_count, 2u);
     EXPECT_STREQ(got->field_3[0].field_5[1], "t");
     EXPECT_STREQ(got->field_3[0].field_5[2], "");
-    EXPECT_EQ(got.sizes().size(), 1u + 1u + 258u);
 }
 
 TEST(nal_reconciliation_replay, statistics_that_a_failure_holds_without_marking_them_arrive)
@@ -220,16 +221,14 @@ TEST(nal_reconciliation_replay, statistics_that_a_failure_holds_without_marking_
     EXPECT_EQ(got->field_2[0].field_3.value_2, 7u);
 }
 
-TEST(nal_reconciliation_replay,
-    of_statistics_that_occur_twice_in_a_failure_the_second_arrive_and_the_first_are_given_back)
+TEST(nal_reconciliation_replay, of_statistics_that_occur_twice_in_a_failure_only_the_second_arrive)
 {
     received<answer> got("12 12 1A 07 42 05 0A 01 61 12 00 1A 07 42 05 0A 01 62 12 00");
     EXPECT_EQ(got->field_2[0].field_3.service_count, 1u);
     EXPECT_STREQ(got->field_2[0].field_3.services[0].name, "b");
-    EXPECT_EQ(got.sizes().size(), 5u);
 }
 
-TEST(nal_reconciliation_replay, a_failure_that_fails_does_not_arrive_and_leaves_nothing_behind)
+TEST(nal_reconciliation_replay, a_failure_that_fails_does_not_arrive)
 {
     expect_received<answer>({
         {"its second statistics are malformed", [](answer &r) { r.field_1 = 7; },
@@ -244,7 +243,6 @@ TEST(nal_reconciliation_replay, a_start_with_two_runs_of_texts_does_not_arrive)
     answer expected = zero_record<answer>();
     expected.field_1 = 7;
     EXPECT_EQ(first_difference(*got, expected), -1);
-    EXPECT_EQ(got.sizes().size(), 3u) << "the list of starts, the list of texts, one text";
 }
 
 } // namespace

@@ -1,6 +1,5 @@
-// Which records of a session are sent, and which of its fields are taken from a codec record.
+// Which records of a session are sent.
 #include "nal/adapter_calls.h"
-#include "nal/convert_session_context.h"
 #include "nal/sample_session.h"
 #include "support/record_calls.h"
 
@@ -47,7 +46,7 @@ struct converted {
     }
 };
 
-TEST(convert_session_context, every_record_of_a_full_session_is_sent)
+TEST(session_context_rows, every_record_of_a_full_session_is_sent)
 {
     const converted full(full_session());
     EXPECT_EQ(full.context.presence_mask, 0xFFFFFFu & ~fields(6));
@@ -56,7 +55,7 @@ TEST(convert_session_context, every_record_of_a_full_session_is_sent)
     EXPECT_EQ(full.context.li.presence_mask, 0xFFu);
 }
 
-TEST(convert_session_context, an_all_zero_record_sends_its_values_the_session_data_and_an_empty_ppp)
+TEST(session_context_rows, an_all_zero_record_sends_its_values_the_session_data_and_an_empty_ppp)
 {
     const converted empty(zero_record<session>());
     EXPECT_EQ(empty.context.presence_mask, fields(1, 2, 3, 4, 5, 7, 10));
@@ -67,7 +66,7 @@ TEST(convert_session_context, an_all_zero_record_sends_its_values_the_session_da
     EXPECT_EQ(empty.context.route_ipv6, nullptr);
 }
 
-TEST(convert_session_context, each_feature_sends_its_record_even_without_content)
+TEST(session_context_rows, each_feature_sends_its_record_even_without_content)
 {
     const struct {
         int feature;
@@ -85,39 +84,13 @@ TEST(convert_session_context, each_feature_sends_its_record_even_without_content
     }
 }
 
-TEST(convert_session_context, a_list_without_elements_is_not_sent_although_its_feature_is_set)
+TEST(session_context_rows, a_list_without_elements_is_not_sent_although_its_feature_is_set)
 {
     session record = zero_record<session>();
     record.feature_mask = TUM_NAL_FEATURE_QOS | TUM_NAL_FEATURE_IPV4_ROUTES | TUM_NAL_FEATURE_IPV6_ROUTES;
     const converted got(record);
     EXPECT_EQ(got.context.presence_mask, fields(1, 2, 3, 4, 5, 7, 10));
     EXPECT_EQ(got.context.qos, nullptr);
-}
-
-// The bit decides over what a pointer stands for, and over the values that arrive with another field. Any other scalar
-// is copied as it is: a decoder leaves an absent one zero.
-TEST(convert_session_context, texts_bytes_and_lists_are_taken_by_their_bit_and_scalars_as_they_are)
-{
-    const converted full(full_session());
-    mava_tum_session_context context = full.context;
-    context.presence_mask = 0; // the bits of the nested records stay: these are taken
-    context.session_data.presence_mask = 0;
-    context.subscriber_v6.presence_mask = 0;
-    session record = zero_record<session>();
-    mava_tum::session_context_from_codec(record, context);
-
-    session expected = zero_record<session>();
-    const session source = full_session();
-    EXPECT_EQ(record.qos_count, 0u);
-    EXPECT_STREQ(record.session_name, "");
-    EXPECT_EQ(std::memcmp(record.session_identifier, expected.session_identifier, 7), 0);
-    EXPECT_EQ(std::memcmp(record.ipv6_part_2, expected.ipv6_part_2, 16), 0);
-    EXPECT_EQ(record.ipv6_value_5, 0u);
-    EXPECT_EQ(record.session_value_1, source.session_value_1);
-    EXPECT_EQ(record.ipv4_address, source.ipv4_address);
-    EXPECT_EQ(record.ppp_value_1, source.ppp_value_1);
-    EXPECT_STREQ(record.l2tp_name, source.l2tp_name);
-    EXPECT_EQ(record.mtu_3_value, source.mtu_3_value);
 }
 
 } // namespace

@@ -1,4 +1,4 @@
-#include "heap_count.h"
+#include "support/heap_count.h"
 
 #include <cstdint>
 #include <new>
@@ -6,7 +6,7 @@
 namespace
 {
 
-std::size_t calls = 0;
+thread_local std::size_t calls = 0;
 
 } // namespace
 

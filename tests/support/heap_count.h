@@ -1,4 +1,6 @@
-// How often this program has asked for memory of the heap. It is linked with --wrap for each function that can.
+// How often this thread has asked for memory of the heap. The program is linked by mava_tum_count_heap_calls
+// (tests/CMakeLists.txt): calls from its own objects and from static libraries are counted, those inside shared
+// libraries are not.
 #pragma once
 
 #include <cstddef>
@@ -6,6 +8,16 @@
 namespace mava_tum_test
 {
 
+// Calls of malloc, calloc, realloc and operator new.
 std::size_t heap_calls();
+
+// How many of them `call` makes.
+template <class any_call>
+std::size_t heap_calls_of(any_call &&call)
+{
+    const std::size_t before = heap_calls();
+    call();
+    return heap_calls() - before;
+}
 
 } // namespace mava_tum_test
