@@ -62,7 +62,7 @@ Example:
   $ echo 0802188080044801 | mava-tum check session_delete
   `field_3` is 65536 at byte 2: `field_3` has 16 bits and keeps 0 (L20)
   `#9` at byte 6 does not arrive: session_delete does not know it
-  2 findings; decoding asks for 0 blocks, 0 bytes; the record has 32 bytes
+  2 findings; the record has 32 bytes
 )";
 
 const char *const guess = R"(

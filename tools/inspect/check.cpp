@@ -1,6 +1,5 @@
 #include "inspect/check.h"
 
-#include "inspect/decode_memory.h"
 #include "inspect/explain.h"
 #include "inspect/finding_text.h"
 #include "inspect/payload_notes.h"
@@ -41,7 +40,6 @@ public:
 
     void on_value(const occurrence &at) override
     {
-        memory.count_value(at);
         frame &inside = top();
         if (!inside.arrives)
             return;
@@ -57,7 +55,6 @@ public:
 
     void on_run(const occurrence &first, uint64_t elements) override
     {
-        memory.count_run(first, elements);
         frame &inside = top();
         const member_limit *limit = find_limit(inside.members, first.path.number);
         inside.elements = limit == nullptr ? 0 : elements_that_arrive(*limit, elements);
@@ -96,14 +93,11 @@ public:
 
     void on_fault(const wire_fault &fault) override
     {
-        memory.count_fault(fault);
         fill_fault(result_.verdict, fault);
         sentence text;
         text.add(result_.verdict.text).add("; what stands behind it does not arrive (L15)");
         tell({MAVA_TUM_INSPECT_FAULT, fault.offset, 0, 0, result_.verdict.path, text.c_str()});
     }
-
-    decode_memory memory{true}; // the adapters alias bytes fields
 
 private:
     // A record that is being walked, and what takes its fields.
@@ -220,8 +214,6 @@ void check_message(const adapter_description &adapter, const uint8_t *data, uint
     fill_success(result.verdict, length);
     checker visitor(adapter, data, finding_fn, context, result);
     walk_message(*adapter.message, data, length, visitor);
-    result.block_count = visitor.memory.asked().blocks;
-    result.block_bytes = visitor.memory.asked().bytes;
 }
 
 } // namespace mava_tum_inspect

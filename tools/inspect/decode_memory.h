@@ -17,7 +17,7 @@ struct memory_asked_for {
 class decode_memory
 {
 public:
-    // `aliases`: bytes fields point into the input, as in the adapters, and are not copied.
+    // `aliases`: bytes fields point into the input and are not copied.
     explicit decode_memory(bool aliases) : aliases_(aliases) {}
 
     void count_value(const occurrence &at)

@@ -35,15 +35,21 @@ field_description named_field(uint32_t number, field_kind kind)
 
 // One function per kind. The argument is only a type: it says which.
 template <uint32_t Number, auto Member>
-field_description describe(std::type_identity<mava_tum::varint<Number, Member>>)
+field_description describe(std::type_identity<mava_tum::kind::varint<Number, Member>>)
 {
     field_description field = named_field<Member>(Number, field_kind::varint);
-    field.value_bits = mava_tum::varint<Number, Member>::is_wide ? 64 : 32;
+    field.value_bits = 8 * sizeof(typename mava_tum::member_of<Member>::value);
     return field;
 }
 
 template <uint32_t Number, auto Member>
-field_description describe(std::type_identity<mava_tum::fixed32<Number, Member>>)
+field_description describe(std::type_identity<mava_tum::kind::counter<Number, Member>>)
+{
+    return describe(std::type_identity<mava_tum::kind::varint<Number, Member>>{});
+}
+
+template <uint32_t Number, auto Member>
+field_description describe(std::type_identity<mava_tum::kind::fixed32<Number, Member>>)
 {
     field_description field = named_field<Member>(Number, field_kind::fixed32);
     field.value_bits = 32;
@@ -52,7 +58,7 @@ field_description describe(std::type_identity<mava_tum::fixed32<Number, Member>>
 }
 
 template <uint32_t Number, auto Member>
-field_description describe(std::type_identity<mava_tum::bytes<Number, Member>>)
+field_description describe(std::type_identity<mava_tum::kind::bytes<Number, Member>>)
 {
     field_description field = named_field<Member>(Number, field_kind::bytes);
     field.address = holds_ipv6<Member> ? address_kind::ipv6 : address_kind::none;
@@ -60,13 +66,13 @@ field_description describe(std::type_identity<mava_tum::bytes<Number, Member>>)
 }
 
 template <uint32_t Number, auto Member>
-field_description describe(std::type_identity<mava_tum::text<Number, Member>>)
+field_description describe(std::type_identity<mava_tum::kind::text<Number, Member>>)
 {
     return named_field<Member>(Number, field_kind::text);
 }
 
 template <uint32_t Number, auto Member>
-field_description describe(std::type_identity<mava_tum::record<Number, Member>>)
+field_description describe(std::type_identity<mava_tum::kind::record<Number, Member>>)
 {
     field_description field = named_field<Member>(Number, field_kind::record);
     field.nested = description_of<typename mava_tum::member_of<Member>::value>();
@@ -74,16 +80,16 @@ field_description describe(std::type_identity<mava_tum::record<Number, Member>>)
 }
 
 template <uint32_t Number, auto Member, auto CountMember>
-field_description describe(std::type_identity<mava_tum::record_array<Number, Member, CountMember>>)
+field_description describe(std::type_identity<mava_tum::kind::record_array<Number, Member, CountMember>>)
 {
     field_description field = named_field<Member>(Number, field_kind::record_array);
     field.count_offset = offset_of<CountMember>();
-    field.nested = description_of<typename mava_tum::record_array<Number, Member, CountMember>::element>();
+    field.nested = description_of<typename mava_tum::kind::record_array<Number, Member, CountMember>::nested>();
     return field;
 }
 
 template <uint32_t Number, auto Member, auto CountMember>
-field_description describe(std::type_identity<mava_tum::text_array<Number, Member, CountMember>>)
+field_description describe(std::type_identity<mava_tum::kind::text_array<Number, Member, CountMember>>)
 {
     field_description field = named_field<Member>(Number, field_kind::text_array);
     field.count_offset = offset_of<CountMember>();

@@ -5,8 +5,6 @@
 #include "output/output_file.h"
 #include "words.h"
 
-#include <algorithm>
-
 namespace mava_tum_cli
 {
 
@@ -24,29 +22,23 @@ void write_finding(const mava_tum_inspect_finding *finding, void *context)
     writer.output.write(writer.place + finding->text + "\n");
 }
 
-// The sum of all messages, and the most that one of them asks for.
+// The sum of all messages.
 struct check_sum {
     uint64_t messages = 0;
     uint64_t findings = 0;
-    uint64_t most_blocks = 0;
-    uint64_t most_bytes = 0;
     uint64_t record_bytes = 0;
 
     void add(const mava_tum_inspect_check_result &result)
     {
         ++messages;
         findings += result.finding_count;
-        most_blocks = std::max(most_blocks, result.block_count);
-        most_bytes = std::max(most_bytes, result.block_bytes);
         record_bytes = result.record_bytes;
     }
 
     std::string to_string() const
     {
-        const char *who = messages == 1 ? "decoding asks for" : "decoding one asks for at most";
-        return fmt::format("{}{}; {} {}, {}; the record has {}\n",
-            messages == 1 ? "" : counted(messages, "message") + ", ", counted(findings, "finding"), who,
-            counted(most_blocks, "block"), counted(most_bytes, "byte"), counted(record_bytes, "byte"));
+        return fmt::format("{}{}; the record has {}\n", messages == 1 ? "" : counted(messages, "message") + ", ",
+            counted(findings, "finding"), counted(record_bytes, "byte"));
     }
 };
 

@@ -3,7 +3,7 @@
  *
  *     describe   the 40 messages, their fields and the adapters, by name
  *     explain    wire bytes in annotated lines, and the verdict: result, byte, field, rule in words
- *     check      what of a message an adapter's record does not hold, and the memory that decoding asks for
+ *     check      what of a message an adapter's record does not hold
  *     guess      which of the 40 messages given bytes can be
  *
  * A library of its own, libmava_tum_inspect; the codec library carries no names. All functions are pure: they keep no
@@ -187,8 +187,6 @@ typedef void (*mava_tum_inspect_finding_fn)(const mava_tum_inspect_finding *find
 /* What a check came to. */
 typedef struct mava_tum_inspect_check_result {
     uint64_t finding_count;           /* as often was the callback called, or would have been */
-    uint64_t block_count;             /* blocks that the adapter asks calloc for while it decodes */
-    uint64_t block_bytes;             /* the sum of their sizes */
     uint64_t record_bytes;            /* of the application record, whatever the message holds */
     mava_tum_inspect_verdict verdict; /* on the message itself, as mava_tum_inspect_judge finds it */
 } mava_tum_inspect_check_result;

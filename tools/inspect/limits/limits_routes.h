@@ -3,7 +3,7 @@
 
 #include "inspect/limits/limit_rows.h"
 #include "messages/routes_schema.h"
-#include "nal/convert_routes.h"
+#include "nal/route_rows.h"
 #include "tum_nal/nal_routes.h"
 
 namespace mava_tum_inspect
@@ -13,24 +13,24 @@ struct ipv4_route_limits {
     using wire = mava_tum_subscriber_route_ipv4;
     using own = tum_nal_data_ipv4_route;
     using rows = limit_rows<takes<&wire::field_1, &own::field_1>,
-        takes_text_up_to<&wire::field_2, &own::field_2, mava_tum::short_text_limit>,
+        takes_text_up_to<&wire::field_2, &own::field_2, mava_tum::short_text<2, &own::field_2>::limit>,
         takes<&wire::field_3, &own::field_3>, takes<&wire::field_4, &own::field_4>,
         takes<&wire::field_5, &own::field_5>,
-        takes_text_up_to<&wire::field_6, &own::field_6, mava_tum::short_text_limit>,
+        takes_text_up_to<&wire::field_6, &own::field_6, mava_tum::short_text<6, &own::field_6>::limit>,
         takes<&wire::field_7, &own::field_7>, takes<&wire::field_8, &own::field_8>,
-        takes_text_up_to<&wire::field_9, &own::field_9, mava_tum::long_text_limit>>;
+        takes_text_up_to<&wire::field_9, &own::field_9, mava_tum::long_text<9, &own::field_9>::limit>>;
 };
 
 struct ipv6_route_limits {
     using wire = mava_tum_subscriber_route_ipv6;
     using own = tum_nal_data_ipv6_route;
     using rows = limit_rows<takes<&wire::field_1, &own::field_1>,
-        takes_text_up_to<&wire::field_2, &own::field_2, mava_tum::short_text_limit>,
+        takes_text_up_to<&wire::field_2, &own::field_2, mava_tum::short_text<2, &own::field_2>::limit>,
         takes<&wire::field_3, &own::field_3>, takes<&wire::field_4, &own::field_4>,
         takes<&wire::field_5, &own::field_5>,
-        takes_text_up_to<&wire::field_6, &own::field_6, mava_tum::short_text_limit>,
+        takes_text_up_to<&wire::field_6, &own::field_6, mava_tum::short_text<6, &own::field_6>::limit>,
         takes<&wire::field_7, &own::field_7>, takes<&wire::field_8, &own::field_8>,
-        takes_text_up_to<&wire::field_9, &own::field_9, mava_tum::long_text_limit>>;
+        takes_text_up_to<&wire::field_9, &own::field_9, mava_tum::long_text<9, &own::field_9>::limit>>;
 };
 
 struct sub_route_limits {
