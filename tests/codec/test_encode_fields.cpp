@@ -1,5 +1,5 @@
 // Encoding without a codec record: the bytes are those of the codec record with the same contents, into every buffer.
-#include "codec/direct_encode.h"
+#include "codec/message_encode.h"
 #include "messages/session_messages_schema.h"
 #include "support/guarded_buffer.h"
 #include "support/record_calls.h"
@@ -14,7 +14,11 @@ namespace mava_tum_test
 namespace
 {
 
-using mava_tum::encode_directly;
+template <class Message, class Description, class Source>
+uint64_t encode(const Source &source, uint8_t *buffer, uint64_t capacity)
+{
+    return mava_tum::encode_described<Message, Description>(source, {buffer, capacity});
+}
 
 // ---- texts in arrays ----
 
@@ -27,16 +31,16 @@ struct text_fields {
     template <class Fields, std::size_t Size>
     static void describe(Fields &fields, const text_source<Size> &source)
     {
-        fields.template value<1>(7u);
-        fields.template text<2>(source.text);
+        fields.template number<1>(7u);
+        fields.template array_text<2>(source.text);
     }
 };
 
 template <std::size_t Size>
 byte_vector encode_text(const text_source<Size> &source)
 {
-    byte_vector wire(encode_directly<mava_tum_subscriber_httpr, text_fields>(source, nullptr, 0));
-    EXPECT_EQ((encode_directly<mava_tum_subscriber_httpr, text_fields>(source, wire.data(), wire.size())), wire.size());
+    byte_vector wire(encode<mava_tum_subscriber_httpr, text_fields>(source, nullptr, 0));
+    EXPECT_EQ((encode<mava_tum_subscriber_httpr, text_fields>(source, wire.data(), wire.size())), wire.size());
     return wire;
 }
 
@@ -58,7 +62,7 @@ void expect_each_length_to_be_sent()
     }
 }
 
-TEST(direct_encode, a_text_of_each_length_is_sent_up_to_its_nul)
+TEST(encode_fields, a_text_of_each_length_is_sent_up_to_its_nul)
 {
     expect_each_length_to_be_sent<1>();
     expect_each_length_to_be_sent<8>();
@@ -73,7 +77,7 @@ TEST(direct_encode, a_text_of_each_length_is_sent_up_to_its_nul)
     expect_each_length_to_be_sent<256>();
 }
 
-TEST(direct_encode, a_byte_of_all_ones_or_0x80_before_the_nul_is_not_its_end)
+TEST(encode_fields, a_byte_of_all_ones_or_0x80_before_the_nul_is_not_its_end)
 {
     for (const char filler : {'\x01', '\x7F', '\x80', '\x81', '\xFF'}) {
         text_source<33> source;
@@ -101,24 +105,33 @@ struct session_source {
 };
 
 struct entry_fields {
+    template <class Message>
+    static constexpr bool is_inline = false;
+
     template <class Fields>
     static void describe(Fields &fields, const entry_source &source)
     {
-        fields.template value<1>(source.number);
+        fields.template number<1>(source.number);
         fields.template block<3>(source.text.data(), source.text.size());
     }
 };
 
 struct l2tp_source_fields {
+    template <class Message>
+    static constexpr bool is_inline = false;
+
     template <class Fields>
     static void describe(Fields &fields, const session_source &source)
     {
-        fields.template value<2>(source.number);
+        fields.template number<2>(source.number);
         fields.template block<19>(source.first.data(), source.first.size());
     }
 };
 
 struct data_fields {
+    template <class Message>
+    static constexpr bool is_inline = false;
+
     template <class Fields>
     static void describe(Fields &fields, const session_source &source)
     {
@@ -131,10 +144,10 @@ struct session_fields {
     template <class Fields>
     static void describe(Fields &fields, const session_source &source)
     {
-        fields.template value<1>(source.number);
+        fields.template number<1>(source.number);
         fields.template record<10, data_fields>(source);
-        for (const entry_source &entry : source.entries)
-            fields.template element<11, entry_fields>(entry);
+        fields.repeat(static_cast<uint32_t>(source.entries.size()),
+            [&](uint32_t i) { fields.template record<11, entry_fields>(source.entries[i]); });
     }
 };
 
@@ -171,17 +184,17 @@ void expect_the_bytes_of_the_codec_record(const session_source &source, uint64_t
     byte_vector got(capacity + 1, 0xA5);
     const uint64_t expected_size =
         mava_tum_session_context_encode_ext(&codec.record, expected.data(), capacity, nullptr, nullptr, 0);
-    EXPECT_EQ((encode_directly<mava_tum_session_context, session_fields>(source, got.data(), capacity)), expected_size)
+    EXPECT_EQ((encode<mava_tum_session_context, session_fields>(source, got.data(), capacity)), expected_size)
         << capacity;
     ASSERT_EQ(got, expected) << capacity;
 }
 
 uint64_t size_of(const session_source &source)
 {
-    return encode_directly<mava_tum_session_context, session_fields>(source, nullptr, 0);
+    return encode<mava_tum_session_context, session_fields>(source, nullptr, 0);
 }
 
-TEST(direct_encode, a_session_gives_the_bytes_of_its_codec_record_into_every_buffer)
+TEST(encode_fields, a_session_gives_the_bytes_of_its_codec_record_into_every_buffer)
 {
     const session_source source{
         300, "some name", std::string(130, 'n'), {{1, "one"}, {70000, std::string(64, 't')}, {0, ""}}};
@@ -190,7 +203,7 @@ TEST(direct_encode, a_session_gives_the_bytes_of_its_codec_record_into_every_buf
 }
 
 // Around the sizes at which a block no longer fits the scratch, at the top and below it.
-TEST(direct_encode, a_block_of_any_length_at_any_depth_gives_the_bytes_of_the_codec_record)
+TEST(encode_fields, a_block_of_any_length_at_any_depth_gives_the_bytes_of_the_codec_record)
 {
     for (const std::size_t length :
         {63u, 64u, 65u, 127u, 128u, 129u, 2047u, 2048u, 8100u, 8191u, 8192u, 8193u, 20000u}) {
@@ -205,7 +218,7 @@ TEST(direct_encode, a_block_of_any_length_at_any_depth_gives_the_bytes_of_the_co
 }
 
 // The list goes to the buffer in pieces; where one no longer fits, nothing void may have been written before.
-TEST(direct_encode, a_long_list_gives_the_bytes_of_its_codec_record_into_a_buffer_cut_anywhere)
+TEST(encode_fields, a_long_list_gives_the_bytes_of_its_codec_record_into_a_buffer_cut_anywhere)
 {
     session_source source{1, "a", "b", {}};
     for (uint32_t i = 0; i < 200; ++i)
@@ -218,7 +231,7 @@ TEST(direct_encode, a_long_list_gives_the_bytes_of_its_codec_record_into_a_buffe
         expect_the_bytes_of_the_codec_record(source, capacity);
 }
 
-TEST(direct_encode, once_a_nested_block_found_no_room_a_later_list_still_gives_the_right_bytes)
+TEST(encode_fields, once_a_nested_block_found_no_room_a_later_list_still_gives_the_right_bytes)
 {
     session_source source{1, std::string(9000, 'a'), std::string(9000, 'b'), {}};
     for (uint32_t i = 0; i < 300; ++i)
@@ -240,18 +253,18 @@ struct few_fields {
     template <class Fields>
     static void describe(Fields &fields, const group_source &source)
     {
-        fields.template value<1>(source.field_1);
-        fields.template value<2>(source.field_2);
+        fields.template number<1>(source.field_1);
+        fields.template number<2>(source.field_2);
     }
 };
 
-TEST(direct_encode, a_few_scalars_fill_a_buffer_of_their_size_and_nothing_beyond)
+TEST(encode_fields, a_few_scalars_fill_a_buffer_of_their_size_and_nothing_beyond)
 {
     const group_source source{300, 0xFFFFFFFF, 0};
     const byte_vector expected = {0x08, 0xAC, 0x02, 0x15, 0xFF, 0xFF, 0xFF, 0xFF};
     for (uint64_t capacity = 0; capacity <= expected.size() + 1; ++capacity) {
         byte_vector got(expected.size() + 2, 0xA5);
-        EXPECT_EQ((encode_directly<mava_tum_subscriber_v4, few_fields>(source, got.data(), capacity)), expected.size());
+        EXPECT_EQ((encode<mava_tum_subscriber_v4, few_fields>(source, got.data(), capacity)), expected.size());
         for (std::size_t i = 0; i < got.size(); ++i)
             ASSERT_EQ(got[i], i < capacity && i < expected.size() ? expected[i] : 0xA5) << capacity << " " << i;
     }

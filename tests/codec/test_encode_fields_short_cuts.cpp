@@ -1,6 +1,5 @@
-// The short cuts are right without being needed: what they leave, a slower way does with the same result. So a short cut
-// that is never taken shows in no output. Here they are asked themselves.
-#include "codec/direct_encode.h"
+// The short cuts are right without being needed: what they leave, a slower way does with the same result. So a short
+// cut that is never taken shows in no output. Here they are asked themselves.
 #include "messages/reconciliation_schema.h"
 #include "messages/routes_schema.h"
 #include "messages/session_messages_schema.h"
@@ -18,6 +17,8 @@ namespace
 
 using mava_tum::decode_position;
 using mava_tum::encode_scratch;
+using mava_tum::field_at;
+using mava_tum::nesting;
 
 // ---- encode: the fast writer alone ----
 
@@ -31,8 +32,9 @@ byte_vector written_fast(const byte_vector &wire, std::size_t capacity, uint32_t
     encode_scratch scratch{
         storage.data(), storage.data() + mava_tum::block_room<record_type>, buffer.data(), capacity, 0};
     EXPECT_FALSE(scratch.failed);
-    const uint8_t *const at = mava_tum::put_record(got.record, storage.data(), scratch, true);
-    if (at == nullptr || mava_tum::hand_over(scratch, at) == nullptr)
+    const uint8_t *const at = mava_tum::put_described<record_type, mava_tum::codec_description<record_type>>(
+        got.record, storage.data(), scratch, nesting::message);
+    if (scratch.failed || mava_tum::hand_over(scratch, at) == nullptr)
         return {};
     buffer.resize(scratch.handed_over);
     return buffer;
@@ -42,9 +44,8 @@ TEST(short_cuts, the_fast_writer_writes_blocks_of_every_length_into_a_buffer_tha
 {
     for (std::size_t length : {0u, 1u, 63u, 64u, 65u, 127u, 128u, 8000u, 9000u, 20000u}) {
         const byte_vector block(length, 'x');
-        for (const byte_vector &wire :
-            {wire_builder().length_delimited(2, block).varint(7, 1).bytes(),
-                wire_builder().varint(1, 1).length_delimited(4, block).length_delimited(6, block).bytes()})
+        for (const byte_vector &wire : {wire_builder().length_delimited(2, block).varint(7, 1).bytes(),
+                 wire_builder().varint(1, 1).length_delimited(4, block).length_delimited(6, block).bytes()})
             EXPECT_TRUE(written_fast<mava_tum_subscriber_v6>(wire, wire.size()) == wire) << length;
         const byte_vector wire = wire_builder().length_delimited(3, block).length_delimited(4, block).bytes();
         EXPECT_TRUE(written_fast<mava_tum_subscriber_qos>(wire, wire.size()) == wire) << length;
@@ -61,8 +62,8 @@ TEST(short_cuts, the_fast_writer_writes_nested_records_and_arrays_of_any_length)
         }
         EXPECT_TRUE(written_fast<mava_tum_sub_route>(routes.bytes(), routes.bytes().size()) == routes.bytes()) << count;
         services.text(4, "end");
-        EXPECT_TRUE(written_fast<mava_tum_rec_sess_replay_resp>(services.bytes(), services.bytes().size()) ==
-                    services.bytes())
+        EXPECT_TRUE(
+            written_fast<mava_tum_rec_sess_replay_resp>(services.bytes(), services.bytes().size()) == services.bytes())
             << count;
     }
 }
@@ -71,11 +72,11 @@ TEST(short_cuts, elements_of_the_message_start_anew_early_and_those_of_nested_re
 {
     uint8_t storage[8192];
     const encode_scratch large{storage, storage + sizeof storage, nullptr, 0, 0};
-    EXPECT_EQ(large.element_mark(true), storage + 2048);
-    EXPECT_EQ(large.element_mark(false), storage + sizeof storage);
+    EXPECT_EQ(large.element_mark(nesting::message), storage + 2048);
+    EXPECT_EQ(large.element_mark(nesting::nested), storage + sizeof storage);
     const encode_scratch small{storage, storage + 1000, nullptr, 0, 0};
-    EXPECT_EQ(small.element_mark(true), storage + 1000);
-    EXPECT_EQ(small.element_mark(false), storage + 1000);
+    EXPECT_EQ(small.element_mark(nesting::message), storage + 1000);
+    EXPECT_EQ(small.element_mark(nesting::nested), storage + 1000);
 }
 
 TEST(short_cuts, a_nested_record_without_bits_has_no_content)
@@ -88,25 +89,14 @@ TEST(short_cuts, a_nested_record_without_bits_has_no_content)
     EXPECT_TRUE(mava_tum::has_content(record));
 }
 
-// ---- encode: texts in arrays, fixed32 ----
-
-TEST(short_cuts, a_text_in_an_array_is_copied_without_looking_for_its_end_first)
-{
-    uint8_t to[128];
-    for (std::size_t length = 0; length < 32; ++length) {
-        char array[32] = {};
-        std::fill_n(array, length, 'x');
-        EXPECT_EQ(mava_tum::copy_array_text(to, array), length);
-        EXPECT_EQ(hex_of(to, length), hex_of(reinterpret_cast<const uint8_t *>(array), length));
-    }
-}
+// ---- encode: fixed32 ----
 
 TEST(short_cuts, a_fixed32_stands_behind_tags_of_one_and_two_bytes)
 {
     uint8_t bytes[32] = {};
-    EXPECT_EQ(mava_tum::put_fixed32(bytes, 0x15, 1, 0x04030201), bytes + 5);
+    EXPECT_EQ(mava_tum::put_fixed32(bytes, {0x15, 1}, 0x04030201), bytes + 5);
     EXPECT_EQ(hex_of(bytes, 5), "15 01 02 03 04");
-    EXPECT_EQ(mava_tum::put_fixed32(bytes, 0x0185, 2, 0x04030201), bytes + 6);
+    EXPECT_EQ(mava_tum::put_fixed32(bytes, {0x0185, 2}, 0x04030201), bytes + 6);
     EXPECT_EQ(hex_of(bytes, 6), "85 01 01 02 03 04");
     EXPECT_EQ(mava_tum::store_fixed32(bytes, 0x04030201), bytes + 4);
     EXPECT_EQ(hex_of(bytes, 4), "01 02 03 04");
@@ -116,15 +106,24 @@ TEST(short_cuts, a_fixed32_stands_behind_tags_of_one_and_two_bytes)
 
 TEST(short_cuts, a_tag_of_two_bytes_is_recognised_where_it_stands)
 {
-    const uint8_t wire[] = {0x98, 0x01};
-    constexpr uint32_t field_19 = 19u << 3;
+    using field_18 = field_at<mava_tum_l2tp_data, 18>;
+    using field_19 = field_at<mava_tum_l2tp_data, 19>;
+    const uint8_t wire[] = {0x9A, 0x01};
     const decode_position here{wire, wire + sizeof wire, wire[0], 0, 0};
     EXPECT_TRUE(here.is_at<field_19>());
-    EXPECT_FALSE(here.is_at<field_19 + 8>());
-    const uint8_t odd[] = {0x9D, 0x01};
-    EXPECT_TRUE((decode_position{odd, odd + sizeof odd, odd[0], 0, 0}.is_at<field_19 + 5>()));
+    EXPECT_FALSE(here.is_at<field_18>());
+    const uint8_t other_byte[] = {0x9A, 0x02};
+    EXPECT_FALSE((decode_position{other_byte, other_byte + 2, other_byte[0], 0, 0}.is_at<field_19>()));
     const decode_position cut{wire, wire + 1, wire[0], 0, 0};
     EXPECT_FALSE(cut.is_at<field_19>());
+}
+
+TEST(short_cuts, a_tag_that_is_taken_as_if_in_its_shortest_form_is_recognised_by_its_mark)
+{
+    const uint8_t wire[] = {0x9A, 0x81, 0x00};
+    const decode_position marked{wire + 1, wire + sizeof wire, mava_tum::assumed_tag | 0x9A, 0, 0};
+    EXPECT_TRUE((marked.is_at<field_at<mava_tum_l2tp_data, 19>>()));
+    EXPECT_FALSE((marked.is_at<field_at<mava_tum_l2tp_data, 18>>()));
 }
 
 TEST(short_cuts, a_payload_with_a_length_of_one_byte_that_lies_inside_the_input_is_short)
