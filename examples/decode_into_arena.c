@@ -1,5 +1,5 @@
-/* For a receiver to whom the decode adapter's calloc and free for each text are too dear: the codec's decoder, with
- * memory of our own. Nothing is copied into an application record; the codec record is read where it stands.
+/* For a receiver that needs what an application record cuts or has no member for: the codec's decoder, with memory of
+ * our own. Nothing is copied into an application record; the codec record is read where it stands.
  * Prints three sessions, and that a message which asks for more than the memory has is refused. */
 #include "arena.h"
 #include "mava_tum/session_messages.h"

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "adapter_records.h"
-#include "model/block_log.h"
+#include "model/message_tables.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -17,8 +17,7 @@ const mava_tum_model::message &message_of_adapter(std::size_t index);
 
 struct adapter_case {
     std::size_t adapter_index = 0;
-    mava_tum_model::failure_plan plan; // of calloc during the decode
-    uint64_t seed = 0;                 // how the received record is changed before it is sent, and where it is cut
+    uint64_t seed = 0; // how the received record is changed before it is sent, and where it is cut
     std::span<const uint8_t> wire;
     bool every_part = true; // otherwise one of the operations after the first decode, chosen by `seed`
 };
@@ -27,9 +26,9 @@ struct adapter_case {
 bool read_adapter_case(std::span<const uint8_t> bytes, adapter_case &read);
 
 // Empty if all of this holds, otherwise what does not:
-// receiving: nothing outside the record is touched, every byte of it is the one that the model predicts, and so are the
-// blocks asked for, and all are given back; sending: nothing is allocated, the record is only read, and the size and
-// the bytes, into a buffer of any capacity, are those that the model predicts.
+// receiving: nothing outside the record is touched, and every byte of it is the one that the model predicts; sending:
+// the record is only read, and the size and the bytes, into a buffer of any capacity, are those that the model
+// predicts; both: no allocator is called.
 std::string check_adapter(const adapter_case &checked);
 
 } // namespace mava_tum_fuzz

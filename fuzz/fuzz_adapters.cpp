@@ -1,4 +1,4 @@
-// Do the 19 adapters receive and send what the model predicts, keep to their record, and give every block back?
+// Do the 19 adapters receive and send what the model predicts, keep to their record, and call no allocator?
 #include "check_adapter.h"
 #include "fuzz_target.h"
 

@@ -1,4 +1,5 @@
-// The adapters receive and send what the model predicts: seeds, well-formed inputs and wrong ones, without an engine.
+// The adapters receive and send what the model predicts, and call no allocator: seeds, well-formed inputs and wrong
+// ones, without an engine.
 #include "check_adapter.h"
 #include "model/wire_maker.h"
 
@@ -15,9 +16,9 @@ using namespace mava_tum_model;
 class every_adapter : public testing::TestWithParam<std::size_t>
 {
 protected:
-    std::string check(const failure_plan &plan, uint64_t seed, const wire_bytes &wire) const
+    std::string check(uint64_t seed, const wire_bytes &wire) const
     {
-        return check_adapter({GetParam(), plan, seed, wire});
+        return check_adapter({GetParam(), seed, wire});
     }
 };
 
@@ -32,13 +33,12 @@ TEST_P(every_adapter, receives_and_sends_seeds_as_the_model_predicts)
 {
     for (const wire_bytes &wire : seed_wires(message_of_adapter(GetParam()))) {
         for (uint64_t seed = 0; seed < 20; ++seed)
-            ASSERT_EQ(check({}, seed, wire), "");
+            ASSERT_EQ(check(seed, wire), "");
     }
 }
 
 TEST_P(every_adapter, receives_and_sends_mutated_inputs_as_the_model_predicts)
 {
-    constexpr failing plans[] = {failing::never, failing::never, failing::once, failing::from_then};
     const message &of = message_of_adapter(GetParam());
     random_source random(GetParam() + 1);
     const std::vector<wire_bytes> seeds = seed_wires(of);
@@ -46,8 +46,7 @@ TEST_P(every_adapter, receives_and_sends_mutated_inputs_as_the_model_predicts)
         wire_bytes wire = random.one_in(2) ? random_wire(of, random) : seeds[random.below(seeds.size())];
         for (uint64_t changes = random.below(4); changes > 0; --changes)
             mutate_wire(of, wire, random);
-        const failure_plan plan = {plans[random.below(std::size(plans))], static_cast<uint32_t>(1 + random.below(12))};
-        ASSERT_EQ(check(plan, random.next(), wire), "");
+        ASSERT_EQ(check(random.next(), wire), "");
     }
 }
 
@@ -55,7 +54,7 @@ TEST_P(every_adapter, receives_and_sends_mutated_inputs_as_the_model_predicts)
 TEST_P(every_adapter, receives_lists_that_do_not_fit_as_the_model_predicts)
 {
     for (const uint32_t elements : {9u, 51u, 257u})
-        ASSERT_EQ(check({}, elements, full_wire(message_of_adapter(GetParam()), elements)), "");
+        ASSERT_EQ(check(elements, full_wire(message_of_adapter(GetParam()), elements)), "");
 }
 
 } // namespace

@@ -53,7 +53,7 @@ def draw_adapter_panel(picture, x):
     for y, words in ((232, "numbers"), (266, "char arrays, cut to fit"), (300, "counts and slots")):
         picture.rect(x + 8, y, PANEL - 46, 26, "page")
         picture.text(x + 16, y + 17, words, "small")
-    picture.text(x, 362, "calloc and free inside the call;", "small")
+    picture.text(x, 362, "no block from any allocator;", "small")
 
 
 def draw_legend(picture, y):

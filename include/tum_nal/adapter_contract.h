@@ -14,8 +14,8 @@
  * Encode
  *   Returns the size of the message in bytes, also when `capacity` (bytes) is smaller: the output was then cut and
  *   must not be sent. `buffer` may be null when `capacity` is 0; it must not overlap `record`. Nothing is written
- *   beyond the returned size, nothing is allocated, and `record` is only read. A count above the number of slots is
- *   taken as the number of slots. Every char array must contain a NUL: an array without one is read beyond its end.
+ *   beyond the returned size, and `record` is only read. A count above the number of slots is taken as the number of
+ *   slots. Every char array must contain a NUL: an array without one is read beyond its end.
  *   No message is larger than TUM_NAL_<NAME>_MAX_SIZE bytes, the function's <name> in capitals: a buffer of that size
  *   takes every record.
  *

@@ -6,7 +6,6 @@
 #include "amplification/measured_decode.h"
 #include "amplification/short_inputs.h"
 #include "amplification/worst_wire.h"
-#include "check_adapter.h"
 #include "support/hex.h"
 
 #include <algorithm>
@@ -26,12 +25,10 @@ using mava_tum_model::message;
 constexpr std::size_t made_wire_bytes = 64 * 1024;
 constexpr std::size_t shown_wire_bytes = 8;
 
-constexpr uint64_t decoder_budget = uint64_t{1} << 22;
-constexpr uint64_t adapter_budget = uint64_t{1} << 19;
+constexpr uint64_t search_budget = uint64_t{1} << 22;
 
 struct totals {
-    uint64_t decoder_inputs = 0;
-    uint64_t adapter_inputs = 0;
+    uint64_t inputs = 0;
     std::string above;
 };
 
@@ -61,35 +58,17 @@ std::string shown_wire(const wire_bytes &wire)
     return mava_tum_test::hex_of(wire.data(), bytes) + (wire.size() > bytes ? " ..." : "");
 }
 
-memory_ratio search_all(const searched_decode &of, std::size_t every_length, uint64_t budget, uint64_t &inputs,
-    const std::string &name, totals &sum)
+memory_ratio search_all(const searched_decode &of, totals &sum)
 {
     const std::vector<uint8_t> bytes = bytes_that_matter(*of.message);
-    const search_result all = search(of, every_byte(), every_length);
-    const search_result chosen = search(of, bytes, longest_within(budget, bytes.size()));
-    inputs += all.inputs + chosen.inputs;
+    const search_result all = search(of, every_byte(), 3);
+    const search_result chosen = search(of, bytes, longest_within(search_budget, bytes.size()));
+    sum.inputs += all.inputs + chosen.inputs;
     for (const search_result &result : {all, chosen}) {
         if (!result.above_a_limit.empty())
-            sum.above += name + ": " + result.above_a_limit + "\n";
+            sum.above += std::string(of.message->name) + ": " + result.above_a_limit + "\n";
     }
     return std::max(all.worst, chosen.worst);
-}
-
-// What the adapters of a message ask for; two of them may share a message. Empty if it has none.
-std::string adapter_cell(const message &of, const wire_bytes &wire, totals &sum)
-{
-    std::string cell;
-    for (std::size_t index = 0; index < mava_tum_fuzz::adapter_count; ++index) {
-        if (&mava_tum_fuzz::message_of_adapter(index) != &of)
-            continue;
-        const memory_use use = measure_adapter(index, wire);
-        cell += (cell.empty() ? "" : ", ") + shown(per_byte(use.asked_bytes, wire));
-        const std::string name = std::string(of.name) + " through its adapter";
-        if (use.dropped_bytes != 0)
-            sum.above += name + " drops " + std::to_string(use.dropped_bytes) + " bytes\n";
-        search_all(adapter_of(index), 2, adapter_budget, sum.adapter_inputs, name, sum);
-    }
-    return cell;
 }
 
 void print_row(std::size_t index, totals &sum)
@@ -99,12 +78,11 @@ void print_row(std::size_t index, totals &sum)
     const wire_bytes dropping = dropping_wire(of, made_wire_bytes);
     const double asked = per_byte(measure_decoder(index, wire).asked_bytes, wire);
     const double dropped = per_byte(measure_decoder(index, dropping).dropped_bytes, dropping);
-    const memory_ratio found = search_all(decoder_of(index), 3, decoder_budget, sum.decoder_inputs, of.name, sum);
+    const memory_ratio found = search_all(decoder_of(index), sum);
     if (asked > asked_limit(of).value() || dropped > dropped_limit(of).value())
         sum.above += std::string(of.name) + ": " + shown_wire(wire) + "\n";
-    std::printf("| `%s` | %s | %s | %s | %s | %s |\n", of.name, shown_limit(asked_limit(of)).c_str(),
-        shown(asked).c_str(), shown(found.value()).c_str(), shown(dropped).c_str(),
-        adapter_cell(of, wire, sum).c_str());
+    std::printf("| `%s` | %s | %s | %s | %s |\n", of.name, shown_limit(asked_limit(of)).c_str(), shown(asked).c_str(),
+        shown(found.value()).c_str(), shown(dropped).c_str());
     std::fflush(stdout);
 }
 
@@ -119,12 +97,12 @@ const message &worst_message()
 int main()
 {
     totals sum;
-    std::printf("| message | limit | made | searched | drops | adapter |\n|---|---|---|---|---|---|\n");
+    std::printf("| message | limit | made | searched | drops |\n|---|---|---|---|---|\n");
     for (std::size_t index = 0; index < all_messages().size(); ++index)
         print_row(index, sum);
-    std::printf("%s%llu inputs through 40 decoders and %llu through %zu adapters: %s\n", sum.above.c_str(),
-        static_cast<unsigned long long>(sum.decoder_inputs), static_cast<unsigned long long>(sum.adapter_inputs),
-        mava_tum_fuzz::adapter_count, sum.above.empty() ? "0 above a limit" : "above a limit, see above");
+    std::printf("%s%llu inputs through 40 decoders: %s\n", sum.above.c_str(),
+        static_cast<unsigned long long>(sum.inputs),
+        sum.above.empty() ? "0 above a limit" : "above a limit, see above");
     const message &worst = worst_message();
     std::printf("worst: %s, %s bytes of memory for a byte of wire, by %s\n", worst.name,
         shown_limit(asked_limit(worst)).c_str(), shown_wire(worst_wire(worst, made_wire_bytes)).c_str());

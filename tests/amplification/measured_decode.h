@@ -17,7 +17,4 @@ struct memory_use {
 // An exported decoder, bytes fields copied, and its free. In the order of mava_tum_model::all_messages().
 memory_use measure_decoder(std::size_t message_index, std::span<const uint8_t> wire);
 
-// A decode adapter. In the order of mava_tum_fuzz::adapter_at().
-memory_use measure_adapter(std::size_t adapter_index, std::span<const uint8_t> wire);
-
 } // namespace mava_tum_amplification

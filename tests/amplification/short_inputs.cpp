@@ -1,6 +1,5 @@
 #include "amplification/short_inputs.h"
 
-#include "check_adapter.h"
 #include "support/hex.h"
 #include "support/wire_builder.h"
 
@@ -52,17 +51,11 @@ searched_decode decoder_of(std::size_t message_index)
         [=](std::span<const uint8_t> wire) { return measure_decoder(message_index, wire); }};
 }
 
-searched_decode adapter_of(std::size_t adapter_index)
-{
-    return {&mava_tum_fuzz::message_of_adapter(adapter_index),
-        [=](std::span<const uint8_t> wire) { return measure_adapter(adapter_index, wire); }, true};
-}
-
 search_result search(const searched_decode &of, std::span<const uint8_t> alphabet, std::size_t most_bytes)
 {
     search_result result;
     const memory_ratio asked = asked_limit(*of.message);
-    const memory_ratio dropped = of.drops_nothing ? memory_ratio{} : dropped_limit(*of.message);
+    const memory_ratio dropped = dropped_limit(*of.message);
     for (std::size_t length = 1; length <= most_bytes; ++length) {
         std::vector<std::size_t> digits(length, 0);
         std::vector<uint8_t> wire(length, alphabet.front());

@@ -17,11 +17,9 @@ namespace mava_tum_amplification
 struct searched_decode {
     const mava_tum_model::message *message = nullptr;
     std::function<memory_use(std::span<const uint8_t>)> measure;
-    bool drops_nothing = false; // an adapter
 };
 
 searched_decode decoder_of(std::size_t message_index);
-searched_decode adapter_of(std::size_t adapter_index);
 
 struct search_result {
     uint64_t inputs = 0;

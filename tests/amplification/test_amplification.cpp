@@ -3,7 +3,6 @@
 #include "amplification/measured_decode.h"
 #include "amplification/short_inputs.h"
 #include "amplification/worst_wire.h"
-#include "check_adapter.h"
 #include "support/hex.h"
 
 #include <gtest/gtest.h>
@@ -28,10 +27,6 @@ protected:
     {
         return *all_messages()[GetParam()];
     }
-};
-
-class adapter_amplification : public testing::TestWithParam<std::size_t>
-{
 };
 
 std::string name_of_message(const testing::TestParamInfo<std::size_t> &info)
@@ -68,22 +63,7 @@ TEST_P(amplification, of_no_short_input_is_above_the_limit)
     EXPECT_EQ(search(decoder_of(GetParam()), bytes, longest_within(searched_inputs, bytes.size())).above_a_limit, "");
 }
 
-TEST_P(adapter_amplification, of_no_short_input_is_above_the_limit)
-{
-    const searched_decode adapter = adapter_of(GetParam());
-    const std::vector<uint8_t> bytes = bytes_that_matter(*adapter.message);
-    EXPECT_EQ(search(adapter, bytes, longest_within(searched_inputs, bytes.size())).above_a_limit, "");
-}
-
-TEST_P(adapter_amplification, drops_nothing)
-{
-    const message &of = mava_tum_fuzz::message_of_adapter(GetParam());
-    EXPECT_EQ(measure_adapter(GetParam(), worst_wire(of, made_wire_bytes)).dropped_bytes, 0u);
-    EXPECT_EQ(measure_adapter(GetParam(), dropping_wire(of, made_wire_bytes)).dropped_bytes, 0u);
-}
-
 INSTANTIATE_TEST_SUITE_P(of, amplification, testing::Range(std::size_t{0}, all_messages().size()), name_of_message);
-INSTANTIATE_TEST_SUITE_P(of, adapter_amplification, testing::Range(std::size_t{0}, mava_tum_fuzz::adapter_count));
 
 // The figures that the public headers and docs/trust.md give.
 TEST(amplification_limit, is_328_for_sessions_in_a_replay_and_44_for_dropped_statistics)

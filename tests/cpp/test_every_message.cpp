@@ -1,6 +1,7 @@
 // What holds for the classes of all messages, with every field filled. filled_records.h is written by the build.
 #include "counting_resource.h"
 #include "filled_records.h"
+#include "support/heap_count.h"
 
 #include <array>
 

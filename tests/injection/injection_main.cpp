@@ -1,6 +1,6 @@
 // check_injection [injections per subject]
-// Fails every call of the allocator in decode, duplicate and decode adapters, once and for ever. Prints a line per
-// subject and, as the last, the sum; exits with 1 when something deviated from the model.
+// Fails every call of the allocator in decode and duplicate, once and for ever. Prints a line per subject and, as the
+// last, the sum; exits with 1 when something deviated from the model.
 #include "injection/injection_subjects.h"
 
 #include <cstdio>

@@ -1,7 +1,5 @@
 #include "injection/injection_subjects.h"
 
-#include "check_adapter.h"
-#include "injection/inject_adapter.h"
 #include "injection/inject_message.h"
 #include "model/library_calls.h"
 #include "model/message_tables.h"
@@ -15,21 +13,17 @@ namespace
 
 using namespace mava_tum_model;
 
-// Adapters alias: bytes fields cost them nothing.
-bool can_ask(const message &of, bool bytes_count)
+bool can_ask(const message &of)
 {
     for (const field &member : of.fields) {
         switch (member.kind) {
         case field_kind::text:
         case field_kind::record_array:
         case field_kind::text_array:
-            return true;
         case field_kind::bytes:
-            if (bytes_count)
-                return true;
-            break;
+            return true;
         case field_kind::record:
-            if (can_ask(*member.nested, bytes_count))
+            if (can_ask(*member.nested))
                 return true;
             break;
         default:
@@ -44,21 +38,10 @@ std::vector<injection_subject> list_subjects()
     std::vector<injection_subject> subjects;
     for (std::size_t index = 0; index < all_messages().size(); ++index) {
         const message &of = *all_messages()[index];
-        subjects.push_back({operation::decode, index, std::string(of.name) + " decode", can_ask(of, true)});
-        subjects.push_back({operation::duplicate, index, std::string(of.name) + " duplicate", can_ask(of, true)});
-    }
-    for (std::size_t index = 0; index < mava_tum_fuzz::adapter_count; ++index) {
-        const message &of = mava_tum_fuzz::message_of_adapter(index);
-        subjects.push_back({operation::adapter, index,
-            std::string(mava_tum_fuzz::adapter_at(index).name) + " decode adapter", can_ask(of, false)});
+        subjects.push_back({operation::decode, index, std::string(of.name) + " decode", can_ask(of)});
+        subjects.push_back({operation::duplicate, index, std::string(of.name) + " duplicate", can_ask(of)});
     }
     return subjects;
-}
-
-const message &message_of(const injection_subject &tested)
-{
-    return tested.what == operation::adapter ? mava_tum_fuzz::message_of_adapter(tested.index)
-                                             : *all_messages()[tested.index];
 }
 
 void fail_one_input(const injection_subject &tested, const wire_bytes &wire, uint64_t seed, injection_tally &tally)
@@ -70,9 +53,6 @@ void fail_one_input(const injection_subject &tested, const wire_bytes &wire, uin
         return;
     case operation::duplicate:
         fail_duplicate(tested.index, wire, seed, tally);
-        return;
-    case operation::adapter:
-        fail_adapter(tested.index, wire, tally);
         return;
     }
 }
@@ -95,7 +75,7 @@ const std::vector<injection_subject> &all_injection_subjects()
 
 injection_tally inject(const injection_subject &tested, uint64_t injections)
 {
-    const message &of = message_of(tested);
+    const message &of = *all_messages()[tested.index];
     const std::vector<wire_bytes> seeds = seed_wires(of);
     random_source random(tested.index + 100 * static_cast<uint64_t>(tested.what));
     injection_tally tally;

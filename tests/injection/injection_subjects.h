@@ -1,5 +1,5 @@
-// What can run out of memory: 40 decodes, 40 duplicates, 19 decode adapters. Each gets inputs from a fixed seed until
-// enough of its calls have failed.
+// What can run out of memory: 40 decodes and 40 duplicates. Each gets inputs from a fixed seed until enough of its
+// calls have failed.
 #pragma once
 
 #include "injection/injection.h"
@@ -12,11 +12,11 @@
 namespace mava_tum_injection
 {
 
-enum class operation : uint8_t { decode, duplicate, adapter };
+enum class operation : uint8_t { decode, duplicate };
 
 struct injection_subject {
     operation what;
-    std::size_t index; // of the message, or of the adapter
+    std::size_t index; // of the message
     std::string name;
     bool asks_for_memory; // some field, at some depth, is bytes, text or a list
 };

@@ -1,10 +1,8 @@
 // What is left when memory runs out, at any call? What the model predicts. tools/check/allocation_failures asks the
 // same of a million failing calls.
-#include "injection/inject_adapter.h"
 #include "injection/inject_message.h"
 #include "injection/injection_subjects.h"
 
-#include "check_adapter.h"
 #include "model/message_tables.h"
 #include "model/model.h"
 #include "model/wire_maker.h"
@@ -42,11 +40,6 @@ TEST(injection, a_duplicate_that_runs_out_of_memory_leaves_what_the_model_predic
     expect_no_deviation(operation::duplicate, 1000);
 }
 
-TEST(injection, an_adapter_that_runs_out_of_memory_delivers_what_the_model_kept)
-{
-    expect_no_deviation(operation::adapter, 1000);
-}
-
 // ---- the check itself: a failure that only one side sees must show ----
 
 std::size_t index_of_message(const std::string &name)
@@ -56,16 +49,6 @@ std::size_t index_of_message(const std::string &name)
             return index;
     }
     ADD_FAILURE() << "no message " << name;
-    return 0;
-}
-
-std::size_t index_of_adapter(const std::string &name)
-{
-    for (std::size_t index = 0; index < mava_tum_fuzz::adapter_count; ++index) {
-        if (mava_tum_fuzz::adapter_at(index).name == name)
-            return index;
-    }
-    ADD_FAILURE() << "no adapter " << name;
     return 0;
 }
 
@@ -92,15 +75,6 @@ TEST(injection, a_duplicate_that_fails_at_another_call_than_the_model_is_a_devia
     EXPECT_EQ(inject_duplicate(tested, record, {third_call, third_call}), "");
     EXPECT_NE(inject_duplicate(tested, record, {never, third_call}), "");
     EXPECT_NE(inject_duplicate(tested, record, {third_call, fourth_call}), "");
-}
-
-TEST(injection, an_adapter_that_fails_at_another_call_than_the_model_is_a_deviation)
-{
-    const std::size_t tested = index_of_adapter("session_context");
-    const wire_bytes wire = full_wire(mava_tum_fuzz::message_of_adapter(tested), 2);
-    EXPECT_EQ(inject_adapter(tested, wire, {third_call, third_call}), "");
-    EXPECT_NE(inject_adapter(tested, wire, {never, third_call}), "");
-    EXPECT_NE(inject_adapter(tested, wire, {third_call, fourth_call}), "");
 }
 
 } // namespace

@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cstdlib>
 #include <set>
 
 namespace mava_tum_test
@@ -19,6 +20,15 @@ TEST(adapter_contract, the_list_holds_the_19_adapters)
         names.insert(tested.name);
     EXPECT_EQ(names.size(), 19u);
     EXPECT_EQ(all_adapters().size(), 19u);
+}
+
+// The other tests would pass with a counter that sees nothing.
+TEST(adapter_contract, a_call_of_an_allocator_would_be_seen)
+{
+    void *(*volatile allocate)(std::size_t) = std::malloc;
+    void *block = nullptr;
+    EXPECT_EQ(heap_calls_of([&] { block = allocate(1); }), 1u);
+    std::free(block);
 }
 
 TEST(adapter_contract, an_all_zero_record_is_sent_as_its_known_bytes)

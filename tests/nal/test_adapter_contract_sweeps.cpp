@@ -1,6 +1,7 @@
 // Every adapter through every cut of its message and every capacity of its buffer, and damaged messages. `send` and
 // `receive` check on the way that nothing outside the record and the buffer is touched and that no allocator is called.
 #include "nal/adapter_list.h"
+#include "nal/wire_fields.h"
 #include "support/wire_builder.h"
 
 #include <gtest/gtest.h>
@@ -26,44 +27,6 @@ byte_vector swept_record(const adapter &tested)
 }
 
 // ---- cuts ----
-
-struct wire_field {
-    uint32_t number;
-    std::size_t begin;
-    std::size_t value; // where the tag ends
-    std::size_t end;
-};
-
-uint64_t varint_at(const byte_vector &wire, std::size_t &position)
-{
-    uint64_t value = 0;
-    for (unsigned shift = 0;; shift += 7) {
-        const uint8_t byte = wire.at(position++);
-        value |= uint64_t{byte & 0x7Fu} << shift;
-        if ((byte & 0x80) == 0)
-            return value;
-    }
-}
-
-// The fields of a well-formed message, one after the other.
-std::vector<wire_field> fields_in(const byte_vector &wire)
-{
-    std::vector<wire_field> fields;
-    for (std::size_t position = 0; position < wire.size();) {
-        wire_field field = {};
-        field.begin = position;
-        const uint64_t tag = varint_at(wire, position);
-        field.number = static_cast<uint32_t>(tag >> 3);
-        field.value = position;
-        const uint64_t value = varint_at(wire, position);
-        if ((tag & 7) == 2)
-            position += value;
-        field.end = position;
-        fields.push_back(field);
-    }
-    EXPECT_EQ(fields.back().end, wire.size());
-    return fields;
-}
 
 // How much of a message cut at `cut` arrives: all fields that are complete, but of a list either all elements or none.
 // A cut inside the tag that follows may have been one more element, so the list is lost with it.

@@ -219,6 +219,23 @@ TEST(nal_queue, the_count_goes_below_zero_without_a_guard)
     EXPECT_EQ(q.count, 0xFFFFFFFFu);
 }
 
+TEST(nal_queue, a_delete_takes_the_count_below_zero_too)
+{
+    queue q = {};
+    node only = {};
+    nal_queue_enqueue(&q, &only);
+    three_nodes r;
+    three_nodes s;
+    EXPECT_EQ(nal_queue_delete(&q, &r.n2), 1);
+    EXPECT_EQ(nal_queue_delete(&q, &s.n2), 1);
+    EXPECT_EQ(q.count, 0xFFFFFFFFu);
+    EXPECT_EQ(q.head, &only);
+    EXPECT_EQ(nal_queue_delete(&q, &only), 1);
+    EXPECT_EQ(q.count, 0xFFFFFFFEu);
+    EXPECT_EQ(q.head, nullptr);
+    EXPECT_EQ(q.tail, nullptr);
+}
+
 // ---- refused nodes ----
 
 struct child_end {

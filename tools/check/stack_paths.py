@@ -28,7 +28,7 @@ TABLE = re.compile(r'^\s+\.(?:quad|long)\s+([A-Za-z_][\w.$]*)')
 POINTER_CALL = "__indirect_call"
 # Where a path leaves the library. The first two do not return.
 LIBC = {
-    "__assert_fail", "__stack_chk_fail", "calloc", "free", "memcmp", "memcpy", "memmove", "memset", "strlen", "strnlen",
+    "__assert_fail", "__stack_chk_fail", "memcmp", "memcpy", "memmove", "memset", "strlen", "strnlen",
 }
 
 
