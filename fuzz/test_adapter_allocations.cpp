@@ -9,6 +9,7 @@
 #include <gtest/gtest.h>
 
 #include <cstdlib>
+#include <filesystem>
 #include <vector>
 
 namespace mava_tum_fuzz
@@ -86,6 +87,8 @@ const std::vector<wire_bytes> &corpus()
 
 TEST_P(adapter_allocations, none_on_any_input_of_the_corpus)
 {
+    if (!std::filesystem::exists(MAVA_TUM_CORPUS_OF_ADAPTERS))
+        GTEST_SKIP() << "the recorded inputs are not in this tree";
     ASSERT_GT(corpus().size(), 1000u);
     for (const wire_bytes &wire : corpus())
         ASSERT_EQ(calls_of(tested(), wire), 0u) << testing::PrintToString(wire);
