@@ -8,6 +8,11 @@ struct payload proof_run_element(struct run_position *position)
     return found;
 }
 
+void proof_run_step_over_tag(struct run_position *position)
+{
+    position->at = proof_read_started_varint32(position->at, position->end).next;
+}
+
 enum follower proof_run_next(struct run_position *position)
 {
     if (position->at == position->end)

@@ -43,6 +43,17 @@ struct payload proof_run_element(struct run_position *position);
 
 /*@
   requires position: is_position(position);
+  requires counted: !varint_is_cut(position->at, position->end);
+  terminates \true;
+  exits \false;
+  assigns position->at;
+  ensures inside: inside(\old(position->at), position->at, position->end);
+  ensures whole: is_varint(\old(position->at), position->at - \old(position->at));
+*/
+void proof_run_step_over_tag(struct run_position *position);
+
+/*@
+  requires position: is_position(position);
   terminates \true;
   exits \false;
   assigns position->at;

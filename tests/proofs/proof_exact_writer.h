@@ -4,6 +4,8 @@
 
 #include "proof_wire_write.h"
 
+#include <stdbool.h>
+
 struct exact_writer {
     uint8_t *buffer;
     uint64_t length;
@@ -37,23 +39,21 @@ struct exact_writer {
 */
 
 /*@
-  terminates \true;
-  exits \false;
-  assigns \nothing;
-  ensures sum: \result == advanced(position, payload_bytes);
-*/
-uint64_t proof_advance(uint64_t position, uint64_t payload_bytes);
-
-/*@
   requires writer: is_writer(writer);
+  requires tag: is_tag(tag);
   terminates \true;
   exits \false;
   assigns writer->position, writer->buffer[0 .. writer->length - 1];
-  ensures position: \old(writer->position) < 0xFFFFFFFFFFFFFFFF ==> writer->position == \old(writer->position) + 1;
-  ensures stored: \old(writer->position) < writer->length ==> writer->buffer[\old(writer->position)] == value;
-  ensures kept: kept_but{Pre, Here}(writer, \old(writer->position), \old(writer->position) + 1);
+  ensures position: \old(writer->position) + 12 <= 0xFFFFFFFFFFFFFFFF ==>
+    writer->position == \old(writer->position) + tag.length + varint_size(value);
+  ensures stored_tag: \old(writer->position) + 12 <= 0xFFFFFFFFFFFFFFFF ==>
+    tag_stands(writer, \old(writer->position), tag);
+  ensures stored: \old(writer->position) + 12 <= 0xFFFFFFFFFFFFFFFF ==>
+    varint_stands(writer, \old(writer->position) + tag.length, value);
+  ensures kept: \old(writer->position) + 12 <= 0xFFFFFFFFFFFFFFFF ==>
+    kept_but{Pre, Here}(writer, \old(writer->position), writer->position);
 */
-void proof_writer_byte(struct exact_writer *writer, uint8_t value);
+void proof_writer_varint_field(struct exact_writer *writer, struct field_tag tag, uint64_t value);
 
 /*@
   requires writer: is_writer(writer);
@@ -61,61 +61,20 @@ void proof_writer_byte(struct exact_writer *writer, uint8_t value);
   terminates \true;
   exits \false;
   assigns writer->position, writer->buffer[0 .. writer->length - 1];
-  ensures position: \old(writer->position) + 2 <= 0xFFFFFFFFFFFFFFFF ==>
-    writer->position == \old(writer->position) + tag.length;
-  ensures stored: \old(writer->position) + 2 <= 0xFFFFFFFFFFFFFFFF ==>
+  ensures position: \old(writer->position) + 6 <= 0xFFFFFFFFFFFFFFFF ==>
+    writer->position == \old(writer->position) + tag.length + 4;
+  ensures stored_tag: \old(writer->position) + 6 <= 0xFFFFFFFFFFFFFFFF ==>
     tag_stands(writer, \old(writer->position), tag);
-  ensures kept: \old(writer->position) + 2 <= 0xFFFFFFFFFFFFFFFF ==>
-    kept_but{Pre, Here}(writer, \old(writer->position), writer->position);
-*/
-void proof_writer_tag(struct exact_writer *writer, struct field_tag tag);
-
-/*@
-  requires writer: is_writer(writer);
-  terminates \true;
-  exits \false;
-  assigns writer->position, writer->buffer[0 .. writer->length - 1];
-  ensures position: \old(writer->position) + 10 <= 0xFFFFFFFFFFFFFFFF ==>
-    writer->position == \old(writer->position) + varint_size(value);
-  ensures stored: \old(writer->position) + 10 <= 0xFFFFFFFFFFFFFFFF ==>
-    varint_stands(writer, \old(writer->position), value);
-  ensures kept: \old(writer->position) + 10 <= 0xFFFFFFFFFFFFFFFF ==>
-    kept_but{Pre, Here}(writer, \old(writer->position), writer->position);
-*/
-void proof_writer_varint(struct exact_writer *writer, uint64_t value);
-
-/*@
-  requires writer: is_writer(writer);
-  terminates \true;
-  exits \false;
-  assigns writer->position, writer->buffer[0 .. writer->length - 1];
-  ensures position: \old(writer->position) + 4 <= 0xFFFFFFFFFFFFFFFF ==>
-    writer->position == \old(writer->position) + 4;
-  ensures stored: \old(writer->position) + 4 <= 0xFFFFFFFFFFFFFFFF ==> \let first = \old(writer->position);
+  ensures stored: \old(writer->position) + 6 <= 0xFFFFFFFFFFFFFFFF ==>
+    \let first = \old(writer->position) + tag.length;
     (first < writer->length ==> writer->buffer[first] == value % 0x100) &&
     (first + 1 < writer->length ==> writer->buffer[first + 1] == value / 0x100 % 0x100) &&
     (first + 2 < writer->length ==> writer->buffer[first + 2] == value / 0x10000 % 0x100) &&
     (first + 3 < writer->length ==> writer->buffer[first + 3] == value / 0x1000000);
-  ensures kept: \old(writer->position) + 4 <= 0xFFFFFFFFFFFFFFFF ==>
+  ensures kept: \old(writer->position) + 6 <= 0xFFFFFFFFFFFFFFFF ==>
     kept_but{Pre, Here}(writer, \old(writer->position), writer->position);
 */
-void proof_writer_fixed32(struct exact_writer *writer, uint32_t value);
-
-/*@
-  requires writer: is_writer(writer);
-  requires data: data != \null ==> \valid_read(data + (0 .. payload_length - 1)) &&
-    \separated(data + (0 .. payload_length - 1), writer, writer->buffer + (0 .. writer->length - 1));
-  terminates \true;
-  exits \false;
-  assigns writer->position, writer->buffer[0 .. writer->length - 1];
-  ensures position: writer->position == advanced(\old(writer->position), payload_length);
-  ensures stored_whole: data != \null && writer->position <= writer->length &&
-    writer->position != \old(writer->position) ==>
-    \forall integer i; 0 <= i < payload_length ==> writer->buffer[\old(writer->position) + i] == data[i];
-  ensures kept: kept_but{Pre, Here}(writer, \old(writer->position), writer->position);
-  ensures or_not_at_all: data == \null || writer->position > writer->length ==> kept_but{Pre, Here}(writer, 0, 0);
-*/
-void proof_writer_copy(struct exact_writer *writer, const uint8_t *data, uint64_t payload_length);
+void proof_writer_fixed32_field(struct exact_writer *writer, struct field_tag tag, uint32_t value);
 
 /*@
   requires writer: is_writer(writer);
@@ -144,6 +103,20 @@ void proof_writer_copy(struct exact_writer *writer, const uint8_t *data, uint64_
 */
 void proof_writer_block(
     struct exact_writer *writer, struct field_tag tag, const uint8_t *data, uint64_t payload_length);
+
+/*@
+  requires writer: is_writer(writer);
+  requires tag: is_tag(tag);
+  terminates \true;
+  exits \false;
+  assigns writer->position, writer->buffer[0 .. writer->length - 1];
+  ensures goes_on: \result ==> writer->position < writer->length;
+  ensures started: \old(writer->position) + 12 <= 0xFFFFFFFFFFFFFFFF && \result ==>
+    writer->position == \old(writer->position) + tag.length + varint_size((uint32_t)nested_bytes);
+  ensures complete: \old(writer->position) + 12 + nested_bytes <= 0xFFFFFFFFFFFFFFFF && !\result ==>
+    writer->position == \old(writer->position) + tag.length + varint_size((uint32_t)nested_bytes) + nested_bytes;
+*/
+bool proof_writer_start_nested(struct exact_writer *writer, struct field_tag tag, uint64_t nested_bytes);
 
 /*@
   requires writer: is_writer(writer);

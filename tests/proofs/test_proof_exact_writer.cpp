@@ -1,5 +1,5 @@
-// Are the exact path and the varints that are proved those of the library? Every capacity, values and payloads at the edges, positions
-// that wrap around: the same position, and the same bytes in the buffer and around it.
+// Are the exact path and the varints that are proved those of the library? Every capacity, values and payloads at the
+// edges, positions that wrap around: the same position, and the same bytes in the buffer and around it.
 #include "codec/exact_writer.h"
 #include "codec/wire_write.h"
 #include "support/guarded_buffer.h"
@@ -76,25 +76,16 @@ TEST(proof_exact_writer, single_values_are_written_as_by_the_library)
 {
     for (const uint64_t value : edge_values()) {
         const auto low = static_cast<uint32_t>(value);
-        const auto byte = static_cast<uint8_t>(value);
-        expect_same_everywhere({[&](library_writer &writer) { writer.byte(byte); },
-                                   [&](proved_writer &writer) { proof_writer_byte(&writer, byte); }},
-            1);
-        expect_same_everywhere({[&](library_writer &writer) { writer.varint(value); },
-                                   [&](proved_writer &writer) { proof_writer_varint(&writer, value); }},
-            10);
-        expect_same_everywhere({[&](library_writer &writer) { writer.fixed32(low); },
-                                   [&](proved_writer &writer) { proof_writer_fixed32(&writer, low); }},
-            4);
-    }
-}
-
-TEST(proof_exact_writer, tags_are_written_as_by_the_library)
-{
-    for (const mava_tum::field_tag tag : tags) {
-        expect_same_everywhere({[&](library_writer &writer) { writer.tag(tag); },
-                                   [&](proved_writer &writer) { proof_writer_tag(&writer, proved_tag(tag)); }},
-            2);
+        for (const mava_tum::field_tag tag : tags) {
+            expect_same_everywhere(
+                {[&](library_writer &writer) { writer.varint_field(tag, value); },
+                    [&](proved_writer &writer) { proof_writer_varint_field(&writer, proved_tag(tag), value); }},
+                12);
+            expect_same_everywhere(
+                {[&](library_writer &writer) { writer.fixed32_field(tag, low); },
+                    [&](proved_writer &writer) { proof_writer_fixed32_field(&writer, proved_tag(tag), low); }},
+                6);
+        }
     }
 }
 
@@ -119,6 +110,19 @@ TEST(proof_exact_writer, lengths_without_a_payload_are_counted_as_by_the_library
         expect_same_everywhere(
             {[&](library_writer &writer) { writer.block(tags[0], nullptr, length); },
                 [&](proved_writer &writer) { proof_writer_block(&writer, proved_tag(tags[0]), nullptr, length); }},
+            8);
+    }
+}
+
+TEST(proof_exact_writer, a_nested_message_is_started_as_by_the_library)
+{
+    for (const uint64_t bytes : edge_values()) {
+        bool expected = false;
+        expect_same_everywhere({[&](library_writer &writer) { expected = writer.start_nested(tags[1], bytes); },
+                                   [&](proved_writer &writer) {
+                                       const bool proved = proof_writer_start_nested(&writer, proved_tag(tags[1]), bytes);
+                                       EXPECT_EQ(proved, expected) << bytes;
+                                   }},
             8);
     }
 }

@@ -18,7 +18,7 @@ import find_mutants
 
 COMPILER = "clang++-19"
 SWITCH = os.path.join(os.path.dirname(os.path.abspath(__file__)), "mutant_switch.h")
-MUTATED = ["src/codec/*.h", "src/codec/*.cpp", "src/nal/nal_queue.cpp"]
+MUTATED = ["src/codec/*.h", "src/codec/*.cpp", "src/messages/*.cpp", "src/nal/*.h", "src/nal/*.cpp"]
 # Each template is seen in the sources that instantiate it.
 COMPILED = ["src/*/*.cpp"]
 
