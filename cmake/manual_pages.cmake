@@ -1,7 +1,7 @@
 # The manual pages, made from the headers and installed with them. The overview shows the first example.
 set(page_maker "${PROJECT_SOURCE_DIR}/tools/reference/make_manual_pages.py")
 set(page_example "${PROJECT_SOURCE_DIR}/examples/first_session.c")
-foreach(file IN ITEMS "${page_maker}" "${page_example}")
+foreach(file IN ITEMS "${page_maker}" "${page_example}" "${PROJECT_SOURCE_DIR}/catalogue/header_reader.py")
     if(NOT EXISTS "${file}")
         file(RELATIVE_PATH file "${PROJECT_SOURCE_DIR}" "${file}")
         mava_tum_is_left_out("manual pages" "${file} is not in this tree")

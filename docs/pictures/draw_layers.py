@@ -18,6 +18,7 @@ WIDTH, HEIGHT = 256, 56
 ROUTES = {
     ("src/nal", "src/messages"): [(378, 184), (378, 228)],
     ("src/messages", "src/codec"): [(378, 284), (378, 328)],
+    ("src/nal", "src/codec"): [(250, 170), (228, 170), (228, 356), (250, 356)],
     ("src/nal", "include/tum_nal"): [(506, 146), (600, 146)],
     ("src/nal", "include/mava_tum"): [(506, 170), (568, 170), (568, 290), (600, 290)],
     ("src/messages", "include/mava_tum"): [(506, 256), (540, 256), (540, 306), (600, 306)],

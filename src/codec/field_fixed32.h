@@ -2,7 +2,7 @@
 #pragma once
 
 #include "codec/exact_writer.h"
-#include "codec/field_number.h"
+#include "codec/number_field.h"
 #include "codec/wire_write.h"
 
 namespace mava_tum
