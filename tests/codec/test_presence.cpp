@@ -58,10 +58,10 @@ TYPED_TEST(presence_of_every_message, duplicate_copies_own_bits_only)
     EXPECT_EQ(call_duplicate(destination, source, nullptr, nullptr), MAVA_TUM_OK);
     EXPECT_EQ(destination.presence_mask, 0u) << "spare bits of the source";
 
-    source.presence_mask = static_cast<decltype(source.presence_mask)>(message_functions<TypeParam>::own_bits);
+    source.presence_mask = static_cast<decltype(source.presence_mask)>(all_own_bits<TypeParam>);
     duplicated<TypeParam> copy(source);
     EXPECT_EQ(copy.result, MAVA_TUM_OK);
-    EXPECT_EQ(copy.present(), message_functions<TypeParam>::own_bits);
+    EXPECT_EQ(copy.present(), all_own_bits<TypeParam>);
     EXPECT_EQ(spare_bits(copy.record), all_spare_bits<TypeParam>());
 }
 

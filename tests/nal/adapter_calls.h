@@ -21,7 +21,7 @@ template <class record_type>
 uint64_t call_encode_adapter(const record_type &record, uint8_t *buffer, uint32_t capacity)
 {
     const std::size_t before = heap_calls();
-    const uint64_t size = adapter_functions<record_type>::encode(&record, buffer, capacity);
+    const uint64_t size = adapter_of<record_type>().encode(&record, buffer, capacity);
     EXPECT_EQ(heap_calls(), before) << "an encode adapter called an allocator";
     return size;
 }
@@ -30,7 +30,7 @@ template <class record_type>
 void call_decode_adapter(const uint8_t *data, uint32_t length, record_type &record)
 {
     const std::size_t before = heap_calls();
-    adapter_functions<record_type>::decode(data, length, &record);
+    adapter_of<record_type>().decode(data, length, &record);
     EXPECT_EQ(heap_calls(), before) << "a decode adapter called an allocator";
 }
 

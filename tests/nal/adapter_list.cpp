@@ -32,12 +32,8 @@ adapter entry(
     added.sent = bytes_of_record(sent_record);
     added.received = bytes_of_record(received_record);
     added.all_zero_wire = all_zero_wire;
-    added.encode = [](const void *record, uint8_t *buffer, uint32_t capacity) {
-        return adapter_functions<sent_type>::encode(static_cast<const sent_type *>(record), buffer, capacity);
-    };
-    added.decode = [](const uint8_t *data, uint32_t length, void *record) {
-        adapter_functions<received_type>::decode(data, length, static_cast<received_type *>(record));
-    };
+    added.encode = adapter_of<sent_type>().encode;
+    added.decode = adapter_of<received_type>().decode;
     return added;
 }
 
@@ -48,11 +44,15 @@ adapter entry(const char *name, const record_type &record, const char *all_zero_
     return entry(name, record, record, all_zero_wire);
 }
 
-template <class record_type>
-adapter filled_entry(const char *name, void (*fill)(record_type &record), const char *all_zero_wire)
+// A record of numbers alone, which comes back as it was sent: the n-th has n in its highest bits.
+adapter entry_of_numbers(const char *name, const char *all_zero_wire)
 {
-    filled_record<record_type> record(fill);
-    return entry(name, *record, all_zero_wire);
+    const mava_tum_catalogue::adapter &of = *mava_tum_catalogue::find_adapter(name);
+    byte_vector record(of.sent->size_bytes);
+    uint64_t n = 0;
+    for (const mava_tum_catalogue::record_member &member : of.sent->members)
+        set_count(record, member.offset, member.size_bytes, ++n << (8 * member.size_bytes - 4));
+    return {name, record, record, all_zero_wire, of.encode, of.decode, {}, {}};
 }
 
 // ---- messages ----
@@ -315,9 +315,9 @@ const std::vector<adapter> &all_adapters()
         rec_sess_res_adapter(),
         rec_sess_replay_req_adapter(),
         rec_sess_replay_resp_adapter(),
-        filled_entry("srg_group_rec_start_req", fill_srg_group_rec_start_req, "08 00 10 00 18 00"),
-        filled_entry("srg_group_rec_resp", fill_srg_group_rec_resp, ""),
-        filled_entry("srg_group_rec_complete_req", fill_srg_group_rec_complete_req, ""),
+        entry_of_numbers("srg_group_rec_start_req", "08 00 10 00 18 00"),
+        entry_of_numbers("srg_group_rec_resp", ""),
+        entry_of_numbers("srg_group_rec_complete_req", ""),
         srg_group_rec_replay_req_adapter(),
         srg_group_rec_replay_resp_adapter(),
     };

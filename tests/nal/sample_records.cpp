@@ -212,26 +212,6 @@ tum_nal_data_rec_sess_replay_resp full_rec_sess_replay_resp()
 
 // ---- redundancy groups ----
 
-void fill_srg_group_rec_start_req(tum_nal_data_srg_group_rec_start_req &record)
-{
-    record.field_1 = 0x10000000;
-    record.field_2 = 0x2000;
-    record.field_3 = 0x30000000;
-}
-
-void fill_srg_group_rec_resp(tum_nal_data_srg_group_rec_resp &record)
-{
-    record.field_1 = 0x10000000;
-    record.field_2 = 0x20000000;
-}
-
-void fill_srg_group_rec_complete_req(tum_nal_data_srg_group_rec_complete_req &record)
-{
-    record.field_1 = 0x10000000;
-    record.field_2 = 0x20000000;
-    record.field_3 = 0x3000;
-}
-
 tum_nal_data_srg_group_rec_replay_req full_srg_group_rec_replay_req()
 {
     auto record = zero_record<tum_nal_data_srg_group_rec_replay_req>();

@@ -24,11 +24,6 @@ tum_nal_data_rec_sess_replay_req_encode full_rec_sess_replay_req();
 tum_nal_data_rec_sess_replay_req_decode as_received(const tum_nal_data_rec_sess_replay_req_encode &sent);
 tum_nal_data_rec_sess_replay_resp full_rec_sess_replay_resp();
 
-// These are filled in place: copies of so small a record lose their padding, which tests compare.
-void fill_srg_group_rec_start_req(tum_nal_data_srg_group_rec_start_req &record);
-void fill_srg_group_rec_resp(tum_nal_data_srg_group_rec_resp &record);
-void fill_srg_group_rec_complete_req(tum_nal_data_srg_group_rec_complete_req &record);
-
 tum_nal_data_srg_group_rec_replay_req full_srg_group_rec_replay_req();
 tum_nal_data_srg_group_rec_replay_resp full_srg_group_rec_replay_resp();
 

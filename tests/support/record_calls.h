@@ -76,11 +76,6 @@ template <class record_type>
 inline constexpr uint32_t all_own_bits = (1u << mava_tum_catalogue::message_of<record_type>().fields.size()) - 1;
 
 template <class record_type>
-struct message_functions {
-    static constexpr uint32_t own_bits = all_own_bits<record_type>;
-};
-
-template <class record_type>
 uint32_t own_bits(const record_type &record)
 {
     return record.presence_mask & all_own_bits<record_type>;
