@@ -37,9 +37,9 @@ void append(std::vector<uint8_t> &bytes, const Application &record)
 }
 
 template <class Adapter>
-void add_messages(corpus &content, const filler<typename Adapter::application> &from, const message_window &numbers)
+void add_messages(corpus &content, const filler<typename Adapter::sent> &from, const message_window &numbers)
 {
-    using application = typename Adapter::application;
+    using application = typename Adapter::sent;
     content.application_bytes = sizeof(application);
     auto record = std::make_unique<application>();
     for (uint64_t i = 0; i < (content.set == "fixed" ? 1 : numbers.count); ++i) {
