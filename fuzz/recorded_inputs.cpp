@@ -59,7 +59,8 @@ std::vector<std::vector<uint8_t>> read_inputs(const std::string &path)
 void write_file(const std::string &path, std::span<const uint8_t> bytes)
 {
     std::FILE *const file = open_file(path, "wb");
-    const bool is_complete = std::fwrite(bytes.data(), 1, bytes.size(), file) == bytes.size();
+    // An empty input has no address, and fwrite() wants one.
+    const bool is_complete = bytes.empty() || std::fwrite(bytes.data(), 1, bytes.size(), file) == bytes.size();
     if (std::fclose(file) != 0 || !is_complete)
         stop(path, "cannot be written");
 }
