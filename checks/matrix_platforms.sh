@@ -26,7 +26,7 @@ platform_undefined() {
     packages=(clang-19 libclang-rt-19-dev libprotobuf-dev protobuf-compiler)
     configure=("${clang[@]}")
     sanitizers=undefined,implicit-conversion,local-bounds
-    flags=-fsanitize-ignorelist=$PWD/tools/check/matrix_ignored_conversions.txt
+    flags=-fsanitize-ignorelist=$PWD/checks/matrix_ignored_conversions.txt
     export UBSAN_OPTIONS=print_stacktrace=1
 }
 
@@ -40,7 +40,7 @@ platform_memory() {
     sanitizers=memory
     flags="-D_GLIBCXX_EXTERN_TEMPLATE=0 -fsanitize-memory-track-origins=1"
     targets=(check_exhaustive replay_messages replay_adapters)
-    left_out=("interop: it needs the protobuf runtime, which is not instrumented")
+    left_out=("tests/interop: it needs the protobuf runtime, which is not instrumented")
 }
 
 run_memory() {
@@ -72,15 +72,15 @@ platform_i686() {
     packages=(g++-i686-linux-gnu)
     local model="the model's tables hold the offsets of machines with 64-bit pointers"
     configure=(-DCMAKE_TOOLCHAIN_FILE="$PWD/cmake/toolchains/i686-linux-gnu.cmake")
-    left_out=("interop: there is no protobuf runtime among the cross compiler's packages" "injection: $model"
-        "amplification: $model" "docs: its pictures show records with 64-bit pointers")
+    left_out=("tests/interop: there is no protobuf runtime among the cross compiler's packages" "tests/injection: $model"
+        "tests/amplification: $model" "tests/docs: its pictures show records with 64-bit pointers")
     not_run=("test_model: $model" "test_adapter_agreement: likewise" "replay_messages: likewise"
         "replay_adapters: likewise")
 }
 
 platform_aarch64() {
     emulated aarch64
-    left_out+=("stack: a thread has 128 KiB of it there at least")
+    left_out+=("tests/stack: a thread has 128 KiB of it there at least")
 }
 
 platform_s390x() {
@@ -91,6 +91,6 @@ emulated() {
     packages=("g++-$1-linux-gnu" qemu-user)
     configure=(-DCMAKE_TOOLCHAIN_FILE="$PWD/cmake/toolchains/$1-linux-gnu.cmake")
     runner=("qemu-$1" -L "/usr/$1-linux-gnu")
-    left_out=("interop: there is no protobuf runtime among the cross compiler's packages"
-        "examples: their tests start other programs, and the emulator would not start with these")
+    left_out=("tests/interop: there is no protobuf runtime among the cross compiler's packages"
+        "tests/examples: their tests start other programs, and the emulator would not start with these")
 }

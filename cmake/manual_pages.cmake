@@ -1,5 +1,5 @@
 # The manual pages, made from the headers and installed with them. The overview shows the first example.
-set(page_maker "${PROJECT_SOURCE_DIR}/tools/reference/make_manual_pages.py")
+set(page_maker "${PROJECT_SOURCE_DIR}/reference/make_manual_pages.py")
 set(page_example "${PROJECT_SOURCE_DIR}/examples/first_session.c")
 foreach(file IN ITEMS "${page_maker}" "${page_example}" "${PROJECT_SOURCE_DIR}/catalogue/header_reader.py")
     if(NOT EXISTS "${file}")
@@ -19,7 +19,7 @@ set(MAVA_TUM_MANUAL_PAGES "${PROJECT_BINARY_DIR}/man")
 set(make_manual_pages Python3::Interpreter -B "${page_maker}" "${PROJECT_SOURCE_DIR}" "${MAVA_TUM_MANUAL_PAGES}")
 set(page_release ${PROJECT_VERSION} ${MAVA_TUM_RELEASE_DATE})
 file(GLOB_RECURSE page_sources CONFIGURE_DEPENDS
-    "${PROJECT_SOURCE_DIR}/include/*.h" "${PROJECT_SOURCE_DIR}/tools/reference/*.py"
+    "${PROJECT_SOURCE_DIR}/include/*.h" "${PROJECT_SOURCE_DIR}/reference/*.py"
     "${PROJECT_SOURCE_DIR}/catalogue/*.py")
 add_custom_command(OUTPUT "${MAVA_TUM_MANUAL_PAGES}/man7/mava_tum.7"
     COMMAND ${make_manual_pages} mava_tum ${page_release}

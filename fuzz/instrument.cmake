@@ -1,6 +1,6 @@
 # What MAVA_TUM_FUZZ means: the library is watched by the engine, by address and by undefined.
 if(NOT CMAKE_CXX_COMPILER_ID MATCHES "Clang")
-    message(FATAL_ERROR "MAVA_TUM_FUZZ needs clang: its engine is libFuzzer. tools/check/fuzz sets everything up.")
+    message(FATAL_ERROR "MAVA_TUM_FUZZ needs clang: its engine is libFuzzer. scripts/check/fuzz sets everything up.")
 endif()
 
 # Of what the engine can be told, only which edges ran: its guesses at compared values do not help a mutator that knows

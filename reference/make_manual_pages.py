@@ -14,7 +14,7 @@ import re
 import sys
 from dataclasses import dataclass
 
-sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[2] / "catalogue"))
+sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[1] / "catalogue"))
 
 from header_reader import Header, HeaderReader, read_headers  # noqa: E402  (found by the line above)
 

@@ -154,14 +154,14 @@ def check(environment, counts):
 
 
 def main():
-    parser = argparse.ArgumentParser(prog="tools/check/instructions")
-    parser.add_argument("program", help=argparse.SUPPRESS)  # tools/check/instructions gives it
+    parser = argparse.ArgumentParser(prog="scripts/check/instructions")
+    parser.add_argument("program", help=argparse.SUPPRESS)  # scripts/check/instructions gives it
     parser.add_argument("--update", action="store_true", help="keep the new counts")
     arguments = parser.parse_args()
     environment = environment_of(arguments.program)
     counts = count(arguments.program)
     if not counts:
-        sys.exit("tools/check/instructions: callgrind counted nothing")
+        sys.exit("scripts/check/instructions: callgrind counted nothing")
     if arguments.update:
         write_kept(environment, counts)
     sys.exit(check(environment, counts))

@@ -2,11 +2,11 @@
 from layer_writer import NUMBER_TYPES
 
 HEAD = """\
-// Every field of every message, set and looked at through the C++ layer. Written by tools/cpp_layer/make_cpp_layer.
+// Every field of every message, set and looked at through the C++ layer. Written by bindings/cpp/make_cpp_layer.
 #ifndef FILLED_RECORDS_H
 #define FILLED_RECORDS_H
 
-#include "cpp/field_values.h"
+#include "field_values.h"
 
 #include <tuple>
 

@@ -153,7 +153,7 @@ def layer_header(messages, owning):
     others = [path.removeprefix("mava_tum/").removesuffix(".h") for path in header.includes]
     guard = f"MAVA_TUM_CPP_{header.stem.upper()}_HPP"
     lines = [
-        f"// Classes over the records of mava_tum/{header.stem}.h, generated from it by tools/cpp_layer/make_cpp_layer.",
+        f"// Classes over the records of mava_tum/{header.stem}.h, generated from it by bindings/cpp/make_cpp_layer.",
         "//",
         "// That header says what the fields are. Change it or the generator, not this file.",
         f"#ifndef {guard}", f"#define {guard}", "",

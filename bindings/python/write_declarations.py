@@ -10,7 +10,7 @@ from pathlib import Path
 
 import cffi
 
-sys.path.insert(0, str(Path(__file__).resolve().parents[1] / "catalogue"))
+sys.path.insert(0, str(Path(__file__).resolve().parents[2] / "catalogue"))
 
 from header_reader import read_headers, without_comments  # noqa: E402  (found by the line above)
 

@@ -5,7 +5,7 @@
 #include "support/guarded_buffer.h"
 
 extern "C" {
-#include "proofs/proof_exact_writer.h"
+#include "proof_exact_writer.h"
 }
 
 #include <gtest/gtest.h>

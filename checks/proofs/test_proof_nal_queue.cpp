@@ -1,7 +1,7 @@
 // Is the queue that is proved that of the library? Every sequence of operations on two queues and three nodes: the same
 // results, refusals, links and counts.
 extern "C" {
-#include "proofs/proof_nal_queue.h"
+#include "proof_nal_queue.h"
 }
 
 #include <gtest/gtest.h>

@@ -7,10 +7,10 @@
 #include "support/guarded_buffer.h"
 
 extern "C" {
-#include "proofs/proof_array_run.h"
-#include "proofs/proof_read_varint64.h"
-#include "proofs/proof_skip_unknown_field.h"
-#include "proofs/proof_wire_read.h"
+#include "proof_array_run.h"
+#include "proof_read_varint64.h"
+#include "proof_skip_unknown_field.h"
+#include "proof_wire_read.h"
 }
 
 #include <gtest/gtest.h>

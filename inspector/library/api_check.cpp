@@ -1,5 +1,5 @@
 // The part of the C interface that knows the adapters.
-#include "inspect/check.h"
+#include "inspector/library/check.h"
 
 using namespace mava_tum_inspect;
 

@@ -1,5 +1,5 @@
 // The part of the C interface that enumerates and describes messages.
-#include "inspect/message_table.h"
+#include "inspector/library/message_table.h"
 #include "mava_tum_inspect.h"
 
 namespace

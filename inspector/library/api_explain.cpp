@@ -1,7 +1,7 @@
 // The part of the C interface that explains wire bytes and judges them.
-#include "inspect/decode_memory.h"
-#include "inspect/explain.h"
-#include "inspect/message_table.h"
+#include "inspector/library/decode_memory.h"
+#include "inspector/library/explain.h"
+#include "inspector/library/message_table.h"
 
 namespace
 {

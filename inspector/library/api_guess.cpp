@@ -1,7 +1,7 @@
 // The part of the C interface for those who do not know what they have, or what it is called.
-#include "inspect/guess.h"
-#include "inspect/message_table.h"
-#include "inspect/similar_names.h"
+#include "inspector/library/guess.h"
+#include "inspector/library/message_table.h"
+#include "inspector/library/similar_names.h"
 
 #include <algorithm>
 

@@ -1,9 +1,9 @@
-#include "inspect/check.h"
+#include "inspector/library/check.h"
 
-#include "inspect/explain.h"
-#include "inspect/finding_text.h"
-#include "inspect/payload_notes.h"
-#include "inspect/wire_walk.h"
+#include "inspector/library/explain.h"
+#include "inspector/library/finding_text.h"
+#include "inspector/library/payload_notes.h"
+#include "inspector/library/wire_walk.h"
 
 namespace mava_tum_inspect
 {

@@ -1,7 +1,7 @@
 // Does a message fit the application record that an adapter decodes it into?
 #pragma once
 
-#include "inspect/message_table.h"
+#include "inspector/library/message_table.h"
 #include "mava_tum_inspect.h"
 
 #include <cstdint>

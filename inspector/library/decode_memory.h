@@ -1,7 +1,7 @@
 // What a decode asks its allocator for: exactly, to the byte and the call, when no call fails.
 #pragma once
 
-#include "inspect/wire_walk.h"
+#include "inspector/library/wire_walk.h"
 
 #include <cstdint>
 

@@ -1,8 +1,8 @@
-#include "inspect/explain.h"
+#include "inspector/library/explain.h"
 
-#include "inspect/fault_text.h"
-#include "inspect/note_text.h"
-#include "inspect/value_text.h"
+#include "inspector/library/fault_text.h"
+#include "inspector/library/note_text.h"
+#include "inspector/library/value_text.h"
 
 #include <cstring>
 

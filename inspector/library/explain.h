@@ -1,8 +1,8 @@
 // A message as annotated lines, and the verdict on it.
 #pragma once
 
-#include "inspect/message_table.h"
-#include "inspect/wire_walk.h"
+#include "inspector/library/message_table.h"
+#include "inspector/library/wire_walk.h"
 #include "mava_tum_inspect.h"
 
 #include <cstdint>

@@ -1,4 +1,4 @@
-#include "inspect/fault_text.h"
+#include "inspector/library/fault_text.h"
 
 #include "codec/wire_types.h"
 

@@ -1,8 +1,8 @@
 // The sentence that says why a decode failed, and where.
 #pragma once
 
-#include "inspect/text_builder.h"
-#include "inspect/wire_event.h"
+#include "inspector/library/text_builder.h"
+#include "inspector/library/wire_event.h"
 #include "mava_tum_inspect.h"
 
 namespace mava_tum_inspect

@@ -1,4 +1,4 @@
-#include "inspect/field_path.h"
+#include "inspector/library/field_path.h"
 
 namespace mava_tum_inspect
 {

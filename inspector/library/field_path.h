@@ -2,8 +2,8 @@
 // that the record does not know.
 #pragma once
 
-#include "inspect/message_table.h"
-#include "inspect/text_builder.h"
+#include "inspector/library/message_table.h"
+#include "inspector/library/text_builder.h"
 #include "mava_tum_inspect.h"
 
 #include <cstdint>

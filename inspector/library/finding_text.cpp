@@ -1,4 +1,4 @@
-#include "inspect/finding_text.h"
+#include "inspector/library/finding_text.h"
 
 namespace mava_tum_inspect
 {

@@ -1,9 +1,9 @@
 // What would not arrive in an application record, in a sentence. They all begin with the field.
 #pragma once
 
-#include "inspect/fault_text.h"
-#include "inspect/message_table.h"
-#include "inspect/wire_event.h"
+#include "inspector/library/fault_text.h"
+#include "inspector/library/message_table.h"
+#include "inspector/library/wire_event.h"
 #include "mava_tum_inspect.h"
 
 #include <cstdint>

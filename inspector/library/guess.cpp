@@ -1,6 +1,6 @@
-#include "inspect/guess.h"
+#include "inspector/library/guess.h"
 
-#include "inspect/wire_walk.h"
+#include "inspector/library/wire_walk.h"
 
 #include <algorithm>
 #include <bit>

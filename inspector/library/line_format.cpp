@@ -1,5 +1,5 @@
 // A line of an explanation as text: offset, bytes, words.
-#include "inspect/text_builder.h"
+#include "inspector/library/text_builder.h"
 #include "mava_tum_inspect.h"
 
 #include <algorithm>

@@ -1,4 +1,4 @@
-#include "inspect/message_table.h"
+#include "inspector/library/message_table.h"
 
 #include "codec/wire_types.h"
 

@@ -1,7 +1,7 @@
-#include "inspect/note_text.h"
+#include "inspector/library/note_text.h"
 
 #include "codec/wire_types.h"
-#include "inspect/payload_notes.h"
+#include "inspector/library/payload_notes.h"
 
 namespace mava_tum_inspect
 {

@@ -1,8 +1,8 @@
 // What is to be said about a field that was accepted although it is odd, or that is lost on the way.
 #pragma once
 
-#include "inspect/fault_text.h"
-#include "inspect/wire_event.h"
+#include "inspector/library/fault_text.h"
+#include "inspector/library/wire_event.h"
 
 namespace mava_tum_inspect
 {

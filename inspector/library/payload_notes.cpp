@@ -1,4 +1,4 @@
-#include "inspect/payload_notes.h"
+#include "inspector/library/payload_notes.h"
 
 #include <cstring>
 

@@ -1,7 +1,7 @@
 // What is to be noted about the payload of a bytes field or a text.
 #pragma once
 
-#include "inspect/wire_event.h"
+#include "inspector/library/wire_event.h"
 
 #include <cstdint>
 

@@ -1,4 +1,4 @@
-#include "inspect/similar_names.h"
+#include "inspector/library/similar_names.h"
 
 #include <algorithm>
 #include <array>

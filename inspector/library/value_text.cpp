@@ -1,7 +1,7 @@
-#include "inspect/value_text.h"
+#include "inspector/library/value_text.h"
 
 #include "codec/wire_types.h"
-#include "inspect/payload_notes.h"
+#include "inspector/library/payload_notes.h"
 
 #include <arpa/inet.h>
 

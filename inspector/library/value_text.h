@@ -1,8 +1,8 @@
 // Values in words: numbers, addresses in dotted and colon form, texts in quotes.
 #pragma once
 
-#include "inspect/fault_text.h"
-#include "inspect/wire_event.h"
+#include "inspector/library/fault_text.h"
+#include "inspector/library/wire_event.h"
 
 #include <cstdint>
 

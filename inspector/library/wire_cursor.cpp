@@ -1,4 +1,4 @@
-#include "inspect/wire_cursor.h"
+#include "inspector/library/wire_cursor.h"
 
 #include "codec/wire_types.h"
 

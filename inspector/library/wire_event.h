@@ -1,9 +1,9 @@
 // What a walk over wire bytes meets: fields as they stand there, and the fault that ends a decode.
 #pragma once
 
-#include "inspect/field_path.h"
-#include "inspect/message_table.h"
-#include "inspect/wire_cursor.h"
+#include "inspector/library/field_path.h"
+#include "inspector/library/message_table.h"
+#include "inspector/library/wire_cursor.h"
 
 #include <cstdint>
 

@@ -1,7 +1,7 @@
-#include "inspect/wire_walk.h"
+#include "inspector/library/wire_walk.h"
 
 #include "codec/wire_types.h"
-#include "inspect/payload_notes.h"
+#include "inspector/library/payload_notes.h"
 #include "mava_tum/codec_contract.h"
 
 namespace mava_tum_inspect

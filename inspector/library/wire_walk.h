@@ -5,7 +5,7 @@
 // decode earlier, with MAVA_TUM_NO_MEMORY.
 #pragma once
 
-#include "inspect/wire_event.h"
+#include "inspector/library/wire_event.h"
 
 #include <cstdint>
 

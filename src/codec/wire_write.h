@@ -116,7 +116,7 @@ inline constexpr std::array<varint_shape, word_varint_bits> varint_shapes = make
 
 // A varint above 32 bits, without a branch for each of its bytes: of identifiers and counters of any size the processor
 // would guess the last byte wrong. An eighth fewer instructions of an encode of session states
-// (tools/check/instructions).
+// (scripts/check/instructions).
 [[gnu::always_inline]] inline uint8_t *put_long_varint64(uint8_t *at, uint64_t value)
 {
     if (value >> word_varint_bits == 0) [[likely]] {

@@ -1,4 +1,4 @@
-// How much memory can a few bytes ask for? tools/check/amplification searches further.
+// How much memory can a few bytes ask for? scripts/check/amplification searches further.
 #include "amplification/asked_limit.h"
 #include "amplification/measured_decode.h"
 #include "amplification/short_inputs.h"

@@ -3,7 +3,7 @@
 // Runs the inputs of both corpora, the seeds of each message, and mutated and random wires from fixed seeds through all
 // 201 exported functions, and prints one row for each function and group of arguments: name, group, calls, and a hash
 // of everything that the calls did: results, records, blocks, bytes, segments. Two builds that print the same rows did
-// the same. tools/check/behaviour compares the rows with recorded.tsv. What is judged is the shared library that the
+// the same. scripts/check/behaviour compares the rows with recorded.tsv. What is judged is the shared library that the
 // program finds: that of its build, or another one with LD_LIBRARY_PATH.
 //
 // With --dump, prints each call of one function instead: group, a number that tells calls apart (flags, failing call or

@@ -1,4 +1,4 @@
-// What is left when memory runs out, at any call? What the model predicts. tools/check/allocation_failures asks the
+// What is left when memory runs out, at any call? What the model predicts. scripts/check/allocation_failures asks the
 // same of a million failing calls.
 #include "injection/inject_message.h"
 #include "injection/injection_subjects.h"

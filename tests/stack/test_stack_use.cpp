@@ -20,7 +20,7 @@ namespace
 // What a thread keeps for its own functions, for signal handlers and for the caller's callbacks.
 constexpr std::size_t reserve_bytes = 16 * 1024;
 
-// What `name` used, printed as a line that tools/check/stack reads.
+// What `name` used, printed as a line that scripts/check/stack reads.
 void expect_fits(const exported_calls &tested)
 {
     ASSERT_FALSE(tested.calls.empty()) << tested.name;

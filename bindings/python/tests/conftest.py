@@ -12,7 +12,7 @@ from hypothesis import HealthCheck, settings
 
 SOURCE = Path(os.environ["MAVA_TUM_SOURCE"])
 
-# The ordinary run tries the same few examples each time; tools/check/python many and others.
+# The ordinary run tries the same few examples each time; scripts/check/python many and others.
 EXAMPLES = os.environ.get("MAVA_TUM_EXAMPLES")
 settings.register_profile("ordinary", max_examples=15, derandomize=True, deadline=None, database=None,
                           suppress_health_check=[HealthCheck.too_slow, HealthCheck.data_too_large])
@@ -26,7 +26,7 @@ def source_folder() -> Path:
 
 
 def pytest_terminal_summary(terminalreporter: Any) -> None:
-    """tools/check/python adds these up."""
+    """scripts/check/python adds these up."""
     tried = strategies.examples_tried
     if tried:
         terminalreporter.write_line(f"tried {tried} examples")

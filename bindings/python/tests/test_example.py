@@ -10,6 +10,6 @@ from pathlib import Path
 def test_the_example_prints_what_is_expected(source_folder: Path) -> None:
     run = subprocess.run([sys.executable, source_folder / "examples/python_round_trip.py"], capture_output=True,
                          text=True, check=True)
-    expected = (source_folder / "tests/python/expected_round_trip.txt").read_text(encoding="utf-8")
+    expected = (source_folder / "bindings/python/tests/expected_round_trip.txt").read_text(encoding="utf-8")
     assert run.stdout == expected
     assert not run.stderr

@@ -1,6 +1,6 @@
 // Writes each of the 40 messages with every field that it has, at every depth, as lines "MESSAGE BYTES-IN-HEX". No two
 // values are the same; arrays have two elements.
-#include "inspect/message_table.h"
+#include "inspector/library/message_table.h"
 
 #include <cstdio>
 #include <cstring>

@@ -3,7 +3,7 @@
 //     MESSAGE
 //     pbf.mava_tum.MESSAGE.FIELD VALUE     for each field that is present, those of a record behind the record itself
 // Exits with 1 at a message that the library refuses.
-#include "inspect/message_table.h"
+#include "inspector/library/message_table.h"
 
 #include <charconv>
 #include <cstdio>

@@ -1,4 +1,4 @@
-// Classes over the records of mava_tum/feature_records.h, generated from it by tools/cpp_layer/make_cpp_layer.
+// Classes over the records of mava_tum/feature_records.h, generated from it by bindings/cpp/make_cpp_layer.
 //
 // That header says what the fields are. Change it or the generator, not this file.
 #ifndef MAVA_TUM_CPP_FEATURE_RECORDS_HPP

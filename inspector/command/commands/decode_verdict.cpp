@@ -1,7 +1,7 @@
 #include "commands/decode_verdict.h"
 
 #include "error_line.h"
-#include "inspect/wire_walk.h"
+#include "inspector/library/wire_walk.h"
 #include "message/verdict.h"
 
 #include <fmt/format.h>

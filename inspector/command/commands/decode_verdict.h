@@ -3,7 +3,7 @@
 
 #include "bad_use.h"
 #include "input/message_source.h"
-#include "inspect/message_table.h"
+#include "inspector/library/message_table.h"
 
 #include <string>
 

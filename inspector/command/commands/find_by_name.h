@@ -1,7 +1,7 @@
 // Messages and adapters by the name that the command line gives.
 #pragma once
 
-#include "inspect/message_table.h"
+#include "inspector/library/message_table.h"
 
 #include <string>
 

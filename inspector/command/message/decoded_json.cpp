@@ -1,6 +1,6 @@
 #include "message/decoded_json.h"
 
-#include "inspect/wire_walk.h"
+#include "inspector/library/wire_walk.h"
 #include "message/verdict.h"
 
 namespace mava_tum_cli

@@ -1,6 +1,6 @@
 #include "message/field_list.h"
 
-#include "inspect/wire_walk.h"
+#include "inspector/library/wire_walk.h"
 
 #include <unordered_map>
 

@@ -1,6 +1,6 @@
 #include "message/field_tree.h"
 
-#include "inspect/wire_walk.h"
+#include "inspector/library/wire_walk.h"
 #include "message/verdict.h"
 #include "words.h"
 

@@ -1,7 +1,7 @@
 #include "message/field_value.h"
 
 #include "input/hex_text.h"
-#include "inspect/payload_notes.h"
+#include "inspector/library/payload_notes.h"
 
 #include <fmt/format.h>
 

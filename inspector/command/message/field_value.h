@@ -1,7 +1,7 @@
 // One field of a message as text and as JSON.
 #pragma once
 
-#include "inspect/wire_event.h"
+#include "inspector/library/wire_event.h"
 #include "json/json_values.h"
 
 #include <span>

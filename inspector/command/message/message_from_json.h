@@ -1,7 +1,7 @@
 // Wire bytes of a message from JSON: a codec record is filled from it and encoded by the library.
 #pragma once
 
-#include "inspect/message_table.h"
+#include "inspector/library/message_table.h"
 #include "json/json_values.h"
 
 namespace mava_tum_cli

@@ -1,7 +1,7 @@
 #include "message/verdict.h"
 
-#include "inspect/fault_text.h"
-#include "inspect/note_text.h"
+#include "inspector/library/fault_text.h"
+#include "inspector/library/note_text.h"
 #include "mava_tum_inspect.h"
 
 namespace mava_tum_cli

@@ -1,7 +1,7 @@
 // What is wrong with a message, in words.
 #pragma once
 
-#include "inspect/wire_event.h"
+#include "inspector/library/wire_event.h"
 #include "message/field_value.h"
 
 #include <optional>

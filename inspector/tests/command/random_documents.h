@@ -2,7 +2,7 @@
 #pragma once
 
 #include "app/record_json.h"
-#include "inspect/message_table.h"
+#include "inspector/library/message_table.h"
 #include "json/json_values.h"
 
 #include <random>

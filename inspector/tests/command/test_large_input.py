@@ -5,7 +5,7 @@ import unittest
 
 from inspector import PROGRAM, InspectorTest, frames
 
-# A session_delete without findings; tools/check/inspector_memory gives more of it.
+# A session_delete without findings; scripts/check/inspector_memory gives more of it.
 MESSAGE = bytes.fromhex("08021007") + b"\x20" + b"\xff" * 9 + b"\x01"
 MEBIBYTES = int(os.environ.get("MAVA_TUM_FRAME_MEBIBYTES", "16"))
 LIMIT_KIB = 24 * 1024

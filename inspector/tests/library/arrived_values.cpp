@@ -1,6 +1,6 @@
-#include "inspect/arrived_values.h"
+#include "arrived_values.h"
 
-#include "inspect/wire_walk.h"
+#include "inspector/library/wire_walk.h"
 
 #include <cstring>
 #include <span>

@@ -2,7 +2,7 @@
 // The limits tell where to look; the record comes from the adapter itself.
 #pragma once
 
-#include "inspect/message_table.h"
+#include "inspector/library/message_table.h"
 #include "support/hex.h"
 
 #include <cstdint>

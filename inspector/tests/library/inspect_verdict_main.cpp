@@ -1,7 +1,7 @@
 // check_inspect_verdict <inputs> [<seed>]
 // Compares the verdict of the inspector with the library's result, presence and memory for at least that many inputs.
 // The last line is the sum; exits with 1 at the first difference.
-#include "inspect/verdict_agreement.h"
+#include "verdict_agreement.h"
 
 #include <cstdio>
 #include <cstdlib>

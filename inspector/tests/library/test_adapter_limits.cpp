@@ -1,8 +1,8 @@
 // Every limit against the adapter itself: a message at the limit, of which nothing may be lost, and one above it, of
 // which something must be.
-#include "inspect/arrived_values.h"
-#include "inspect/inspect_calls.h"
-#include "inspect/message_table.h"
+#include "arrived_values.h"
+#include "inspect_calls.h"
+#include "inspector/library/message_table.h"
 #include "support/wire_builder.h"
 
 #include <gtest/gtest.h>

@@ -1,7 +1,7 @@
 // The check against the adapters, on random and mutated messages: what it finds is lost, and what it does not find is
 // not.
-#include "inspect/arrived_values.h"
-#include "inspect/inspect_calls.h"
+#include "arrived_values.h"
+#include "inspect_calls.h"
 #include "model/message_tables.h"
 #include "model/random_source.h"
 #include "model/wire_maker.h"

@@ -1,5 +1,5 @@
 // Each kind of finding in words, and what goes with it.
-#include "inspect/inspect_calls.h"
+#include "inspect_calls.h"
 #include "mava_tum.h"
 #include "support/wire_builder.h"
 

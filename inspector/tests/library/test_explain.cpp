@@ -1,6 +1,6 @@
 // What an explanation looks like, to the character.
-#include "inspect/inspect_calls.h"
-#include "inspect/verdict_agreement.h"
+#include "inspect_calls.h"
+#include "verdict_agreement.h"
 #include "support/wire_builder.h"
 
 #include <gtest/gtest.h>

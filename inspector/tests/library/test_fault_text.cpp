@@ -1,6 +1,6 @@
 // One broken input for each rule, and the sentence about it.
-#include "inspect/inspect_calls.h"
-#include "inspect/message_table.h"
+#include "inspect_calls.h"
+#include "inspector/library/message_table.h"
 #include "support/wire_builder.h"
 
 #include <gtest/gtest.h>

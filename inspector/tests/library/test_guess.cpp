@@ -1,4 +1,4 @@
-#include "inspect/inspect_calls.h"
+#include "inspect_calls.h"
 #include "model/message_tables.h"
 #include "model/wire_maker.h"
 #include "support/wire_builder.h"

@@ -1,7 +1,7 @@
-#include "inspect/verdict_agreement.h"
+#include "verdict_agreement.h"
 
-#include "inspect/decode_memory.h"
-#include "inspect/wire_walk.h"
+#include "inspector/library/decode_memory.h"
+#include "inspector/library/wire_walk.h"
 #include "model/raw_memory.h"
 
 #include <cstdlib>

@@ -1,7 +1,7 @@
 // The walk against the library: for any bytes, both say the same about result, presence and memory.
 #pragma once
 
-#include "inspect/message_table.h"
+#include "inspector/library/message_table.h"
 #include "model/random_source.h"
 #include "model/wire_maker.h"
 
