@@ -17,6 +17,8 @@ static void *counted_alloc(uint64_t size, void *context)
     struct count *count = context;
     ++count->calls;
     count->bytes += size;
+    if ((size_t)size != size) /* where size_t has 32 bits */
+        return NULL;
     return malloc(size == 0 ? 1 : (size_t)size); /* null would be a failure */
 }
 

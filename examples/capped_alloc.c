@@ -28,6 +28,8 @@ static void *capped_alloc(uint64_t size, void *context)
     if (budget->left < sizeof(union block) || size > budget->left - sizeof(union block))
         return NULL;
     const uint64_t charged = size + sizeof(union block);
+    if ((size_t)charged != charged) /* where size_t has 32 bits */
+        return NULL;
     union block *block = malloc((size_t)charged);
     if (block == NULL)
         return NULL;

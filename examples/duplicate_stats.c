@@ -13,6 +13,8 @@ static void *limited_alloc(uint64_t size, void *context)
     if (*left == 0)
         return NULL;
     --*left;
+    if ((size_t)size != size) /* where size_t has 32 bits */
+        return NULL;
     return malloc(size == 0 ? 1 : (size_t)size);
 }
 

@@ -26,7 +26,7 @@ static int encode_and_send(const mava_tum_stats *stats)
 
     /* Too short. Nothing was written past the buffer, what lies in it is cut, and the size is known now. */
     printf("%llu bytes do not fit into %u\n", (unsigned long long)size, (unsigned)sizeof first_try);
-    uint8_t *wire = malloc((size_t)size);
+    uint8_t *wire = (size_t)size == size ? malloc((size_t)size) : NULL; /* size_t may have 32 bits */
     if (wire == NULL) {
         fprintf(stderr, "short_buffer: no memory for %llu bytes\n", (unsigned long long)size);
         return 0;

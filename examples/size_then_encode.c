@@ -29,7 +29,7 @@ int main(void)
     const uint64_t size = mava_tum_rec_sess_req_encode_ext(&request, NULL, 0, NULL, NULL);
     printf("%u sessions need %llu bytes\n", (unsigned)request.field_3_count, (unsigned long long)size);
 
-    uint8_t *wire = malloc((size_t)size);
+    uint8_t *wire = (size_t)size == size ? malloc((size_t)size) : NULL; /* size_t may have 32 bits */
     if (wire == NULL) {
         fprintf(stderr, "size_then_encode: no memory for %llu bytes\n", (unsigned long long)size);
         return 1;

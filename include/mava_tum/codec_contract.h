@@ -115,7 +115,8 @@ enum { MAVA_TUM_ALIAS = 1 };
 
 /* Returns a block of at least `size` bytes, aligned for any record, or null. Its content does not matter. `alloc_ctx`
  * comes from the caller, unchanged. `size` may be 0 (an empty bytes field); null then counts as a failure too. Like the
- * release callback it must return, and must not touch the record or the input at work. */
+ * release callback it must return, and must not touch the record or the input at work. Where size_t has 32 bits, test
+ * that `size` fits before you pass it to malloc(). */
 typedef void *(*mava_tum_alloc_fn)(uint64_t size, void *alloc_ctx);
 
 /* Gives back one block that the allocator callback returned. Never called with null. */
