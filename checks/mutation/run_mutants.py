@@ -24,7 +24,7 @@ from concurrent.futures import ThreadPoolExecutor
 # A part of a program is named by its filter.
 PROGRAMS = ["tests/test_codec", "tests/test_messages", "tests/test_leniency", "tests/nal/test_nal nal_queue.*",
             "tests/nal/test_nal -nal_queue.*", "tests/model/test_model", "fuzz/replay_messages", "fuzz/replay_adapters",
-            "tests/interop/test_interop", "tests/test_sweeps"]
+            "tests/interop/test_interop", "tests/sweeps/test_sweeps"]
 LEAST_SHARE = 0.95
 SLOW_SECONDS = 3
 MEMORY_BYTES = 8 << 30
