@@ -75,7 +75,7 @@ def codec(root, release):
 
 
 def inspector(root, release):
-    header, *parts = parts_of(root / "tools" / "inspect" / "include" / "mava_tum_inspect.h")
+    header, *parts = parts_of(root / "inspector" / "library" / "include" / "mava_tum_inspect.h")
     guide = (root / "docs" / "inspect-library.md").read_text(encoding="utf-8")
     example = re.search(r"save log_why.c -->\n```c\n(.*?)^```$", guide, re.M | re.S).group(1)
     return Library("mava_tum_inspect", [(part, part.functions) for part in parts],
