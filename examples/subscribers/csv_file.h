@@ -23,7 +23,7 @@ public:
     using std::runtime_error::runtime_error;
 };
 
-// A piece of the file that knows where it stands.
+// A part of the file that knows where it stands.
 struct cell {
     std::string_view file;
     unsigned line = 0;

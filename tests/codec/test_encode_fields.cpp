@@ -217,7 +217,7 @@ TEST(encode_fields, a_block_of_any_length_at_any_depth_gives_the_bytes_of_the_co
     }
 }
 
-// The list goes to the buffer in pieces; where one no longer fits, nothing void may have been written before.
+// The list goes to the buffer in parts; where one no longer fits, nothing void may have been written before.
 TEST(encode_fields, a_long_list_gives_the_bytes_of_its_codec_record_into_a_buffer_cut_anywhere)
 {
     session_source source{1, "a", "b", {}};

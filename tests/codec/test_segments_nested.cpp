@@ -1,6 +1,6 @@
-// Gather mode across nested records. Each encoder keeps track of its own pieces only: the pieces of a nested record
-// come first, and the parent's next own piece starts where the parent's previous one ended, so it covers the nested
-// bytes in the buffer once more. Callers of this mode lay the pieces out themselves.
+// Gather mode across nested records. Each encoder keeps track of its own segments only: the segments of a nested record
+// come first, and the parent's next own segment starts where the parent's previous one ended, so it covers the nested
+// bytes in the buffer once more. Callers of this mode lay the segments out themselves.
 #include "support/record_calls.h"
 
 #include <gtest/gtest.h>
@@ -18,26 +18,26 @@ constexpr uint32_t room = 16;
 
 struct gathered {
     guarded_buffer buffer{64, 0x00};
-    std::array<mava_tum_segment, room> pieces{};
+    std::array<mava_tum_segment, room> segments{};
     uint32_t count;
     uint64_t size;
 
     template <class record_type>
     explicit gathered(const record_type &record, uint32_t capacity = room) : count(capacity)
     {
-        size = call_encode(record, buffer.data(), buffer.size(), pieces.data(), &count, gather);
+        size = call_encode(record, buffer.data(), buffer.size(), segments.data(), &count, gather);
     }
 
-    void expect_buffer_piece(std::size_t index, std::size_t offset, uint64_t length)
+    void expect_buffer_segment(std::size_t index, std::size_t offset, uint64_t length)
     {
-        EXPECT_EQ(pieces[index].data, buffer.data() + offset) << "piece " << index;
-        EXPECT_EQ(pieces[index].length, length) << "piece " << index;
+        EXPECT_EQ(segments[index].data, buffer.data() + offset) << "segment " << index;
+        EXPECT_EQ(segments[index].length, length) << "segment " << index;
     }
 
-    void expect_record_piece(std::size_t index, const byte_vector &content)
+    void expect_record_segment(std::size_t index, const byte_vector &content)
     {
-        EXPECT_EQ(pieces[index].data, content.data()) << "piece " << index;
-        EXPECT_EQ(pieces[index].length, content.size()) << "piece " << index;
+        EXPECT_EQ(segments[index].data, content.data()) << "segment " << index;
+        EXPECT_EQ(segments[index].length, content.size()) << "segment " << index;
     }
 };
 
@@ -55,33 +55,33 @@ struct session_with_ppp_bytes {
     }
 };
 
-TEST(segments_nested, a_nested_bytes_field_is_a_piece_and_its_length_prefix_leaves_it_out)
+TEST(segments_nested, a_nested_bytes_field_is_a_segment_and_its_length_prefix_leaves_it_out)
 {
     const session_with_ppp_bytes source;
     gathered got(source.record);
     EXPECT_EQ(hex_of(got.buffer.data(), got.size), "08 01 1A 02 2A 03 48 09");
     ASSERT_EQ(got.count, 3u);
-    got.expect_buffer_piece(0, 4, 2);
-    got.expect_record_piece(1, source.content);
-    got.expect_buffer_piece(2, 0, 8);
+    got.expect_buffer_segment(0, 4, 2);
+    got.expect_record_segment(1, source.content);
+    got.expect_buffer_segment(2, 0, 8);
 }
 
-TEST(segments_nested, pieces_of_a_nested_record_are_counted_past_the_capacity)
+TEST(segments_nested, segments_of_a_nested_record_are_counted_past_the_capacity)
 {
     const session_with_ppp_bytes source;
     for (uint32_t capacity = 0; capacity < 3; ++capacity) {
         gathered got(source.record, capacity);
         EXPECT_EQ(got.count, 3u) << capacity;
         EXPECT_EQ(got.size, 8u) << capacity;
-        EXPECT_EQ(got.pieces[capacity].length, 0u) << "the entry behind the capacity, " << capacity;
+        EXPECT_EQ(got.segments[capacity].length, 0u) << "the entry behind the capacity, " << capacity;
     }
     gathered one(source.record, 1);
-    one.expect_buffer_piece(0, 4, 2);
+    one.expect_buffer_segment(0, 4, 2);
     gathered two(source.record, 2);
-    two.expect_record_piece(1, source.content);
+    two.expect_record_segment(1, source.content);
 }
 
-TEST(segments_nested, a_nested_message_without_flags_is_one_piece)
+TEST(segments_nested, a_nested_message_without_flags_is_one_segment)
 {
     mava_tum_session_data record{};
     record.vlan.field_1 = 7;
@@ -89,18 +89,18 @@ TEST(segments_nested, a_nested_message_without_flags_is_one_piece)
     gathered got(record);
     EXPECT_EQ(hex_of(got.buffer.data(), got.size), "52 02 08 07");
     ASSERT_EQ(got.count, 2u);
-    got.expect_buffer_piece(0, 2, 2);
-    got.expect_buffer_piece(1, 0, 4);
+    got.expect_buffer_segment(0, 2, 2);
+    got.expect_buffer_segment(1, 0, 4);
 }
 
-TEST(segments_nested, an_empty_nested_record_adds_no_piece)
+TEST(segments_nested, an_empty_nested_record_adds_no_segment)
 {
     mava_tum_session_data record{};
     mark_present(record, 3, 10);
     gathered got(record);
     EXPECT_EQ(hex_of(got.buffer.data(), got.size), "1A 00 52 00");
     ASSERT_EQ(got.count, 1u);
-    got.expect_buffer_piece(0, 0, 4);
+    got.expect_buffer_segment(0, 0, 4);
 }
 
 TEST(segments_nested, own_and_nested_bytes_fields_come_in_field_order)
@@ -112,14 +112,14 @@ TEST(segments_nested, own_and_nested_bytes_fields_come_in_field_order)
     gathered got(source.record);
     EXPECT_EQ(hex_of(got.buffer.data(), got.size), "08 01 1A 02 2A 03 32 01 48 09");
     ASSERT_EQ(got.count, 5u);
-    got.expect_buffer_piece(0, 4, 2);
-    got.expect_record_piece(1, source.content);
-    got.expect_buffer_piece(2, 0, 8);
-    got.expect_record_piece(3, own);
-    got.expect_buffer_piece(4, 8, 2);
+    got.expect_buffer_segment(0, 4, 2);
+    got.expect_record_segment(1, source.content);
+    got.expect_buffer_segment(2, 0, 8);
+    got.expect_record_segment(3, own);
+    got.expect_buffer_segment(4, 8, 2);
 }
 
-TEST(segments_nested, the_pieces_of_array_elements_are_counted_on_from_element_to_element)
+TEST(segments_nested, the_segments_of_array_elements_are_counted_on_from_element_to_element)
 {
     byte_vector first = bytes_of("AA BB");
     byte_vector second = bytes_of("CC");
@@ -139,12 +139,12 @@ TEST(segments_nested, the_pieces_of_array_elements_are_counted_on_from_element_t
     gathered got(record);
     EXPECT_EQ(hex_of(got.buffer.data(), got.size), "22 02 08 00 2A 02 1A 02 2A 02 1A 01");
     ASSERT_EQ(got.count, 6u);
-    got.expect_buffer_piece(0, 2, 2); // the IPv4 route as a whole
-    got.expect_buffer_piece(1, 6, 2);
-    got.expect_record_piece(2, first);
-    got.expect_buffer_piece(3, 10, 2);
-    got.expect_record_piece(4, second);
-    got.expect_buffer_piece(5, 0, 12);
+    got.expect_buffer_segment(0, 2, 2); // the IPv4 route as a whole
+    got.expect_buffer_segment(1, 6, 2);
+    got.expect_record_segment(2, first);
+    got.expect_buffer_segment(3, 10, 2);
+    got.expect_record_segment(4, second);
+    got.expect_buffer_segment(5, 0, 12);
 }
 
 TEST(segments_nested, two_levels_deep_the_lengths_leave_the_bytes_out_at_each_level)
@@ -156,10 +156,10 @@ TEST(segments_nested, two_levels_deep_the_lengths_leave_the_bytes_out_at_each_le
     gathered got(record);
     EXPECT_EQ(hex_of(got.buffer.data(), got.size), "52 04 22 02 22 04");
     ASSERT_EQ(got.count, 4u);
-    got.expect_buffer_piece(0, 4, 2); // l2tp
-    got.expect_record_piece(1, content);
-    got.expect_buffer_piece(2, 2, 4); // session data
-    got.expect_buffer_piece(3, 0, 6); // session context
+    got.expect_buffer_segment(0, 4, 2); // l2tp
+    got.expect_record_segment(1, content);
+    got.expect_buffer_segment(2, 2, 4); // session data
+    got.expect_buffer_segment(3, 0, 6); // session context
 }
 
 TEST(segments_nested, without_a_count_nested_bytes_are_left_out)

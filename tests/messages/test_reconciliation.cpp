@@ -28,7 +28,7 @@ void expect_three_varints_and_a_text()
     expect_full_width(2, &record_type::field_2);
     expect_full_width(3, &record_type::field_3);
     expect_flags_are_ignored<record_type>("08 01 10 02 18 03 22 02 61 62");
-    expect_output_is_one_piece(decoded<record_type>("08 01 22 02 61 62").record);
+    expect_output_is_one_segment(decoded<record_type>("08 01 22 02 61 62").record);
 }
 
 TEST(rec_start_req, is_three_varints_and_a_text)
@@ -129,7 +129,7 @@ TEST(rec_resp, schema_has_its_text_between_two_varints)
     expect_full_width(1, &record_type::field_1);
     expect_full_width(3, &record_type::field_3);
     expect_flags_are_ignored<record_type>("12 02 61 62 18 03");
-    expect_output_is_one_piece(answer_decode("08 01 12 02 61 62").record);
+    expect_output_is_one_segment(answer_decode("08 01 12 02 61 62").record);
 }
 
 TEST(rec_resp, decode_refuses_a_text_of_length_10_of_which_5_bytes_are_there)
@@ -184,7 +184,7 @@ TEST(rec_session_state, schema_is_three_varints_the_second_of_64_bits)
     expect_full_width(1, &record_type::field_1);
     expect_full_width<record_type, uint64_t>(2, &record_type::field_2);
     expect_full_width(3, &record_type::field_3);
-    expect_output_is_one_piece(decoded<record_type>("08 01 10 80 80 80 80 10").record);
+    expect_output_is_one_segment(decoded<record_type>("08 01 10 80 80 80 80 10").record);
 }
 
 TEST(rec_session_state, duplicate_and_free_take_an_allocator_and_ignore_it)

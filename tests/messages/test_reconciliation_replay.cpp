@@ -241,7 +241,7 @@ struct replay_with_bytes {
     }
 };
 
-const std::vector<std::string> pieces_of_the_replay = {
+const std::vector<std::string> segments_of_the_replay = {
     "4+2", "AA BB", // the first session and its bytes field
     "14+2", "CC",   // ppp and its bytes field
     "12+4",         // session data
@@ -249,12 +249,12 @@ const std::vector<std::string> pieces_of_the_replay = {
     "0+18",         // the replay itself
 };
 
-TEST(rec_sess_replay_req, gathered_bytes_of_sessions_are_pieces_and_no_length_counts_them)
+TEST(rec_sess_replay_req, gathered_bytes_of_sessions_are_segments_and_no_length_counts_them)
 {
     const replay_with_bytes source;
     gathered_segments got(source.record);
     EXPECT_EQ(got.bytes_in_buffer(), "08 01 22 02 32 02 22 08 38 07 52 04 1A 02 2A 01 28 05");
-    EXPECT_EQ(got.stored(), pieces_of_the_replay);
+    EXPECT_EQ(got.stored(), segments_of_the_replay);
     EXPECT_EQ(got.list[1].data, source.own.data());
     EXPECT_EQ(got.list[3].data, source.nested.data());
     EXPECT_EQ(call_encode(source.record, nullptr, 0), 21u) << "in copy mode the contents count";
@@ -263,32 +263,32 @@ TEST(rec_sess_replay_req, gathered_bytes_of_sessions_are_pieces_and_no_length_co
 TEST(rec_sess_replay_req, gathered_segments_are_counted_past_the_capacity)
 {
     const replay_with_bytes source;
-    for (uint32_t capacity = 0; capacity < pieces_of_the_replay.size(); ++capacity) {
+    for (uint32_t capacity = 0; capacity < segments_of_the_replay.size(); ++capacity) {
         gathered_segments got(source.record, capacity);
-        EXPECT_EQ(got.count, pieces_of_the_replay.size()) << capacity;
-        EXPECT_EQ(got.stored(), std::vector<std::string>(pieces_of_the_replay.begin(),
-                                    pieces_of_the_replay.begin() + static_cast<std::ptrdiff_t>(capacity)));
+        EXPECT_EQ(got.count, segments_of_the_replay.size()) << capacity;
+        EXPECT_EQ(got.stored(), std::vector<std::string>(segments_of_the_replay.begin(),
+                                    segments_of_the_replay.begin() + static_cast<std::ptrdiff_t>(capacity)));
     }
 }
 
-TEST(rec_sess_replay_req, gathering_without_a_buffer_counts_the_same_pieces)
+TEST(rec_sess_replay_req, gathering_without_a_buffer_counts_the_same_segments)
 {
     const replay_with_bytes source;
-    std::array<mava_tum_segment, 7> pieces{};
+    std::array<mava_tum_segment, 7> segments{};
     uint32_t count = 7;
-    EXPECT_EQ(call_encode(source.record, nullptr, 0, pieces.data(), &count, alias), 18u);
+    EXPECT_EQ(call_encode(source.record, nullptr, 0, segments.data(), &count, alias), 18u);
     EXPECT_EQ(count, 7u);
-    EXPECT_EQ(pieces[1].data, source.own.data());
-    EXPECT_EQ(pieces[3].data, source.nested.data());
+    EXPECT_EQ(segments[1].data, source.own.data());
+    EXPECT_EQ(segments[3].data, source.nested.data());
     for (std::size_t in_buffer : {0u, 2u, 4u, 5u, 6u})
-        EXPECT_EQ(pieces[in_buffer].data, nullptr) << in_buffer;
-    EXPECT_EQ(pieces[6].length, 18u);
+        EXPECT_EQ(segments[in_buffer].data, nullptr) << in_buffer;
+    EXPECT_EQ(segments[6].length, 18u);
 }
 
-TEST(rec_sess_replay_req, copy_mode_is_one_piece_whatever_is_nested)
+TEST(rec_sess_replay_req, copy_mode_is_one_segment_whatever_is_nested)
 {
     const replay_with_bytes source;
-    expect_output_is_one_piece(source.record);
+    expect_output_is_one_segment(source.record);
 }
 
 } // namespace

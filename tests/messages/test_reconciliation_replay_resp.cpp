@@ -312,11 +312,11 @@ TEST(rec_sess_replay_resp, free_goes_field_by_field_and_element_by_element)
     EXPECT_EQ(got.allocator.released().size(), expected.size());
 }
 
-TEST(rec_sess_replay_resp, output_of_all_three_messages_is_one_piece)
+TEST(rec_sess_replay_resp, output_of_all_three_messages_is_one_segment)
 {
-    expect_output_is_one_piece(answer_decode(full).record);
-    expect_output_is_one_piece(failure_decode("08 01 1A 05 42 03 0A 01 61").record);
-    expect_output_is_one_piece(start_decode("20 04 2A 02 62 63").record);
+    expect_output_is_one_segment(answer_decode(full).record);
+    expect_output_is_one_segment(failure_decode("08 01 1A 05 42 03 0A 01 61").record);
+    expect_output_is_one_segment(start_decode("20 04 2A 02 62 63").record);
 }
 
 } // namespace

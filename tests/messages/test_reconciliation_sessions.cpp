@@ -167,9 +167,9 @@ TEST(rec_sess_req, free_releases_the_array_and_then_the_texts)
     EXPECT_EQ(got.present(), fields(3, 4, 5));
 }
 
-TEST(rec_sess_req, output_is_one_piece)
+TEST(rec_sess_req, output_is_one_segment)
 {
-    expect_output_is_one_piece(request_decode("08 01 1A 02 08 01 22 01 61").record);
+    expect_output_is_one_segment(request_decode("08 01 1A 02 08 01 22 01 61").record);
 }
 
 TEST(rec_sess_resp, schema_is_three_varints_and_an_array)
@@ -185,7 +185,7 @@ TEST(rec_sess_resp, schema_is_three_varints_and_an_array)
     expect_full_width(3, &record_type::field_3);
     expect_full_width(4, &record_type::field_4);
     expect_flags_are_ignored<record_type>("12 02 08 01 12 00 18 AC 02");
-    expect_output_is_one_piece(response_decode("12 02 08 01 12 00").record);
+    expect_output_is_one_segment(response_decode("12 02 08 01 12 00").record);
 }
 
 TEST(rec_sess_resp, spare_bits_of_the_mask_write_nothing)

@@ -34,7 +34,7 @@ void expect_three_varints()
     expect_full_width(3, &record_type::field_3);
     expect_owns_no_memory<record_type>("08 01 10 02 18 AC 02");
     expect_a_copy_takes_own_bits_only<record_type>();
-    expect_output_is_one_piece(decoded<record_type>("08 01 10 02 18 AC 02").record);
+    expect_output_is_one_segment(decoded<record_type>("08 01 10 02 18 AC 02").record);
 }
 
 TEST(srg_group_rec_start_req, is_three_varints_and_owns_no_memory)
@@ -55,7 +55,7 @@ TEST(srg_group_rec_resp, is_two_varints_and_owns_no_memory)
     expect_full_width(2, &record_type::field_2);
     expect_owns_no_memory<record_type>("08 01 10 AC 02");
     expect_a_copy_takes_own_bits_only<record_type>();
-    expect_output_is_one_piece(decoded<record_type>("08 01 10 AC 02").record);
+    expect_output_is_one_segment(decoded<record_type>("08 01 10 AC 02").record);
     EXPECT_EQ(decoded<record_type>("18 05 10 07").present(), fields(2)) << "field 3 is unknown here";
 }
 
@@ -117,9 +117,9 @@ TEST(srg_group_data, duplicate_without_memory_loses_the_text_only)
     EXPECT_EQ(copy.present(), fields(1, 4));
 }
 
-TEST(srg_group_data, output_is_one_piece)
+TEST(srg_group_data, output_is_one_segment)
 {
-    expect_output_is_one_piece(data_decode("08 01 2A 02 61 62").record);
+    expect_output_is_one_segment(data_decode("08 01 2A 02 61 62").record);
 }
 
 TEST(srg_group_rec_replay_req, schema_is_three_varints_and_an_array)
@@ -291,10 +291,10 @@ TEST(srg_group_rec_replay_resp, free_goes_array_by_array_with_the_texts_before_t
     EXPECT_EQ(got.present(), fields(2, 3));
 }
 
-TEST(srg_group_rec_replay_resp, output_is_one_piece)
+TEST(srg_group_rec_replay_resp, output_is_one_segment)
 {
-    expect_output_is_one_piece(response_decode("08 01 12 03 2A 01 61 1A 00").record);
-    expect_output_is_one_piece(request_decode("08 01 1A 03 2A 01 61").record);
+    expect_output_is_one_segment(response_decode("08 01 12 03 2A 01 61 1A 00").record);
+    expect_output_is_one_segment(request_decode("08 01 1A 03 2A 01 61").record);
 }
 
 } // namespace

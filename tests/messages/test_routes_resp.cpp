@@ -95,9 +95,9 @@ TEST(subscriber_route_resp, free_releases_field_3_and_then_field_4)
     EXPECT_EQ(got.present(), fields(3, 4));
 }
 
-TEST(subscriber_route_resp, output_is_one_piece)
+TEST(subscriber_route_resp, output_is_one_segment)
 {
-    expect_output_is_one_piece(answer_decode("08 01 1A 01 61").record);
+    expect_output_is_one_segment(answer_decode("08 01 1A 01 61").record);
 }
 
 } // namespace

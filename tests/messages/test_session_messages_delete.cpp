@@ -80,9 +80,9 @@ TEST(session_delete, a_64_bit_value_that_is_cut_fails)
     EXPECT_EQ(got.present(), fields(1));
 }
 
-TEST(session_delete, output_is_one_piece)
+TEST(session_delete, output_is_one_segment)
 {
-    expect_output_is_one_piece(delete_decode(all_fields).record);
+    expect_output_is_one_segment(delete_decode(all_fields).record);
 }
 
 } // namespace

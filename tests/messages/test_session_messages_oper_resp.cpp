@@ -232,20 +232,20 @@ TEST(sess_oper_resp, free_releases_texts_statistics_and_then_field_10_unless_it_
     }
 }
 
-TEST(sess_oper_resp, gathered_statistics_are_one_piece_and_field_10_another)
+TEST(sess_oper_resp, gathered_statistics_are_one_segment_and_field_10_another)
 {
     answer_decode got("08 01 32 02 61 62 4A 07 42 05 0A 03 67 68 69 52 03 AA BB CC");
-    gathered_segments pieces(got.record);
-    EXPECT_EQ(pieces.bytes_in_buffer(), "08 01 32 02 61 62 4A 07 42 05 0A 03 67 68 69 52 03");
-    EXPECT_EQ(pieces.stored(), (std::vector<std::string>{"8+7", "0+17", "AA BB CC"}));
-    EXPECT_EQ(pieces.list[2].data, got.record.field_10.data);
+    gathered_segments segments(got.record);
+    EXPECT_EQ(segments.bytes_in_buffer(), "08 01 32 02 61 62 4A 07 42 05 0A 03 67 68 69 52 03");
+    EXPECT_EQ(segments.stored(), (std::vector<std::string>{"8+7", "0+17", "AA BB CC"}));
+    EXPECT_EQ(segments.list[2].data, got.record.field_10.data);
     for (uint32_t capacity : {0u, 1u, 2u})
         EXPECT_EQ(gathered_segments(got.record, capacity).count, 3u) << "counted past the capacity";
 }
 
-TEST(sess_oper_resp, copy_mode_is_one_piece_whatever_is_nested)
+TEST(sess_oper_resp, copy_mode_is_one_segment_whatever_is_nested)
 {
-    expect_output_is_one_piece(answer_decode(full).record);
+    expect_output_is_one_segment(answer_decode(full).record);
 }
 
 } // namespace

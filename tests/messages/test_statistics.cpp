@@ -90,9 +90,9 @@ TEST(stats, owns_no_memory)
     expect_a_copy_takes_own_bits_only<mava_tum_stats>();
 }
 
-TEST(stats, output_is_one_piece)
+TEST(stats, output_is_one_segment)
 {
-    expect_output_is_one_piece(decoded<mava_tum_stats>(all_counters).record);
+    expect_output_is_one_segment(decoded<mava_tum_stats>(all_counters).record);
 }
 
 TEST(service_stats, schema_is_a_text_and_a_record)
@@ -224,9 +224,9 @@ TEST(service_stats, free_releases_the_name_and_keeps_the_rest)
     EXPECT_EQ(encoded_hex(got.record), "12 02 08 05") << "a freed name is left out";
 }
 
-TEST(service_stats, output_is_one_piece)
+TEST(service_stats, output_is_one_segment)
 {
-    expect_output_is_one_piece(service_decode("0A 02 61 62 12 02 08 05").record);
+    expect_output_is_one_segment(service_decode("0A 02 61 62 12 02 08 05").record);
 }
 
 } // namespace

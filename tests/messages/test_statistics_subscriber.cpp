@@ -222,9 +222,9 @@ TEST(subscriber_stats, free_releases_the_names_and_then_the_array)
     EXPECT_EQ(got.present(), 0xFFFu);
 }
 
-TEST(subscriber_stats, output_is_one_piece)
+TEST(subscriber_stats, output_is_one_segment)
 {
-    expect_output_is_one_piece(stats_decode(full).record);
+    expect_output_is_one_segment(stats_decode(full).record);
 }
 
 } // namespace

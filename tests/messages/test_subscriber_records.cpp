@@ -136,17 +136,17 @@ TEST(subscriber_v4, encode_writes_all_ones_in_five_bytes)
     EXPECT_EQ(encoded_hex(record), "08 FF FF FF FF 0F");
 }
 
-TEST(subscriber_v4, encode_with_a_list_of_four_pieces_reports_one)
+TEST(subscriber_v4, encode_with_a_list_of_four_segments_reports_one)
 {
     const mava_tum_subscriber_v4 record = reference_v4();
     uint8_t buffer[8];
-    mava_tum_segment pieces[4] = {};
+    mava_tum_segment segments[4] = {};
     uint32_t count = 4;
-    EXPECT_EQ(mava_tum_subscriber_v4_encode_ext(&record, buffer, sizeof buffer, pieces, &count), 8u);
+    EXPECT_EQ(mava_tum_subscriber_v4_encode_ext(&record, buffer, sizeof buffer, segments, &count), 8u);
     EXPECT_EQ(count, 1u);
-    EXPECT_EQ(pieces[0].data, buffer);
-    EXPECT_EQ(pieces[0].length, 8u);
-    EXPECT_EQ(pieces[1].data, nullptr);
+    EXPECT_EQ(segments[0].data, buffer);
+    EXPECT_EQ(segments[0].length, 8u);
+    EXPECT_EQ(segments[1].data, nullptr);
 }
 
 TEST(subscriber_v4, duplicate_copies_both_fields_and_keeps_bits_2_to_7)

@@ -15,7 +15,7 @@ namespace
 
 constexpr uint8_t untouched = 0xEE;
 constexpr std::size_t guard_bytes = 16;
-constexpr uint32_t most_pieces = 64;
+constexpr uint32_t most_segments = 64;
 
 // A buffer with guards on both sides. It keeps its memory from call to call.
 struct guarded_output {
@@ -49,8 +49,8 @@ std::string compare_bytes(const guarded_output &library, const guarded_output &m
     return difference("byte " + std::to_string(position) + " of the buffer", *expected, *at);
 }
 
-std::string compare_pieces(
-    const mava_tum_segment *actual, const piece *expected, uint32_t stored, const uint8_t *buffer)
+std::string compare_segments(
+    const mava_tum_segment *actual, const model_segment *expected, uint32_t stored, const uint8_t *buffer)
 {
     for (uint32_t index = 0; index < stored; ++index) {
         const std::string name = "segment " + std::to_string(index);
@@ -71,26 +71,26 @@ std::string check_encode(
 {
     static thread_local guarded_output library_output;
     static thread_local guarded_output model_output;
-    mava_tum_segment segments[most_pieces];
-    piece pieces[most_pieces];
+    mava_tum_segment segments[most_segments];
+    model_segment model_segments[most_segments];
     std::memset(segments, untouched, sizeof segments);
-    for (uint32_t index = 0; index < most_pieces; ++index)
-        pieces[index] = {segments[index].data, segments[index].length, true};
+    for (uint32_t index = 0; index < most_segments; ++index)
+        model_segments[index] = {segments[index].data, segments[index].length, true};
 
-    const bool counted = checked.piece_capacity != no_count;
+    const bool counted = checked.segment_capacity != no_count;
     uint8_t *buffer = library_output.prepare(checked.capacity);
-    encode_output output = {model_output.prepare(checked.capacity), buffer, checked.capacity, pieces, nullptr};
+    encode_output output = {model_output.prepare(checked.capacity), buffer, checked.capacity, model_segments, nullptr};
     if (checked.without_buffer)
         buffer = nullptr, output.buffer = nullptr, output.claimed_buffer = nullptr;
-    uint32_t library_count = checked.piece_capacity;
-    uint32_t model_count = checked.piece_capacity;
+    uint32_t library_count = checked.segment_capacity;
+    uint32_t model_count = checked.segment_capacity;
     if (counted)
-        output.piece_count = &model_count;
-    if (checked.without_pieces)
-        output.pieces = nullptr;
+        output.segment_count = &model_count;
+    if (checked.without_segments)
+        output.segments = nullptr;
 
     const uint64_t actual = library.encode(record, buffer, checked.capacity,
-        checked.without_pieces ? nullptr : segments, counted ? &library_count : nullptr, checked.flags);
+        checked.without_segments ? nullptr : segments, counted ? &library_count : nullptr, checked.flags);
     const uint64_t expected = model_encode(of, record, output, checked.flags);
     if (expected != actual)
         return difference("result", expected, actual);
@@ -98,7 +98,7 @@ std::string check_encode(
         return difference("segment_count", model_count, library_count);
     const std::string bytes = compare_bytes(library_output, model_output);
     // All of them: those behind the count must be as they were.
-    return bytes.empty() ? compare_pieces(segments, pieces, most_pieces, buffer) : bytes;
+    return bytes.empty() ? compare_segments(segments, model_segments, most_segments, buffer) : bytes;
 }
 
 namespace
@@ -113,8 +113,9 @@ encode_case some_case(uint64_t size, random_source &random)
     chosen.without_buffer = chosen.capacity == 0 && random.one_in(2);
     chosen.flags = static_cast<uint32_t>(random.one_in(8) ? random.next() : random.below(2));
     if (random.one_in(2)) {
-        chosen.piece_capacity = static_cast<uint32_t>(random.one_in(2) ? random.below(6) : random.below(most_pieces));
-        chosen.without_pieces = random.one_in(8);
+        chosen.segment_capacity =
+            static_cast<uint32_t>(random.one_in(2) ? random.below(6) : random.below(most_segments));
+        chosen.without_segments = random.one_in(8);
     }
     return chosen;
 }
@@ -124,8 +125,8 @@ std::string describe(const encode_case &checked)
     std::ostringstream text;
     text << " (capacity " << checked.capacity << (checked.without_buffer ? ", no buffer" : "") << ", flags "
          << checked.flags;
-    if (checked.piece_capacity != no_count)
-        text << ", segment capacity " << checked.piece_capacity << (checked.without_pieces ? ", no segments" : "");
+    if (checked.segment_capacity != no_count)
+        text << ", segment capacity " << checked.segment_capacity << (checked.without_segments ? ", no segments" : "");
     text << ")";
     return text.str();
 }

@@ -17,15 +17,15 @@ struct encode_case {
     uint64_t capacity = 0;
     bool without_buffer = false; // null; the capacity is then 0
     uint32_t flags = 0;
-    uint32_t piece_capacity = no_count; // no_count: `segment_count` is null
-    bool without_pieces = false;        // `segments` is null although there is a count
+    uint32_t segment_capacity = no_count; // no_count: `segment_count` is null
+    bool without_segments = false;        // `segments` is null although there is a count
 };
 
-// Empty if both returned the same, wrote the same bytes, none outside the buffer, and the same pieces.
+// Empty if both returned the same, wrote the same bytes, none outside the buffer, and the same segments.
 std::string check_encode(
     const message &of, const library_message &library, const uint8_t *record, const encode_case &checked);
 
-// `rounds` capacities and piece capacities, chosen at random among those where something changes.
+// `rounds` capacities and segment capacities, chosen at random among those where something changes.
 std::string check_encodes(
     const message &of, const library_message &library, const uint8_t *record, random_source &random, int rounds);
 

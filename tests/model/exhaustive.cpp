@@ -106,7 +106,7 @@ exhaustive_result check_capacities(std::size_t message_index)
                 encode_case chosen;
                 chosen.capacity = capacity;
                 chosen.flags = flags;
-                chosen.piece_capacity = flags == 0 ? no_count : static_cast<uint32_t>(capacity % 8);
+                chosen.segment_capacity = flags == 0 ? no_count : static_cast<uint32_t>(capacity % 8);
                 result.difference = check_encode(of, library, record.bytes, chosen);
                 result.inputs += 1;
                 if (!result.difference.empty()) {

@@ -28,21 +28,21 @@ int32_t model_duplicate(const message &of, uint8_t *destination, const uint8_t *
 
 void model_free(const message &of, uint8_t *record, const memory_sink &sink, uint32_t flags);
 
-// Where a piece of a gathered output begins. `exact` is false where the address may be any: behind the end of a short
+// Where a segment of a gathered output begins. `exact` is false where the address may be any: behind the end of a short
 // buffer there is nothing to point at.
-struct piece {
+struct model_segment {
     const uint8_t *data = nullptr;
     uint64_t length = 0;
     bool exact = true;
 };
 
-// The bytes go to `buffer`; addresses in pieces are formed as if it stood at `claimed_buffer`.
+// The bytes go to `buffer`; addresses in segments are formed as if it stood at `claimed_buffer`.
 struct encode_output {
     uint8_t *buffer = nullptr;
     const uint8_t *claimed_buffer = nullptr;
     uint64_t capacity = 0;
-    piece *pieces = nullptr;
-    uint32_t *piece_count = nullptr; // in: capacity of pieces, out: number of pieces; null: none wanted
+    model_segment *segments = nullptr;
+    uint32_t *segment_count = nullptr; // in: capacity of segments, out: number of segments; null: none wanted
 };
 
 uint64_t model_encode(const message &of, const uint8_t *record, const encode_output &output, uint32_t flags);

@@ -15,7 +15,7 @@ public:
     encoder(const message &of, const uint8_t *record, const encode_output &output, uint32_t flags)
         : of_(of), record_(record), output_(output), flags_(flags),
           gathers_(of.encode_takes_flags && (flags & alias_flag) != 0),
-          piece_capacity_(output.piece_count == nullptr || output.pieces == nullptr ? 0 : *output.piece_count)
+          segment_capacity_(output.segment_count == nullptr || output.segments == nullptr ? 0 : *output.segment_count)
     {
     }
 
@@ -26,9 +26,9 @@ private:
     void put_varint(uint64_t value);
     void put_block(const uint8_t *content, uint64_t length);
     void put_tag(const field &member, uint32_t wire_type);
-    void add_piece(const piece &added);
-    void add_buffer_piece();
-    void finish_pieces();
+    void add_segment(const model_segment &added);
+    void add_buffer_segment();
+    void finish_segments();
 
     void put_member(const field &member);
     void put_fixed32(const field &member);
@@ -42,10 +42,10 @@ private:
     const encode_output &output_;
     uint32_t flags_;
     bool gathers_;
-    uint32_t piece_capacity_;
-    uint32_t pieces_ = 0;
+    uint32_t segment_capacity_;
+    uint32_t segments_ = 0;
     uint64_t position_ = 0;
-    uint64_t piece_end_ = 0; // where this level's own last piece ended; pieces of nested messages do not move it
+    uint64_t segment_end_ = 0; // where this level's own last segment ended; segments of nested messages do not move it
 };
 
 void encoder::put(uint64_t byte)
@@ -80,22 +80,22 @@ void encoder::put_tag(const field &member, uint32_t wire_type)
     put_varint(member.number * 8 + wire_type);
 }
 
-void encoder::add_piece(const piece &added)
+void encoder::add_segment(const model_segment &added)
 {
-    if (pieces_ < piece_capacity_)
-        output_.pieces[pieces_] = added;
-    pieces_ += 1;
+    if (segments_ < segment_capacity_)
+        output_.segments[segments_] = added;
+    segments_ += 1;
 }
 
-void encoder::add_buffer_piece()
+void encoder::add_buffer_segment()
 {
-    piece own = {nullptr, position_ - piece_end_, true};
+    model_segment own = {nullptr, position_ - segment_end_, true};
     if (output_.claimed_buffer != nullptr) {
-        own.exact = piece_end_ <= output_.capacity;
-        own.data = own.exact ? output_.claimed_buffer + piece_end_ : nullptr;
+        own.exact = segment_end_ <= output_.capacity;
+        own.data = own.exact ? output_.claimed_buffer + segment_end_ : nullptr;
     }
-    add_piece(own);
-    piece_end_ = position_;
+    add_segment(own);
+    segment_end_ = position_;
 }
 
 void encoder::put_fixed32(const field &member)
@@ -114,9 +114,9 @@ void encoder::put_bytes(const field &member)
     put_varint(static_cast<uint32_t>(length));
     if (!gathers_) {
         put_block(content, length);
-    } else if (length != 0 && output_.piece_count != nullptr) {
-        add_buffer_piece();
-        add_piece({content, length, true});
+    } else if (length != 0 && output_.segment_count != nullptr) {
+        add_buffer_segment();
+        add_segment({content, length, true});
     }
 }
 
@@ -143,16 +143,16 @@ void encoder::put_nested(const field &member, const uint8_t *nested_record, bool
         inside.claimed_buffer = output_.claimed_buffer + position_;
         inside.capacity = output_.capacity - position_;
     }
-    uint32_t nested_pieces = pieces_ < piece_capacity_ ? piece_capacity_ - pieces_ : 0;
-    if (gathers_ && output_.piece_count != nullptr) {
-        inside.pieces = nested_pieces == 0 ? nullptr : output_.pieces + pieces_;
-        inside.piece_count = &nested_pieces;
+    uint32_t nested_segments = segments_ < segment_capacity_ ? segment_capacity_ - segments_ : 0;
+    if (gathers_ && output_.segment_count != nullptr) {
+        inside.segments = nested_segments == 0 ? nullptr : output_.segments + segments_;
+        inside.segment_count = &nested_segments;
     }
-    // With neither buffer nor pieces this would write nothing.
-    if (inside.buffer != nullptr || inside.piece_count != nullptr)
+    // With neither buffer nor segments this would write nothing.
+    if (inside.buffer != nullptr || inside.segment_count != nullptr)
         encoder(*member.nested, nested_record, inside, flags_).run();
-    if (inside.piece_count != nullptr)
-        pieces_ += nested_pieces;
+    if (inside.segment_count != nullptr)
+        segments_ += nested_segments;
     position_ += size;
 }
 
@@ -201,21 +201,21 @@ void encoder::put_member(const field &member)
     }
 }
 
-// Without gathering, the whole output is the only piece, whatever the nested messages are.
-void encoder::finish_pieces()
+// Without gathering, the whole output is the only segment, whatever the nested messages are.
+void encoder::finish_segments()
 {
-    if (output_.piece_count == nullptr)
+    if (output_.segment_count == nullptr)
         return;
-    if (position_ > piece_end_)
-        add_buffer_piece();
-    *output_.piece_count = pieces_;
+    if (position_ > segment_end_)
+        add_buffer_segment();
+    *output_.segment_count = segments_;
 }
 
 uint64_t encoder::run()
 {
     for (const field &member : of_.fields)
         put_member(member);
-    finish_pieces();
+    finish_segments();
     return position_;
 }
 

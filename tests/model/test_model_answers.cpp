@@ -117,20 +117,20 @@ TEST(model, encodes_bytes_known_by_hand)
     EXPECT_EQ(encoded_in_hex(decoded("subscriber_v6", "12 02 AA BB 38 01"), 8, alias_flag), "12 02 38 01");
 }
 
-TEST(model, gathers_pieces_known_by_hand)
+TEST(model, gathers_segments_known_by_hand)
 {
     const decoded source("subscriber_v6", "12 02 AA BB 38 01");
     uint8_t buffer[8];
-    piece pieces[4];
+    model_segment model_segments[4];
     uint32_t count = 4;
-    encode_output output = {buffer, buffer, sizeof buffer, pieces, &count};
+    encode_output output = {buffer, buffer, sizeof buffer, model_segments, &count};
     EXPECT_EQ(model_encode(source.of, source.record, output, alias_flag), 4u);
     ASSERT_EQ(count, 3u);
-    EXPECT_EQ(pieces[0].data, buffer);
-    EXPECT_EQ(pieces[0].length, 2u);
-    EXPECT_EQ(pieces[1].data, load_pointer(source.record, 8));
-    EXPECT_EQ(pieces[2].data, buffer + 2);
-    EXPECT_EQ(pieces[2].length, 2u);
+    EXPECT_EQ(model_segments[0].data, buffer);
+    EXPECT_EQ(model_segments[0].length, 2u);
+    EXPECT_EQ(model_segments[1].data, load_pointer(source.record, 8));
+    EXPECT_EQ(model_segments[2].data, buffer + 2);
+    EXPECT_EQ(model_segments[2].length, 2u);
 }
 
 } // namespace

@@ -1,5 +1,5 @@
 // Every exported function with the calls that take it furthest: full records, empty ones and random ones, buffers that
-// fit and that do not, pieces, inputs that are whole, cut, and without any order.
+// fit and that do not, segments, inputs that are whole, cut, and without any order.
 #pragma once
 
 #include <functional>

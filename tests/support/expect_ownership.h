@@ -1,4 +1,4 @@
-// Checks of ownership and pieces that read the same for many messages.
+// Checks of ownership and segments that read the same for many messages.
 #pragma once
 
 #include "support/record_calls.h"
@@ -78,29 +78,29 @@ void expect_flags_are_ignored(std::string_view wire)
     }
 }
 
-// For messages whose encoder takes no flags: whatever room the list of pieces has, the output is one piece.
+// For messages whose encoder takes no flags: whatever room the list of segments has, the output is one segment.
 template <class record_type>
-void expect_output_is_one_piece(const record_type &record)
+void expect_output_is_one_segment(const record_type &record)
 {
     const byte_vector whole = encoded(record);
     ASSERT_FALSE(whole.empty());
     const mava_tum_segment untouched = {nullptr, 0xDEAD};
     for (uint32_t capacity : {0u, 1u, 3u}) {
         guarded_buffer buffer(whole.size());
-        std::array<mava_tum_segment, 3> pieces{untouched, untouched, untouched};
+        std::array<mava_tum_segment, 3> segments{untouched, untouched, untouched};
         uint32_t count = capacity;
-        EXPECT_EQ(call_encode(record, buffer.data(), whole.size(), pieces.data(), &count), whole.size());
+        EXPECT_EQ(call_encode(record, buffer.data(), whole.size(), segments.data(), &count), whole.size());
         EXPECT_EQ(count, 1u) << "capacity " << capacity;
         EXPECT_EQ(buffer.content(), whole);
-        EXPECT_EQ(pieces[0].data, capacity == 0 ? nullptr : buffer.data()) << "capacity " << capacity;
-        EXPECT_EQ(pieces[0].length, capacity == 0 ? untouched.length : whole.size()) << "capacity " << capacity;
-        EXPECT_EQ(pieces[1].length, untouched.length) << "capacity " << capacity;
+        EXPECT_EQ(segments[0].data, capacity == 0 ? nullptr : buffer.data()) << "capacity " << capacity;
+        EXPECT_EQ(segments[0].length, capacity == 0 ? untouched.length : whole.size()) << "capacity " << capacity;
+        EXPECT_EQ(segments[1].length, untouched.length) << "capacity " << capacity;
     }
     uint32_t count = 7;
     EXPECT_EQ(call_encode(record, nullptr, 0, nullptr, &count), whole.size());
     EXPECT_EQ(count, 1u) << "counted without a list";
     EXPECT_EQ(call_encode(record_type{}, nullptr, 0, nullptr, &count), 0u);
-    EXPECT_EQ(count, 0u) << "an empty output is no piece";
+    EXPECT_EQ(count, 0u) << "an empty output is no segment";
 }
 
 // A varint is kept at the full width of its member, and no wider: all 64 bits set arrive as all bits of the member.

@@ -1,4 +1,4 @@
-// One encode in gather mode, its pieces as text.
+// One encode in gather mode, its segments as text.
 #pragma once
 
 #include "support/record_calls.h"
@@ -32,15 +32,16 @@ struct gathered_segments {
         return hex_of(buffer.content());
     }
 
-    // "2+4" for four bytes of the buffer from offset 2, the bytes in hex for a piece anywhere else.
+    // "2+4" for four bytes of the buffer from offset 2, the bytes in hex for a segment anywhere else.
     std::vector<std::string> stored()
     {
         std::vector<std::string> texts;
         for (std::size_t i = 0; i < list.size() && i < count; ++i) {
-            const mava_tum_segment &piece = list[i];
-            const bool in_buffer = piece.data >= buffer.data() && piece.data < buffer.data() + buffer.size();
-            texts.push_back(in_buffer ? std::to_string(piece.data - buffer.data()) + "+" + std::to_string(piece.length)
-                                      : hex_of(piece.data, piece.length));
+            const mava_tum_segment &segment = list[i];
+            const bool in_buffer = segment.data >= buffer.data() && segment.data < buffer.data() + buffer.size();
+            texts.push_back(in_buffer
+                                ? std::to_string(segment.data - buffer.data()) + "+" + std::to_string(segment.length)
+                                : hex_of(segment.data, segment.length));
         }
         return texts;
     }

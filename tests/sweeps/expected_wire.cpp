@@ -53,8 +53,8 @@ public:
 
     expected_wire finish()
     {
-        if (builder_.bytes().size() > end_of_last_piece_)
-            ++result_.piece_count;
+        if (builder_.bytes().size() > end_of_last_segment_)
+            ++result_.segment_count;
         result_.bytes = builder_.bytes();
         return result_;
     }
@@ -69,8 +69,8 @@ private:
         builder_.tag(field.number, wire_type::length_delimited).bare_varint(field.integer);
         if (field.integer == 0)
             return;
-        result_.piece_count += 2;
-        end_of_last_piece_ = builder_.bytes().size();
+        result_.segment_count += 2;
+        end_of_last_segment_ = builder_.bytes().size();
     }
 
     void payload(uint32_t number, const byte_vector &content)
@@ -81,7 +81,7 @@ private:
 
     void record(uint32_t number, const record_value &nested)
     {
-        // A message that holds no bytes knows no gather mode: it is a single piece.
+        // A message that holds no bytes knows no gather mode: it is a single segment.
         const bool gathers = mode_ == wire_mode::gathered && holds_bytes(nested);
         const expected_wire inner = wire_of(nested, gathers ? wire_mode::gathered : wire_mode::copied);
         builder_.length_delimited(number, inner.bytes);
@@ -89,13 +89,13 @@ private:
         for (const payload_block &block : inner.payloads)
             result_.payloads.push_back({start + block.offset, block.length});
         if (mode_ == wire_mode::gathered)
-            result_.piece_count += inner.piece_count;
+            result_.segment_count += inner.segment_count;
     }
 
     wire_mode mode_;
     wire_builder builder_;
     expected_wire result_;
-    std::size_t end_of_last_piece_ = 0;
+    std::size_t end_of_last_segment_ = 0;
 };
 
 // The field once for each of its tags, with what follows that tag.

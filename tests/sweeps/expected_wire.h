@@ -22,7 +22,7 @@ struct payload_block {
 struct expected_wire {
     byte_vector bytes;
     std::vector<payload_block> payloads;
-    uint32_t piece_count = 0;
+    uint32_t segment_count = 0;
 };
 
 // One tag of the top level with its value. A list has one entry per element.

@@ -55,7 +55,7 @@ void check_capacity(const message &tested, const void *record, const expected_wi
         EXPECT_EQ(size, wire.bytes.size());
         EXPECT_TRUE(holds(buffer, expected_buffer(wire, capacity, fill)));
         EXPECT_TRUE(buffer.guards_intact());
-        EXPECT_EQ(segment_count, with_segments ? wire.piece_count : segment_capacity);
+        EXPECT_EQ(segment_count, with_segments ? wire.segment_count : segment_capacity);
     }
 }
 
@@ -143,7 +143,7 @@ TEST_P(every_capacity, is_not_needed_to_learn_the_size)
             EXPECT_EQ(tested.encode(record.get(), nullptr, 0, nullptr, nullptr, flags), wire.bytes.size());
             uint32_t segment_count = 0;
             EXPECT_EQ(tested.encode(record.get(), nullptr, 0, nullptr, &segment_count, flags), wire.bytes.size());
-            EXPECT_EQ(segment_count, wire.piece_count);
+            EXPECT_EQ(segment_count, wire.segment_count);
         }
     }
 }
@@ -155,14 +155,14 @@ struct gathered_segments {
 
 gathered_segments gather(const message &tested, const void *record, guarded_buffer &buffer, uint32_t capacity)
 {
-    gathered_segments pieces;
-    pieces.stored.fill({nullptr, 0xABABABAB});
-    pieces.count = capacity;
-    tested.encode(record, buffer.data(), buffer.size(), pieces.stored.data(), &pieces.count, MAVA_TUM_ALIAS);
-    return pieces;
+    gathered_segments segments;
+    segments.stored.fill({nullptr, 0xABABABAB});
+    segments.count = capacity;
+    tested.encode(record, buffer.data(), buffer.size(), segments.stored.data(), &segments.count, MAVA_TUM_ALIAS);
+    return segments;
 }
 
-TEST_P(every_capacity, of_segments_is_kept_to_and_all_pieces_are_counted)
+TEST_P(every_capacity, of_segments_is_kept_to_and_all_segments_are_counted)
 {
     const message &tested = GetParam();
     for (const named_record &seed : seeds_of(*tested.skeleton)) {
@@ -172,23 +172,23 @@ TEST_P(every_capacity, of_segments_is_kept_to_and_all_pieces_are_counted)
         const gathered_segments all = gather(tested, record.get(), buffer, segment_capacity);
         ASSERT_LE(all.count, segment_capacity) << seed.name;
         for (uint32_t capacity = 0; capacity <= all.count + 1; ++capacity) {
-            SCOPED_TRACE(seed.name + " record, room for " + std::to_string(capacity) + " pieces");
+            SCOPED_TRACE(seed.name + " record, room for " + std::to_string(capacity) + " segments");
             const gathered_segments some = gather(tested, record.get(), buffer, capacity);
-            EXPECT_EQ(some.count, wire.piece_count);
+            EXPECT_EQ(some.count, wire.segment_count);
             for (uint32_t i = 0; i < segment_capacity; ++i) {
                 const bool stored = i < capacity && i < all.count;
-                EXPECT_EQ(some.stored[i].data, stored ? all.stored[i].data : nullptr) << "piece " << i;
-                EXPECT_EQ(some.stored[i].length, stored ? all.stored[i].length : 0xABABABAB) << "piece " << i;
+                EXPECT_EQ(some.stored[i].data, stored ? all.stored[i].data : nullptr) << "segment " << i;
+                EXPECT_EQ(some.stored[i].length, stored ? all.stored[i].length : 0xABABABAB) << "segment " << i;
             }
         }
     }
 }
 
-bool lies_in(const mava_tum_segment &piece, guarded_buffer &buffer)
+bool lies_in(const mava_tum_segment &segment, guarded_buffer &buffer)
 {
     const uintptr_t start = reinterpret_cast<uintptr_t>(buffer.data());
-    const uintptr_t position = reinterpret_cast<uintptr_t>(piece.data);
-    return position >= start && position + piece.length <= start + buffer.size();
+    const uintptr_t position = reinterpret_cast<uintptr_t>(segment.data);
+    return position >= start && position + segment.length <= start + buffer.size();
 }
 
 TEST_P(every_capacity, gathers_each_bytes_field_from_the_record_itself_in_wire_order)
@@ -198,11 +198,11 @@ TEST_P(every_capacity, gathers_each_bytes_field_from_the_record_itself_in_wire_o
         SCOPED_TRACE(seed.name);
         record_storage record(tested, seed.value);
         guarded_buffer buffer(wire_of(seed.value).bytes.size());
-        const gathered_segments pieces = gather(tested, record.get(), buffer, segment_capacity);
+        const gathered_segments segments = gather(tested, record.get(), buffer, segment_capacity);
         std::vector<mava_tum_bytes> outside;
-        for (uint32_t i = 0; i < pieces.count; ++i) {
-            if (!lies_in(pieces.stored[i], buffer))
-                outside.push_back({const_cast<uint8_t *>(pieces.stored[i].data), pieces.stored[i].length});
+        for (uint32_t i = 0; i < segments.count; ++i) {
+            if (!lies_in(segments.stored[i], buffer))
+                outside.push_back({const_cast<uint8_t *>(segments.stored[i].data), segments.stored[i].length});
         }
         const std::vector<mava_tum_bytes> expected = tested.collect_bytes(record.get());
         ASSERT_EQ(outside.size(), expected.size());
