@@ -28,9 +28,7 @@ static void *capped_alloc(uint64_t size, void *context)
     if (budget->left < sizeof(union block) || size > budget->left - sizeof(union block))
         return NULL;
     const uint64_t charged = size + sizeof(union block);
-    if ((size_t)charged != charged) /* where size_t has 32 bits */
-        return NULL;
-    union block *block = malloc((size_t)charged);
+    union block *block = (size_t)charged == charged ? malloc((size_t)charged) : NULL; /* size_t may have 32 bits */
     if (block == NULL)
         return NULL;
     block->out.charged = charged;

@@ -6,7 +6,7 @@ import unittest
 
 from inspector import PROGRAM, SOURCES, InspectorTest, run
 
-SCRIPT = os.path.join(SOURCES, "tools", "cli", "mava-tum.bash")
+SCRIPT = os.path.join(SOURCES, "inspector", "command", "mava-tum.bash")
 COMMANDS = ["app", "check", "decode", "diff", "encode", "explain", "guess", "list"]
 
 

@@ -7,7 +7,7 @@ import unittest
 
 from inspector import SOURCES, InspectorTest, run
 
-PAGE = os.path.join(SOURCES, "tools", "cli", "mava-tum.1")
+PAGE = os.path.join(SOURCES, "inspector", "command", "mava-tum.1")
 
 
 def part_of(text, heading):
