@@ -1,5 +1,5 @@
-// Where a command writes: standard output, something that is open or special, or a file that appears under its name only
-// when all of it is written.
+// Where a command writes: standard output, something that is open or special, or a file that appears under its name
+// only when all of it is written.
 #pragma once
 
 #include "output/pending_file.h"

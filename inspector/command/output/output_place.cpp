@@ -57,7 +57,8 @@ output_place file_place(const std::string &path)
     struct stat status {
     };
     if (stat(path.c_str(), &status) != 0)
-        return errno == ENOENT ? output_place{place_kind::file, -1, path} : output_place{place_kind::refused, errno, {}};
+        return errno == ENOENT ? output_place{place_kind::file, -1, path}
+                               : output_place{place_kind::refused, errno, {}};
     if (!S_ISREG(status.st_mode))
         return {place_kind::special, -1, path};
     // Whoever may write to the folder could replace a file that is protected from writing.
