@@ -30,7 +30,7 @@ def setters(field):
     """Type, name and parameter, and the call; for each function that changes the field."""
     n, name = field.number, field.name
     if field.kind in NUMBER_TYPES:
-        return [("void", f"set_{name}(std::optional<{NUMBER_TYPES[field.kind]}> value)",
+        return [("void", f"set_{name}(exact_number<{NUMBER_TYPES[field.kind]}> value)",
                  f"change::set_number<{n}>(c(), c().{name}, value);")]
     if field.kind == "text":
         return [("result", f"set_{name}(std::optional<std::string_view> text)",
@@ -48,8 +48,8 @@ def setters(field):
         return [("result", f"set_{name}(span<const std::string_view> texts)",
                  f"return change::set_texts<{n}>({target}, texts);")]
     editors = f"{field.of}_editors"
-    return [(editors, f"make_{name}(std::uint32_t count)",
-             f"return change::make_list<{n}, {editors}>({target}, count);")]
+    return [(editors, f"make_{name}(exact_number<std::uint64_t> count)",
+             f"return change::make_list<{n}, {editors}>({target}, count.number());")]
 
 
 def fields_class(message):

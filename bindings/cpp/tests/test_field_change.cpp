@@ -107,6 +107,23 @@ TEST(cpp_field_change_of_presence, takes_what_a_getter_gives)
     EXPECT_EQ(second.encode(), first.encode());
 }
 
+TEST(cpp_field_change_of_counts, refuses_more_elements_than_can_be_counted)
+{
+    tum::session_context session;
+    ASSERT_EQ(session.make_qos(2).size(), 2U);
+    EXPECT_TRUE(session.make_qos((std::uint64_t{1} << 32) + 1).empty());
+    EXPECT_TRUE(session.make_qos(~std::uint64_t{0}).empty());
+    EXPECT_EQ(session.qos().size(), 2U);
+
+    const std::string_view text = "a";
+    tum::sess_svc_start start;
+    const tum::span<const std::string_view> too_many(&text, static_cast<std::size_t>((std::uint64_t{1} << 32) + 1));
+    if constexpr (sizeof(std::size_t) > sizeof(std::uint32_t)) {
+        EXPECT_EQ(start.set_field_5(too_many), tum::result::no_memory);
+    }
+    EXPECT_TRUE(start.field_5().empty());
+}
+
 TEST(cpp_record_editor, marks_the_record_and_those_around_it_as_present)
 {
     tum::session_context session;

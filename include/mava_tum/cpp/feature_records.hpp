@@ -69,14 +69,14 @@ template <class Derived>
 class subscriber_qos_changes
 {
 public:
-    void set_field_1(std::optional<std::uint32_t> value) noexcept { change::set_number<1>(c(), c().field_1, value); }
-    void set_field_2(std::optional<std::uint32_t> value) noexcept { change::set_number<2>(c(), c().field_2, value); }
+    void set_field_1(exact_number<std::uint32_t> value) noexcept { change::set_number<1>(c(), c().field_1, value); }
+    void set_field_2(exact_number<std::uint32_t> value) noexcept { change::set_number<2>(c(), c().field_2, value); }
     result set_field_3(std::optional<std::string_view> text) noexcept { return change::set_text<3>(c(), c().field_3, blocks(), text); }
     result set_field_4(std::optional<std::string_view> text) noexcept { return change::set_text<4>(c(), c().field_4, blocks(), text); }
     result set_field_5(std::optional<std::string_view> text) noexcept { return change::set_text<5>(c(), c().field_5, blocks(), text); }
-    void set_field_6(std::optional<std::uint32_t> value) noexcept { change::set_number<6>(c(), c().field_6, value); }
-    void set_field_7(std::optional<std::uint32_t> value) noexcept { change::set_number<7>(c(), c().field_7, value); }
-    void set_field_8(std::optional<std::uint32_t> value) noexcept { change::set_number<8>(c(), c().field_8, value); }
+    void set_field_6(exact_number<std::uint32_t> value) noexcept { change::set_number<6>(c(), c().field_6, value); }
+    void set_field_7(exact_number<std::uint32_t> value) noexcept { change::set_number<7>(c(), c().field_7, value); }
+    void set_field_8(exact_number<std::uint32_t> value) noexcept { change::set_number<8>(c(), c().field_8, value); }
     result set_field_9(std::optional<std::string_view> text) noexcept { return change::set_text<9>(c(), c().field_9, blocks(), text); }
     result set_field_10(std::optional<std::string_view> text) noexcept { return change::set_text<10>(c(), c().field_10, blocks(), text); }
     result set_field_11(std::optional<std::string_view> text) noexcept { return change::set_text<11>(c(), c().field_11, blocks(), text); }
@@ -156,7 +156,7 @@ template <class Derived>
 class subscriber_acl_changes
 {
 public:
-    void set_field_1(std::optional<std::uint32_t> value) noexcept { change::set_number<1>(c(), c().field_1, value); }
+    void set_field_1(exact_number<std::uint32_t> value) noexcept { change::set_number<1>(c(), c().field_1, value); }
     result set_field_2(std::optional<std::string_view> text) noexcept { return change::set_text<2>(c(), c().field_2, blocks(), text); }
     result set_field_3(std::optional<std::string_view> text) noexcept { return change::set_text<3>(c(), c().field_3, blocks(), text); }
     result set_field_4(std::optional<std::string_view> text) noexcept { return change::set_text<4>(c(), c().field_4, blocks(), text); }
@@ -230,7 +230,7 @@ template <class Derived>
 class subscriber_httpr_changes
 {
 public:
-    void set_field_1(std::optional<std::uint32_t> value) noexcept { change::set_number<1>(c(), c().field_1, value); }
+    void set_field_1(exact_number<std::uint32_t> value) noexcept { change::set_number<1>(c(), c().field_1, value); }
     result set_field_2(std::optional<std::string_view> text) noexcept { return change::set_text<2>(c(), c().field_2, blocks(), text); }
 
 private:
@@ -313,13 +313,13 @@ template <class Derived>
 class subscriber_li_changes
 {
 public:
-    void set_field_1(std::optional<std::uint32_t> value) noexcept { change::set_number<1>(c(), c().field_1, value); }
-    void set_field_2(std::optional<std::uint32_t> value) noexcept { change::set_number<2>(c(), c().field_2, value); }
-    void set_field_3(std::optional<std::uint32_t> value) noexcept { change::set_number<3>(c(), c().field_3, value); }
+    void set_field_1(exact_number<std::uint32_t> value) noexcept { change::set_number<1>(c(), c().field_1, value); }
+    void set_field_2(exact_number<std::uint32_t> value) noexcept { change::set_number<2>(c(), c().field_2, value); }
+    void set_field_3(exact_number<std::uint32_t> value) noexcept { change::set_number<3>(c(), c().field_3, value); }
     result set_field_4(std::optional<bytes_view> bytes) noexcept { return change::set_bytes<4>(c(), c().field_4, blocks(), bytes); }
-    void set_field_5(std::optional<std::uint32_t> value) noexcept { change::set_number<5>(c(), c().field_5, value); }
-    void set_field_6(std::optional<std::uint32_t> value) noexcept { change::set_number<6>(c(), c().field_6, value); }
-    void set_field_7(std::optional<std::uint32_t> value) noexcept { change::set_number<7>(c(), c().field_7, value); }
+    void set_field_5(exact_number<std::uint32_t> value) noexcept { change::set_number<5>(c(), c().field_5, value); }
+    void set_field_6(exact_number<std::uint32_t> value) noexcept { change::set_number<6>(c(), c().field_6, value); }
+    void set_field_7(exact_number<std::uint32_t> value) noexcept { change::set_number<7>(c(), c().field_7, value); }
     result set_field_8(std::optional<bytes_view> bytes) noexcept { return change::set_bytes<8>(c(), c().field_8, blocks(), bytes); }
 
 private:
@@ -390,8 +390,8 @@ template <class Derived>
 class subscriber_urpf_changes
 {
 public:
-    void set_field_1(std::optional<std::uint32_t> value) noexcept { change::set_number<1>(c(), c().field_1, value); }
-    void set_field_2(std::optional<std::uint32_t> value) noexcept { change::set_number<2>(c(), c().field_2, value); }
+    void set_field_1(exact_number<std::uint32_t> value) noexcept { change::set_number<1>(c(), c().field_1, value); }
+    void set_field_2(exact_number<std::uint32_t> value) noexcept { change::set_number<2>(c(), c().field_2, value); }
 
 private:
     mava_tum_subscriber_urpf &c() noexcept { return static_cast<Derived &>(*this).mutable_c_record(); }
@@ -458,7 +458,7 @@ template <class Derived>
 class subscriber_icmp_changes
 {
 public:
-    void set_field_1(std::optional<std::uint32_t> value) noexcept { change::set_number<1>(c(), c().field_1, value); }
+    void set_field_1(exact_number<std::uint32_t> value) noexcept { change::set_number<1>(c(), c().field_1, value); }
 
 private:
     mava_tum_subscriber_icmp &c() noexcept { return static_cast<Derived &>(*this).mutable_c_record(); }
@@ -525,7 +525,7 @@ template <class Derived>
 class subscriber_mtu_changes
 {
 public:
-    void set_field_1(std::optional<std::uint32_t> value) noexcept { change::set_number<1>(c(), c().field_1, value); }
+    void set_field_1(exact_number<std::uint32_t> value) noexcept { change::set_number<1>(c(), c().field_1, value); }
 
 private:
     mava_tum_subscriber_mtu &c() noexcept { return static_cast<Derived &>(*this).mutable_c_record(); }
@@ -596,9 +596,9 @@ template <class Derived>
 class subscriber_acct_changes
 {
 public:
-    void set_field_1(std::optional<std::uint32_t> value) noexcept { change::set_number<1>(c(), c().field_1, value); }
-    void set_field_2(std::optional<std::uint32_t> value) noexcept { change::set_number<2>(c(), c().field_2, value); }
-    void set_field_3(std::optional<std::uint32_t> value) noexcept { change::set_number<3>(c(), c().field_3, value); }
+    void set_field_1(exact_number<std::uint32_t> value) noexcept { change::set_number<1>(c(), c().field_1, value); }
+    void set_field_2(exact_number<std::uint32_t> value) noexcept { change::set_number<2>(c(), c().field_2, value); }
+    void set_field_3(exact_number<std::uint32_t> value) noexcept { change::set_number<3>(c(), c().field_3, value); }
 
 private:
     mava_tum_subscriber_acct &c() noexcept { return static_cast<Derived &>(*this).mutable_c_record(); }
@@ -681,14 +681,14 @@ template <class Derived>
 class subscriber_route_ipv4_changes
 {
 public:
-    void set_field_1(std::optional<std::uint32_t> value) noexcept { change::set_number<1>(c(), c().field_1, value); }
+    void set_field_1(exact_number<std::uint32_t> value) noexcept { change::set_number<1>(c(), c().field_1, value); }
     result set_field_2(std::optional<std::string_view> text) noexcept { return change::set_text<2>(c(), c().field_2, blocks(), text); }
-    void set_field_3(std::optional<std::uint32_t> value) noexcept { change::set_number<3>(c(), c().field_3, value); }
-    void set_field_4(std::optional<std::uint32_t> value) noexcept { change::set_number<4>(c(), c().field_4, value); }
-    void set_field_5(std::optional<std::uint32_t> value) noexcept { change::set_number<5>(c(), c().field_5, value); }
+    void set_field_3(exact_number<std::uint32_t> value) noexcept { change::set_number<3>(c(), c().field_3, value); }
+    void set_field_4(exact_number<std::uint32_t> value) noexcept { change::set_number<4>(c(), c().field_4, value); }
+    void set_field_5(exact_number<std::uint32_t> value) noexcept { change::set_number<5>(c(), c().field_5, value); }
     result set_field_6(std::optional<std::string_view> text) noexcept { return change::set_text<6>(c(), c().field_6, blocks(), text); }
-    void set_field_7(std::optional<std::uint32_t> value) noexcept { change::set_number<7>(c(), c().field_7, value); }
-    void set_field_8(std::optional<std::uint32_t> value) noexcept { change::set_number<8>(c(), c().field_8, value); }
+    void set_field_7(exact_number<std::uint32_t> value) noexcept { change::set_number<7>(c(), c().field_7, value); }
+    void set_field_8(exact_number<std::uint32_t> value) noexcept { change::set_number<8>(c(), c().field_8, value); }
     result set_field_9(std::optional<std::string_view> text) noexcept { return change::set_text<9>(c(), c().field_9, blocks(), text); }
 
 private:
@@ -773,14 +773,14 @@ template <class Derived>
 class subscriber_route_ipv6_changes
 {
 public:
-    void set_field_1(std::optional<std::uint32_t> value) noexcept { change::set_number<1>(c(), c().field_1, value); }
+    void set_field_1(exact_number<std::uint32_t> value) noexcept { change::set_number<1>(c(), c().field_1, value); }
     result set_field_2(std::optional<std::string_view> text) noexcept { return change::set_text<2>(c(), c().field_2, blocks(), text); }
     result set_field_3(std::optional<bytes_view> bytes) noexcept { return change::set_bytes<3>(c(), c().field_3, blocks(), bytes); }
-    void set_field_4(std::optional<std::uint32_t> value) noexcept { change::set_number<4>(c(), c().field_4, value); }
+    void set_field_4(exact_number<std::uint32_t> value) noexcept { change::set_number<4>(c(), c().field_4, value); }
     result set_field_5(std::optional<bytes_view> bytes) noexcept { return change::set_bytes<5>(c(), c().field_5, blocks(), bytes); }
     result set_field_6(std::optional<std::string_view> text) noexcept { return change::set_text<6>(c(), c().field_6, blocks(), text); }
-    void set_field_7(std::optional<std::uint32_t> value) noexcept { change::set_number<7>(c(), c().field_7, value); }
-    void set_field_8(std::optional<std::uint32_t> value) noexcept { change::set_number<8>(c(), c().field_8, value); }
+    void set_field_7(exact_number<std::uint32_t> value) noexcept { change::set_number<7>(c(), c().field_7, value); }
+    void set_field_8(exact_number<std::uint32_t> value) noexcept { change::set_number<8>(c(), c().field_8, value); }
     result set_field_9(std::optional<std::string_view> text) noexcept { return change::set_text<9>(c(), c().field_9, blocks(), text); }
 
 private:

@@ -3,6 +3,7 @@
 #define MAVA_TUM_CPP_FIELD_CHANGE_HPP
 
 #include "mava_tum/cpp/block_list.hpp"
+#include "mava_tum/cpp/exact_number.hpp"
 #include "mava_tum/cpp/field_access.hpp"
 #include "mava_tum/cpp/list_view.hpp"
 #include "mava_tum/cpp/result.hpp"
@@ -24,10 +25,10 @@ void mark(Record &record, bool present) noexcept
 }
 
 template <unsigned number, class Record, class Number>
-void set_number(Record &record, Number &member, std::optional<Number> value) noexcept
+void set_number(Record &record, Number &member, exact_number<Number> value) noexcept
 {
-    member = value.value_or(0);
-    mark<number>(record, value.has_value());
+    member = value.number();
+    mark<number>(record, value.is_present());
 }
 
 // Null if the block is refused.
@@ -55,7 +56,8 @@ result set_text(Record &record, char *&member, block_list *blocks, std::optional
 }
 
 template <unsigned number, class Record>
-result set_bytes(Record &record, mava_tum_bytes &member, block_list *blocks, std::optional<bytes_view> bytes) noexcept
+result set_bytes(
+    Record &record, mava_tum_bytes &member, block_list *blocks, std::optional<bytes_view> bytes) noexcept
 {
     mava_tum_bytes copy = {};
     if (bytes && !bytes->empty()) {
@@ -85,6 +87,9 @@ void clear_record(Record &record, Nested &member) noexcept
     mark<number>(record, false);
 }
 
+// What the count of an array can hold.
+inline constexpr std::uint32_t most_elements = UINT32_MAX;
+
 // `count` elements without content; null if there are to be none, or if the block is refused.
 template <class Element>
 Element *make_elements(block_list &blocks, std::uint32_t count) noexcept
@@ -98,11 +103,14 @@ Element *make_elements(block_list &blocks, std::uint32_t count) noexcept
     return elements;
 }
 
-// The new elements; none when the block is refused.
+// The new elements; none when the block is refused, and so are more than can be counted.
 template <unsigned number, class List, class Record, class Element>
 List make_list(
-    Record &record, Element *&member, std::uint32_t &member_count, block_list *blocks, std::uint32_t count) noexcept
+    Record &record, Element *&member, std::uint32_t &member_count, block_list *blocks, std::uint64_t given) noexcept
 {
+    if (given > most_elements)
+        return List();
+    const auto count = static_cast<std::uint32_t>(given);
     Element *const elements = make_elements<Element>(*blocks, count);
     if (count != 0 && elements == nullptr)
         return List();
@@ -117,6 +125,8 @@ template <unsigned number, class Record>
 result set_texts(Record &record, char **&member, std::uint32_t &member_count, block_list *blocks,
     span<const std::string_view> texts) noexcept
 {
+    if (std::uint64_t{texts.size()} > most_elements)
+        return result::no_memory;
     const auto count = static_cast<std::uint32_t>(texts.size());
     char **const copies = make_elements<char *>(*blocks, count);
     if (count != 0 && copies == nullptr)

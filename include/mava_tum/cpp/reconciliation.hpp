@@ -55,9 +55,9 @@ template <class Derived>
 class rec_start_req_changes
 {
 public:
-    void set_field_1(std::optional<std::uint32_t> value) noexcept { change::set_number<1>(c(), c().field_1, value); }
-    void set_field_2(std::optional<std::uint32_t> value) noexcept { change::set_number<2>(c(), c().field_2, value); }
-    void set_field_3(std::optional<std::uint32_t> value) noexcept { change::set_number<3>(c(), c().field_3, value); }
+    void set_field_1(exact_number<std::uint32_t> value) noexcept { change::set_number<1>(c(), c().field_1, value); }
+    void set_field_2(exact_number<std::uint32_t> value) noexcept { change::set_number<2>(c(), c().field_2, value); }
+    void set_field_3(exact_number<std::uint32_t> value) noexcept { change::set_number<3>(c(), c().field_3, value); }
     result set_field_4(std::optional<std::string_view> text) noexcept { return change::set_text<4>(c(), c().field_4, blocks(), text); }
 
 private:
@@ -132,9 +132,9 @@ template <class Derived>
 class rec_complete_req_changes
 {
 public:
-    void set_field_1(std::optional<std::uint32_t> value) noexcept { change::set_number<1>(c(), c().field_1, value); }
-    void set_field_2(std::optional<std::uint32_t> value) noexcept { change::set_number<2>(c(), c().field_2, value); }
-    void set_field_3(std::optional<std::uint32_t> value) noexcept { change::set_number<3>(c(), c().field_3, value); }
+    void set_field_1(exact_number<std::uint32_t> value) noexcept { change::set_number<1>(c(), c().field_1, value); }
+    void set_field_2(exact_number<std::uint32_t> value) noexcept { change::set_number<2>(c(), c().field_2, value); }
+    void set_field_3(exact_number<std::uint32_t> value) noexcept { change::set_number<3>(c(), c().field_3, value); }
     result set_field_4(std::optional<std::string_view> text) noexcept { return change::set_text<4>(c(), c().field_4, blocks(), text); }
 
 private:
@@ -207,9 +207,9 @@ template <class Derived>
 class rec_resp_changes
 {
 public:
-    void set_field_1(std::optional<std::uint32_t> value) noexcept { change::set_number<1>(c(), c().field_1, value); }
+    void set_field_1(exact_number<std::uint32_t> value) noexcept { change::set_number<1>(c(), c().field_1, value); }
     result set_field_2(std::optional<std::string_view> text) noexcept { return change::set_text<2>(c(), c().field_2, blocks(), text); }
-    void set_field_3(std::optional<std::uint32_t> value) noexcept { change::set_number<3>(c(), c().field_3, value); }
+    void set_field_3(exact_number<std::uint32_t> value) noexcept { change::set_number<3>(c(), c().field_3, value); }
 
 private:
     mava_tum_rec_resp &c() noexcept { return static_cast<Derived &>(*this).mutable_c_record(); }
@@ -281,9 +281,9 @@ template <class Derived>
 class rec_session_state_changes
 {
 public:
-    void set_field_1(std::optional<std::uint32_t> value) noexcept { change::set_number<1>(c(), c().field_1, value); }
-    void set_field_2(std::optional<std::uint64_t> value) noexcept { change::set_number<2>(c(), c().field_2, value); }
-    void set_field_3(std::optional<std::uint32_t> value) noexcept { change::set_number<3>(c(), c().field_3, value); }
+    void set_field_1(exact_number<std::uint32_t> value) noexcept { change::set_number<1>(c(), c().field_1, value); }
+    void set_field_2(exact_number<std::uint64_t> value) noexcept { change::set_number<2>(c(), c().field_2, value); }
+    void set_field_3(exact_number<std::uint32_t> value) noexcept { change::set_number<3>(c(), c().field_3, value); }
 
 private:
     mava_tum_rec_session_state &c() noexcept { return static_cast<Derived &>(*this).mutable_c_record(); }
@@ -360,12 +360,12 @@ template <class Derived>
 class rec_sess_req_changes
 {
 public:
-    void set_field_1(std::optional<std::uint32_t> value) noexcept { change::set_number<1>(c(), c().field_1, value); }
-    void set_field_2(std::optional<std::uint32_t> value) noexcept { change::set_number<2>(c(), c().field_2, value); }
-    rec_session_state_editors make_field_3(std::uint32_t count) noexcept { return change::make_list<3, rec_session_state_editors>(c(), c().field_3, c().field_3_count, blocks(), count); }
+    void set_field_1(exact_number<std::uint32_t> value) noexcept { change::set_number<1>(c(), c().field_1, value); }
+    void set_field_2(exact_number<std::uint32_t> value) noexcept { change::set_number<2>(c(), c().field_2, value); }
+    rec_session_state_editors make_field_3(exact_number<std::uint64_t> count) noexcept { return change::make_list<3, rec_session_state_editors>(c(), c().field_3, c().field_3_count, blocks(), count.number()); }
     result set_field_4(std::optional<std::string_view> text) noexcept { return change::set_text<4>(c(), c().field_4, blocks(), text); }
     result set_field_5(std::optional<std::string_view> text) noexcept { return change::set_text<5>(c(), c().field_5, blocks(), text); }
-    void set_field_6(std::optional<std::uint32_t> value) noexcept { change::set_number<6>(c(), c().field_6, value); }
+    void set_field_6(exact_number<std::uint32_t> value) noexcept { change::set_number<6>(c(), c().field_6, value); }
 
 private:
     mava_tum_rec_sess_req &c() noexcept { return static_cast<Derived &>(*this).mutable_c_record(); }
@@ -439,10 +439,10 @@ template <class Derived>
 class rec_sess_resp_changes
 {
 public:
-    void set_field_1(std::optional<std::uint32_t> value) noexcept { change::set_number<1>(c(), c().field_1, value); }
-    rec_session_state_editors make_field_2(std::uint32_t count) noexcept { return change::make_list<2, rec_session_state_editors>(c(), c().field_2, c().field_2_count, blocks(), count); }
-    void set_field_3(std::optional<std::uint32_t> value) noexcept { change::set_number<3>(c(), c().field_3, value); }
-    void set_field_4(std::optional<std::uint32_t> value) noexcept { change::set_number<4>(c(), c().field_4, value); }
+    void set_field_1(exact_number<std::uint32_t> value) noexcept { change::set_number<1>(c(), c().field_1, value); }
+    rec_session_state_editors make_field_2(exact_number<std::uint64_t> count) noexcept { return change::make_list<2, rec_session_state_editors>(c(), c().field_2, c().field_2_count, blocks(), count.number()); }
+    void set_field_3(exact_number<std::uint32_t> value) noexcept { change::set_number<3>(c(), c().field_3, value); }
+    void set_field_4(exact_number<std::uint32_t> value) noexcept { change::set_number<4>(c(), c().field_4, value); }
 
 private:
     mava_tum_rec_sess_resp &c() noexcept { return static_cast<Derived &>(*this).mutable_c_record(); }
@@ -520,11 +520,11 @@ template <class Derived>
 class rec_sess_replay_req_changes
 {
 public:
-    void set_field_1(std::optional<std::uint32_t> value) noexcept { change::set_number<1>(c(), c().field_1, value); }
-    void set_field_2(std::optional<std::uint32_t> value) noexcept { change::set_number<2>(c(), c().field_2, value); }
-    void set_field_3(std::optional<std::uint32_t> value) noexcept { change::set_number<3>(c(), c().field_3, value); }
-    session_context_editors make_field_4(std::uint32_t count) noexcept { return change::make_list<4, session_context_editors>(c(), c().field_4, c().field_4_count, blocks(), count); }
-    void set_field_5(std::optional<std::uint32_t> value) noexcept { change::set_number<5>(c(), c().field_5, value); }
+    void set_field_1(exact_number<std::uint32_t> value) noexcept { change::set_number<1>(c(), c().field_1, value); }
+    void set_field_2(exact_number<std::uint32_t> value) noexcept { change::set_number<2>(c(), c().field_2, value); }
+    void set_field_3(exact_number<std::uint32_t> value) noexcept { change::set_number<3>(c(), c().field_3, value); }
+    session_context_editors make_field_4(exact_number<std::uint64_t> count) noexcept { return change::make_list<4, session_context_editors>(c(), c().field_4, c().field_4_count, blocks(), count.number()); }
+    void set_field_5(exact_number<std::uint32_t> value) noexcept { change::set_number<5>(c(), c().field_5, value); }
     result set_field_6(std::optional<std::string_view> text) noexcept { return change::set_text<6>(c(), c().field_6, blocks(), text); }
 
 private:
@@ -597,8 +597,8 @@ template <class Derived>
 class rec_sess_replay_fail_changes
 {
 public:
-    void set_field_1(std::optional<std::uint64_t> value) noexcept { change::set_number<1>(c(), c().field_1, value); }
-    void set_field_2(std::optional<std::uint32_t> value) noexcept { change::set_number<2>(c(), c().field_2, value); }
+    void set_field_1(exact_number<std::uint64_t> value) noexcept { change::set_number<1>(c(), c().field_1, value); }
+    void set_field_2(exact_number<std::uint32_t> value) noexcept { change::set_number<2>(c(), c().field_2, value); }
     subscriber_stats_editor edit_field_3() noexcept { return change::edit_record<3, subscriber_stats_editor>(c(), c().field_3, blocks()); }
     void clear_field_3() noexcept { change::clear_record<3>(c(), c().field_3); }
 
@@ -676,10 +676,10 @@ template <class Derived>
 class sess_svc_start_changes
 {
 public:
-    void set_field_1(std::optional<std::uint64_t> value) noexcept { change::set_number<1>(c(), c().field_1, value); }
-    void set_field_2(std::optional<std::uint32_t> value) noexcept { change::set_number<2>(c(), c().field_2, value); }
-    void set_field_3(std::optional<std::uint32_t> value) noexcept { change::set_number<3>(c(), c().field_3, value); }
-    void set_field_4(std::optional<std::uint32_t> value) noexcept { change::set_number<4>(c(), c().field_4, value); }
+    void set_field_1(exact_number<std::uint64_t> value) noexcept { change::set_number<1>(c(), c().field_1, value); }
+    void set_field_2(exact_number<std::uint32_t> value) noexcept { change::set_number<2>(c(), c().field_2, value); }
+    void set_field_3(exact_number<std::uint32_t> value) noexcept { change::set_number<3>(c(), c().field_3, value); }
+    void set_field_4(exact_number<std::uint32_t> value) noexcept { change::set_number<4>(c(), c().field_4, value); }
     result set_field_5(span<const std::string_view> texts) noexcept { return change::set_texts<5>(c(), c().field_5, c().field_5_count, blocks(), texts); }
 
 private:
@@ -756,11 +756,11 @@ template <class Derived>
 class rec_sess_replay_resp_changes
 {
 public:
-    void set_field_1(std::optional<std::uint32_t> value) noexcept { change::set_number<1>(c(), c().field_1, value); }
-    rec_sess_replay_fail_editors make_field_2(std::uint32_t count) noexcept { return change::make_list<2, rec_sess_replay_fail_editors>(c(), c().field_2, c().field_2_count, blocks(), count); }
-    sess_svc_start_editors make_field_3(std::uint32_t count) noexcept { return change::make_list<3, sess_svc_start_editors>(c(), c().field_3, c().field_3_count, blocks(), count); }
+    void set_field_1(exact_number<std::uint32_t> value) noexcept { change::set_number<1>(c(), c().field_1, value); }
+    rec_sess_replay_fail_editors make_field_2(exact_number<std::uint64_t> count) noexcept { return change::make_list<2, rec_sess_replay_fail_editors>(c(), c().field_2, c().field_2_count, blocks(), count.number()); }
+    sess_svc_start_editors make_field_3(exact_number<std::uint64_t> count) noexcept { return change::make_list<3, sess_svc_start_editors>(c(), c().field_3, c().field_3_count, blocks(), count.number()); }
     result set_field_4(std::optional<std::string_view> text) noexcept { return change::set_text<4>(c(), c().field_4, blocks(), text); }
-    void set_field_5(std::optional<std::uint32_t> value) noexcept { change::set_number<5>(c(), c().field_5, value); }
+    void set_field_5(exact_number<std::uint32_t> value) noexcept { change::set_number<5>(c(), c().field_5, value); }
 
 private:
     mava_tum_rec_sess_replay_resp &c() noexcept { return static_cast<Derived &>(*this).mutable_c_record(); }

@@ -51,9 +51,9 @@ template <class Derived>
 class srg_group_rec_start_req_changes
 {
 public:
-    void set_field_1(std::optional<std::uint32_t> value) noexcept { change::set_number<1>(c(), c().field_1, value); }
-    void set_field_2(std::optional<std::uint32_t> value) noexcept { change::set_number<2>(c(), c().field_2, value); }
-    void set_field_3(std::optional<std::uint32_t> value) noexcept { change::set_number<3>(c(), c().field_3, value); }
+    void set_field_1(exact_number<std::uint32_t> value) noexcept { change::set_number<1>(c(), c().field_1, value); }
+    void set_field_2(exact_number<std::uint32_t> value) noexcept { change::set_number<2>(c(), c().field_2, value); }
+    void set_field_3(exact_number<std::uint32_t> value) noexcept { change::set_number<3>(c(), c().field_3, value); }
 
 private:
     mava_tum_srg_group_rec_start_req &c() noexcept { return static_cast<Derived &>(*this).mutable_c_record(); }
@@ -122,8 +122,8 @@ template <class Derived>
 class srg_group_rec_resp_changes
 {
 public:
-    void set_field_1(std::optional<std::uint32_t> value) noexcept { change::set_number<1>(c(), c().field_1, value); }
-    void set_field_2(std::optional<std::uint32_t> value) noexcept { change::set_number<2>(c(), c().field_2, value); }
+    void set_field_1(exact_number<std::uint32_t> value) noexcept { change::set_number<1>(c(), c().field_1, value); }
+    void set_field_2(exact_number<std::uint32_t> value) noexcept { change::set_number<2>(c(), c().field_2, value); }
 
 private:
     mava_tum_srg_group_rec_resp &c() noexcept { return static_cast<Derived &>(*this).mutable_c_record(); }
@@ -194,9 +194,9 @@ template <class Derived>
 class srg_group_rec_complete_req_changes
 {
 public:
-    void set_field_1(std::optional<std::uint32_t> value) noexcept { change::set_number<1>(c(), c().field_1, value); }
-    void set_field_2(std::optional<std::uint32_t> value) noexcept { change::set_number<2>(c(), c().field_2, value); }
-    void set_field_3(std::optional<std::uint32_t> value) noexcept { change::set_number<3>(c(), c().field_3, value); }
+    void set_field_1(exact_number<std::uint32_t> value) noexcept { change::set_number<1>(c(), c().field_1, value); }
+    void set_field_2(exact_number<std::uint32_t> value) noexcept { change::set_number<2>(c(), c().field_2, value); }
+    void set_field_3(exact_number<std::uint32_t> value) noexcept { change::set_number<3>(c(), c().field_3, value); }
 
 private:
     mava_tum_srg_group_rec_complete_req &c() noexcept { return static_cast<Derived &>(*this).mutable_c_record(); }
@@ -271,10 +271,10 @@ template <class Derived>
 class srg_group_data_changes
 {
 public:
-    void set_field_1(std::optional<std::uint32_t> value) noexcept { change::set_number<1>(c(), c().field_1, value); }
-    void set_field_2(std::optional<std::uint32_t> value) noexcept { change::set_number<2>(c(), c().field_2, value); }
-    void set_field_3(std::optional<std::uint32_t> value) noexcept { change::set_number<3>(c(), c().field_3, value); }
-    void set_field_4(std::optional<std::uint32_t> value) noexcept { change::set_number<4>(c(), c().field_4, value); }
+    void set_field_1(exact_number<std::uint32_t> value) noexcept { change::set_number<1>(c(), c().field_1, value); }
+    void set_field_2(exact_number<std::uint32_t> value) noexcept { change::set_number<2>(c(), c().field_2, value); }
+    void set_field_3(exact_number<std::uint32_t> value) noexcept { change::set_number<3>(c(), c().field_3, value); }
+    void set_field_4(exact_number<std::uint32_t> value) noexcept { change::set_number<4>(c(), c().field_4, value); }
     result set_field_5(std::optional<std::string_view> text) noexcept { return change::set_text<5>(c(), c().field_5, blocks(), text); }
 
 private:
@@ -349,10 +349,10 @@ template <class Derived>
 class srg_group_rec_replay_req_changes
 {
 public:
-    void set_field_1(std::optional<std::uint32_t> value) noexcept { change::set_number<1>(c(), c().field_1, value); }
-    void set_field_2(std::optional<std::uint32_t> value) noexcept { change::set_number<2>(c(), c().field_2, value); }
-    srg_group_data_editors make_field_3(std::uint32_t count) noexcept { return change::make_list<3, srg_group_data_editors>(c(), c().field_3, c().field_3_count, blocks(), count); }
-    void set_field_4(std::optional<std::uint32_t> value) noexcept { change::set_number<4>(c(), c().field_4, value); }
+    void set_field_1(exact_number<std::uint32_t> value) noexcept { change::set_number<1>(c(), c().field_1, value); }
+    void set_field_2(exact_number<std::uint32_t> value) noexcept { change::set_number<2>(c(), c().field_2, value); }
+    srg_group_data_editors make_field_3(exact_number<std::uint64_t> count) noexcept { return change::make_list<3, srg_group_data_editors>(c(), c().field_3, c().field_3_count, blocks(), count.number()); }
+    void set_field_4(exact_number<std::uint32_t> value) noexcept { change::set_number<4>(c(), c().field_4, value); }
 
 private:
     mava_tum_srg_group_rec_replay_req &c() noexcept { return static_cast<Derived &>(*this).mutable_c_record(); }
@@ -426,10 +426,10 @@ template <class Derived>
 class srg_group_rec_replay_resp_changes
 {
 public:
-    void set_field_1(std::optional<std::uint32_t> value) noexcept { change::set_number<1>(c(), c().field_1, value); }
-    srg_group_data_editors make_field_2(std::uint32_t count) noexcept { return change::make_list<2, srg_group_data_editors>(c(), c().field_2, c().field_2_count, blocks(), count); }
-    srg_group_data_editors make_field_3(std::uint32_t count) noexcept { return change::make_list<3, srg_group_data_editors>(c(), c().field_3, c().field_3_count, blocks(), count); }
-    void set_field_4(std::optional<std::uint32_t> value) noexcept { change::set_number<4>(c(), c().field_4, value); }
+    void set_field_1(exact_number<std::uint32_t> value) noexcept { change::set_number<1>(c(), c().field_1, value); }
+    srg_group_data_editors make_field_2(exact_number<std::uint64_t> count) noexcept { return change::make_list<2, srg_group_data_editors>(c(), c().field_2, c().field_2_count, blocks(), count.number()); }
+    srg_group_data_editors make_field_3(exact_number<std::uint64_t> count) noexcept { return change::make_list<3, srg_group_data_editors>(c(), c().field_3, c().field_3_count, blocks(), count.number()); }
+    void set_field_4(exact_number<std::uint32_t> value) noexcept { change::set_number<4>(c(), c().field_4, value); }
 
 private:
     mava_tum_srg_group_rec_replay_resp &c() noexcept { return static_cast<Derived &>(*this).mutable_c_record(); }

@@ -58,12 +58,12 @@ template <class Derived>
 class sub_route_changes
 {
 public:
-    void set_field_1(std::optional<std::uint32_t> value) noexcept { change::set_number<1>(c(), c().field_1, value); }
-    void set_field_2(std::optional<std::uint32_t> value) noexcept { change::set_number<2>(c(), c().field_2, value); }
-    void set_field_3(std::optional<std::uint32_t> value) noexcept { change::set_number<3>(c(), c().field_3, value); }
-    subscriber_route_ipv4_editors make_ipv4_routes(std::uint32_t count) noexcept { return change::make_list<4, subscriber_route_ipv4_editors>(c(), c().ipv4_routes, c().ipv4_route_count, blocks(), count); }
-    subscriber_route_ipv6_editors make_ipv6_routes(std::uint32_t count) noexcept { return change::make_list<5, subscriber_route_ipv6_editors>(c(), c().ipv6_routes, c().ipv6_route_count, blocks(), count); }
-    void set_field_6(std::optional<std::uint32_t> value) noexcept { change::set_number<6>(c(), c().field_6, value); }
+    void set_field_1(exact_number<std::uint32_t> value) noexcept { change::set_number<1>(c(), c().field_1, value); }
+    void set_field_2(exact_number<std::uint32_t> value) noexcept { change::set_number<2>(c(), c().field_2, value); }
+    void set_field_3(exact_number<std::uint32_t> value) noexcept { change::set_number<3>(c(), c().field_3, value); }
+    subscriber_route_ipv4_editors make_ipv4_routes(exact_number<std::uint64_t> count) noexcept { return change::make_list<4, subscriber_route_ipv4_editors>(c(), c().ipv4_routes, c().ipv4_route_count, blocks(), count.number()); }
+    subscriber_route_ipv6_editors make_ipv6_routes(exact_number<std::uint64_t> count) noexcept { return change::make_list<5, subscriber_route_ipv6_editors>(c(), c().ipv6_routes, c().ipv6_route_count, blocks(), count.number()); }
+    void set_field_6(exact_number<std::uint32_t> value) noexcept { change::set_number<6>(c(), c().field_6, value); }
 
 private:
     mava_tum_sub_route &c() noexcept { return static_cast<Derived &>(*this).mutable_c_record(); }
@@ -137,8 +137,8 @@ template <class Derived>
 class subscriber_route_resp_changes
 {
 public:
-    void set_field_1(std::optional<std::uint32_t> value) noexcept { change::set_number<1>(c(), c().field_1, value); }
-    void set_field_2(std::optional<std::uint32_t> value) noexcept { change::set_number<2>(c(), c().field_2, value); }
+    void set_field_1(exact_number<std::uint32_t> value) noexcept { change::set_number<1>(c(), c().field_1, value); }
+    void set_field_2(exact_number<std::uint32_t> value) noexcept { change::set_number<2>(c(), c().field_2, value); }
     result set_field_3(std::optional<std::string_view> text) noexcept { return change::set_text<3>(c(), c().field_3, blocks(), text); }
     result set_field_4(std::optional<std::string_view> text) noexcept { return change::set_text<4>(c(), c().field_4, blocks(), text); }
 

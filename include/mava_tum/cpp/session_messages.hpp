@@ -96,20 +96,20 @@ template <class Derived>
 class session_context_changes
 {
 public:
-    void set_field_1(std::optional<std::uint32_t> value) noexcept { change::set_number<1>(c(), c().field_1, value); }
-    void set_field_2(std::optional<std::uint32_t> value) noexcept { change::set_number<2>(c(), c().field_2, value); }
-    void set_field_3(std::optional<std::uint32_t> value) noexcept { change::set_number<3>(c(), c().field_3, value); }
-    void set_field_4(std::optional<std::uint32_t> value) noexcept { change::set_number<4>(c(), c().field_4, value); }
-    void set_feature_mask(std::optional<std::uint32_t> value) noexcept { change::set_number<5>(c(), c().feature_mask, value); }
+    void set_field_1(exact_number<std::uint32_t> value) noexcept { change::set_number<1>(c(), c().field_1, value); }
+    void set_field_2(exact_number<std::uint32_t> value) noexcept { change::set_number<2>(c(), c().field_2, value); }
+    void set_field_3(exact_number<std::uint32_t> value) noexcept { change::set_number<3>(c(), c().field_3, value); }
+    void set_field_4(exact_number<std::uint32_t> value) noexcept { change::set_number<4>(c(), c().field_4, value); }
+    void set_feature_mask(exact_number<std::uint32_t> value) noexcept { change::set_number<5>(c(), c().feature_mask, value); }
     result set_field_6(std::optional<bytes_view> bytes) noexcept { return change::set_bytes<6>(c(), c().field_6, blocks(), bytes); }
-    void set_field_7(std::optional<std::uint32_t> value) noexcept { change::set_number<7>(c(), c().field_7, value); }
+    void set_field_7(exact_number<std::uint32_t> value) noexcept { change::set_number<7>(c(), c().field_7, value); }
     subscriber_v4_editor edit_subscriber_v4() noexcept { return change::edit_record<8, subscriber_v4_editor>(c(), c().subscriber_v4, blocks()); }
     void clear_subscriber_v4() noexcept { change::clear_record<8>(c(), c().subscriber_v4); }
     subscriber_v6_editor edit_subscriber_v6() noexcept { return change::edit_record<9, subscriber_v6_editor>(c(), c().subscriber_v6, blocks()); }
     void clear_subscriber_v6() noexcept { change::clear_record<9>(c(), c().subscriber_v6); }
     session_data_editor edit_session_data() noexcept { return change::edit_record<10, session_data_editor>(c(), c().session_data, blocks()); }
     void clear_session_data() noexcept { change::clear_record<10>(c(), c().session_data); }
-    subscriber_qos_editors make_qos(std::uint32_t count) noexcept { return change::make_list<11, subscriber_qos_editors>(c(), c().qos, c().qos_count, blocks(), count); }
+    subscriber_qos_editors make_qos(exact_number<std::uint64_t> count) noexcept { return change::make_list<11, subscriber_qos_editors>(c(), c().qos, c().qos_count, blocks(), count.number()); }
     subscriber_acl_editor edit_acl() noexcept { return change::edit_record<12, subscriber_acl_editor>(c(), c().acl, blocks()); }
     void clear_acl() noexcept { change::clear_record<12>(c(), c().acl); }
     subscriber_httpr_editor edit_httpr() noexcept { return change::edit_record<13, subscriber_httpr_editor>(c(), c().httpr, blocks()); }
@@ -132,8 +132,8 @@ public:
     void clear_mtu_3() noexcept { change::clear_record<21>(c(), c().mtu_3); }
     subscriber_acct_editor edit_acct() noexcept { return change::edit_record<22, subscriber_acct_editor>(c(), c().acct, blocks()); }
     void clear_acct() noexcept { change::clear_record<22>(c(), c().acct); }
-    subscriber_route_ipv4_editors make_route_ipv4(std::uint32_t count) noexcept { return change::make_list<23, subscriber_route_ipv4_editors>(c(), c().route_ipv4, c().route_ipv4_count, blocks(), count); }
-    subscriber_route_ipv6_editors make_route_ipv6(std::uint32_t count) noexcept { return change::make_list<24, subscriber_route_ipv6_editors>(c(), c().route_ipv6, c().route_ipv6_count, blocks(), count); }
+    subscriber_route_ipv4_editors make_route_ipv4(exact_number<std::uint64_t> count) noexcept { return change::make_list<23, subscriber_route_ipv4_editors>(c(), c().route_ipv4, c().route_ipv4_count, blocks(), count.number()); }
+    subscriber_route_ipv6_editors make_route_ipv6(exact_number<std::uint64_t> count) noexcept { return change::make_list<24, subscriber_route_ipv6_editors>(c(), c().route_ipv6, c().route_ipv6_count, blocks(), count.number()); }
 
 private:
     mava_tum_session_context &c() noexcept { return static_cast<Derived &>(*this).mutable_c_record(); }
@@ -209,11 +209,11 @@ template <class Derived>
 class session_delete_changes
 {
 public:
-    void set_field_1(std::optional<std::uint32_t> value) noexcept { change::set_number<1>(c(), c().field_1, value); }
-    void set_field_2(std::optional<std::uint32_t> value) noexcept { change::set_number<2>(c(), c().field_2, value); }
-    void set_field_3(std::optional<std::uint32_t> value) noexcept { change::set_number<3>(c(), c().field_3, value); }
-    void set_field_4(std::optional<std::uint64_t> value) noexcept { change::set_number<4>(c(), c().field_4, value); }
-    void set_field_5(std::optional<std::uint32_t> value) noexcept { change::set_number<5>(c(), c().field_5, value); }
+    void set_field_1(exact_number<std::uint32_t> value) noexcept { change::set_number<1>(c(), c().field_1, value); }
+    void set_field_2(exact_number<std::uint32_t> value) noexcept { change::set_number<2>(c(), c().field_2, value); }
+    void set_field_3(exact_number<std::uint32_t> value) noexcept { change::set_number<3>(c(), c().field_3, value); }
+    void set_field_4(exact_number<std::uint64_t> value) noexcept { change::set_number<4>(c(), c().field_4, value); }
+    void set_field_5(exact_number<std::uint32_t> value) noexcept { change::set_number<5>(c(), c().field_5, value); }
 
 private:
     mava_tum_session_delete &c() noexcept { return static_cast<Derived &>(*this).mutable_c_record(); }
@@ -298,11 +298,11 @@ template <class Derived>
 class sess_oper_resp_changes
 {
 public:
-    void set_field_1(std::optional<std::uint32_t> value) noexcept { change::set_number<1>(c(), c().field_1, value); }
-    void set_field_2(std::optional<std::uint32_t> value) noexcept { change::set_number<2>(c(), c().field_2, value); }
-    void set_field_3(std::optional<std::uint32_t> value) noexcept { change::set_number<3>(c(), c().field_3, value); }
-    void set_field_4(std::optional<std::uint64_t> value) noexcept { change::set_number<4>(c(), c().field_4, value); }
-    void set_field_5(std::optional<std::uint32_t> value) noexcept { change::set_number<5>(c(), c().field_5, value); }
+    void set_field_1(exact_number<std::uint32_t> value) noexcept { change::set_number<1>(c(), c().field_1, value); }
+    void set_field_2(exact_number<std::uint32_t> value) noexcept { change::set_number<2>(c(), c().field_2, value); }
+    void set_field_3(exact_number<std::uint32_t> value) noexcept { change::set_number<3>(c(), c().field_3, value); }
+    void set_field_4(exact_number<std::uint64_t> value) noexcept { change::set_number<4>(c(), c().field_4, value); }
+    void set_field_5(exact_number<std::uint32_t> value) noexcept { change::set_number<5>(c(), c().field_5, value); }
     result set_field_6(std::optional<std::string_view> text) noexcept { return change::set_text<6>(c(), c().field_6, blocks(), text); }
     result set_field_7(std::optional<std::string_view> text) noexcept { return change::set_text<7>(c(), c().field_7, blocks(), text); }
     result set_field_8(std::optional<std::string_view> text) noexcept { return change::set_text<8>(c(), c().field_8, blocks(), text); }

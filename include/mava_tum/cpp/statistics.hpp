@@ -81,24 +81,24 @@ template <class Derived>
 class stats_changes
 {
 public:
-    void set_field_1(std::optional<std::uint32_t> value) noexcept { change::set_number<1>(c(), c().field_1, value); }
-    void set_field_2(std::optional<std::uint32_t> value) noexcept { change::set_number<2>(c(), c().field_2, value); }
-    void set_field_3(std::optional<std::uint32_t> value) noexcept { change::set_number<3>(c(), c().field_3, value); }
-    void set_field_4(std::optional<std::uint32_t> value) noexcept { change::set_number<4>(c(), c().field_4, value); }
-    void set_field_5(std::optional<std::uint32_t> value) noexcept { change::set_number<5>(c(), c().field_5, value); }
-    void set_field_6(std::optional<std::uint32_t> value) noexcept { change::set_number<6>(c(), c().field_6, value); }
-    void set_field_7(std::optional<std::uint32_t> value) noexcept { change::set_number<7>(c(), c().field_7, value); }
-    void set_field_8(std::optional<std::uint32_t> value) noexcept { change::set_number<8>(c(), c().field_8, value); }
-    void set_field_9(std::optional<std::uint32_t> value) noexcept { change::set_number<9>(c(), c().field_9, value); }
-    void set_field_10(std::optional<std::uint32_t> value) noexcept { change::set_number<10>(c(), c().field_10, value); }
-    void set_field_11(std::optional<std::uint32_t> value) noexcept { change::set_number<11>(c(), c().field_11, value); }
-    void set_field_12(std::optional<std::uint32_t> value) noexcept { change::set_number<12>(c(), c().field_12, value); }
-    void set_field_13(std::optional<std::uint32_t> value) noexcept { change::set_number<13>(c(), c().field_13, value); }
-    void set_field_14(std::optional<std::uint32_t> value) noexcept { change::set_number<14>(c(), c().field_14, value); }
-    void set_field_15(std::optional<std::uint32_t> value) noexcept { change::set_number<15>(c(), c().field_15, value); }
-    void set_field_16(std::optional<std::uint32_t> value) noexcept { change::set_number<16>(c(), c().field_16, value); }
-    void set_field_17(std::optional<std::uint32_t> value) noexcept { change::set_number<17>(c(), c().field_17, value); }
-    void set_field_18(std::optional<std::uint32_t> value) noexcept { change::set_number<18>(c(), c().field_18, value); }
+    void set_field_1(exact_number<std::uint32_t> value) noexcept { change::set_number<1>(c(), c().field_1, value); }
+    void set_field_2(exact_number<std::uint32_t> value) noexcept { change::set_number<2>(c(), c().field_2, value); }
+    void set_field_3(exact_number<std::uint32_t> value) noexcept { change::set_number<3>(c(), c().field_3, value); }
+    void set_field_4(exact_number<std::uint32_t> value) noexcept { change::set_number<4>(c(), c().field_4, value); }
+    void set_field_5(exact_number<std::uint32_t> value) noexcept { change::set_number<5>(c(), c().field_5, value); }
+    void set_field_6(exact_number<std::uint32_t> value) noexcept { change::set_number<6>(c(), c().field_6, value); }
+    void set_field_7(exact_number<std::uint32_t> value) noexcept { change::set_number<7>(c(), c().field_7, value); }
+    void set_field_8(exact_number<std::uint32_t> value) noexcept { change::set_number<8>(c(), c().field_8, value); }
+    void set_field_9(exact_number<std::uint32_t> value) noexcept { change::set_number<9>(c(), c().field_9, value); }
+    void set_field_10(exact_number<std::uint32_t> value) noexcept { change::set_number<10>(c(), c().field_10, value); }
+    void set_field_11(exact_number<std::uint32_t> value) noexcept { change::set_number<11>(c(), c().field_11, value); }
+    void set_field_12(exact_number<std::uint32_t> value) noexcept { change::set_number<12>(c(), c().field_12, value); }
+    void set_field_13(exact_number<std::uint32_t> value) noexcept { change::set_number<13>(c(), c().field_13, value); }
+    void set_field_14(exact_number<std::uint32_t> value) noexcept { change::set_number<14>(c(), c().field_14, value); }
+    void set_field_15(exact_number<std::uint32_t> value) noexcept { change::set_number<15>(c(), c().field_15, value); }
+    void set_field_16(exact_number<std::uint32_t> value) noexcept { change::set_number<16>(c(), c().field_16, value); }
+    void set_field_17(exact_number<std::uint32_t> value) noexcept { change::set_number<17>(c(), c().field_17, value); }
+    void set_field_18(exact_number<std::uint32_t> value) noexcept { change::set_number<18>(c(), c().field_18, value); }
 
 private:
     mava_tum_stats &c() noexcept { return static_cast<Derived &>(*this).mutable_c_record(); }
@@ -259,19 +259,19 @@ template <class Derived>
 class subscriber_stats_changes
 {
 public:
-    void set_field_1(std::optional<std::uint64_t> value) noexcept { change::set_number<1>(c(), c().field_1, value); }
-    void set_field_2(std::optional<std::uint32_t> value) noexcept { change::set_number<2>(c(), c().field_2, value); }
-    void set_field_3(std::optional<std::uint32_t> value) noexcept { change::set_number<3>(c(), c().field_3, value); }
-    void set_field_4(std::optional<std::uint32_t> value) noexcept { change::set_number<4>(c(), c().field_4, value); }
-    void set_field_5(std::optional<std::uint32_t> value) noexcept { change::set_number<5>(c(), c().field_5, value); }
-    void set_field_6(std::optional<std::uint32_t> value) noexcept { change::set_number<6>(c(), c().field_6, value); }
+    void set_field_1(exact_number<std::uint64_t> value) noexcept { change::set_number<1>(c(), c().field_1, value); }
+    void set_field_2(exact_number<std::uint32_t> value) noexcept { change::set_number<2>(c(), c().field_2, value); }
+    void set_field_3(exact_number<std::uint32_t> value) noexcept { change::set_number<3>(c(), c().field_3, value); }
+    void set_field_4(exact_number<std::uint32_t> value) noexcept { change::set_number<4>(c(), c().field_4, value); }
+    void set_field_5(exact_number<std::uint32_t> value) noexcept { change::set_number<5>(c(), c().field_5, value); }
+    void set_field_6(exact_number<std::uint32_t> value) noexcept { change::set_number<6>(c(), c().field_6, value); }
     stats_editor edit_field_7() noexcept { return change::edit_record<7, stats_editor>(c(), c().field_7, blocks()); }
     void clear_field_7() noexcept { change::clear_record<7>(c(), c().field_7); }
-    service_stats_editors make_field_8(std::uint32_t count) noexcept { return change::make_list<8, service_stats_editors>(c(), c().field_8, c().field_8_count, blocks(), count); }
-    void set_field_9(std::optional<std::uint32_t> value) noexcept { change::set_number<9>(c(), c().field_9, value); }
+    service_stats_editors make_field_8(exact_number<std::uint64_t> count) noexcept { return change::make_list<8, service_stats_editors>(c(), c().field_8, c().field_8_count, blocks(), count.number()); }
+    void set_field_9(exact_number<std::uint32_t> value) noexcept { change::set_number<9>(c(), c().field_9, value); }
     stats_editor edit_field_10() noexcept { return change::edit_record<10, stats_editor>(c(), c().field_10, blocks()); }
     void clear_field_10() noexcept { change::clear_record<10>(c(), c().field_10); }
-    void set_field_11(std::optional<std::uint32_t> value) noexcept { change::set_number<11>(c(), c().field_11, value); }
+    void set_field_11(exact_number<std::uint32_t> value) noexcept { change::set_number<11>(c(), c().field_11, value); }
     stats_editor edit_field_12() noexcept { return change::edit_record<12, stats_editor>(c(), c().field_12, blocks()); }
     void clear_field_12() noexcept { change::clear_record<12>(c(), c().field_12); }
 

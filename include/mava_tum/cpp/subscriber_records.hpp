@@ -49,8 +49,8 @@ template <class Derived>
 class subscriber_v4_changes
 {
 public:
-    void set_field_1(std::optional<std::uint32_t> value) noexcept { change::set_number<1>(c(), c().field_1, value); }
-    void set_ipv4_address(std::optional<std::uint32_t> value) noexcept { change::set_number<2>(c(), c().ipv4_address, value); }
+    void set_field_1(exact_number<std::uint32_t> value) noexcept { change::set_number<1>(c(), c().field_1, value); }
+    void set_ipv4_address(exact_number<std::uint32_t> value) noexcept { change::set_number<2>(c(), c().ipv4_address, value); }
 
 private:
     mava_tum_subscriber_v4 &c() noexcept { return static_cast<Derived &>(*this).mutable_c_record(); }
@@ -129,13 +129,13 @@ template <class Derived>
 class subscriber_v6_changes
 {
 public:
-    void set_field_1(std::optional<std::uint32_t> value) noexcept { change::set_number<1>(c(), c().field_1, value); }
+    void set_field_1(exact_number<std::uint32_t> value) noexcept { change::set_number<1>(c(), c().field_1, value); }
     result set_field_2(std::optional<bytes_view> bytes) noexcept { return change::set_bytes<2>(c(), c().field_2, blocks(), bytes); }
     result set_field_3(std::optional<bytes_view> bytes) noexcept { return change::set_bytes<3>(c(), c().field_3, blocks(), bytes); }
     result set_field_4(std::optional<bytes_view> bytes) noexcept { return change::set_bytes<4>(c(), c().field_4, blocks(), bytes); }
-    void set_field_5(std::optional<std::uint32_t> value) noexcept { change::set_number<5>(c(), c().field_5, value); }
+    void set_field_5(exact_number<std::uint32_t> value) noexcept { change::set_number<5>(c(), c().field_5, value); }
     result set_field_6(std::optional<bytes_view> bytes) noexcept { return change::set_bytes<6>(c(), c().field_6, blocks(), bytes); }
-    void set_field_7(std::optional<std::uint32_t> value) noexcept { change::set_number<7>(c(), c().field_7, value); }
+    void set_field_7(exact_number<std::uint32_t> value) noexcept { change::set_number<7>(c(), c().field_7, value); }
 
 private:
     mava_tum_subscriber_v6 &c() noexcept { return static_cast<Derived &>(*this).mutable_c_record(); }
@@ -213,12 +213,12 @@ template <class Derived>
 class ppp_data_changes
 {
 public:
-    void set_field_1(std::optional<std::uint32_t> value) noexcept { change::set_number<1>(c(), c().field_1, value); }
-    void set_field_2(std::optional<std::uint32_t> value) noexcept { change::set_number<2>(c(), c().field_2, value); }
-    void set_field_3(std::optional<std::uint32_t> value) noexcept { change::set_number<3>(c(), c().field_3, value); }
-    void set_field_4(std::optional<std::uint32_t> value) noexcept { change::set_number<4>(c(), c().field_4, value); }
+    void set_field_1(exact_number<std::uint32_t> value) noexcept { change::set_number<1>(c(), c().field_1, value); }
+    void set_field_2(exact_number<std::uint32_t> value) noexcept { change::set_number<2>(c(), c().field_2, value); }
+    void set_field_3(exact_number<std::uint32_t> value) noexcept { change::set_number<3>(c(), c().field_3, value); }
+    void set_field_4(exact_number<std::uint32_t> value) noexcept { change::set_number<4>(c(), c().field_4, value); }
     result set_field_5(std::optional<bytes_view> bytes) noexcept { return change::set_bytes<5>(c(), c().field_5, blocks(), bytes); }
-    void set_field_6(std::optional<std::uint32_t> value) noexcept { change::set_number<6>(c(), c().field_6, value); }
+    void set_field_6(exact_number<std::uint32_t> value) noexcept { change::set_number<6>(c(), c().field_6, value); }
 
 private:
     mava_tum_ppp_data &c() noexcept { return static_cast<Derived &>(*this).mutable_c_record(); }
@@ -322,24 +322,24 @@ template <class Derived>
 class l2tp_data_changes
 {
 public:
-    void set_field_1(std::optional<std::uint32_t> value) noexcept { change::set_number<1>(c(), c().field_1, value); }
-    void set_field_2(std::optional<std::uint32_t> value) noexcept { change::set_number<2>(c(), c().field_2, value); }
-    void set_field_3(std::optional<std::uint32_t> value) noexcept { change::set_number<3>(c(), c().field_3, value); }
+    void set_field_1(exact_number<std::uint32_t> value) noexcept { change::set_number<1>(c(), c().field_1, value); }
+    void set_field_2(exact_number<std::uint32_t> value) noexcept { change::set_number<2>(c(), c().field_2, value); }
+    void set_field_3(exact_number<std::uint32_t> value) noexcept { change::set_number<3>(c(), c().field_3, value); }
     result set_field_4(std::optional<bytes_view> bytes) noexcept { return change::set_bytes<4>(c(), c().field_4, blocks(), bytes); }
     result set_field_5(std::optional<bytes_view> bytes) noexcept { return change::set_bytes<5>(c(), c().field_5, blocks(), bytes); }
-    void set_field_6(std::optional<std::uint32_t> value) noexcept { change::set_number<6>(c(), c().field_6, value); }
-    void set_field_7(std::optional<std::uint32_t> value) noexcept { change::set_number<7>(c(), c().field_7, value); }
-    void set_field_8(std::optional<std::uint32_t> value) noexcept { change::set_number<8>(c(), c().field_8, value); }
-    void set_field_9(std::optional<std::uint32_t> value) noexcept { change::set_number<9>(c(), c().field_9, value); }
-    void set_field_10(std::optional<std::uint32_t> value) noexcept { change::set_number<10>(c(), c().field_10, value); }
-    void set_field_11(std::optional<std::uint32_t> value) noexcept { change::set_number<11>(c(), c().field_11, value); }
-    void set_field_12(std::optional<std::uint32_t> value) noexcept { change::set_number<12>(c(), c().field_12, value); }
-    void set_field_13(std::optional<std::uint32_t> value) noexcept { change::set_number<13>(c(), c().field_13, value); }
-    void set_field_14(std::optional<std::uint32_t> value) noexcept { change::set_number<14>(c(), c().field_14, value); }
-    void set_field_15(std::optional<std::uint32_t> value) noexcept { change::set_number<15>(c(), c().field_15, value); }
-    void set_field_16(std::optional<std::uint32_t> value) noexcept { change::set_number<16>(c(), c().field_16, value); }
-    void set_field_17(std::optional<std::uint32_t> value) noexcept { change::set_number<17>(c(), c().field_17, value); }
-    void set_field_18(std::optional<std::uint32_t> value) noexcept { change::set_number<18>(c(), c().field_18, value); }
+    void set_field_6(exact_number<std::uint32_t> value) noexcept { change::set_number<6>(c(), c().field_6, value); }
+    void set_field_7(exact_number<std::uint32_t> value) noexcept { change::set_number<7>(c(), c().field_7, value); }
+    void set_field_8(exact_number<std::uint32_t> value) noexcept { change::set_number<8>(c(), c().field_8, value); }
+    void set_field_9(exact_number<std::uint32_t> value) noexcept { change::set_number<9>(c(), c().field_9, value); }
+    void set_field_10(exact_number<std::uint32_t> value) noexcept { change::set_number<10>(c(), c().field_10, value); }
+    void set_field_11(exact_number<std::uint32_t> value) noexcept { change::set_number<11>(c(), c().field_11, value); }
+    void set_field_12(exact_number<std::uint32_t> value) noexcept { change::set_number<12>(c(), c().field_12, value); }
+    void set_field_13(exact_number<std::uint32_t> value) noexcept { change::set_number<13>(c(), c().field_13, value); }
+    void set_field_14(exact_number<std::uint32_t> value) noexcept { change::set_number<14>(c(), c().field_14, value); }
+    void set_field_15(exact_number<std::uint32_t> value) noexcept { change::set_number<15>(c(), c().field_15, value); }
+    void set_field_16(exact_number<std::uint32_t> value) noexcept { change::set_number<16>(c(), c().field_16, value); }
+    void set_field_17(exact_number<std::uint32_t> value) noexcept { change::set_number<17>(c(), c().field_17, value); }
+    void set_field_18(exact_number<std::uint32_t> value) noexcept { change::set_number<18>(c(), c().field_18, value); }
     result set_field_19(std::optional<std::string_view> text) noexcept { return change::set_text<19>(c(), c().field_19, blocks(), text); }
 
 private:
@@ -410,8 +410,8 @@ template <class Derived>
 class vlan_info_changes
 {
 public:
-    void set_field_1(std::optional<std::uint32_t> value) noexcept { change::set_number<1>(c(), c().field_1, value); }
-    void set_field_2(std::optional<std::uint32_t> value) noexcept { change::set_number<2>(c(), c().field_2, value); }
+    void set_field_1(exact_number<std::uint32_t> value) noexcept { change::set_number<1>(c(), c().field_1, value); }
+    void set_field_2(exact_number<std::uint32_t> value) noexcept { change::set_number<2>(c(), c().field_2, value); }
 
 private:
     mava_tum_vlan_info &c() noexcept { return static_cast<Derived &>(*this).mutable_c_record(); }
@@ -498,8 +498,8 @@ template <class Derived>
 class session_data_changes
 {
 public:
-    void set_field_1(std::optional<std::uint32_t> value) noexcept { change::set_number<1>(c(), c().field_1, value); }
-    void set_field_2(std::optional<std::uint64_t> value) noexcept { change::set_number<2>(c(), c().field_2, value); }
+    void set_field_1(exact_number<std::uint32_t> value) noexcept { change::set_number<1>(c(), c().field_1, value); }
+    void set_field_2(exact_number<std::uint64_t> value) noexcept { change::set_number<2>(c(), c().field_2, value); }
     ppp_data_editor edit_ppp() noexcept { return change::edit_record<3, ppp_data_editor>(c(), c().ppp, blocks()); }
     void clear_ppp() noexcept { change::clear_record<3>(c(), c().ppp); }
     l2tp_data_editor edit_l2tp() noexcept { return change::edit_record<4, l2tp_data_editor>(c(), c().l2tp, blocks()); }
@@ -508,10 +508,10 @@ public:
     result set_field_6(std::optional<bytes_view> bytes) noexcept { return change::set_bytes<6>(c(), c().field_6, blocks(), bytes); }
     result set_field_7(std::optional<std::string_view> text) noexcept { return change::set_text<7>(c(), c().field_7, blocks(), text); }
     result set_field_8(std::optional<std::string_view> text) noexcept { return change::set_text<8>(c(), c().field_8, blocks(), text); }
-    void set_field_9(std::optional<std::uint32_t> value) noexcept { change::set_number<9>(c(), c().field_9, value); }
+    void set_field_9(exact_number<std::uint32_t> value) noexcept { change::set_number<9>(c(), c().field_9, value); }
     vlan_info_editor edit_vlan() noexcept { return change::edit_record<10, vlan_info_editor>(c(), c().vlan, blocks()); }
     void clear_vlan() noexcept { change::clear_record<10>(c(), c().vlan); }
-    void set_field_11(std::optional<std::uint32_t> value) noexcept { change::set_number<11>(c(), c().field_11, value); }
+    void set_field_11(exact_number<std::uint32_t> value) noexcept { change::set_number<11>(c(), c().field_11, value); }
 
 private:
     mava_tum_session_data &c() noexcept { return static_cast<Derived &>(*this).mutable_c_record(); }
