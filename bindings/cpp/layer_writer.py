@@ -4,7 +4,7 @@ from header_reader import HeaderError
 # Names of the classes' own members, which no field may take.
 RESERVED = {
     "decode", "encode", "encode_to", "encoded_size", "copy_from", "clone", "clear", "view", "c_record",
-    "mutable_c_record", "own_blocks", "has_value", "c", "blocks",
+    "mutable_c_record", "own_blocks", "has_value", "holds_record", "c", "blocks",
 }
 
 NUMBER_TYPES = {"varint": "std::uint32_t", "64-bit varint": "std::uint64_t", "fixed32": "std::uint32_t"}
@@ -36,7 +36,7 @@ def setters(field):
         return [("result", f"set_{name}(std::optional<std::string_view> text)",
                  f"return change::set_text<{n}>(c(), c().{name}, blocks(), text);")]
     if field.kind == "bytes":
-        return [("result", f"set_{name}(std::optional<bytes_view> bytes)",
+        return [("result", f"set_{name}(std::optional<bytes_argument> bytes)",
                  f"return change::set_bytes<{n}>(c(), c().{name}, blocks(), bytes);")]
     if field.kind == "record":
         editor = f"{field.of}_editor"
@@ -45,11 +45,23 @@ def setters(field):
                 ("void", f"clear_{name}()", f"change::clear_record<{n}>(c(), c().{name});")]
     target = f"c(), c().{name}, c().{field.count}, blocks()"
     if field.kind == "array of texts":
-        return [("result", f"set_{name}(span<const std::string_view> texts)",
+        return [("result", f"set_{name}(argument_span<const std::string_view> texts)",
                  f"return change::set_texts<{n}>({target}, texts);")]
     editors = f"{field.of}_editors"
     return [(editors, f"make_{name}(exact_number<std::uint64_t> count)",
              f"return change::make_list<{n}, {editors}>({target}, count.number());")]
+
+
+def functions(type_name, declaration, qualifier, call, refers_to_record):
+    """The lines of a function. One that returns what refers to the record is another one for records without a name."""
+    if not refers_to_record:
+        yield f"    {type_name} {declaration}{qualifier} noexcept {{ {call} }}"
+        return
+    name, parameters = declaration.split("(", 1)
+    argument = parameters.rstrip(")").split(" ")[-1]
+    yield f"    {type_name} {declaration}{qualifier} & noexcept {{ {call} }}"
+    yield (f"    {type_name} {declaration}{qualifier} && noexcept "
+           f"{{ return access::lasting<Derived>(*this).{name}({argument}); }}")
 
 
 def fields_class(message):
@@ -62,7 +74,7 @@ def fields_class(message):
         type_name, call = getter(field)
         note = f"; {field.note}" if field.note else ""
         yield f"    // {field.number}: {field.kind}{note}"
-        yield f"    {type_name} {field.name}() const noexcept {{ return {call}; }}"
+        yield from functions(type_name, f"{field.name}()", " const", f"return {call};", field.kind not in NUMBER_TYPES)
     yield ""
     yield "private:"
     yield (f"    const {message.c_type} &c() const noexcept "
@@ -76,13 +88,13 @@ def changes_class(message):
     yield f"class {message.name}_changes"
     yield "{"
     yield "public:"
-    functions = [function for field in message.fields for function in setters(field)]
-    for type_name, declaration, call in functions:
-        yield f"    {type_name} {declaration} noexcept {{ {call} }}"
+    changes = [change for field in message.fields for change in setters(field)]
+    for type_name, declaration, call in changes:
+        yield from functions(type_name, declaration, "", call, type_name not in ("void", "result"))
     yield ""
     yield "private:"
     yield f"    {message.c_type} &c() noexcept {{ return static_cast<Derived &>(*this).mutable_c_record(); }}"
-    if any("blocks()" in call for _, _, call in functions):
+    if any("blocks()" in call for _, _, call in changes):
         yield "    block_list *blocks() noexcept { return static_cast<Derived &>(*this).own_blocks(); }"
     yield "};"
 

@@ -40,11 +40,14 @@ public:
     // 2: varint
     std::optional<std::uint32_t> field_2() const noexcept { return access::number_of<2>(c(), c().field_2); }
     // 3: text
-    std::optional<std::string_view> field_3() const noexcept { return access::text_of<3>(c(), c().field_3); }
+    std::optional<std::string_view> field_3() const & noexcept { return access::text_of<3>(c(), c().field_3); }
+    std::optional<std::string_view> field_3() const && noexcept { return access::lasting<Derived>(*this).field_3(); }
     // 4: text
-    std::optional<std::string_view> field_4() const noexcept { return access::text_of<4>(c(), c().field_4); }
+    std::optional<std::string_view> field_4() const & noexcept { return access::text_of<4>(c(), c().field_4); }
+    std::optional<std::string_view> field_4() const && noexcept { return access::lasting<Derived>(*this).field_4(); }
     // 5: text
-    std::optional<std::string_view> field_5() const noexcept { return access::text_of<5>(c(), c().field_5); }
+    std::optional<std::string_view> field_5() const & noexcept { return access::text_of<5>(c(), c().field_5); }
+    std::optional<std::string_view> field_5() const && noexcept { return access::lasting<Derived>(*this).field_5(); }
     // 6: varint
     std::optional<std::uint32_t> field_6() const noexcept { return access::number_of<6>(c(), c().field_6); }
     // 7: varint
@@ -52,13 +55,17 @@ public:
     // 8: varint
     std::optional<std::uint32_t> field_8() const noexcept { return access::number_of<8>(c(), c().field_8); }
     // 9: text
-    std::optional<std::string_view> field_9() const noexcept { return access::text_of<9>(c(), c().field_9); }
+    std::optional<std::string_view> field_9() const & noexcept { return access::text_of<9>(c(), c().field_9); }
+    std::optional<std::string_view> field_9() const && noexcept { return access::lasting<Derived>(*this).field_9(); }
     // 10: text
-    std::optional<std::string_view> field_10() const noexcept { return access::text_of<10>(c(), c().field_10); }
+    std::optional<std::string_view> field_10() const & noexcept { return access::text_of<10>(c(), c().field_10); }
+    std::optional<std::string_view> field_10() const && noexcept { return access::lasting<Derived>(*this).field_10(); }
     // 11: text
-    std::optional<std::string_view> field_11() const noexcept { return access::text_of<11>(c(), c().field_11); }
+    std::optional<std::string_view> field_11() const & noexcept { return access::text_of<11>(c(), c().field_11); }
+    std::optional<std::string_view> field_11() const && noexcept { return access::lasting<Derived>(*this).field_11(); }
     // 12: text
-    std::optional<std::string_view> field_12() const noexcept { return access::text_of<12>(c(), c().field_12); }
+    std::optional<std::string_view> field_12() const & noexcept { return access::text_of<12>(c(), c().field_12); }
+    std::optional<std::string_view> field_12() const && noexcept { return access::lasting<Derived>(*this).field_12(); }
 
 private:
     const mava_tum_subscriber_qos &c() const noexcept { return static_cast<const Derived &>(*this).c_record(); }
@@ -139,13 +146,17 @@ public:
     // 1: varint
     std::optional<std::uint32_t> field_1() const noexcept { return access::number_of<1>(c(), c().field_1); }
     // 2: text
-    std::optional<std::string_view> field_2() const noexcept { return access::text_of<2>(c(), c().field_2); }
+    std::optional<std::string_view> field_2() const & noexcept { return access::text_of<2>(c(), c().field_2); }
+    std::optional<std::string_view> field_2() const && noexcept { return access::lasting<Derived>(*this).field_2(); }
     // 3: text
-    std::optional<std::string_view> field_3() const noexcept { return access::text_of<3>(c(), c().field_3); }
+    std::optional<std::string_view> field_3() const & noexcept { return access::text_of<3>(c(), c().field_3); }
+    std::optional<std::string_view> field_3() const && noexcept { return access::lasting<Derived>(*this).field_3(); }
     // 4: text
-    std::optional<std::string_view> field_4() const noexcept { return access::text_of<4>(c(), c().field_4); }
+    std::optional<std::string_view> field_4() const & noexcept { return access::text_of<4>(c(), c().field_4); }
+    std::optional<std::string_view> field_4() const && noexcept { return access::lasting<Derived>(*this).field_4(); }
     // 5: text
-    std::optional<std::string_view> field_5() const noexcept { return access::text_of<5>(c(), c().field_5); }
+    std::optional<std::string_view> field_5() const & noexcept { return access::text_of<5>(c(), c().field_5); }
+    std::optional<std::string_view> field_5() const && noexcept { return access::lasting<Derived>(*this).field_5(); }
 
 private:
     const mava_tum_subscriber_acl &c() const noexcept { return static_cast<const Derived &>(*this).c_record(); }
@@ -219,7 +230,8 @@ public:
     // 1: varint
     std::optional<std::uint32_t> field_1() const noexcept { return access::number_of<1>(c(), c().field_1); }
     // 2: text
-    std::optional<std::string_view> field_2() const noexcept { return access::text_of<2>(c(), c().field_2); }
+    std::optional<std::string_view> field_2() const & noexcept { return access::text_of<2>(c(), c().field_2); }
+    std::optional<std::string_view> field_2() const && noexcept { return access::lasting<Derived>(*this).field_2(); }
 
 private:
     const mava_tum_subscriber_httpr &c() const noexcept { return static_cast<const Derived &>(*this).c_record(); }
@@ -294,7 +306,8 @@ public:
     // 3: varint
     std::optional<std::uint32_t> field_3() const noexcept { return access::number_of<3>(c(), c().field_3); }
     // 4: bytes
-    std::optional<bytes_view> field_4() const noexcept { return access::bytes_of<4>(c(), c().field_4); }
+    std::optional<bytes_view> field_4() const & noexcept { return access::bytes_of<4>(c(), c().field_4); }
+    std::optional<bytes_view> field_4() const && noexcept { return access::lasting<Derived>(*this).field_4(); }
     // 5: varint
     std::optional<std::uint32_t> field_5() const noexcept { return access::number_of<5>(c(), c().field_5); }
     // 6: varint
@@ -302,7 +315,8 @@ public:
     // 7: fixed32; IPv4 address, network byte order
     std::optional<std::uint32_t> field_7() const noexcept { return access::number_of<7>(c(), c().field_7); }
     // 8: bytes
-    std::optional<bytes_view> field_8() const noexcept { return access::bytes_of<8>(c(), c().field_8); }
+    std::optional<bytes_view> field_8() const & noexcept { return access::bytes_of<8>(c(), c().field_8); }
+    std::optional<bytes_view> field_8() const && noexcept { return access::lasting<Derived>(*this).field_8(); }
 
 private:
     const mava_tum_subscriber_li &c() const noexcept { return static_cast<const Derived &>(*this).c_record(); }
@@ -316,11 +330,11 @@ public:
     void set_field_1(exact_number<std::uint32_t> value) noexcept { change::set_number<1>(c(), c().field_1, value); }
     void set_field_2(exact_number<std::uint32_t> value) noexcept { change::set_number<2>(c(), c().field_2, value); }
     void set_field_3(exact_number<std::uint32_t> value) noexcept { change::set_number<3>(c(), c().field_3, value); }
-    result set_field_4(std::optional<bytes_view> bytes) noexcept { return change::set_bytes<4>(c(), c().field_4, blocks(), bytes); }
+    result set_field_4(std::optional<bytes_argument> bytes) noexcept { return change::set_bytes<4>(c(), c().field_4, blocks(), bytes); }
     void set_field_5(exact_number<std::uint32_t> value) noexcept { change::set_number<5>(c(), c().field_5, value); }
     void set_field_6(exact_number<std::uint32_t> value) noexcept { change::set_number<6>(c(), c().field_6, value); }
     void set_field_7(exact_number<std::uint32_t> value) noexcept { change::set_number<7>(c(), c().field_7, value); }
-    result set_field_8(std::optional<bytes_view> bytes) noexcept { return change::set_bytes<8>(c(), c().field_8, blocks(), bytes); }
+    result set_field_8(std::optional<bytes_argument> bytes) noexcept { return change::set_bytes<8>(c(), c().field_8, blocks(), bytes); }
 
 private:
     mava_tum_subscriber_li &c() noexcept { return static_cast<Derived &>(*this).mutable_c_record(); }
@@ -656,7 +670,8 @@ public:
     // 1: varint
     std::optional<std::uint32_t> field_1() const noexcept { return access::number_of<1>(c(), c().field_1); }
     // 2: text
-    std::optional<std::string_view> field_2() const noexcept { return access::text_of<2>(c(), c().field_2); }
+    std::optional<std::string_view> field_2() const & noexcept { return access::text_of<2>(c(), c().field_2); }
+    std::optional<std::string_view> field_2() const && noexcept { return access::lasting<Derived>(*this).field_2(); }
     // 3: fixed32; IPv4 address, network byte order
     std::optional<std::uint32_t> field_3() const noexcept { return access::number_of<3>(c(), c().field_3); }
     // 4: varint
@@ -664,13 +679,15 @@ public:
     // 5: fixed32; IPv4 address, network byte order
     std::optional<std::uint32_t> field_5() const noexcept { return access::number_of<5>(c(), c().field_5); }
     // 6: text
-    std::optional<std::string_view> field_6() const noexcept { return access::text_of<6>(c(), c().field_6); }
+    std::optional<std::string_view> field_6() const & noexcept { return access::text_of<6>(c(), c().field_6); }
+    std::optional<std::string_view> field_6() const && noexcept { return access::lasting<Derived>(*this).field_6(); }
     // 7: varint
     std::optional<std::uint32_t> field_7() const noexcept { return access::number_of<7>(c(), c().field_7); }
     // 8: varint
     std::optional<std::uint32_t> field_8() const noexcept { return access::number_of<8>(c(), c().field_8); }
     // 9: text
-    std::optional<std::string_view> field_9() const noexcept { return access::text_of<9>(c(), c().field_9); }
+    std::optional<std::string_view> field_9() const & noexcept { return access::text_of<9>(c(), c().field_9); }
+    std::optional<std::string_view> field_9() const && noexcept { return access::lasting<Derived>(*this).field_9(); }
 
 private:
     const mava_tum_subscriber_route_ipv4 &c() const noexcept { return static_cast<const Derived &>(*this).c_record(); }
@@ -748,21 +765,26 @@ public:
     // 1: varint
     std::optional<std::uint32_t> field_1() const noexcept { return access::number_of<1>(c(), c().field_1); }
     // 2: text
-    std::optional<std::string_view> field_2() const noexcept { return access::text_of<2>(c(), c().field_2); }
+    std::optional<std::string_view> field_2() const & noexcept { return access::text_of<2>(c(), c().field_2); }
+    std::optional<std::string_view> field_2() const && noexcept { return access::lasting<Derived>(*this).field_2(); }
     // 3: bytes
-    std::optional<bytes_view> field_3() const noexcept { return access::bytes_of<3>(c(), c().field_3); }
+    std::optional<bytes_view> field_3() const & noexcept { return access::bytes_of<3>(c(), c().field_3); }
+    std::optional<bytes_view> field_3() const && noexcept { return access::lasting<Derived>(*this).field_3(); }
     // 4: varint
     std::optional<std::uint32_t> field_4() const noexcept { return access::number_of<4>(c(), c().field_4); }
     // 5: bytes
-    std::optional<bytes_view> field_5() const noexcept { return access::bytes_of<5>(c(), c().field_5); }
+    std::optional<bytes_view> field_5() const & noexcept { return access::bytes_of<5>(c(), c().field_5); }
+    std::optional<bytes_view> field_5() const && noexcept { return access::lasting<Derived>(*this).field_5(); }
     // 6: text
-    std::optional<std::string_view> field_6() const noexcept { return access::text_of<6>(c(), c().field_6); }
+    std::optional<std::string_view> field_6() const & noexcept { return access::text_of<6>(c(), c().field_6); }
+    std::optional<std::string_view> field_6() const && noexcept { return access::lasting<Derived>(*this).field_6(); }
     // 7: varint
     std::optional<std::uint32_t> field_7() const noexcept { return access::number_of<7>(c(), c().field_7); }
     // 8: varint
     std::optional<std::uint32_t> field_8() const noexcept { return access::number_of<8>(c(), c().field_8); }
     // 9: text
-    std::optional<std::string_view> field_9() const noexcept { return access::text_of<9>(c(), c().field_9); }
+    std::optional<std::string_view> field_9() const & noexcept { return access::text_of<9>(c(), c().field_9); }
+    std::optional<std::string_view> field_9() const && noexcept { return access::lasting<Derived>(*this).field_9(); }
 
 private:
     const mava_tum_subscriber_route_ipv6 &c() const noexcept { return static_cast<const Derived &>(*this).c_record(); }
@@ -775,9 +797,9 @@ class subscriber_route_ipv6_changes
 public:
     void set_field_1(exact_number<std::uint32_t> value) noexcept { change::set_number<1>(c(), c().field_1, value); }
     result set_field_2(std::optional<std::string_view> text) noexcept { return change::set_text<2>(c(), c().field_2, blocks(), text); }
-    result set_field_3(std::optional<bytes_view> bytes) noexcept { return change::set_bytes<3>(c(), c().field_3, blocks(), bytes); }
+    result set_field_3(std::optional<bytes_argument> bytes) noexcept { return change::set_bytes<3>(c(), c().field_3, blocks(), bytes); }
     void set_field_4(exact_number<std::uint32_t> value) noexcept { change::set_number<4>(c(), c().field_4, value); }
-    result set_field_5(std::optional<bytes_view> bytes) noexcept { return change::set_bytes<5>(c(), c().field_5, blocks(), bytes); }
+    result set_field_5(std::optional<bytes_argument> bytes) noexcept { return change::set_bytes<5>(c(), c().field_5, blocks(), bytes); }
     result set_field_6(std::optional<std::string_view> text) noexcept { return change::set_text<6>(c(), c().field_6, blocks(), text); }
     void set_field_7(exact_number<std::uint32_t> value) noexcept { change::set_number<7>(c(), c().field_7, value); }
     void set_field_8(exact_number<std::uint32_t> value) noexcept { change::set_number<8>(c(), c().field_8, value); }

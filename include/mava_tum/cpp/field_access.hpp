@@ -11,6 +11,15 @@
 namespace mava_tum::cpp::access
 {
 
+// `fields`, for a function that returns what refers to the record. A record without a name must not be asked for that.
+template <class Derived, class Fields>
+Fields &lasting(Fields &fields) noexcept
+{
+    static_assert(!Derived::holds_record,
+        "what this function returns refers to a record that ends with the statement: give the record a name first");
+    return fields;
+}
+
 // Field n owns bit n-1.
 template <unsigned number, class Record>
 bool is_present(const Record &record) noexcept

@@ -57,7 +57,7 @@ result set_text(Record &record, char *&member, block_list *blocks, std::optional
 
 template <unsigned number, class Record>
 result set_bytes(
-    Record &record, mava_tum_bytes &member, block_list *blocks, std::optional<bytes_view> bytes) noexcept
+    Record &record, mava_tum_bytes &member, block_list *blocks, std::optional<bytes_argument> bytes) noexcept
 {
     mava_tum_bytes copy = {};
     if (bytes && !bytes->empty()) {
@@ -123,7 +123,7 @@ List make_list(
 // All of them, or when a block is refused none: the field stays as it is.
 template <unsigned number, class Record>
 result set_texts(Record &record, char **&member, std::uint32_t &member_count, block_list *blocks,
-    span<const std::string_view> texts) noexcept
+    argument_span<const std::string_view> texts) noexcept
 {
     if (std::uint64_t{texts.size()} > most_elements)
         return result::no_memory;

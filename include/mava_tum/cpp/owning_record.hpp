@@ -26,6 +26,9 @@ class owning_record : public encoding<Derived>
     using blocks = std::conditional_t<message::owns_memory, block_list, no_blocks>;
 
 public:
+    // The codec's record is a member.
+    static constexpr bool holds_record = true;
+
     // Without content; blocks will come from the heap.
     owning_record() noexcept : owning_record(memory()) {}
 
@@ -50,12 +53,12 @@ public:
 
     // What the record held before is gone, whatever the result. After a failure it holds the fields before the fault.
     // `wire` must not lie in this record's own memory.
-    result decode(bytes_view wire) noexcept
+    result decode(bytes_argument wire) noexcept
     {
         return decode(wire, 0);
     }
 
-    // The same, with bytes fields that point into `wire`.
+    // The same, with bytes fields that point into `wire`, which therefore has to have a name.
     result decode(alias_t, bytes_view wire) noexcept
     {
         return decode(wire, MAVA_TUM_ALIAS);
@@ -75,6 +78,12 @@ public:
         return code;
     }
 
+    // The same, also of a record that ends with the statement.
+    result copy_from(const Derived &source) noexcept
+    {
+        return copy_from(source.view());
+    }
+
     // A deep copy that takes its blocks from `source`; nothing when a block is refused.
     std::optional<Derived> clone(const memory &source = memory()) const noexcept
     {
@@ -92,25 +101,28 @@ public:
     }
 
     // To be read by whoever need not know who owns the record.
-    typename message::view view() const noexcept
+    typename message::view view() const &noexcept MAVA_TUM_LIFETIMEBOUND
     {
         return typename message::view(record_);
     }
+    typename message::view view() const && = delete; // the record ends with the statement: give it a name first
 
     // The same, where a function takes a view.
-    operator typename message::view() const noexcept
+    operator typename message::view() const &noexcept MAVA_TUM_LIFETIMEBOUND
     {
         return view();
     }
+    operator typename message::view() const && = delete; // the record ends with the statement: give it a name first
 
     // For the C functions, but not for the codec's free: the blocks are this object's.
-    const Record &c_record() const noexcept
+    const Record &c_record() const &noexcept MAVA_TUM_LIFETIMEBOUND
     {
         return record_;
     }
+    const Record &c_record() const && = delete; // the record ends with the statement: give it a name first
 
     // For what the setters do not do. Pointers set here are never released by this object: they may lead anywhere.
-    Record &mutable_c_record() noexcept
+    Record &mutable_c_record() &noexcept MAVA_TUM_LIFETIMEBOUND
     {
         return record_;
     }

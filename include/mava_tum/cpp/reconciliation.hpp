@@ -44,7 +44,8 @@ public:
     // 3: varint
     std::optional<std::uint32_t> field_3() const noexcept { return access::number_of<3>(c(), c().field_3); }
     // 4: text
-    std::optional<std::string_view> field_4() const noexcept { return access::text_of<4>(c(), c().field_4); }
+    std::optional<std::string_view> field_4() const & noexcept { return access::text_of<4>(c(), c().field_4); }
+    std::optional<std::string_view> field_4() const && noexcept { return access::lasting<Derived>(*this).field_4(); }
 
 private:
     const mava_tum_rec_start_req &c() const noexcept { return static_cast<const Derived &>(*this).c_record(); }
@@ -121,7 +122,8 @@ public:
     // 3: varint
     std::optional<std::uint32_t> field_3() const noexcept { return access::number_of<3>(c(), c().field_3); }
     // 4: text
-    std::optional<std::string_view> field_4() const noexcept { return access::text_of<4>(c(), c().field_4); }
+    std::optional<std::string_view> field_4() const & noexcept { return access::text_of<4>(c(), c().field_4); }
+    std::optional<std::string_view> field_4() const && noexcept { return access::lasting<Derived>(*this).field_4(); }
 
 private:
     const mava_tum_rec_complete_req &c() const noexcept { return static_cast<const Derived &>(*this).c_record(); }
@@ -194,7 +196,8 @@ public:
     // 1: varint
     std::optional<std::uint32_t> field_1() const noexcept { return access::number_of<1>(c(), c().field_1); }
     // 2: text
-    std::optional<std::string_view> field_2() const noexcept { return access::text_of<2>(c(), c().field_2); }
+    std::optional<std::string_view> field_2() const & noexcept { return access::text_of<2>(c(), c().field_2); }
+    std::optional<std::string_view> field_2() const && noexcept { return access::lasting<Derived>(*this).field_2(); }
     // 3: varint
     std::optional<std::uint32_t> field_3() const noexcept { return access::number_of<3>(c(), c().field_3); }
 
@@ -343,11 +346,14 @@ public:
     // 2: varint
     std::optional<std::uint32_t> field_2() const noexcept { return access::number_of<2>(c(), c().field_2); }
     // 3: array of records
-    rec_session_state_list field_3() const noexcept { return access::list_of<3, rec_session_state_list>(c(), c().field_3, c().field_3_count); }
+    rec_session_state_list field_3() const & noexcept { return access::list_of<3, rec_session_state_list>(c(), c().field_3, c().field_3_count); }
+    rec_session_state_list field_3() const && noexcept { return access::lasting<Derived>(*this).field_3(); }
     // 4: text
-    std::optional<std::string_view> field_4() const noexcept { return access::text_of<4>(c(), c().field_4); }
+    std::optional<std::string_view> field_4() const & noexcept { return access::text_of<4>(c(), c().field_4); }
+    std::optional<std::string_view> field_4() const && noexcept { return access::lasting<Derived>(*this).field_4(); }
     // 5: text
-    std::optional<std::string_view> field_5() const noexcept { return access::text_of<5>(c(), c().field_5); }
+    std::optional<std::string_view> field_5() const & noexcept { return access::text_of<5>(c(), c().field_5); }
+    std::optional<std::string_view> field_5() const && noexcept { return access::lasting<Derived>(*this).field_5(); }
     // 6: varint
     std::optional<std::uint32_t> field_6() const noexcept { return access::number_of<6>(c(), c().field_6); }
 
@@ -362,7 +368,8 @@ class rec_sess_req_changes
 public:
     void set_field_1(exact_number<std::uint32_t> value) noexcept { change::set_number<1>(c(), c().field_1, value); }
     void set_field_2(exact_number<std::uint32_t> value) noexcept { change::set_number<2>(c(), c().field_2, value); }
-    rec_session_state_editors make_field_3(exact_number<std::uint64_t> count) noexcept { return change::make_list<3, rec_session_state_editors>(c(), c().field_3, c().field_3_count, blocks(), count.number()); }
+    rec_session_state_editors make_field_3(exact_number<std::uint64_t> count) & noexcept { return change::make_list<3, rec_session_state_editors>(c(), c().field_3, c().field_3_count, blocks(), count.number()); }
+    rec_session_state_editors make_field_3(exact_number<std::uint64_t> count) && noexcept { return access::lasting<Derived>(*this).make_field_3(count); }
     result set_field_4(std::optional<std::string_view> text) noexcept { return change::set_text<4>(c(), c().field_4, blocks(), text); }
     result set_field_5(std::optional<std::string_view> text) noexcept { return change::set_text<5>(c(), c().field_5, blocks(), text); }
     void set_field_6(exact_number<std::uint32_t> value) noexcept { change::set_number<6>(c(), c().field_6, value); }
@@ -424,7 +431,8 @@ public:
     // 1: varint
     std::optional<std::uint32_t> field_1() const noexcept { return access::number_of<1>(c(), c().field_1); }
     // 2: array of records
-    rec_session_state_list field_2() const noexcept { return access::list_of<2, rec_session_state_list>(c(), c().field_2, c().field_2_count); }
+    rec_session_state_list field_2() const & noexcept { return access::list_of<2, rec_session_state_list>(c(), c().field_2, c().field_2_count); }
+    rec_session_state_list field_2() const && noexcept { return access::lasting<Derived>(*this).field_2(); }
     // 3: varint
     std::optional<std::uint32_t> field_3() const noexcept { return access::number_of<3>(c(), c().field_3); }
     // 4: varint
@@ -440,7 +448,8 @@ class rec_sess_resp_changes
 {
 public:
     void set_field_1(exact_number<std::uint32_t> value) noexcept { change::set_number<1>(c(), c().field_1, value); }
-    rec_session_state_editors make_field_2(exact_number<std::uint64_t> count) noexcept { return change::make_list<2, rec_session_state_editors>(c(), c().field_2, c().field_2_count, blocks(), count.number()); }
+    rec_session_state_editors make_field_2(exact_number<std::uint64_t> count) & noexcept { return change::make_list<2, rec_session_state_editors>(c(), c().field_2, c().field_2_count, blocks(), count.number()); }
+    rec_session_state_editors make_field_2(exact_number<std::uint64_t> count) && noexcept { return access::lasting<Derived>(*this).make_field_2(count); }
     void set_field_3(exact_number<std::uint32_t> value) noexcept { change::set_number<3>(c(), c().field_3, value); }
     void set_field_4(exact_number<std::uint32_t> value) noexcept { change::set_number<4>(c(), c().field_4, value); }
 
@@ -505,11 +514,13 @@ public:
     // 3: varint
     std::optional<std::uint32_t> field_3() const noexcept { return access::number_of<3>(c(), c().field_3); }
     // 4: array of records
-    session_context_list field_4() const noexcept { return access::list_of<4, session_context_list>(c(), c().field_4, c().field_4_count); }
+    session_context_list field_4() const & noexcept { return access::list_of<4, session_context_list>(c(), c().field_4, c().field_4_count); }
+    session_context_list field_4() const && noexcept { return access::lasting<Derived>(*this).field_4(); }
     // 5: varint
     std::optional<std::uint32_t> field_5() const noexcept { return access::number_of<5>(c(), c().field_5); }
     // 6: text
-    std::optional<std::string_view> field_6() const noexcept { return access::text_of<6>(c(), c().field_6); }
+    std::optional<std::string_view> field_6() const & noexcept { return access::text_of<6>(c(), c().field_6); }
+    std::optional<std::string_view> field_6() const && noexcept { return access::lasting<Derived>(*this).field_6(); }
 
 private:
     const mava_tum_rec_sess_replay_req &c() const noexcept { return static_cast<const Derived &>(*this).c_record(); }
@@ -523,7 +534,8 @@ public:
     void set_field_1(exact_number<std::uint32_t> value) noexcept { change::set_number<1>(c(), c().field_1, value); }
     void set_field_2(exact_number<std::uint32_t> value) noexcept { change::set_number<2>(c(), c().field_2, value); }
     void set_field_3(exact_number<std::uint32_t> value) noexcept { change::set_number<3>(c(), c().field_3, value); }
-    session_context_editors make_field_4(exact_number<std::uint64_t> count) noexcept { return change::make_list<4, session_context_editors>(c(), c().field_4, c().field_4_count, blocks(), count.number()); }
+    session_context_editors make_field_4(exact_number<std::uint64_t> count) & noexcept { return change::make_list<4, session_context_editors>(c(), c().field_4, c().field_4_count, blocks(), count.number()); }
+    session_context_editors make_field_4(exact_number<std::uint64_t> count) && noexcept { return access::lasting<Derived>(*this).make_field_4(count); }
     void set_field_5(exact_number<std::uint32_t> value) noexcept { change::set_number<5>(c(), c().field_5, value); }
     result set_field_6(std::optional<std::string_view> text) noexcept { return change::set_text<6>(c(), c().field_6, blocks(), text); }
 
@@ -586,7 +598,8 @@ public:
     // 2: varint
     std::optional<std::uint32_t> field_2() const noexcept { return access::number_of<2>(c(), c().field_2); }
     // 3: record
-    subscriber_stats_view field_3() const noexcept { return access::record_of<3, subscriber_stats_view>(c(), c().field_3); }
+    subscriber_stats_view field_3() const & noexcept { return access::record_of<3, subscriber_stats_view>(c(), c().field_3); }
+    subscriber_stats_view field_3() const && noexcept { return access::lasting<Derived>(*this).field_3(); }
 
 private:
     const mava_tum_rec_sess_replay_fail &c() const noexcept { return static_cast<const Derived &>(*this).c_record(); }
@@ -599,7 +612,8 @@ class rec_sess_replay_fail_changes
 public:
     void set_field_1(exact_number<std::uint64_t> value) noexcept { change::set_number<1>(c(), c().field_1, value); }
     void set_field_2(exact_number<std::uint32_t> value) noexcept { change::set_number<2>(c(), c().field_2, value); }
-    subscriber_stats_editor edit_field_3() noexcept { return change::edit_record<3, subscriber_stats_editor>(c(), c().field_3, blocks()); }
+    subscriber_stats_editor edit_field_3() & noexcept { return change::edit_record<3, subscriber_stats_editor>(c(), c().field_3, blocks()); }
+    subscriber_stats_editor edit_field_3() && noexcept { return access::lasting<Derived>(*this).edit_field_3(); }
     void clear_field_3() noexcept { change::clear_record<3>(c(), c().field_3); }
 
 private:
@@ -665,7 +679,8 @@ public:
     // 4: varint
     std::optional<std::uint32_t> field_4() const noexcept { return access::number_of<4>(c(), c().field_4); }
     // 5: array of texts
-    text_list field_5() const noexcept { return access::list_of<5, text_list>(c(), c().field_5, c().field_5_count); }
+    text_list field_5() const & noexcept { return access::list_of<5, text_list>(c(), c().field_5, c().field_5_count); }
+    text_list field_5() const && noexcept { return access::lasting<Derived>(*this).field_5(); }
 
 private:
     const mava_tum_sess_svc_start &c() const noexcept { return static_cast<const Derived &>(*this).c_record(); }
@@ -680,7 +695,7 @@ public:
     void set_field_2(exact_number<std::uint32_t> value) noexcept { change::set_number<2>(c(), c().field_2, value); }
     void set_field_3(exact_number<std::uint32_t> value) noexcept { change::set_number<3>(c(), c().field_3, value); }
     void set_field_4(exact_number<std::uint32_t> value) noexcept { change::set_number<4>(c(), c().field_4, value); }
-    result set_field_5(span<const std::string_view> texts) noexcept { return change::set_texts<5>(c(), c().field_5, c().field_5_count, blocks(), texts); }
+    result set_field_5(argument_span<const std::string_view> texts) noexcept { return change::set_texts<5>(c(), c().field_5, c().field_5_count, blocks(), texts); }
 
 private:
     mava_tum_sess_svc_start &c() noexcept { return static_cast<Derived &>(*this).mutable_c_record(); }
@@ -739,11 +754,14 @@ public:
     // 1: varint
     std::optional<std::uint32_t> field_1() const noexcept { return access::number_of<1>(c(), c().field_1); }
     // 2: array of records
-    rec_sess_replay_fail_list field_2() const noexcept { return access::list_of<2, rec_sess_replay_fail_list>(c(), c().field_2, c().field_2_count); }
+    rec_sess_replay_fail_list field_2() const & noexcept { return access::list_of<2, rec_sess_replay_fail_list>(c(), c().field_2, c().field_2_count); }
+    rec_sess_replay_fail_list field_2() const && noexcept { return access::lasting<Derived>(*this).field_2(); }
     // 3: array of records
-    sess_svc_start_list field_3() const noexcept { return access::list_of<3, sess_svc_start_list>(c(), c().field_3, c().field_3_count); }
+    sess_svc_start_list field_3() const & noexcept { return access::list_of<3, sess_svc_start_list>(c(), c().field_3, c().field_3_count); }
+    sess_svc_start_list field_3() const && noexcept { return access::lasting<Derived>(*this).field_3(); }
     // 4: text
-    std::optional<std::string_view> field_4() const noexcept { return access::text_of<4>(c(), c().field_4); }
+    std::optional<std::string_view> field_4() const & noexcept { return access::text_of<4>(c(), c().field_4); }
+    std::optional<std::string_view> field_4() const && noexcept { return access::lasting<Derived>(*this).field_4(); }
     // 5: varint
     std::optional<std::uint32_t> field_5() const noexcept { return access::number_of<5>(c(), c().field_5); }
 
@@ -757,8 +775,10 @@ class rec_sess_replay_resp_changes
 {
 public:
     void set_field_1(exact_number<std::uint32_t> value) noexcept { change::set_number<1>(c(), c().field_1, value); }
-    rec_sess_replay_fail_editors make_field_2(exact_number<std::uint64_t> count) noexcept { return change::make_list<2, rec_sess_replay_fail_editors>(c(), c().field_2, c().field_2_count, blocks(), count.number()); }
-    sess_svc_start_editors make_field_3(exact_number<std::uint64_t> count) noexcept { return change::make_list<3, sess_svc_start_editors>(c(), c().field_3, c().field_3_count, blocks(), count.number()); }
+    rec_sess_replay_fail_editors make_field_2(exact_number<std::uint64_t> count) & noexcept { return change::make_list<2, rec_sess_replay_fail_editors>(c(), c().field_2, c().field_2_count, blocks(), count.number()); }
+    rec_sess_replay_fail_editors make_field_2(exact_number<std::uint64_t> count) && noexcept { return access::lasting<Derived>(*this).make_field_2(count); }
+    sess_svc_start_editors make_field_3(exact_number<std::uint64_t> count) & noexcept { return change::make_list<3, sess_svc_start_editors>(c(), c().field_3, c().field_3_count, blocks(), count.number()); }
+    sess_svc_start_editors make_field_3(exact_number<std::uint64_t> count) && noexcept { return access::lasting<Derived>(*this).make_field_3(count); }
     result set_field_4(std::optional<std::string_view> text) noexcept { return change::set_text<4>(c(), c().field_4, blocks(), text); }
     void set_field_5(exact_number<std::uint32_t> value) noexcept { change::set_number<5>(c(), c().field_5, value); }
 

@@ -14,6 +14,9 @@ template <class Derived, class Record>
 class record_editor : public encoding<Derived>
 {
 public:
+    // The codec's record lies somewhere else.
+    static constexpr bool holds_record = false;
+
     // `blocks` is the list of the record that owns all of it.
     record_editor(Record &record, block_list *blocks) noexcept : record_(&record), blocks_(blocks) {}
 

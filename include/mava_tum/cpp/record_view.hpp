@@ -18,11 +18,17 @@ template <class Derived, class Record>
 class record_view : public encoding<Derived>
 {
 public:
+    // The codec's record lies somewhere else.
+    static constexpr bool holds_record = false;
+
     // Any record of the codec can be read through a view.
     explicit record_view(const Record &record, bool present = true) noexcept
         : record_(present ? &record : &absent_record<Record>), present_(present)
     {
     }
+
+    // What it refers to would end with the statement.
+    record_view(const Record &&, bool = true) = delete;
 
     bool has_value() const noexcept
     {
@@ -34,7 +40,12 @@ public:
         return present_;
     }
 
-    const Derived &operator*() const noexcept
+    const Derived &operator*() const &noexcept
+    {
+        return static_cast<const Derived &>(*this);
+    }
+
+    Derived operator*() const &&noexcept
     {
         return static_cast<const Derived &>(*this);
     }

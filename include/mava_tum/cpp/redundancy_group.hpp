@@ -260,7 +260,8 @@ public:
     // 4: varint
     std::optional<std::uint32_t> field_4() const noexcept { return access::number_of<4>(c(), c().field_4); }
     // 5: text
-    std::optional<std::string_view> field_5() const noexcept { return access::text_of<5>(c(), c().field_5); }
+    std::optional<std::string_view> field_5() const & noexcept { return access::text_of<5>(c(), c().field_5); }
+    std::optional<std::string_view> field_5() const && noexcept { return access::lasting<Derived>(*this).field_5(); }
 
 private:
     const mava_tum_srg_group_data &c() const noexcept { return static_cast<const Derived &>(*this).c_record(); }
@@ -336,7 +337,8 @@ public:
     // 2: varint
     std::optional<std::uint32_t> field_2() const noexcept { return access::number_of<2>(c(), c().field_2); }
     // 3: array of records
-    srg_group_data_list field_3() const noexcept { return access::list_of<3, srg_group_data_list>(c(), c().field_3, c().field_3_count); }
+    srg_group_data_list field_3() const & noexcept { return access::list_of<3, srg_group_data_list>(c(), c().field_3, c().field_3_count); }
+    srg_group_data_list field_3() const && noexcept { return access::lasting<Derived>(*this).field_3(); }
     // 4: varint
     std::optional<std::uint32_t> field_4() const noexcept { return access::number_of<4>(c(), c().field_4); }
 
@@ -351,7 +353,8 @@ class srg_group_rec_replay_req_changes
 public:
     void set_field_1(exact_number<std::uint32_t> value) noexcept { change::set_number<1>(c(), c().field_1, value); }
     void set_field_2(exact_number<std::uint32_t> value) noexcept { change::set_number<2>(c(), c().field_2, value); }
-    srg_group_data_editors make_field_3(exact_number<std::uint64_t> count) noexcept { return change::make_list<3, srg_group_data_editors>(c(), c().field_3, c().field_3_count, blocks(), count.number()); }
+    srg_group_data_editors make_field_3(exact_number<std::uint64_t> count) & noexcept { return change::make_list<3, srg_group_data_editors>(c(), c().field_3, c().field_3_count, blocks(), count.number()); }
+    srg_group_data_editors make_field_3(exact_number<std::uint64_t> count) && noexcept { return access::lasting<Derived>(*this).make_field_3(count); }
     void set_field_4(exact_number<std::uint32_t> value) noexcept { change::set_number<4>(c(), c().field_4, value); }
 
 private:
@@ -411,9 +414,11 @@ public:
     // 1: varint
     std::optional<std::uint32_t> field_1() const noexcept { return access::number_of<1>(c(), c().field_1); }
     // 2: array of records
-    srg_group_data_list field_2() const noexcept { return access::list_of<2, srg_group_data_list>(c(), c().field_2, c().field_2_count); }
+    srg_group_data_list field_2() const & noexcept { return access::list_of<2, srg_group_data_list>(c(), c().field_2, c().field_2_count); }
+    srg_group_data_list field_2() const && noexcept { return access::lasting<Derived>(*this).field_2(); }
     // 3: array of records
-    srg_group_data_list field_3() const noexcept { return access::list_of<3, srg_group_data_list>(c(), c().field_3, c().field_3_count); }
+    srg_group_data_list field_3() const & noexcept { return access::list_of<3, srg_group_data_list>(c(), c().field_3, c().field_3_count); }
+    srg_group_data_list field_3() const && noexcept { return access::lasting<Derived>(*this).field_3(); }
     // 4: varint
     std::optional<std::uint32_t> field_4() const noexcept { return access::number_of<4>(c(), c().field_4); }
 
@@ -427,8 +432,10 @@ class srg_group_rec_replay_resp_changes
 {
 public:
     void set_field_1(exact_number<std::uint32_t> value) noexcept { change::set_number<1>(c(), c().field_1, value); }
-    srg_group_data_editors make_field_2(exact_number<std::uint64_t> count) noexcept { return change::make_list<2, srg_group_data_editors>(c(), c().field_2, c().field_2_count, blocks(), count.number()); }
-    srg_group_data_editors make_field_3(exact_number<std::uint64_t> count) noexcept { return change::make_list<3, srg_group_data_editors>(c(), c().field_3, c().field_3_count, blocks(), count.number()); }
+    srg_group_data_editors make_field_2(exact_number<std::uint64_t> count) & noexcept { return change::make_list<2, srg_group_data_editors>(c(), c().field_2, c().field_2_count, blocks(), count.number()); }
+    srg_group_data_editors make_field_2(exact_number<std::uint64_t> count) && noexcept { return access::lasting<Derived>(*this).make_field_2(count); }
+    srg_group_data_editors make_field_3(exact_number<std::uint64_t> count) & noexcept { return change::make_list<3, srg_group_data_editors>(c(), c().field_3, c().field_3_count, blocks(), count.number()); }
+    srg_group_data_editors make_field_3(exact_number<std::uint64_t> count) && noexcept { return access::lasting<Derived>(*this).make_field_3(count); }
     void set_field_4(exact_number<std::uint32_t> value) noexcept { change::set_number<4>(c(), c().field_4, value); }
 
 private:

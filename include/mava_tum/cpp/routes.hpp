@@ -43,9 +43,11 @@ public:
     // 3: varint
     std::optional<std::uint32_t> field_3() const noexcept { return access::number_of<3>(c(), c().field_3); }
     // 4: array of records
-    subscriber_route_ipv4_list ipv4_routes() const noexcept { return access::list_of<4, subscriber_route_ipv4_list>(c(), c().ipv4_routes, c().ipv4_route_count); }
+    subscriber_route_ipv4_list ipv4_routes() const & noexcept { return access::list_of<4, subscriber_route_ipv4_list>(c(), c().ipv4_routes, c().ipv4_route_count); }
+    subscriber_route_ipv4_list ipv4_routes() const && noexcept { return access::lasting<Derived>(*this).ipv4_routes(); }
     // 5: array of records
-    subscriber_route_ipv6_list ipv6_routes() const noexcept { return access::list_of<5, subscriber_route_ipv6_list>(c(), c().ipv6_routes, c().ipv6_route_count); }
+    subscriber_route_ipv6_list ipv6_routes() const & noexcept { return access::list_of<5, subscriber_route_ipv6_list>(c(), c().ipv6_routes, c().ipv6_route_count); }
+    subscriber_route_ipv6_list ipv6_routes() const && noexcept { return access::lasting<Derived>(*this).ipv6_routes(); }
     // 6: varint
     std::optional<std::uint32_t> field_6() const noexcept { return access::number_of<6>(c(), c().field_6); }
 
@@ -61,8 +63,10 @@ public:
     void set_field_1(exact_number<std::uint32_t> value) noexcept { change::set_number<1>(c(), c().field_1, value); }
     void set_field_2(exact_number<std::uint32_t> value) noexcept { change::set_number<2>(c(), c().field_2, value); }
     void set_field_3(exact_number<std::uint32_t> value) noexcept { change::set_number<3>(c(), c().field_3, value); }
-    subscriber_route_ipv4_editors make_ipv4_routes(exact_number<std::uint64_t> count) noexcept { return change::make_list<4, subscriber_route_ipv4_editors>(c(), c().ipv4_routes, c().ipv4_route_count, blocks(), count.number()); }
-    subscriber_route_ipv6_editors make_ipv6_routes(exact_number<std::uint64_t> count) noexcept { return change::make_list<5, subscriber_route_ipv6_editors>(c(), c().ipv6_routes, c().ipv6_route_count, blocks(), count.number()); }
+    subscriber_route_ipv4_editors make_ipv4_routes(exact_number<std::uint64_t> count) & noexcept { return change::make_list<4, subscriber_route_ipv4_editors>(c(), c().ipv4_routes, c().ipv4_route_count, blocks(), count.number()); }
+    subscriber_route_ipv4_editors make_ipv4_routes(exact_number<std::uint64_t> count) && noexcept { return access::lasting<Derived>(*this).make_ipv4_routes(count); }
+    subscriber_route_ipv6_editors make_ipv6_routes(exact_number<std::uint64_t> count) & noexcept { return change::make_list<5, subscriber_route_ipv6_editors>(c(), c().ipv6_routes, c().ipv6_route_count, blocks(), count.number()); }
+    subscriber_route_ipv6_editors make_ipv6_routes(exact_number<std::uint64_t> count) && noexcept { return access::lasting<Derived>(*this).make_ipv6_routes(count); }
     void set_field_6(exact_number<std::uint32_t> value) noexcept { change::set_number<6>(c(), c().field_6, value); }
 
 private:
@@ -124,9 +128,11 @@ public:
     // 2: varint
     std::optional<std::uint32_t> field_2() const noexcept { return access::number_of<2>(c(), c().field_2); }
     // 3: text
-    std::optional<std::string_view> field_3() const noexcept { return access::text_of<3>(c(), c().field_3); }
+    std::optional<std::string_view> field_3() const & noexcept { return access::text_of<3>(c(), c().field_3); }
+    std::optional<std::string_view> field_3() const && noexcept { return access::lasting<Derived>(*this).field_3(); }
     // 4: text
-    std::optional<std::string_view> field_4() const noexcept { return access::text_of<4>(c(), c().field_4); }
+    std::optional<std::string_view> field_4() const & noexcept { return access::text_of<4>(c(), c().field_4); }
+    std::optional<std::string_view> field_4() const && noexcept { return access::lasting<Derived>(*this).field_4(); }
 
 private:
     const mava_tum_subscriber_route_resp &c() const noexcept { return static_cast<const Derived &>(*this).c_record(); }

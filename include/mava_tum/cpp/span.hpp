@@ -11,6 +11,13 @@
 #include <type_traits>
 #include <utility>
 
+// Where the compiler has it: warns when the result outlives what it was made from.
+#if defined(__clang__) && __has_cpp_attribute(clang::lifetimebound)
+#define MAVA_TUM_LIFETIMEBOUND [[clang::lifetimebound]]
+#else
+#define MAVA_TUM_LIFETIMEBOUND
+#endif
+
 namespace mava_tum::cpp
 {
 
@@ -18,12 +25,24 @@ namespace mava_tum::cpp
 template <class Element>
 class span
 {
-    // The container's elements are ours, or ours without const.
+    // Of a container whose elements are ours, or ours without const.
     template <class Container>
-    using if_contiguous = std::enable_if_t<
+    using data_of = std::enable_if_t<
         std::is_convertible_v<std::remove_pointer_t<decltype(std::declval<Container &>().data())> (*)[],
             Element (*)[]> &&
-        std::is_convertible_v<decltype(std::declval<Container &>().size()), std::size_t>>;
+            std::is_convertible_v<decltype(std::declval<Container &>().size()), std::size_t>,
+        decltype(std::declval<Container &>().data())>;
+
+    // The elements of a std::span are not const when it is itself: it does not own them. Those of a std::vector are.
+    template <class Container>
+    using is_view = std::is_same<decltype(std::declval<std::remove_const_t<Container> &>().data()),
+        decltype(std::declval<const Container &>().data())>;
+
+    template <class Container>
+    using if_view = std::enable_if_t<is_view<Container>::value, data_of<Container>>;
+
+    template <class Container>
+    using if_owner = std::enable_if_t<!is_view<Container>::value, data_of<Container>>;
 
 public:
     using element_type = Element;
@@ -38,15 +57,25 @@ public:
 
     // All of an array.
     template <std::size_t size>
-    constexpr span(Element (&array)[size]) noexcept : data_(array), size_(size)
+    constexpr span(Element (&array MAVA_TUM_LIFETIMEBOUND)[size]) noexcept : data_(array), size_(size)
     {
     }
 
-    // What a container holds at the time: a std::vector, a std::array, a std::string, a std::span.
-    template <class Container, class = if_contiguous<Container>>
-    constexpr span(Container &&container) noexcept : data_(container.data()), size_(container.size())
+    // What another view refers to: a std::span, a span without const.
+    template <class View, class = if_view<const View>>
+    constexpr span(const View &view) noexcept : data_(view.data()), size_(view.size())
     {
     }
+
+    // What a container holds at the time: a std::vector, a std::array, a std::string.
+    template <class Owner, class = if_owner<Owner>>
+    constexpr span(Owner &owner MAVA_TUM_LIFETIMEBOUND) noexcept : data_(owner.data()), size_(owner.size())
+    {
+    }
+
+    // A container without a name.
+    template <class Owner, class = if_owner<Owner>>
+    span(const Owner &&) = delete; // what it holds ends with the statement: give it a name first
 
     constexpr Element *data() const noexcept
     {
@@ -90,11 +119,39 @@ private:
     std::size_t size_ = 0;
 };
 
+// For parameters only: what a function has read when it returns. So it can also be given what ends with the statement,
+// such as the vector that encode() returns.
+template <class Element>
+class argument_span : public span<Element>
+{
+public:
+    // No elements.
+    constexpr argument_span() noexcept = default;
+
+    // `size` elements from `data` on; `data` may be null if there are none.
+    constexpr argument_span(Element *data, std::size_t size) noexcept : span<Element>(data, size) {}
+
+    // All of an array.
+    template <std::size_t size>
+    constexpr argument_span(Element (&array)[size]) noexcept : span<Element>(array)
+    {
+    }
+
+    // What a container holds at the time, with or without a name.
+    template <class Container, class = decltype(span<Element>(std::declval<std::remove_reference_t<Container> &>()))>
+    constexpr argument_span(Container &&container) noexcept : span<Element>(container.data(), container.size())
+    {
+    }
+};
+
 // Wire bytes, and the content of a bytes field.
 using bytes_view = span<const std::uint8_t>;
 
+// Wire bytes, or the content of a bytes field, for a function that has read them when it returns.
+using bytes_argument = argument_span<const std::uint8_t>;
+
 // The bytes of a text, for what came in as one.
-inline bytes_view bytes_of(std::string_view text) noexcept
+inline bytes_view bytes_of(std::string_view text MAVA_TUM_LIFETIMEBOUND) noexcept
 {
     return {reinterpret_cast<const std::uint8_t *>(text.data()), text.size()};
 }

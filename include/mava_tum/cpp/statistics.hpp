@@ -154,9 +154,11 @@ class service_stats_fields
 {
 public:
     // 1: text
-    std::optional<std::string_view> field_1() const noexcept { return access::text_of<1>(c(), c().field_1); }
+    std::optional<std::string_view> field_1() const & noexcept { return access::text_of<1>(c(), c().field_1); }
+    std::optional<std::string_view> field_1() const && noexcept { return access::lasting<Derived>(*this).field_1(); }
     // 2: record
-    stats_view field_2() const noexcept { return access::record_of<2, stats_view>(c(), c().field_2); }
+    stats_view field_2() const & noexcept { return access::record_of<2, stats_view>(c(), c().field_2); }
+    stats_view field_2() const && noexcept { return access::lasting<Derived>(*this).field_2(); }
 
 private:
     const mava_tum_service_stats &c() const noexcept { return static_cast<const Derived &>(*this).c_record(); }
@@ -168,7 +170,8 @@ class service_stats_changes
 {
 public:
     result set_field_1(std::optional<std::string_view> text) noexcept { return change::set_text<1>(c(), c().field_1, blocks(), text); }
-    stats_editor edit_field_2() noexcept { return change::edit_record<2, stats_editor>(c(), c().field_2, blocks()); }
+    stats_editor edit_field_2() & noexcept { return change::edit_record<2, stats_editor>(c(), c().field_2, blocks()); }
+    stats_editor edit_field_2() && noexcept { return access::lasting<Derived>(*this).edit_field_2(); }
     void clear_field_2() noexcept { change::clear_record<2>(c(), c().field_2); }
 
 private:
@@ -238,17 +241,21 @@ public:
     // 6: varint
     std::optional<std::uint32_t> field_6() const noexcept { return access::number_of<6>(c(), c().field_6); }
     // 7: record
-    stats_view field_7() const noexcept { return access::record_of<7, stats_view>(c(), c().field_7); }
+    stats_view field_7() const & noexcept { return access::record_of<7, stats_view>(c(), c().field_7); }
+    stats_view field_7() const && noexcept { return access::lasting<Derived>(*this).field_7(); }
     // 8: array of records
-    service_stats_list field_8() const noexcept { return access::list_of<8, service_stats_list>(c(), c().field_8, c().field_8_count); }
+    service_stats_list field_8() const & noexcept { return access::list_of<8, service_stats_list>(c(), c().field_8, c().field_8_count); }
+    service_stats_list field_8() const && noexcept { return access::lasting<Derived>(*this).field_8(); }
     // 9: varint
     std::optional<std::uint32_t> field_9() const noexcept { return access::number_of<9>(c(), c().field_9); }
     // 10: record
-    stats_view field_10() const noexcept { return access::record_of<10, stats_view>(c(), c().field_10); }
+    stats_view field_10() const & noexcept { return access::record_of<10, stats_view>(c(), c().field_10); }
+    stats_view field_10() const && noexcept { return access::lasting<Derived>(*this).field_10(); }
     // 11: varint
     std::optional<std::uint32_t> field_11() const noexcept { return access::number_of<11>(c(), c().field_11); }
     // 12: record
-    stats_view field_12() const noexcept { return access::record_of<12, stats_view>(c(), c().field_12); }
+    stats_view field_12() const & noexcept { return access::record_of<12, stats_view>(c(), c().field_12); }
+    stats_view field_12() const && noexcept { return access::lasting<Derived>(*this).field_12(); }
 
 private:
     const mava_tum_subscriber_stats &c() const noexcept { return static_cast<const Derived &>(*this).c_record(); }
@@ -265,14 +272,18 @@ public:
     void set_field_4(exact_number<std::uint32_t> value) noexcept { change::set_number<4>(c(), c().field_4, value); }
     void set_field_5(exact_number<std::uint32_t> value) noexcept { change::set_number<5>(c(), c().field_5, value); }
     void set_field_6(exact_number<std::uint32_t> value) noexcept { change::set_number<6>(c(), c().field_6, value); }
-    stats_editor edit_field_7() noexcept { return change::edit_record<7, stats_editor>(c(), c().field_7, blocks()); }
+    stats_editor edit_field_7() & noexcept { return change::edit_record<7, stats_editor>(c(), c().field_7, blocks()); }
+    stats_editor edit_field_7() && noexcept { return access::lasting<Derived>(*this).edit_field_7(); }
     void clear_field_7() noexcept { change::clear_record<7>(c(), c().field_7); }
-    service_stats_editors make_field_8(exact_number<std::uint64_t> count) noexcept { return change::make_list<8, service_stats_editors>(c(), c().field_8, c().field_8_count, blocks(), count.number()); }
+    service_stats_editors make_field_8(exact_number<std::uint64_t> count) & noexcept { return change::make_list<8, service_stats_editors>(c(), c().field_8, c().field_8_count, blocks(), count.number()); }
+    service_stats_editors make_field_8(exact_number<std::uint64_t> count) && noexcept { return access::lasting<Derived>(*this).make_field_8(count); }
     void set_field_9(exact_number<std::uint32_t> value) noexcept { change::set_number<9>(c(), c().field_9, value); }
-    stats_editor edit_field_10() noexcept { return change::edit_record<10, stats_editor>(c(), c().field_10, blocks()); }
+    stats_editor edit_field_10() & noexcept { return change::edit_record<10, stats_editor>(c(), c().field_10, blocks()); }
+    stats_editor edit_field_10() && noexcept { return access::lasting<Derived>(*this).edit_field_10(); }
     void clear_field_10() noexcept { change::clear_record<10>(c(), c().field_10); }
     void set_field_11(exact_number<std::uint32_t> value) noexcept { change::set_number<11>(c(), c().field_11, value); }
-    stats_editor edit_field_12() noexcept { return change::edit_record<12, stats_editor>(c(), c().field_12, blocks()); }
+    stats_editor edit_field_12() & noexcept { return change::edit_record<12, stats_editor>(c(), c().field_12, blocks()); }
+    stats_editor edit_field_12() && noexcept { return access::lasting<Derived>(*this).edit_field_12(); }
     void clear_field_12() noexcept { change::clear_record<12>(c(), c().field_12); }
 
 private:

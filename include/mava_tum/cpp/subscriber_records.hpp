@@ -108,15 +108,19 @@ public:
     // 1: varint
     std::optional<std::uint32_t> field_1() const noexcept { return access::number_of<1>(c(), c().field_1); }
     // 2: bytes
-    std::optional<bytes_view> field_2() const noexcept { return access::bytes_of<2>(c(), c().field_2); }
+    std::optional<bytes_view> field_2() const & noexcept { return access::bytes_of<2>(c(), c().field_2); }
+    std::optional<bytes_view> field_2() const && noexcept { return access::lasting<Derived>(*this).field_2(); }
     // 3: bytes
-    std::optional<bytes_view> field_3() const noexcept { return access::bytes_of<3>(c(), c().field_3); }
+    std::optional<bytes_view> field_3() const & noexcept { return access::bytes_of<3>(c(), c().field_3); }
+    std::optional<bytes_view> field_3() const && noexcept { return access::lasting<Derived>(*this).field_3(); }
     // 4: bytes
-    std::optional<bytes_view> field_4() const noexcept { return access::bytes_of<4>(c(), c().field_4); }
+    std::optional<bytes_view> field_4() const & noexcept { return access::bytes_of<4>(c(), c().field_4); }
+    std::optional<bytes_view> field_4() const && noexcept { return access::lasting<Derived>(*this).field_4(); }
     // 5: varint
     std::optional<std::uint32_t> field_5() const noexcept { return access::number_of<5>(c(), c().field_5); }
     // 6: bytes
-    std::optional<bytes_view> field_6() const noexcept { return access::bytes_of<6>(c(), c().field_6); }
+    std::optional<bytes_view> field_6() const & noexcept { return access::bytes_of<6>(c(), c().field_6); }
+    std::optional<bytes_view> field_6() const && noexcept { return access::lasting<Derived>(*this).field_6(); }
     // 7: varint
     std::optional<std::uint32_t> field_7() const noexcept { return access::number_of<7>(c(), c().field_7); }
 
@@ -130,11 +134,11 @@ class subscriber_v6_changes
 {
 public:
     void set_field_1(exact_number<std::uint32_t> value) noexcept { change::set_number<1>(c(), c().field_1, value); }
-    result set_field_2(std::optional<bytes_view> bytes) noexcept { return change::set_bytes<2>(c(), c().field_2, blocks(), bytes); }
-    result set_field_3(std::optional<bytes_view> bytes) noexcept { return change::set_bytes<3>(c(), c().field_3, blocks(), bytes); }
-    result set_field_4(std::optional<bytes_view> bytes) noexcept { return change::set_bytes<4>(c(), c().field_4, blocks(), bytes); }
+    result set_field_2(std::optional<bytes_argument> bytes) noexcept { return change::set_bytes<2>(c(), c().field_2, blocks(), bytes); }
+    result set_field_3(std::optional<bytes_argument> bytes) noexcept { return change::set_bytes<3>(c(), c().field_3, blocks(), bytes); }
+    result set_field_4(std::optional<bytes_argument> bytes) noexcept { return change::set_bytes<4>(c(), c().field_4, blocks(), bytes); }
     void set_field_5(exact_number<std::uint32_t> value) noexcept { change::set_number<5>(c(), c().field_5, value); }
-    result set_field_6(std::optional<bytes_view> bytes) noexcept { return change::set_bytes<6>(c(), c().field_6, blocks(), bytes); }
+    result set_field_6(std::optional<bytes_argument> bytes) noexcept { return change::set_bytes<6>(c(), c().field_6, blocks(), bytes); }
     void set_field_7(exact_number<std::uint32_t> value) noexcept { change::set_number<7>(c(), c().field_7, value); }
 
 private:
@@ -200,7 +204,8 @@ public:
     // 4: varint
     std::optional<std::uint32_t> field_4() const noexcept { return access::number_of<4>(c(), c().field_4); }
     // 5: bytes
-    std::optional<bytes_view> field_5() const noexcept { return access::bytes_of<5>(c(), c().field_5); }
+    std::optional<bytes_view> field_5() const & noexcept { return access::bytes_of<5>(c(), c().field_5); }
+    std::optional<bytes_view> field_5() const && noexcept { return access::lasting<Derived>(*this).field_5(); }
     // 6: varint
     std::optional<std::uint32_t> field_6() const noexcept { return access::number_of<6>(c(), c().field_6); }
 
@@ -217,7 +222,7 @@ public:
     void set_field_2(exact_number<std::uint32_t> value) noexcept { change::set_number<2>(c(), c().field_2, value); }
     void set_field_3(exact_number<std::uint32_t> value) noexcept { change::set_number<3>(c(), c().field_3, value); }
     void set_field_4(exact_number<std::uint32_t> value) noexcept { change::set_number<4>(c(), c().field_4, value); }
-    result set_field_5(std::optional<bytes_view> bytes) noexcept { return change::set_bytes<5>(c(), c().field_5, blocks(), bytes); }
+    result set_field_5(std::optional<bytes_argument> bytes) noexcept { return change::set_bytes<5>(c(), c().field_5, blocks(), bytes); }
     void set_field_6(exact_number<std::uint32_t> value) noexcept { change::set_number<6>(c(), c().field_6, value); }
 
 private:
@@ -281,9 +286,11 @@ public:
     // 3: fixed32; IPv4 end point, network byte order
     std::optional<std::uint32_t> field_3() const noexcept { return access::number_of<3>(c(), c().field_3); }
     // 4: bytes
-    std::optional<bytes_view> field_4() const noexcept { return access::bytes_of<4>(c(), c().field_4); }
+    std::optional<bytes_view> field_4() const & noexcept { return access::bytes_of<4>(c(), c().field_4); }
+    std::optional<bytes_view> field_4() const && noexcept { return access::lasting<Derived>(*this).field_4(); }
     // 5: bytes
-    std::optional<bytes_view> field_5() const noexcept { return access::bytes_of<5>(c(), c().field_5); }
+    std::optional<bytes_view> field_5() const & noexcept { return access::bytes_of<5>(c(), c().field_5); }
+    std::optional<bytes_view> field_5() const && noexcept { return access::lasting<Derived>(*this).field_5(); }
     // 6: varint
     std::optional<std::uint32_t> field_6() const noexcept { return access::number_of<6>(c(), c().field_6); }
     // 7: varint
@@ -311,7 +318,8 @@ public:
     // 18: varint
     std::optional<std::uint32_t> field_18() const noexcept { return access::number_of<18>(c(), c().field_18); }
     // 19: text
-    std::optional<std::string_view> field_19() const noexcept { return access::text_of<19>(c(), c().field_19); }
+    std::optional<std::string_view> field_19() const & noexcept { return access::text_of<19>(c(), c().field_19); }
+    std::optional<std::string_view> field_19() const && noexcept { return access::lasting<Derived>(*this).field_19(); }
 
 private:
     const mava_tum_l2tp_data &c() const noexcept { return static_cast<const Derived &>(*this).c_record(); }
@@ -325,8 +333,8 @@ public:
     void set_field_1(exact_number<std::uint32_t> value) noexcept { change::set_number<1>(c(), c().field_1, value); }
     void set_field_2(exact_number<std::uint32_t> value) noexcept { change::set_number<2>(c(), c().field_2, value); }
     void set_field_3(exact_number<std::uint32_t> value) noexcept { change::set_number<3>(c(), c().field_3, value); }
-    result set_field_4(std::optional<bytes_view> bytes) noexcept { return change::set_bytes<4>(c(), c().field_4, blocks(), bytes); }
-    result set_field_5(std::optional<bytes_view> bytes) noexcept { return change::set_bytes<5>(c(), c().field_5, blocks(), bytes); }
+    result set_field_4(std::optional<bytes_argument> bytes) noexcept { return change::set_bytes<4>(c(), c().field_4, blocks(), bytes); }
+    result set_field_5(std::optional<bytes_argument> bytes) noexcept { return change::set_bytes<5>(c(), c().field_5, blocks(), bytes); }
     void set_field_6(exact_number<std::uint32_t> value) noexcept { change::set_number<6>(c(), c().field_6, value); }
     void set_field_7(exact_number<std::uint32_t> value) noexcept { change::set_number<7>(c(), c().field_7, value); }
     void set_field_8(exact_number<std::uint32_t> value) noexcept { change::set_number<8>(c(), c().field_8, value); }
@@ -471,21 +479,28 @@ public:
     // 2: 64-bit varint
     std::optional<std::uint64_t> field_2() const noexcept { return access::number_of<2>(c(), c().field_2); }
     // 3: record
-    ppp_data_view ppp() const noexcept { return access::record_of<3, ppp_data_view>(c(), c().ppp); }
+    ppp_data_view ppp() const & noexcept { return access::record_of<3, ppp_data_view>(c(), c().ppp); }
+    ppp_data_view ppp() const && noexcept { return access::lasting<Derived>(*this).ppp(); }
     // 4: record
-    l2tp_data_view l2tp() const noexcept { return access::record_of<4, l2tp_data_view>(c(), c().l2tp); }
+    l2tp_data_view l2tp() const & noexcept { return access::record_of<4, l2tp_data_view>(c(), c().l2tp); }
+    l2tp_data_view l2tp() const && noexcept { return access::lasting<Derived>(*this).l2tp(); }
     // 5: text
-    std::optional<std::string_view> field_5() const noexcept { return access::text_of<5>(c(), c().field_5); }
+    std::optional<std::string_view> field_5() const & noexcept { return access::text_of<5>(c(), c().field_5); }
+    std::optional<std::string_view> field_5() const && noexcept { return access::lasting<Derived>(*this).field_5(); }
     // 6: bytes
-    std::optional<bytes_view> field_6() const noexcept { return access::bytes_of<6>(c(), c().field_6); }
+    std::optional<bytes_view> field_6() const & noexcept { return access::bytes_of<6>(c(), c().field_6); }
+    std::optional<bytes_view> field_6() const && noexcept { return access::lasting<Derived>(*this).field_6(); }
     // 7: text
-    std::optional<std::string_view> field_7() const noexcept { return access::text_of<7>(c(), c().field_7); }
+    std::optional<std::string_view> field_7() const & noexcept { return access::text_of<7>(c(), c().field_7); }
+    std::optional<std::string_view> field_7() const && noexcept { return access::lasting<Derived>(*this).field_7(); }
     // 8: text
-    std::optional<std::string_view> field_8() const noexcept { return access::text_of<8>(c(), c().field_8); }
+    std::optional<std::string_view> field_8() const & noexcept { return access::text_of<8>(c(), c().field_8); }
+    std::optional<std::string_view> field_8() const && noexcept { return access::lasting<Derived>(*this).field_8(); }
     // 9: varint
     std::optional<std::uint32_t> field_9() const noexcept { return access::number_of<9>(c(), c().field_9); }
     // 10: record
-    vlan_info_view vlan() const noexcept { return access::record_of<10, vlan_info_view>(c(), c().vlan); }
+    vlan_info_view vlan() const & noexcept { return access::record_of<10, vlan_info_view>(c(), c().vlan); }
+    vlan_info_view vlan() const && noexcept { return access::lasting<Derived>(*this).vlan(); }
     // 11: varint
     std::optional<std::uint32_t> field_11() const noexcept { return access::number_of<11>(c(), c().field_11); }
 
@@ -500,16 +515,19 @@ class session_data_changes
 public:
     void set_field_1(exact_number<std::uint32_t> value) noexcept { change::set_number<1>(c(), c().field_1, value); }
     void set_field_2(exact_number<std::uint64_t> value) noexcept { change::set_number<2>(c(), c().field_2, value); }
-    ppp_data_editor edit_ppp() noexcept { return change::edit_record<3, ppp_data_editor>(c(), c().ppp, blocks()); }
+    ppp_data_editor edit_ppp() & noexcept { return change::edit_record<3, ppp_data_editor>(c(), c().ppp, blocks()); }
+    ppp_data_editor edit_ppp() && noexcept { return access::lasting<Derived>(*this).edit_ppp(); }
     void clear_ppp() noexcept { change::clear_record<3>(c(), c().ppp); }
-    l2tp_data_editor edit_l2tp() noexcept { return change::edit_record<4, l2tp_data_editor>(c(), c().l2tp, blocks()); }
+    l2tp_data_editor edit_l2tp() & noexcept { return change::edit_record<4, l2tp_data_editor>(c(), c().l2tp, blocks()); }
+    l2tp_data_editor edit_l2tp() && noexcept { return access::lasting<Derived>(*this).edit_l2tp(); }
     void clear_l2tp() noexcept { change::clear_record<4>(c(), c().l2tp); }
     result set_field_5(std::optional<std::string_view> text) noexcept { return change::set_text<5>(c(), c().field_5, blocks(), text); }
-    result set_field_6(std::optional<bytes_view> bytes) noexcept { return change::set_bytes<6>(c(), c().field_6, blocks(), bytes); }
+    result set_field_6(std::optional<bytes_argument> bytes) noexcept { return change::set_bytes<6>(c(), c().field_6, blocks(), bytes); }
     result set_field_7(std::optional<std::string_view> text) noexcept { return change::set_text<7>(c(), c().field_7, blocks(), text); }
     result set_field_8(std::optional<std::string_view> text) noexcept { return change::set_text<8>(c(), c().field_8, blocks(), text); }
     void set_field_9(exact_number<std::uint32_t> value) noexcept { change::set_number<9>(c(), c().field_9, value); }
-    vlan_info_editor edit_vlan() noexcept { return change::edit_record<10, vlan_info_editor>(c(), c().vlan, blocks()); }
+    vlan_info_editor edit_vlan() & noexcept { return change::edit_record<10, vlan_info_editor>(c(), c().vlan, blocks()); }
+    vlan_info_editor edit_vlan() && noexcept { return access::lasting<Derived>(*this).edit_vlan(); }
     void clear_vlan() noexcept { change::clear_record<10>(c(), c().vlan); }
     void set_field_11(exact_number<std::uint32_t> value) noexcept { change::set_number<11>(c(), c().field_11, value); }
 
