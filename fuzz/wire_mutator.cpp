@@ -19,6 +19,7 @@ namespace
 using namespace mava_tum_model;
 
 constexpr std::size_t header_bytes = 8;
+constexpr std::size_t long_input_bytes = 4096; // where inputs may be longer than this, some become so
 
 // The first byte chooses the message and stays mostly, so that the wire still means something.
 void change_header(uint8_t *data, random_source &random)
@@ -47,6 +48,8 @@ std::size_t LLVMFuzzerCustomMutator(uint8_t *data, std::size_t size, std::size_t
         wire = random_wire(of, random);
     for (uint64_t changes = 1 + random.below(3); changes > 0; --changes)
         mutate_wire(of, wire, random);
+    if (max_size > long_input_bytes && random.one_in(16))
+        lengthen_wire(of, wire, random.below(max_size >> random.below(6)), random);
     wire.resize(std::min(wire.size(), max_size - header_bytes));
     std::copy(wire.begin(), wire.end(), data + header_bytes);
     return header_bytes + wire.size();

@@ -66,6 +66,20 @@ TEST_P(every_message, mutated_inputs_are_treated_as_the_model_predicts)
     }
 }
 
+// Long enough for every copy, every limit and the hand-over of the scratch buffer.
+TEST_P(every_message, long_inputs_are_treated_as_the_model_predicts)
+{
+    random_source random(GetParam() + 2000);
+    for (int round = 0; round < 16; ++round) {
+        wire_bytes wire = full_wire(tested(), 1);
+        const std::size_t more_bytes = 2048 + random.below(20000);
+        lengthen_wire(tested(), wire, more_bytes, random);
+        ASSERT_GE(wire.size(), more_bytes);
+        const uint32_t flags = static_cast<uint32_t>(random.below(2));
+        ASSERT_EQ(check_message({GetParam(), flags, some_plan(random), random.next() & 0xFFFFFFFF, wire}), "");
+    }
+}
+
 TEST_P(every_message, random_bytes_are_treated_as_the_model_predicts)
 {
     random_source random(GetParam() + 1000);

@@ -218,17 +218,25 @@ const field *field_of(const message &of, const slice &part)
     return found == of.fields.end() ? nullptr : &*found;
 }
 
-bool mutate_inside(const message &of, slice &changed, random_source &random)
+// Applies `change` to the wire of a nested message.
+template <class Change>
+bool change_inside(const message &of, slice &changed, const Change &change)
 {
     const field *member = field_of(of, changed);
     if (member == nullptr || member->nested == nullptr || changed.value_at == 0)
         return false;
     wire_bytes inside = content_of(changed);
-    mutate_wire(*member->nested, inside, random);
+    change(*member->nested, inside);
     changed.bytes.resize(changed.value_at);
     append(changed.bytes, inside);
     replace_length(changed, inside.size(), 0);
     return true;
+}
+
+bool mutate_inside(const message &of, slice &changed, random_source &random)
+{
+    return change_inside(
+        of, changed, [&random](const message &nested, wire_bytes &inside) { mutate_wire(nested, inside, random); });
 }
 
 // Moves `value_at` only where nothing reads it afterwards: every change starts from slices made anew.
@@ -300,6 +308,28 @@ void rearrange(const message &of, std::vector<slice> &slices, random_source &ran
     }
 }
 
+// ---- changes of the size ----
+
+bool lengthen_inside(const message &of, slice &changed, std::size_t more_bytes, random_source &random)
+{
+    return change_inside(of, changed,
+        [&](const message &nested, wire_bytes &inside) { lengthen_wire(nested, inside, more_bytes, random); });
+}
+
+void lengthen_slice(const message &of, slice &changed, std::size_t more_bytes, random_source &random)
+{
+    if (random.one_in(2) && lengthen_inside(of, changed, more_bytes, random))
+        return;
+    if (changed.value_at != 0 && random.one_in(4)) {
+        changed.bytes.resize(changed.bytes.size() + more_bytes, 'x');
+        replace_length(changed, content_of(changed).size(), 0);
+        return;
+    }
+    const wire_bytes once = changed.bytes;
+    for (std::size_t added = 0; added < more_bytes; added += once.size())
+        append(changed.bytes, once);
+}
+
 } // namespace
 
 wire_bytes full_wire(const message &of, uint32_t list_length)
@@ -347,6 +377,15 @@ void mutate_wire(const message &of, wire_bytes &wire, random_source &random)
         rearrange(of, slices, random);
     else
         mutate_slice(of, slices[random.below(slices.size())], random);
+    wire = joined(slices);
+}
+
+void lengthen_wire(const message &of, wire_bytes &wire, std::size_t more_bytes, random_source &random)
+{
+    std::vector<slice> slices = slices_of(wire);
+    if (slices.empty())
+        slices.push_back(new_slice(of, random));
+    lengthen_slice(of, slices[random.below(slices.size())], more_bytes, random);
     wire = joined(slices);
 }
 

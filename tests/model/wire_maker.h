@@ -4,6 +4,7 @@
 #include "model/message_tables.h"
 #include "model/random_source.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <vector>
 
@@ -26,5 +27,8 @@ std::vector<wire_bytes> seed_wires(const message &of);
 // more bytes than it needs; a length that lies; another wire type; a byte changed; the end cut off. Also inside nested
 // messages, whose lengths are then put right.
 void mutate_wire(const message &of, wire_bytes &wire, random_source &random);
+
+// Adds at least `more_bytes`: one field is repeated, or its content made longer. Also inside nested messages.
+void lengthen_wire(const message &of, wire_bytes &wire, std::size_t more_bytes, random_source &random);
 
 } // namespace mava_tum_model
