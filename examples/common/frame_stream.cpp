@@ -12,7 +12,7 @@ namespace examples
 namespace
 {
 
-using frame_header = std::array<uint8_t, 4>;
+constexpr size_t block_bytes = 16 * 1024;
 
 void write_all(int fd, std::span<const uint8_t> bytes)
 {
@@ -27,56 +27,57 @@ void write_all(int fd, std::span<const uint8_t> bytes)
     }
 }
 
-// Returns how many of `bytes` came before the stream's end.
-size_t read_up_to(int fd, std::span<uint8_t> bytes)
+[[noreturn]] void refuse_end(const tum_nal_message_stream_t &stream)
 {
-    size_t total = 0;
-    while (total < bytes.size()) {
-        const ssize_t received = read(fd, bytes.data() + total, bytes.size() - total);
-        if (received == 0)
-            break;
-        if (received > 0)
-            total += static_cast<size_t>(received);
-        else if (errno != EINTR)
-            throw stream_error(std::string("cannot read: ") + std::strerror(errno));
-    }
-    return total;
-}
-
-std::string got_of(size_t got, size_t wanted)
-{
-    return std::to_string(got) + " of " + std::to_string(wanted) + " bytes";
+    const bool has_length = stream.length_bytes == TUM_NAL_MESSAGE_LENGTH_BYTES;
+    throw stream_error(std::string("the stream ends inside a frame") + (has_length ? "" : "'s length") + ", after " +
+                       std::to_string(has_length ? stream.received : stream.length_bytes) + " of " +
+                       std::to_string(has_length ? stream.length : uint32_t{TUM_NAL_MESSAGE_LENGTH_BYTES}) + " bytes");
 }
 
 } // namespace
 
 void write_frame(int fd, std::span<const uint8_t> message)
 {
-    const auto length = static_cast<uint32_t>(message.size());
-    const frame_header header = {static_cast<uint8_t>(length >> 24), static_cast<uint8_t>(length >> 16),
-        static_cast<uint8_t>(length >> 8), static_cast<uint8_t>(length)};
-    write_all(fd, header);
+    std::array<uint8_t, TUM_NAL_MESSAGE_LENGTH_BYTES> length{};
+    tum_nal_message_stream_put_length(length.data(), static_cast<uint32_t>(message.size()));
+    write_all(fd, length);
     write_all(fd, message);
 }
 
-bool read_frame(int fd, std::vector<uint8_t> &message)
+frame_reader::frame_reader(int fd) : m_fd(fd), m_message(frame_limit_bytes), m_block(block_bytes)
 {
-    frame_header header{};
-    const size_t header_bytes = read_up_to(fd, header);
-    if (header_bytes == 0)
-        return false;
-    if (header_bytes < header.size())
-        throw stream_error("the stream ends inside a frame's length, after " + got_of(header_bytes, header.size()));
+    tum_nal_message_stream_init(&m_stream, m_message.data(), frame_limit_bytes);
+}
+
+void frame_reader::wait_for_bytes()
+{
+    ssize_t received = -1;
+    while ((received = read(m_fd, m_block.data(), m_block.size())) < 0) {
+        if (errno != EINTR)
+            throw stream_error(std::string("cannot read: ") + std::strerror(errno));
+    }
+    m_bytes = m_block.data();
+    m_count = static_cast<uint64_t>(received);
+}
+
+bool frame_reader::next(std::span<const uint8_t> &message)
+{
+    const uint8_t *found = nullptr;
     uint32_t length = 0;
-    for (const uint8_t byte : header)
-        length = length << 8 | byte;
-    if (length > frame_limit_bytes)
-        throw stream_error("a frame claims " + std::to_string(length) + " bytes, but " +
+    int32_t result = 0;
+    while ((result = tum_nal_message_stream_next(&m_stream, &m_bytes, &m_count, &found, &length)) ==
+           TUM_NAL_MESSAGE_INCOMPLETE) {
+        wait_for_bytes();
+        if (m_count == 0 && tum_nal_message_stream_may_end(&m_stream))
+            return false;
+        if (m_count == 0)
+            refuse_end(m_stream);
+    }
+    if (result == TUM_NAL_MESSAGE_TOO_LONG)
+        throw stream_error("a frame claims " + std::to_string(m_stream.length) + " bytes, but " +
                            std::to_string(frame_limit_bytes) + " is the limit: this is no stream of our messages");
-    message.resize(length);
-    const size_t message_bytes = read_up_to(fd, message);
-    if (message_bytes < length)
-        throw stream_error("the stream ends inside a frame, after " + got_of(message_bytes, length));
+    message = std::span(found, length);
     return true;
 }
 

@@ -1,12 +1,9 @@
-// Messages on a stream of bytes. Protobuf messages do not say where they end, so each travels in a frame:
-//
-//   +-----------------------------+-------------------+
-//   | length, 4 bytes, big-endian | `length` bytes    |  next frame ...
-//   +-----------------------------+-------------------+
-//
-// The stream may end between two frames only. Works on pipes, sockets and files alike.
+// Messages on a file descriptor, each in a frame: behind its length, as tum_nal/message_stream.h puts it. Works on
+// pipes, sockets and files alike.
 #ifndef EXAMPLES_FRAME_STREAM_H
 #define EXAMPLES_FRAME_STREAM_H
+
+#include "tum_nal/message_stream.h"
 
 #include <cstdint>
 #include <span>
@@ -29,8 +26,26 @@ inline constexpr uint32_t frame_limit_bytes = 64 * 1024;
 // SIGPIPE must be ignored, so that a reader that has gone away is a stream_error and not the end of this process.
 void write_frame(int fd, std::span<const uint8_t> message);
 
-// False at the end of the stream. `message` keeps its memory from call to call.
-bool read_frame(int fd, std::vector<uint8_t> &message);
+class frame_reader
+{
+public:
+    explicit frame_reader(int fd);
+    frame_reader(const frame_reader &) = delete; // of one stream there is one reader, which may be ahead of its caller
+    frame_reader &operator=(const frame_reader &) = delete;
+
+    // Waits for the next message, which is good until the next call. False at the end of the stream, which may come
+    // between two frames only.
+    bool next(std::span<const uint8_t> &message);
+
+private:
+    void wait_for_bytes();
+
+    int m_fd;
+    std::vector<uint8_t> m_message, m_block;
+    tum_nal_message_stream_t m_stream;
+    const uint8_t *m_bytes = nullptr; // of the block, those that are not taken yet
+    uint64_t m_count = 0;
+};
 
 } // namespace examples
 

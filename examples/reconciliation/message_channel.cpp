@@ -6,7 +6,7 @@ namespace examples::reconciliation
 {
 
 message_channel::message_channel(int reading_fd, int writing_fd)
-    : m_reading_fd(reading_fd), m_writing_fd(writing_fd), m_outgoing(frame_limit_bytes)
+    : m_reader(reading_fd), m_writing_fd(writing_fd), m_outgoing(frame_limit_bytes)
 {
 }
 
@@ -26,7 +26,7 @@ void message_channel::send_encoded(message_kind kind, uint64_t size)
 
 bool message_channel::next()
 {
-    if (!read_frame(m_reading_fd, m_incoming))
+    if (!m_reader.next(m_incoming))
         return false;
     if (m_incoming.empty() || m_incoming[0] == 0 || m_incoming[0] >= message_kinds)
         throw stream_error("a frame does not start with the kind of a message: this is no stream of our messages");
@@ -41,7 +41,7 @@ message_kind message_channel::kind() const
 
 std::span<const uint8_t> message_channel::message() const
 {
-    return std::span(m_incoming).subspan(1);
+    return m_incoming.subspan(1);
 }
 
 const traffic &message_channel::traffic_of(message_kind which) const

@@ -72,8 +72,10 @@ private:
     void send_encoded(message_kind kind, uint64_t size);
     void count(message_kind which, size_t bytes);
 
-    int m_reading_fd, m_writing_fd;
-    std::vector<uint8_t> m_outgoing, m_incoming;
+    frame_reader m_reader;
+    int m_writing_fd;
+    std::vector<uint8_t> m_outgoing;
+    std::span<const uint8_t> m_incoming;
     stopwatch m_in_adapters;
     std::array<traffic, message_kinds> m_traffic{};
 };

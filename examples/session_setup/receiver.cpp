@@ -87,11 +87,12 @@ private:
                        "; this session and those after it are lost. See what the sender says, and send all again");
 }
 
-void receive_next(receiver &to, const std::string &path, const subscriber &who, int fd, std::vector<uint8_t> &message)
+void receive_next(receiver &to, const std::string &path, const subscriber &who, frame_reader &from)
 {
+    std::span<const uint8_t> message;
     bool has_frame = false;
     try {
-        has_frame = read_frame(fd, message);
+        has_frame = from.next(message);
     } catch (const stream_error &error) {
         refuse_missing(path, who, error.what());
     }
@@ -105,10 +106,10 @@ void receive_next(receiver &to, const std::string &path, const subscriber &who, 
 size_t receive_sessions(const std::string &path, const std::vector<subscriber> &subscribers, int fd)
 {
     receiver to(path);
-    std::vector<uint8_t> message;
+    frame_reader from(fd);
     for (const subscriber &who : subscribers)
-        receive_next(to, path, who, fd, message);
-    if (read_frame(fd, message))
+        receive_next(to, path, who, from);
+    if (std::span<const uint8_t> message; from.next(message))
         throw stream_error("received more sessions than the " + std::to_string(subscribers.size()) + " of " + path +
                            "; give sender and receiver the same file");
     to.print_report();

@@ -50,12 +50,13 @@ TEST_F(frame_stream, frames_come_back_in_order_and_empty_ones_too)
     for (const std::vector<uint8_t> &message : {first, empty, last})
         examples::write_frame(m_ends[1], message);
     close_writing_end();
-    std::vector<uint8_t> message;
+    examples::frame_reader reader(m_ends[0]);
+    std::span<const uint8_t> message;
     for (const std::vector<uint8_t> &expected : {first, empty, last}) {
-        ASSERT_TRUE(examples::read_frame(m_ends[0], message));
-        EXPECT_EQ(message, expected);
+        ASSERT_TRUE(reader.next(message));
+        EXPECT_EQ(std::vector<uint8_t>(message.begin(), message.end()), expected);
     }
-    EXPECT_FALSE(examples::read_frame(m_ends[0], message));
+    EXPECT_FALSE(reader.next(message));
 }
 
 TEST_F(frame_stream, a_frame_of_exactly_the_limit_is_read)
@@ -64,9 +65,10 @@ TEST_F(frame_stream, a_frame_of_exactly_the_limit_is_read)
     const std::array<uint8_t, 5> head = {0, 1, 0, 0, 0xAB};
     ASSERT_EQ(write(m_ends[1], head.data(), head.size()), 5);
     close_writing_end();
-    std::vector<uint8_t> message;
+    examples::frame_reader reader(m_ends[0]);
+    std::span<const uint8_t> message;
     try {
-        examples::read_frame(m_ends[0], message);
+        reader.next(message);
         FAIL() << "a frame without its end was read";
     } catch (const examples::stream_error &error) {
         EXPECT_STREQ(error.what(), "the stream ends inside a frame, after 1 of 65536 bytes");
