@@ -2,6 +2,7 @@
 
     decode, encode            one of the 40 messages, as a dict of the fields that are present
     app_decode, app_encode    the same through one of the 19 adapters, as a dict of the application's record
+    app_unsent                which members of such a record are not sent, and why
     messages, adapters        the names that these take
     fields, app_members       what a dict may hold
     constants                 the numbers that the headers name, such as the bits of `feature_mask`
@@ -17,6 +18,7 @@ from .codec_writer import encode
 from .errors import DecodeError, Error, FieldTypeError, FieldValueError, LibraryError, UnknownNameError
 from .schema import CONSTANTS as constants
 from .schema import ADAPTERS, APPLICATION_RECORDS, MESSAGES, Field, Member, find_adapter, find_message
+from .unsent_members import app_unsent
 
 __all__ = [
     "DecodeError",
@@ -31,6 +33,7 @@ __all__ = [
     "app_decode",
     "app_encode",
     "app_members",
+    "app_unsent",
     "constants",
     "decode",
     "encode",

@@ -68,6 +68,26 @@ def test_nothing_arrives_as_a_record_of_zeros_with_every_member(adapter: str) ->
     assert not any(bytes(ffi.buffer(record)))
 
 
+def test_members_that_are_not_sent_are_told_with_the_feature_that_sends_them() -> None:
+    record: dict[str, Any] = {
+        "feature_mask": mava_tum.constants["TUM_NAL_FEATURE_ACL"], "qos": [{"value_1": 1}], "acl_text_2": "in",
+        "ipv6_part_2": bytes(range(16)), "icmp_1_value": 7, "icmp_2_value": 0, "session_name": "", "accounting_value_2": 9}
+    # The accounting values need a bit of accounting_flags too.
+    assert mava_tum.app_unsent("session_context", record) == {
+        "qos": "TUM_NAL_FEATURE_QOS", "ipv6_part_2": "TUM_NAL_FEATURE_IPV6_PART_2",
+        "icmp_1_value": "TUM_NAL_FEATURE_ICMP_1", "accounting_value_2": None}
+    for feature in ("QOS", "IPV6_PART_2", "ICMP_1", "ACCOUNTING"):
+        record["feature_mask"] |= mava_tum.constants[f"TUM_NAL_FEATURE_{feature}"]
+    record["accounting_flags"] = mava_tum.constants["TUM_NAL_ACCOUNTING_VALUE_2"]
+    assert mava_tum.app_unsent("session_context", record) == {}
+
+
+@pytest.mark.parametrize("adapter", [name for name in mava_tum.adapters() if name not in ONE_SIDED])
+@for_all(data=st.data())
+def test_a_symmetric_adapter_sends_every_member(adapter: str, data: Any) -> None:
+    assert mava_tum.app_unsent(adapter, data.draw(application_records(ADAPTERS[adapter].encode))) == {}
+
+
 def test_a_session_with_addresses_texts_and_a_list_arrives() -> None:
     sent = {"feature_mask": 1 << 0 | 1 << 9 | 1 << 10, "ipv4_address": "192.0.2.17", "ipv6_part_2": bytes(range(16)),
             "session_name": "user@example.com", "qos": [{"value_1": 1, "text_3": "gold"}, {"value_1": 2}]}
