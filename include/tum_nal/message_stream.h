@@ -13,7 +13,6 @@
  *     static uint8_t buffer[TUM_NAL_SESSION_CONTEXT_MAX_SIZE];
  *     tum_nal_message_stream_t stream;
  *     tum_nal_message_stream_init(&stream, buffer, sizeof buffer);
- *     ...
  *     while ((result = tum_nal_message_stream_next(&stream, &bytes, &count, &message, &length)) == 1)
  *         take(message, length); */
 #ifndef TUM_NAL_MESSAGE_STREAM_H
@@ -26,13 +25,14 @@
 extern "C" {
 #endif
 
-enum { TUM_NAL_MESSAGE_LENGTH_BYTES = 4 }; /* in front of each message */
+/* Bytes in front of each message. */
+enum { TUM_NAL_MESSAGE_LENGTH_BYTES = 4 };
 
 /* What tum_nal_message_stream_next() returns. */
 enum {
     TUM_NAL_MESSAGE_TOO_LONG = -1,  /* a length above the limit: no stream of these messages, close it */
     TUM_NAL_MESSAGE_INCOMPLETE = 0, /* all bytes are taken, and the next message needs more */
-    TUM_NAL_MESSAGE_COMPLETE = 1
+    TUM_NAL_MESSAGE_COMPLETE = 1    /* here is a message */
 };
 
 /* The receiving side. The functions set the members; a caller may read them to say where a stream broke. */
