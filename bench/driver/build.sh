@@ -4,8 +4,8 @@
 # scripts are. MAVA_TUM_BENCH_BUILD names another build folder than build/bench.
 
 build_for_bench() {
-    require_packages cmake g++ ninja-build python3 libbenchmark-dev libprotobuf-dev protobuf-compiler \
-        libprotozero-dev nanopb libnanopb-dev libprotobuf-c-dev protobuf-c-compiler
+    require_packages cmake g++ ninja-build python3 libprotobuf-dev protobuf-compiler libprotozero-dev \
+        nanopb libnanopb-dev libprotobuf-c-dev protobuf-c-compiler
     build=${MAVA_TUM_BENCH_BUILD:-$PWD/build/bench}
     driver=$PWD/bench/driver
     cmake --preset bench -B "$build" >&2

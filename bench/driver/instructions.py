@@ -4,8 +4,8 @@
 Judged are the instructions in our library, and the calls of the heap: exit code 1 if either is more than 3 % above the
 kept count. With another compiler, other flags, another C library or another processor than those of the kept counts
 nothing is judged: exit code 77, which test runners count as skipped. The instructions in the C library (copies, string
-lengths, heap) are shown only: the cost of a heap call depends on the calls before it. The bench's own instructions, such
-as those of its bump allocator, are not counted.
+lengths, heap) are shown only: the cost of a heap call depends on the calls before it. The bench's own instructions are
+not counted.
 """
 
 import argparse
@@ -18,7 +18,7 @@ import subprocess
 import sys
 import tempfile
 
-from result_table import print_aligned
+from tables import print_aligned
 
 KEPT = pathlib.Path(__file__).resolve().parents[1] / "instructions.tsv"
 MOST = 1.03  # counts repeat exactly; the margin is for changes that are worth it

@@ -1,4 +1,7 @@
-"""Where and with what a run was made: figures without this say nothing."""
+"""Where and with what a run was made: figures without this say nothing.
+
+  machine.py <load> <seconds>    waits until the load of the last minute is below a limit; exit code 1 if it never is
+"""
 
 import os
 import pathlib
@@ -8,6 +11,7 @@ import shlex
 import shutil
 import subprocess
 import sys
+import time
 
 
 def _processor():
@@ -66,6 +70,18 @@ def describe(command, build, versions):
         "load": f"{os.getloadavg()[0]:.2f} in the last minute, before the run",
         "C++ compiler": f"{_compiler(cache['CMAKE_CXX_COMPILER'])}, {_flags(cache, 'CXX')}",
         "C compiler": f"{_compiler(cache['CMAKE_C_COMPILER'])}, {_flags(cache, 'C')}",
-        "peers": "; ".join(versions),
+        "measured": "; ".join(versions),
         "command": shlex.join([command, *_options()]),
     }
+
+
+def wait_until_idle(limit, seconds):
+    deadline = time.monotonic() + seconds
+    while (load := os.getloadavg()[0]) >= limit:
+        if time.monotonic() >= deadline:
+            sys.exit(f"The load is {load:.2f}, not below {limit:g}: figures of a busy machine are not published.")
+        time.sleep(5)
+
+
+if __name__ == "__main__":
+    wait_until_idle(float(sys.argv[1]), float(sys.argv[2]))

@@ -1,7 +1,9 @@
-"""Collects the times of all rounds; medians, spreads, and ratios within the rounds."""
+"""Collects the pairs of slices of all processes: medians and quartiles of their ratios."""
 
 import collections
+import json
 import statistics
+from dataclasses import asdict, dataclass
 
 
 def significant(value):
@@ -10,45 +12,79 @@ def significant(value):
     return int(rounded) if rounded >= 1000 else rounded
 
 
+def quartiles(values):
+    """(lower, median, upper)"""
+    if len(values) < 2:
+        return values[0], values[0], values[0]
+    return tuple(statistics.quantiles(values, n=4, method="inclusive"))
+
+
 def spread(values):
     """How far the middle half of the values lies apart, as a share of their median."""
-    if len(values) < 2:
-        return 0.0
-    lower, _, upper = statistics.quantiles(values, n=4, method="inclusive")
-    return (upper - lower) / statistics.median(values)
+    lower, middle, upper = quartiles(values)
+    return (upper - lower) / middle
+
+
+@dataclass
+class Result:
+    """One of our sides beside another side, in one operation on one corpus."""
+
+    workload: str
+    set: str
+    operation: str
+    ours: str
+    other: str
+    ours_nanoseconds: float  # per session, the median of all pairs; so the next
+    other_nanoseconds: float
+    lower: float  # quartile; how many times as fast ours is, by pairs
+    ratio: float  # median
+    upper: float  # quartile
+    by_order: list  # the median in each order of our objects
+    pairs: int
+
+    @property
+    def cell(self):
+        return self.workload, self.set
 
 
 class Measurements:
-    """Nanoseconds per session, by (workload name, set, operation, side), one value per round."""
-
     def __init__(self):
-        self._rounds = collections.defaultdict(dict)
-        self.wire_bytes = {}
+        self._pairs = collections.defaultdict(list)
 
-    def add(self, round_number, cell, operation, side, nanoseconds):
-        key = (cell.workload.name, cell.set, operation, side)
-        self._rounds[key][round_number] = nanoseconds / cell.workload.sessions
+    def add(self, cell, order, operation, ours, other, ours_time, other_time):
+        sessions = cell.workload.sessions
+        key = (cell.workload.name, cell.set, operation, ours, other)
+        self._pairs[key].append((order, ours_time / sessions, other_time / sessions))
 
-    def restore(self, key, values):
-        """`values` as `values(key)` gave them. Every peer runs in every round, so their order is that of the rounds."""
-        self._rounds[key].update(enumerate(values))
+    def results(self):
+        return [self._result(key, pairs) for key, pairs in self._pairs.items()]
 
-    def has(self, key):
-        return key in self._rounds
+    @staticmethod
+    def _result(key, pairs):
+        by_order = collections.defaultdict(list)
+        for order, ours, other in pairs:
+            by_order[order].append(other / ours)
+        ratios = quartiles([other / ours for _, ours, other in pairs])
+        return Result(
+            *key,
+            significant(statistics.median(ours for _, ours, _ in pairs)),
+            significant(statistics.median(other for _, _, other in pairs)),
+            *map(significant, ratios),
+            [significant(statistics.median(values)) for _, values in sorted(by_order.items())],
+            len(pairs),
+        )
 
-    def keys(self):
-        return self._rounds.keys()
 
-    def values(self, key):
-        return list(self._rounds[key].values())
+def write_run(path, description, sizes, results):
+    """A run as JSON, one result a line. `sizes`: {(workload, set): bytes of a message}"""
+    lines = ",\n".join(json.dumps(asdict(result)) for result in results)
+    messages = [{"workload": workload, "set": content, "bytes": size} for (workload, content), size in sizes.items()]
+    head = f'"machine": {json.dumps(description, indent=1)},\n"messages": {json.dumps(messages)}'
+    path.write_text(f'{{\n{head},\n"results": [\n{lines}\n]\n}}\n', encoding="utf-8")
 
-    def median(self, key):
-        return statistics.median(self.values(key))
 
-    def times_as_fast(self, key, against):
-        """The ratios round by round: time of `against` (several keys: their sum) over time of `key`."""
-        rounds = set(self._rounds[key]).intersection(*(self._rounds[other] for other in against))
-        return [
-            sum(self._rounds[other][number] for other in against) / self._rounds[key][number]
-            for number in sorted(rounds)
-        ]
+def read_run(path):
+    """(description, sizes, results)"""
+    document = json.loads(path.read_text(encoding="utf-8"))
+    sizes = {(entry["workload"], entry["set"]): entry["bytes"] for entry in document["messages"]}
+    return document["machine"], sizes, [Result(**entry) for entry in document["results"]]

@@ -1,57 +1,54 @@
-"""Calls the programs of the bench: the writer of corpora, and the peers."""
+"""Calls the programs of the bench."""
 
+import os
 import pathlib
 import subprocess
 import sys
 
 
 class Disagreement(Exception):
-    """A peer's bytes or records are not ours: there is nothing to compare."""
+    """Bytes or records of an implementation are not ours: there is nothing to compare."""
 
 
 class Programs:
     def __init__(self, build):
-        self._directory = pathlib.Path(build) / "bench"
-
-    def path(self, name):
-        return self._directory / f"mava_tum_bench_{name}"
+        self._directory = pathlib.Path(build).absolute() / "bench"
 
     def present(self, peers):
-        return [peer for peer in peers if self.path(peer).exists()]
+        return [peer for peer in peers if peer == "ours" or (self._directory / f"mava_tum_bench_{peer}.so").exists()]
 
-    def version(self, peer):
-        return self._output([self.path(peer), "--version"]).strip()
+    def link_orders(self):
+        """The folders of builds of the library that differ in the order of their objects."""
+        orders = [self._directory.parent / "src", self._directory / "other_order"]
+        for order in orders:
+            loaded = self._output(["mava_tum_bench", "--versions", "ours"], order).splitlines()[0]
+            if pathlib.Path(loaded).parent != order:
+                sys.exit(f"the library of {order} was to be measured, and {loaded} is loaded")
+        return orders
 
-    def write_corpus(self, file, cell, first, count):
-        command = [self.path("corpus"), file, cell.workload.name, cell.set, first, count]
-        messages, _, wire_bytes, _ = self._output(command).replace(",", "").split()
-        return int(wire_bytes) / int(messages)
+    def versions(self, peers):
+        return self._output(["mava_tum_bench", "--versions", *peers]).splitlines()[1:]
 
-    def check(self, peer, corpus):
-        """The (operation, side) pairs that the peer offers for the corpus, all of them in agreement with it."""
-        return self._rows([self.path(peer), corpus, "check"])
-
-    def time(self, peer, corpus, samples, milliseconds, seed):
-        """(operation, side, nanoseconds per message)"""
-        command = [self.path(peer), corpus, "time", samples, milliseconds, seed]
-        return [(operation, side, float(time)) for operation, side, time in self._rows(command)]
-
-    def time_cold(self, peer, corpus, calls, seed):
-        """(operation, side, nanoseconds with warm caches, nanoseconds with cold ones)"""
-        rows = self._rows([self.path(peer), corpus, "cold", calls, seed])
-        return [(operation, side, float(warm), float(cold)) for operation, side, warm, cold in rows]
+    def measure(self, task, cell, operations, peers, *, amount, first=0, messages=None, seed=1, order=None):
+        """(bytes of a message on average, rows as mava_tum_bench prints them)"""
+        messages = messages or cell.workload.messages
+        command = ["mava_tum_bench", task, cell.workload.name, cell.set, first, messages, seed, amount,
+                   ",".join(operations), *peers]
+        size, *rows = self._rows(command, order)
+        return float(size[1]), rows
 
     def rows(self, program, arguments):
-        """What one of the programs without a corpus prints."""
-        return self._rows([self.path(program), *arguments])
+        """What one of the other programs prints."""
+        return self._rows([f"mava_tum_bench_{program}", *arguments])
 
-    def _rows(self, command):
-        return [line.split("\t") for line in self._output(command).splitlines()]
+    def _rows(self, command, order=None):
+        return [line.split("\t") for line in self._output(command, order).splitlines()]
 
-    @staticmethod
-    def _output(command):
-        command = [str(word) for word in command]
-        done = subprocess.run(command, capture_output=True, text=True, check=False)
+    def _output(self, command, order=None):
+        program, *arguments = command
+        command = [str(self._directory / program), *map(str, arguments)]
+        environment = os.environ | ({"LD_LIBRARY_PATH": str(order)} if order else {})
+        done = subprocess.run(command, capture_output=True, text=True, check=False, env=environment)
         if done.returncode == 1:
             raise Disagreement(done.stderr.strip())
         if done.returncode != 0:

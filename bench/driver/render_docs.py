@@ -1,32 +1,29 @@
 #!/usr/bin/env python3
-"""Writes what was measured into docs/benchmarks.md and its plots: no figure there is typed by hand.
+"""Writes what was measured into docs/benchmarks.md and bench/README.md, and the plot: no figure there is typed by hand.
 
-Reads bench/results/*.json, the texts beside them, and bench/instructions.tsv.
+  render_docs.py <folder of the results>    what bench/publish left there, and bench/instructions.tsv
 """
 
 import json
 import pathlib
 import re
-import statistics
+import sys
 
-import markdown
-from cold_table import cold_table
+from goals import count, goal_rows, judge
 from instructions import read_kept
-from plan import OPERATIONS, WORKLOAD_OF_NAME
-from result_table import result_rows
-from run_file import read_run
-from scale_plot import write_scale_plots
-from scale_table import GROWING, growth_rows, replay_rows, verdict_rows
+from measurements import read_run
+from plan import OPERATIONS, SIDES, SUMMARY, WORKLOAD_OF_NAME
+from run_cold import cold_table
+from scale_table import replay_rows, verdict_rows
 from svg_plot import write_plots
-from target_table import goal_table, judge, ratios_to_proto2
+from tables import fenced, fill, markdown, markdown_of_words, page_rows, summary_rows, widest_spread
 
 ROOT = pathlib.Path(__file__).resolve().parents[2]
-RESULTS = ROOT / "bench" / "results"
-PAGE = ROOT / "docs" / "benchmarks.md"
+PAGES = (ROOT / "docs" / "benchmarks.md", ROOT / "bench" / "README.md")
 PLOTS = ROOT / "docs" / "benchmarks"
-PUBLISHED_OPERATIONS = ("decode", "encode", "duplicate", "encode_adapter", "decode_adapter")
-SHOWN_MESSAGES = 10
-COLD_SIDES = ("ours", "ours bump", "ours calloc", "protobuf reused", "protobuf new", "protozero")
+SHOWN_MESSAGES = 5
+# proto2 with a new message differs from proto3 with one as the reused ones differ.
+OTHERS = [side for side in SIDES if side.startswith(("proto", "nanopb")) and side != "proto2 new"]
 
 
 def _machine(description):
@@ -36,103 +33,64 @@ def _machine(description):
     return "\n".join(lines)
 
 
-def _contract_rows(measurements, cells):
-    """What the heap costs a decode adapter, and what is left of it with an arena."""
-    rows = [["workload", "decode adapter", "of it heap calls", "decode into an arena", "times as fast"]]
-    for cell in cells:
-        name = (cell.workload.name, cell.set)
-        keys = [(*name, "decode_adapter", "ours"), (*name, "decode_adapter", "heap calls"),
-                (*name, "decode", "ours arena")]
-        if not all(measurements.has(key) for key in keys):
-            continue
-        ratio = statistics.median(measurements.times_as_fast(keys[2], [keys[0]]))
-        rows.append([cell.title, *(f"{measurements.median(key):,.0f}" for key in keys), f"{ratio:.1f}"])
-    return rows
-
-
-def _not_met_rows(verdicts):
-    rows = [["goal", "set", "workload", "measured", "wanted", "short by"]]
-    for verdict in verdicts:
-        if verdict["verdict"] == "met":
-            continue
-        short = f"{1 - verdict['measured'] / verdict['bar']:.0%}" if "measured" in verdict else "not measured"
-        measured = f"{verdict['measured']:.2f}" if "measured" in verdict else "-"
-        title = WORKLOAD_OF_NAME[verdict["workload"]].title
-        rows.append([verdict["goal"], verdict["set"], title, measured, f"{verdict['bar']:g}", short])
-    return rows
-
-
-def _run_blocks():
-    description, measurements, cells = read_run(RESULTS / "run.json")
-    for operation in PUBLISHED_OPERATIONS:
-        yield operation.replace("_", "-"), markdown.table(result_rows(measurements, cells, operation))
-    verdicts = judge(measurements)
-    met = sum(verdict["verdict"] == "met" for verdict in verdicts)
+def _run_blocks(results_folder):
+    description, _, results = read_run(results_folder / "run.json")
     yield "machine", _machine(description)
-    yield "goals", f"{met} of {len(verdicts)} met.\n\n" + markdown.text_table(goal_table(verdicts))
-    yield "goals-not-met", markdown.text_table(_not_met_rows(verdicts))
-    yield "goals-proto2", markdown.text_table(goal_table(ratios_to_proto2(measurements)))
-    yield "contract", markdown.table(_contract_rows(measurements, cells))
-    write_plots(measurements, cells, PLOTS)
+    yield "summary", markdown(summary_rows(results))
+    yield "spread", f"The quartiles of a figure are at most {widest_spread(results):.0%} of it apart."
+    for operation in (*SUMMARY, "duplicate"):
+        yield operation.replace("_", "-"), markdown(page_rows(results, operation, OTHERS))
+    verdicts = judge(results)
+    yield "goals", f"{count(verdicts)}.\n\n" + markdown(goal_rows(verdicts))
+    write_plots(results, PLOTS)
 
 
-def dearest(rows):
-    """Of a table of messages those that cost most for a byte; all are in scale.json."""
-    title, *messages = rows
-    return [title, *sorted(messages, key=lambda row: -float(row[title.index("ns/byte")]))[:SHOWN_MESSAGES]]
+def _scale_blocks(results_folder):
+    document = json.loads((results_folder / "scale.json").read_text(encoding="utf-8"))
+    replay = {}
+    for entry in document["replay"]:
+        if entry["sessions"] in (1, 10, 100, 1000, 10_000):
+            replay.setdefault(entry["sessions"], {})[entry["operation"], entry["side"]] = entry["rounds"]
+    yield "scale-machine", _machine(document["machine"])
+    yield "scale-verdicts", markdown_of_words(verdict_rows(document["verdicts"]))
+    yield "scale-replay", markdown(replay_rows(replay))
+
+
+def _cold_block(results_folder):
+    document = json.loads((results_folder / "cold.json").read_text(encoding="utf-8"))
+    times = {tuple(row[:3]): tuple(row[3:]) for row in document["results"]}
+    tables = [f"{OPERATIONS[operation]}:\n\n" + markdown(cold_table(times, operation)) for operation in SUMMARY]
+    return _machine(document["machine"]) + "\n\n" + "\n\n".join(tables)
+
+
+def _instruction_block():
+    environment, counts = read_kept()
+    workloads = dict.fromkeys(key[0] for key in counts)
+    operations = dict.fromkeys(key[1:] for key in counts)
+    rows = [["operation", *(WORKLOAD_OF_NAME[name].label for name in workloads)]]
+    for operation in operations:
+        found = [counts.get((workload, *operation)) for workload in workloads]
+        rows.append([", ".join(operation), *(f"{each.library:,} + {each.c_library:,}" if each else "-" for each in found)])
+    return f"{environment}:\n\n" + markdown(rows)
 
 
 def largest(sizes):
     """Of a table of sizes the title, the largest messages and the sums; scripts/message_sizes prints all."""
-    lines = [line for line in sizes.splitlines() if not line.startswith("#")]
+    lines = sizes.splitlines()
     sums = next(number for number, line in enumerate(lines) if re.match(r"\d+ messages ", line))
     return "\n".join([*lines[:1 + SHOWN_MESSAGES], "...", *lines[sums:]])
 
 
-def _scale_blocks():
-    document = json.loads((RESULTS / "scale.json").read_text(encoding="utf-8"))
-    replay = {}
-    for entry in document["replay"]:
-        replay.setdefault(entry["sessions"], {})[entry["operation"], entry["side"]] = entry["rounds"]
-    yield "scale-machine", _machine(document["machine"])
-    yield "scale-verdicts", markdown.text_table(verdict_rows(document["verdicts"]))
-    yield "scale-replay", markdown.table(replay_rows(replay))
-    for operation in GROWING:
-        name = f"scale-{operation.replace(' ', '-')}"
-        yield name, markdown.text_table(dearest(growth_rows(document["growth"], operation)))
-    write_scale_plots(replay, document["growth"], PLOTS)
-
-
-def _cold_blocks():
-    document = json.loads((RESULTS / "cold.json").read_text(encoding="utf-8"))
-    times = {
-        (row["workload"], row["operation"], row["side"]): row["warm_and_cold"] for row in document["results"]
-    }
-    tables = [
-        f"{OPERATIONS[operation][0]}:\n\n" + markdown.table(cold_table(times, operation, COLD_SIDES))
-        for operation in PUBLISHED_OPERATIONS
-    ]
-    yield "cold", _machine(document["machine"]) + "\n\n" + "\n\n".join(tables)
-
-
-def _instruction_blocks():
-    environment, counts = read_kept()
-    workloads = dict.fromkeys(key[0] for key in counts)
-    operations = dict.fromkeys(key[1:] for key in counts)
-    rows = [["operation", *(WORKLOAD_OF_NAME[name].title for name in workloads)]]
-    for operation in operations:
-        cells = (counts.get((workload, *operation)) for workload in workloads)
-        rows.append([", ".join(operation), *(f"{cell.library:,} + {cell.c_library:,}" if cell else "-" for cell in cells)])
-    yield "instructions", f"{environment}:\n\n" + markdown.table(rows)
-
-
 def main():
-    sizes = (RESULTS / "sizes.txt").read_text(encoding="utf-8")
-    blocks = dict([*_run_blocks(), *_scale_blocks(), *_cold_blocks(), *_instruction_blocks()])
-    blocks["sizes"] = markdown.fenced(largest(sizes))
-    blocks["profile"] = markdown.fenced((RESULTS / "profile.txt").read_text(encoding="utf-8"))
-    PAGE.write_text(markdown.fill(PAGE.read_text(encoding="utf-8"), blocks), encoding="utf-8")
-    print(f"{len(blocks)} tables in {PAGE.relative_to(ROOT)}, {len(list(PLOTS.glob('*.svg')))} plots beside it")
+    results_folder = pathlib.Path(sys.argv[1])
+    blocks = dict([*_run_blocks(results_folder), *_scale_blocks(results_folder)])
+    blocks["cold"] = _cold_block(results_folder)
+    blocks["instructions"] = _instruction_block()
+    blocks["sizes"] = fenced(largest((results_folder / "sizes.txt").read_text(encoding="utf-8")))
+    blocks["profile"] = fenced((results_folder / "profile.txt").read_text(encoding="utf-8"))
+    for page in PAGES:
+        page.write_text(fill(page.read_text(encoding="utf-8"), blocks), encoding="utf-8")
+    print(f"written: {', '.join(str(page.relative_to(ROOT)) for page in (*PAGES, PLOTS))}")
 
 
 if __name__ == "__main__":

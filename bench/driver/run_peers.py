@@ -1,116 +1,115 @@
 #!/usr/bin/env python3
-"""Measures the library beside its peers: checks that all agree, then times them in turns, round by round.
+"""Measures the library beside other implementations, on messages that do not repeat.
 
-Each round has a window of messages of its own; in it, for each workload in random order, all peers run one after the
-other in random order, each in a new process. A ratio is taken within its round.
+A process measures one corpus: realistic and random messages are each used once per comparison, and the next process
+has messages of other numbers. In a process all implementations take turns (bench/peers/harness/stopwatch.h). Half of
+the processes load a build of the library whose objects are linked in another order.
 """
 
 import argparse
+import os
 import pathlib
 import random
 import sys
-import tempfile
 
 import machine
-from measurements import Measurements
-from plan import PEERS, cells
+from goals import count, goal_rows, judge
+from measurements import Measurements, write_run
+from plan import OPERATIONS, PEERS, SUMMARY, cells
 from programs import Disagreement, Programs
-from result_table import print_results
-from run_file import write_run
 from svg_plot import write_plots
-from target_table import judge, print_targets, ratios_to_proto2
+from tables import operation_rows, print_aligned, summary_rows
+
+SLICE_MICROSECONDS = 200
+ROUNDS, QUICK_ROUNDS = 6, 2
 
 
 def parse_arguments():
-    parser = argparse.ArgumentParser(prog="bench/run", description="Measures the library beside its peers.")
+    parser = argparse.ArgumentParser(prog="bench/run", description="Measures the library beside other implementations.")
     parser.add_argument("--build", required=True, help=argparse.SUPPRESS)  # bench/run gives it
-    parser.add_argument("--quick", action="store_true", help="some two minutes instead of ten to fifteen")
-    parser.add_argument("--json", type=pathlib.Path, help="write machine, all rounds and goals to this file")
+    parser.add_argument("--quick", action="store_true", help="the five rows alone, in some two minutes")
+    parser.add_argument("--json", type=pathlib.Path, help="write machine and results to this file")
     parser.add_argument("--plots", type=pathlib.Path, help="write SVG plots into this directory")
     parser.add_argument("--only", action="append", default=[], help="a workload by name or label; may be repeated")
-    parser.add_argument("--peer", action="append", default=[], help="a peer; may be repeated; ours is always there")
-    parser.add_argument("--rounds", type=int, help="default 20, quick 4")
-    parser.add_argument("--messages", type=int, help="in a round's window; default 1000, quick 400")
-    parser.add_argument("--samples", type=int, default=3, help="of each operation in a process")
-    parser.add_argument("--milliseconds", type=float, help="of a sample; default 5, quick 2")
-    parser.add_argument("--seed", type=int, default=1, help="of the order of everything")
+    parser.add_argument("--set", action="append", default=[], help="realistic, random or fixed; may be repeated")
+    parser.add_argument("--operation", action="append", default=[], choices=OPERATIONS, help="may be repeated")
+    parser.add_argument("--peer", action="append", default=[], choices=PEERS, help="may be repeated; beside ours")
+    parser.add_argument("--rounds", type=int, help=f"processes per corpus; default {ROUNDS}, quick {QUICK_ROUNDS}")
+    parser.add_argument("--seed", type=int, default=1, help="of the messages and of the order of everything")
     arguments = parser.parse_args()
-    arguments.rounds = arguments.rounds or (4 if arguments.quick else 20)
-    arguments.messages = arguments.messages or (400 if arguments.quick else 1000)
-    arguments.milliseconds = arguments.milliseconds or (2 if arguments.quick else 5)
+    quick = arguments.quick
+    arguments.rounds = arguments.rounds or (QUICK_ROUNDS if quick else ROUNDS)
+    arguments.operation = arguments.operation or list(SUMMARY if quick else OPERATIONS)
+    arguments.peer = arguments.peer or (["protobuf"] if quick else list(PEERS))
+    arguments.set = arguments.set or (["realistic", "random"] if quick else ["realistic", "random", "fixed"])
     return arguments
 
 
 class Run:
-    def __init__(self, arguments, directory):
+    def __init__(self, arguments):
         self.arguments = arguments
         self.programs = Programs(arguments.build)
-        self.cells = cells(arguments.only)
-        wanted = [peer for peer in PEERS if not arguments.peer or peer in arguments.peer or peer == "ours"]
+        self.cells = [cell for cell in cells(arguments.only) if cell.set in arguments.set]
+        wanted = [peer for peer in PEERS if peer in arguments.peer or peer == "ours"]
         self.peers = self.programs.present(wanted)
         self.missing = [peer for peer in wanted if peer not in self.peers]
         self.measurements = Measurements()
-        self._directory = pathlib.Path(directory)
-        self._order = random.Random(arguments.seed)
+        self.sizes = {}
+        self._orders = self.programs.link_orders()
+        self._random = random.Random(arguments.seed)
 
-    def check(self):
-        """Raises Disagreement before anything is timed. Every timed process checks its own window once more."""
-        for cell in self.cells:
-            corpus = self._write_corpus(cell, 0)
-            for peer in self.peers:
-                self.programs.check(peer, corpus)
-
-    def measure_round(self, round_number):
-        for cell in self._shuffled(self.cells):
-            corpus = self._write_corpus(cell, round_number)
-            for peer in self._shuffled(self.peers):
-                self._measure(round_number, cell, peer, corpus)
-
-    def _measure(self, round_number, cell, peer, corpus):
-        how = self.arguments
-        seed = self._order.randrange(1 << 30)
-        for operation, side, time in self.programs.time(peer, corpus, how.samples, how.milliseconds, seed):
-            self.measurements.add(round_number, cell, operation, side, time)
-
-    def _write_corpus(self, cell, round_number):
-        corpus = self._directory / "corpus"
-        count = self.arguments.messages
-        size = self.programs.write_corpus(corpus, cell, round_number * count, count)
-        self.measurements.wire_bytes.setdefault(cell, size)
-        return corpus
-
-    def _shuffled(self, items):
-        return self._order.sample(items, len(items))
+    def measure_round(self, number):
+        order = number % len(self._orders)
+        for cell in self._random.sample(self.cells, len(self.cells)):
+            size, rows = self.programs.measure(
+                "pairs", cell, self.arguments.operation, self.peers, amount=SLICE_MICROSECONDS,
+                first=2 * cell.workload.messages * (number + self.arguments.seed * 1000),
+                seed=self._random.randrange(1 << 30), order=self._orders[order])
+            self.sizes.setdefault((cell.workload.name, cell.set), size)
+            for operation, ours, other, ours_time, other_time in rows:
+                self.measurements.add(cell, order, operation, ours, other, float(ours_time), float(other_time))
 
 
-def report(run, description):
-    print_results(run.measurements, run.cells)
-    print_targets(judge(run.measurements), ratios_to_proto2(run.measurements))
-    if run.arguments.json:
-        write_run(run.arguments.json, description, run.measurements)
-    if run.arguments.plots:
-        write_plots(run.measurements, run.cells, run.arguments.plots)
+def report(results, quick):
+    if not quick:
+        for operation, title in OPERATIONS.items():
+            rows = operation_rows(results, operation)
+            if rows:
+                print(f"\n{title}: nanoseconds per session, and how many times as fast ours is")
+                print_aligned(rows)
+        verdicts = judge(results)
+        print("\nGoals: measured/wanted (? where it was not measured)")
+        print_aligned(goal_rows(verdicts))
+        print(count(verdicts))
+    summary = summary_rows(results)
+    if len(summary) > 1:
+        print("\nTime on realistic messages, and times as fast as a reused protobuf message: realistic / random")
+        print_aligned(summary)
 
 
 def main():
-    with tempfile.TemporaryDirectory(prefix="mava_tum_bench_") as directory:
-        run = Run(parse_arguments(), directory)
-        if not run.cells:
-            sys.exit("bench/run: no workload of that name")
-        versions = [run.programs.version(peer) for peer in run.peers]
-        description = machine.describe("bench/run", run.arguments.build, versions)
-        for name, text in description.items():
-            print(f"{name + ':':<14} {text}")
-        for peer in run.missing:
-            print(f"{peer}: was not built, is missing below")
-        try:
-            run.check()
-            for round_number in range(run.arguments.rounds):
-                print(f"round {round_number + 1} of {run.arguments.rounds}", file=sys.stderr)
-                run.measure_round(round_number)
-        except Disagreement as disagreement:
-            sys.exit(f"bench/run: a peer does not agree, so nothing is reported: {disagreement}")
-        report(run, description)
+    arguments = parse_arguments()
+    run = Run(arguments)
+    if not run.cells:
+        sys.exit("bench/run: no workload of that name and set")
+    description = machine.describe("bench/run", arguments.build, run.programs.versions(run.peers))
+    for name, text in description.items():
+        print(f"{name + ':':<14} {text}")
+    for peer in run.missing:
+        print(f"{peer}: was not built, is missing below")
+    try:
+        for number in range(arguments.rounds):
+            print(f"round {number + 1} of {arguments.rounds}", file=sys.stderr)
+            run.measure_round(number)
+    except Disagreement as disagreement:
+        sys.exit(f"bench/run: an implementation does not agree, so nothing is reported: {disagreement}")
+    description["load"] += f", {os.getloadavg()[0]:.2f} after it"
+    results = run.measurements.results()
+    report(results, arguments.quick)
+    if arguments.json:
+        write_run(arguments.json, description, run.sizes, results)
+    if arguments.plots:
+        write_plots(results, arguments.plots)
 
 
 if __name__ == "__main__":

@@ -7,16 +7,14 @@ import json
 import pathlib
 import random
 import sys
-import tempfile
 
 import machine
-from growth import Growth, judged
 from measurements import significant
 from plan import Cell, Workload
 from programs import Disagreement, Programs
-from result_table import print_aligned
-from scale_plot import write_scale_plots
-from scale_table import GROWING, growth_rows, replay_rows, verdict_rows, verdicts
+from scale_table import GROWING, Growth, growth_rows, judged, replay_rows, verdict_rows, verdicts
+from svg_plot import write_scale_plots
+from tables import print_aligned
 
 SESSIONS = (1, 2, 5, 10, 20, 50, 100, 200, 500, 1000, 2000, 5000, 10_000)
 
@@ -34,19 +32,17 @@ def parse_arguments():
     return arguments
 
 
-def measure_replay(programs, arguments, directory):
+def measure_replay(programs, arguments):
     """{sessions: {(operation, side): [nanoseconds per session]}}"""
     times = {sessions: collections.defaultdict(list) for sessions in SESSIONS}
-    corpora = {sessions: pathlib.Path(directory) / f"replay_{sessions}" for sessions in SESSIONS}
-    for sessions, corpus in corpora.items():
-        programs.write_corpus(corpus, Cell(Workload("W7", f"replay_{sessions}", sessions=sessions), "fixed"), 0, 1)
     order = random.Random(1)
     for _ in range(arguments.rounds):
         for sessions in order.sample(SESSIONS, len(SESSIONS)):
-            for peer in ("ours", "copy"):
-                seed = order.randrange(1 << 30)
-                for operation, side, time in programs.time(peer, corpora[sessions], 3, arguments.milliseconds, seed):
-                    times[sessions][operation, side].append(time / sessions)
+            cell = Cell(Workload("W7", f"replay_{sessions}", sessions=sessions), "fixed")
+            _, rows = programs.measure("time", cell, ("decode", "encode"), ["ours"], amount=arguments.milliseconds,
+                                       messages=1, seed=order.randrange(1 << 30))
+            for operation, side, time in rows:
+                times[sessions][operation, side].append(float(time) / sessions)
     return times
 
 
@@ -101,21 +97,20 @@ def as_json(description, replay, threads, series, judgements):
 def main():
     arguments = parse_arguments()
     programs = Programs(arguments.build)
-    description = machine.describe("bench/scale", arguments.build, [programs.version(peer) for peer in ("ours", "copy")])
+    description = machine.describe("bench/scale", arguments.build, programs.versions(["ours"]))
     for name, text in description.items():
         print(f"{name + ':':<14} {text}")
-    with tempfile.TemporaryDirectory(prefix="mava_tum_bench_") as directory:
-        try:
-            replay = measure_replay(programs, arguments, directory)
-            threads = measure_threads(programs, arguments)
-            series = measure_growth(programs, arguments)
-        except Disagreement as disagreement:
-            sys.exit(f"bench/scale: nothing is reported: {disagreement}")
+    try:
+        replay = measure_replay(programs, arguments)
+        threads = measure_threads(programs, arguments)
+        series = measure_growth(programs, arguments)
+    except Disagreement as disagreement:
+        sys.exit(f"bench/scale: nothing is reported: {disagreement}")
     judgements = print_scale(replay, threads, series)
     if arguments.json:
         arguments.json.write_text(as_json(description, replay, threads, series, judgements), encoding="utf-8")
     if arguments.plots:
-        write_scale_plots(replay, series, arguments.plots)
+        write_scale_plots(series, arguments.plots)
 
 
 if __name__ == "__main__":

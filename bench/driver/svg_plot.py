@@ -1,25 +1,15 @@
-"""Plots as SVG: for each operation and set of content the peers' times as multiples of ours; the replay by its size."""
+"""Plots: times as fast as a reused protobuf message, and time against length of the worst inputs."""
 
 import math
-import statistics
+import re
 
-from plan import OPERATIONS, SIDES
-
-COLOURS = {
-    "ours": "#1b4f8a", "ours bump": "#1b4f8a", "ours arena": "#3a6ca8", "ours calloc": "#5b8fc9",
-    "memcpy": "#999999", "heap calls": "#bbbbbb",
-    "protobuf reused": "#b3541e", "protobuf new": "#d98a4e", "protobuf arena": "#eec39a",
-    "proto2 reused": "#a03d5c", "proto2 new": "#d99bb0",
-    "protozero": "#3c7a3c", "nanopb": "#8a5fa8", "protobuf-c malloc": "#a8975f", "protobuf-c bump": "#d6c88f",
-}
+from plan import OPERATIONS, SUMMARY, WORKLOADS
+from scale_table import GROWING
 
 WIDTH = 860
-LEFT = 190  # room for the names of the workloads
-RIGHT = 60  # room for the figure behind the longest bar
-BAR = 13
-GAP = 14
-TOP = 76  # room for the title and two lines of legend
-LONGEST = 10  # a peer that takes longer gets a bar that is cut: the others would be too short to compare
+LEFT, RIGHT, TOP = 150, 40, 66
+BAR, GAP = 12, 8
+COLOURS = {"realistic": "#1b4f8a", "random": "#5b8fc9"}
 
 
 class Drawing:
@@ -44,99 +34,140 @@ class Drawing:
         path.write_text("\n".join([*self._parts, "</svg>"]) + "\n", encoding="utf-8")
 
 
-def _legend(drawing, sides):
-    x, y = LEFT, 44
-    for side in sides:
-        width = 24 + 6.5 * len(side)
-        if x + width > WIDTH:
-            x, y = LEFT, y + 16
-        drawing.rectangle(x, y - 9, 10, 10, COLOURS[side])
-        drawing.text(x + 14, y, side, size=11)
+def _panel(drawing, y, operation, found, scale):
+    """Returns where the next panel may begin."""
+    drawing.text(16, y, OPERATIONS[operation], size=13)
+    y += 10
+    for workload in WORKLOADS:
+        ratios = {content: found[key] for content in COLOURS if (key := (workload.name, content, operation)) in found}
+        if not ratios:
+            continue
+        drawing.text(LEFT - 8, y + BAR + 4, workload.title, anchor="end", size=11)
+        for content, ratio in ratios.items():
+            drawing.rectangle(LEFT, y, scale * ratio, BAR - 1, COLOURS[content])
+            drawing.text(LEFT + scale * ratio + 4, y + BAR - 3, f"{ratio:.2f}", size=10)
+            y += BAR
+        y += GAP
+    return y + 14
+
+
+def write_plots(results, directory):
+    found = {(*result.cell, result.operation): result.ratio
+             for result in results if SUMMARY.get(result.operation) == result.other and result.set in COLOURS}
+    if not found:
+        return
+    operations = [operation for operation in SUMMARY if any(key[2] == operation for key in found)]
+    scale = (WIDTH - LEFT - RIGHT) / max(found.values())
+    rows = {(key[0], key[2]) for key in found}
+    height = TOP + len(rows) * (len(COLOURS) * BAR + GAP) + len(operations) * 24
+    drawing = Drawing(WIDTH, height)
+    drawing.text(16, 24, "Times as fast as protobuf C++ with a reused message (1 is equally fast)", size=15)
+    for place, (content, colour) in enumerate(COLOURS.items()):
+        drawing.rectangle(LEFT + 110 * place, 34, 10, 10, colour)
+        drawing.text(LEFT + 110 * place + 14, 43, content, size=11)
+    y = TOP
+    for operation in operations:
+        y = _panel(drawing, y, operation, found, scale)
+    drawing.line([(LEFT + scale, TOP), (LEFT + scale, height - 10)], "#b3541e", 1)
+    directory.mkdir(parents=True, exist_ok=True)
+    drawing.write(directory / "times-protobuf.svg")
+
+
+# Of the plots of growth.
+HEIGHT, BOTTOM = 520, 470
+AXIS, EDGE, HEAD = 80, 30, 84
+KIND_COLOURS = (
+    "#1b4f8a", "#b3541e", "#3c7a3c", "#8a5fa8", "#a03d5c", "#a8975f", "#5b8fc9", "#777777", "#d98a4e", "#4aa3a3",
+    "#222222",
+)
+
+
+class LogScale:
+    def __init__(self, least, most, from_pixel, to_pixel):
+        self._least, self._most = math.log10(least), math.log10(most)
+        self._from, self._to = from_pixel, to_pixel
+
+    def place(self, value):
+        share = (math.log10(value) - self._least) / (self._most - self._least)
+        return self._from + (self._to - self._from) * share
+
+    def decades(self):
+        return [10 ** power for power in range(math.ceil(self._least), math.floor(self._most) + 1)]
+
+
+def _kind(entry):
+    """Without the field it is about."""
+    return re.sub(r" (of field \d+|\d+ deep)", "", entry["kind"])
+
+
+def _size(size):
+    return f"{size // 1024:,} KiB" if size >= 1024 else f"{size:,}"
+
+
+def _time(nanoseconds):
+    for unit, length in (("s", 1e9), ("ms", 1e6), ("µs", 1e3)):
+        if nanoseconds >= length:
+            return f"{nanoseconds / length:g} {unit}"
+    return f"{nanoseconds:g} ns"
+
+
+def _kinds_legend(drawing, colours):
+    x, y = AXIS, 44
+    for kind, colour in colours.items():
+        width = 26 + 6.2 * len(kind)
+        if x + width > WIDTH - EDGE:
+            x, y = AXIS, y + 16
+        drawing.line([(x, y - 4), (x + 12, y - 4)], colour, 3)
+        drawing.text(x + 16, y, kind, size=11)
         x += width
 
 
-def _multiples(measurements, cells, operation):
-    """[(cell, {side: times as long as ours})]"""
-    baseline_side = OPERATIONS[operation][1]
-    groups = []
-    for cell in cells:
-        baseline = (cell.workload.name, cell.set, operation, baseline_side)
-        sides = {}
-        for side in SIDES:
-            key = (cell.workload.name, cell.set, operation, side)
-            if measurements.has(key) and measurements.has(baseline):
-                sides[side] = statistics.median(measurements.times_as_fast(baseline, [key]))
-        if len(sides) > 1:
-            groups.append((cell, sides))
-    return groups
+def _axes(drawing, across, up):
+    drawing.line([(AXIS, HEAD), (AXIS, BOTTOM), (WIDTH - EDGE, BOTTOM)], "#444444")
+    for power in range(8, 23, 2):
+        x = across.place(2 ** power)
+        if AXIS <= x <= WIDTH - EDGE:
+            drawing.line([(x, HEAD), (x, BOTTOM)], "#eeeeee")
+            drawing.text(x, BOTTOM + 18, _size(2 ** power), anchor="middle", size=11)
+    for time in up.decades():
+        drawing.line([(AXIS, up.place(time)), (WIDTH - EDGE, up.place(time))], "#eeeeee")
+        drawing.text(AXIS - 6, up.place(time) + 4, _time(time), anchor="end", size=11)
 
 
-def _plot_operation(measurements, cells, operation, content_set, directory):
-    groups = _multiples(measurements, [cell for cell in cells if cell.set == content_set], operation)
-    if not groups:
-        return
-    longest = min(LONGEST, max(max(sides.values()) for _, sides in groups))
-    height = TOP + sum(GAP + BAR * len(sides) for _, sides in groups) + GAP
-    drawing = Drawing(WIDTH, height)
-    title, baseline = OPERATIONS[operation]
-    heading = f"{title}, {content_set} content: time as a multiple of {baseline} (shorter is faster)"
-    drawing.text(16, 24, heading, size=15)
-    _legend(drawing, [side for side in SIDES if any(side in sides for _, sides in groups)])
-    y = TOP
-    for cell, sides in groups:
-        drawing.text(LEFT - 8, y + BAR * len(sides) / 2 + 4, cell.workload.title, anchor="end")
-        for side, multiple in sides.items():
-            width = (WIDTH - LEFT - RIGHT) * min(multiple, longest) / longest
-            drawing.rectangle(LEFT, y, width, BAR - 2, COLOURS[side])
-            cut = " (cut)" if multiple > longest else ""
-            drawing.text(LEFT + width + 4, y + BAR - 4, f"{multiple:.2f}{cut}", size=10)
-            y += BAR
-        y += GAP
-    drawing.write(directory / f"{operation.replace('_', '-')}-{content_set}.svg")
+def _guides(drawing, across, up, points):
+    """Below all lines, how a time grows with the length and with its square."""
+    least = min(time for size, time in points if size >= 4096) * 0.8
+    for power, name in ((1, "linear"), (2, "square")):
+        size = 4096
+        while across.place(2 * size) <= WIDTH - EDGE and up.place(least * (2 * size / 4096) ** power) >= HEAD:
+            size *= 2
+        ends = [(4096, least), (size, least * (size / 4096) ** power)]
+        drawing.line([(across.place(size), up.place(time)) for size, time in ends], "#000000", 2.5)
+        drawing.text(across.place(size) + 4, up.place(ends[1][1]) + 14, name, anchor="end", size=12)
 
 
-def _replay_lines(measurements, cells, operation):
-    """{side: [(sessions, nanoseconds per session)]}"""
-    lines = {}
-    replays = sorted({cell.workload.sessions: cell for cell in cells if "replay" in cell.workload.name}.items())
-    for sessions, cell in replays:
-        for side in SIDES:
-            key = (cell.workload.name, cell.set, operation, side)
-            if measurements.has(key):
-                lines.setdefault(side, []).append((sessions, measurements.median(key)))
-    return {side: points for side, points in lines.items() if len(points) > 1}
+def _plot_growth(series, operation, path):
+    entries = [entry for entry in series if entry["operation"] == operation]
+    kinds = sorted({_kind(entry) for entry in entries})
+    colours = dict(zip(kinds, KIND_COLOURS))
+    points = [point for entry in entries for point in entry["points"]]
+    sizes = (min(size for size, _ in points), max(size for size, _ in points))
+    times = (min(time for _, time in points) / 2, max(time for _, time in points))
+    across = LogScale(*sizes, AXIS, WIDTH - EDGE)
+    up = LogScale(*times, BOTTOM, HEAD)
+    drawing = Drawing(WIDTH, HEIGHT)
+    title = f"{GROWING[operation]}: time against length of the input, a line per message and kind of input"
+    drawing.text(16, 24, title, size=15)
+    _kinds_legend(drawing, colours)
+    _axes(drawing, across, up)
+    for entry in entries:
+        line = [(across.place(size), up.place(time)) for size, time in entry["points"]]
+        drawing.line(line, colours[_kind(entry)], 0.7)
+    _guides(drawing, across, up, points)
+    drawing.write(path)
 
 
-def _plot_replay(measurements, cells, operation, directory):
-    lines = _replay_lines(measurements, cells, operation)
-    if not lines:
-        return
-    height, bottom = 360, 310
-    highest = max(time for points in lines.values() for _, time in points)
-    most = max(sessions for points in lines.values() for sessions, _ in points)
-    drawing = Drawing(WIDTH, height)
-    title = OPERATIONS[operation][0]
-    drawing.text(16, 24, f"{title} of a replay: nanoseconds per session by sessions in the message", size=15)
-    _legend(drawing, lines)
-
-    def place(sessions, time):
-        share = math.log10(sessions) / max(1.0, math.log10(most))
-        return 70 + (WIDTH - 140) * share, bottom - (bottom - TOP) * time / highest
-
-    drawing.line([(70, TOP), (70, bottom), (WIDTH - 70, bottom)], "#444444")
-    for sessions in sorted({sessions for points in lines.values() for sessions, _ in points}):
-        drawing.text(place(sessions, 0)[0], bottom + 18, f"{sessions:,}", anchor="middle")
-    for side, points in lines.items():
-        drawing.line([place(*point) for point in points], COLOURS[side], 2)
-        x, y = place(*points[-1])
-        drawing.text(x + 6, y + 4, f"{points[-1][1]:,.0f}", size=10)
-    drawing.write(directory / f"replay-{operation}.svg")
-
-
-def write_plots(measurements, cells, directory):
+def write_scale_plots(series, directory):
     directory.mkdir(parents=True, exist_ok=True)
-    for operation in ("decode", "encode", "duplicate", "encode_adapter", "decode_adapter"):
-        for content_set in ("fixed", "realistic", "random"):
-            _plot_operation(measurements, cells, operation, content_set, directory)
-    for operation in ("decode", "encode", "duplicate"):
-        _plot_replay(measurements, cells, operation, directory)
+    for operation in GROWING:
+        _plot_growth(series, operation, directory / f"scale-{operation.replace(' ', '-')}.svg")

@@ -21,7 +21,20 @@ struct growing_input {
 };
 
 // As long as `bytes` or, by less than a unit and the nesting, longer.
-wire_bytes input_of(const growing_input &input, size_t bytes);
+inline wire_bytes input_of(const growing_input &input, size_t bytes)
+{
+    wire_bytes wire = input.head;
+    do
+        append(wire, input.unit);
+    while (wire.size() + input.tail.size() < bytes);
+    append(wire, input.tail);
+    for (size_t level = input.nesting.size(); level != 0; --level) {
+        wire_bytes outer;
+        append_delimited(outer, input.nesting[level - 1], wire);
+        wire.swap(outer);
+    }
+    return wire;
+}
 
 // The inputs that make a decoder work hardest for each byte.
 std::vector<growing_input> worst_inputs(const mava_tum_model::message &of);

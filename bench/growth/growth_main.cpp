@@ -32,9 +32,9 @@ class repeated_call final : public timed_operation
 public:
     explicit repeated_call(measured_call &call) : call_(call) {}
 
-    void run(uint64_t passes) override
+    void run(size_t, uint64_t calls) override
     {
-        for (; passes != 0; --passes)
+        for (; calls != 0; --calls)
             call_.call();
     }
 
@@ -69,7 +69,7 @@ void measure(const char *operation, const char *name, const growing_input &input
         if (!call.prepare(wire))
             stop(operation, name, input);
         repeated_call repeated(call);
-        const double nanoseconds = time_operation(repeated, 1, {samples, within.sample_nanoseconds});
+        const double nanoseconds = time_operation(repeated, {samples, within.sample_nanoseconds});
         std::printf("%s\t%s\t%s\t%zu\t%.1f\n", operation, name, input.kind.c_str(), wire.size(), nanoseconds);
     }
 }

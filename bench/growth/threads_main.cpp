@@ -54,7 +54,7 @@ rates run_for(timed_operation &operation, double seconds)
     double taken = 0;
     uint64_t calls = 0;
     while (taken < seconds) {
-        operation.run(calls_between_looks);
+        operation.run(0, calls_between_looks);
         calls += calls_between_looks;
         taken = seconds_of(CLOCK_MONOTONIC) - begin;
     }

@@ -11,11 +11,25 @@
 
 #include "tum_nal/nal_reconciliation.h"
 #include "tum_nal/nal_redundancy_group.h"
+#include "tum_nal/nal_routes.h"
+#include "tum_nal/nal_session_context.h"
 
 namespace bench
 {
 
-// The fixed messages of the sessions and of the route batch are in workloads.h.
+// Both ways whole: the record that an encode adapter sends is the one that a decode adapter fills.
+
+// A broadband session as most are: PPP in two VLANs, IPv4 and IPv6, two QoS entries, an access list, a path check, an
+// MTU, accounting. Some fifty fields, eight texts, about 350 bytes.
+void fill_typical_session(tum_nal_data_session_context &record);
+
+// Every member that can travel, in its longest usual form: eight QoS entries with six texts each, four routes of each
+// family, L2TP over IPv6, all lists, redirect, intercept. About 6 kB.
+void fill_full_session(tum_nal_data_session_context &record);
+
+// A batch of fifty routes of each family, every member set. About 11 kB.
+void fill_route_batch(tum_nal_data_sub_route &record);
+
 void fill_subscriber_stats(tum_nal_data_subscriber_stats &record);
 void fill_session_states(tum_nal_data_rec_sess_req &record);
 void fill_group_start(tum_nal_data_srg_group_rec_start_req &record);

@@ -1,7 +1,5 @@
 #include "peers/content/content.h"
 
-#include "workloads.h"
-
 #include <algorithm>
 
 namespace bench

@@ -1,11 +1,13 @@
-// What all peers of a run work on: the messages of one workload, one set of content and one window of its numbers. The
-// corpus writer makes the file with our library; a peer reads it, so that no peer needs more than its own library.
+// What all sides of a measurement work on: the messages of one workload, one set of content and one window of its
+// numbers, made with our library.
 #ifndef MAVA_TUM_BENCH_CORPUS_H
 #define MAVA_TUM_BENCH_CORPUS_H
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
+#include <functional>
 #include <span>
 #include <string>
 #include <vector>
@@ -21,24 +23,41 @@ struct corpus {
 
     std::vector<std::vector<uint8_t>> wires;
 
-    // One application record per message, or none where the workload has no adapter: what a sender starts from, and
-    // what a receiver ends with (not the same: not all members travel).
-    uint64_t application_bytes = 0;
+    // One application record per message, what a sender starts from; none where the workload has no adapter.
     std::vector<uint8_t> sent;
-    std::vector<uint8_t> received;
+
+    // The record that our decode adapter makes of message `i`; valid until the next call. Not the one that was sent:
+    // not all members travel.
+    std::function<byte_view(size_t i)> received;
 
     size_t message_count() const
     {
         return wires.size();
     }
 
-    uint64_t longest_wire() const;
-    uint64_t wire_bytes() const;
+    uint64_t longest_wire() const
+    {
+        uint64_t longest = 0;
+        for (const std::vector<uint8_t> &wire : wires)
+            longest = std::max<uint64_t>(longest, wire.size());
+        return longest;
+    }
+
+    uint64_t wire_bytes() const
+    {
+        uint64_t sum = 0;
+        for (const std::vector<uint8_t> &wire : wires)
+            sum += wire.size();
+        return sum;
+    }
 };
 
-// Both exit with a message when the file cannot be read or written whole.
-corpus read_corpus(const std::string &path);
-void write_corpus(const std::string &path, const corpus &content);
+// The application records to send, typed.
+template <class Record>
+std::span<const Record> records_to_send(const corpus &content)
+{
+    return {reinterpret_cast<const Record *>(content.sent.data()), content.sent.size() / sizeof(Record)};
+}
 
 } // namespace bench
 

@@ -8,6 +8,7 @@
 
 #include "peers/harness/corpus.h"
 
+#include <algorithm>
 #include <functional>
 #include <memory>
 #include <utility>
@@ -27,8 +28,8 @@ class timed_operation
 public:
     virtual ~timed_operation() = default;
 
-    // Goes through all messages, `passes` times.
-    virtual void run(uint64_t passes) = 0;
+    // Calls once for each message from number `first` on, and goes on from number 0 after the last.
+    virtual void run(size_t first, uint64_t calls) = 0;
 
     std::string name;
     std::string side;
@@ -37,11 +38,18 @@ public:
 class suite
 {
 public:
-    explicit suite(const corpus &content) : content_(content) {}
+    // With a name, only the operations of that name are checked and kept.
+    explicit suite(const corpus &content, std::string only = {}) : content_(content), only_(std::move(only)) {}
 
     const corpus &content() const
     {
         return content_;
+    }
+
+    // A peer asks before it makes what only this operation works on.
+    bool wants(const std::string &name) const
+    {
+        return only_.empty() || name == only_;
     }
 
     // `call` returns whether it succeeded. What it leads to is checked by `wire_after`, which returns the bytes that
@@ -95,11 +103,12 @@ private:
     public:
         operation_of(size_t message_count, Call call) : message_count_(message_count), call_(std::move(call)) {}
 
-        void run(uint64_t passes) override
+        void run(size_t first, uint64_t calls) override
         {
-            for (; passes != 0; --passes) {
-                for (size_t i = 0; i < message_count_; ++i)
-                    keep(call_(i));
+            for (size_t i = first % message_count_; calls != 0; --calls) {
+                keep(call_(i));
+                if (++i == message_count_)
+                    i = 0;
             }
         }
 
@@ -111,6 +120,8 @@ private:
     template <class Call>
     void keep_operation(const char *name, const char *side, Call call)
     {
+        if (!wants(name))
+            return;
         auto operation = std::make_unique<operation_of<Call>>(content_.message_count(), std::move(call));
         operation->name = name;
         operation->side = side;
@@ -126,22 +137,41 @@ private:
     template <class Record>
     std::string record_difference(size_t i, const Record &record) const
     {
-        const byte_view wanted(content_.received.data() + i * sizeof record, sizeof record);
-        return bytes_difference(wanted, byte_view(reinterpret_cast<const uint8_t *>(&record), sizeof record));
+        const byte_view got(reinterpret_cast<const uint8_t *>(&record), sizeof record);
+        return bytes_difference(content_.received(i), got);
     }
 
     const corpus &content_;
+    std::string only_;
     std::string disagreement_;
     std::vector<std::unique_ptr<timed_operation>> operations_;
 };
 
-// The corpus's application records to send, typed.
-template <class Record>
-std::vector<Record> records_to_send(const corpus &content)
+inline void suite::check(const char *name, const char *side, const std::function<std::string(size_t)> &difference_of)
 {
-    std::vector<Record> records(content.message_count());
-    std::memcpy(static_cast<void *>(records.data()), content.sent.data(), content.sent.size());
-    return records;
+    if (!wants(name))
+        return;
+    for (size_t i = 0; i < content_.message_count() && disagreement_.empty(); ++i) {
+        const std::string difference = difference_of(i);
+        if (!difference.empty()) {
+            disagreement_ = std::string(side) + " " + name + " of message " + std::to_string(i) + " of " +
+                            content_.workload + ", " + content_.set + ": " + difference;
+        }
+    }
+}
+
+inline std::string suite::wire_difference(size_t i, byte_view written) const
+{
+    return bytes_difference(content_.wires[i], written);
+}
+
+inline std::string suite::bytes_difference(byte_view wanted, byte_view got) const
+{
+    if (std::ranges::equal(wanted, got))
+        return {};
+    const auto first = std::ranges::mismatch(wanted, got).in1 - wanted.begin();
+    return std::to_string(got.size()) + " bytes where " + std::to_string(wanted.size()) +
+           " are due, the first difference at byte " + std::to_string(first);
 }
 
 } // namespace bench

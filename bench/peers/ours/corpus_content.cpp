@@ -2,8 +2,7 @@
 
 #include "peers/content/content.h"
 #include "peers/harness/workload_names.h"
-#include "peers/ours/codec_operations.h"
-#include "workloads.h"
+#include "peers/ours/our_operations.h"
 
 namespace bench
 {
@@ -40,18 +39,22 @@ template <class Adapter>
 void add_messages(corpus &content, const filler<typename Adapter::sent> &from, const message_window &numbers)
 {
     using application = typename Adapter::sent;
-    content.application_bytes = sizeof(application);
-    auto record = std::make_unique<application>();
-    for (uint64_t i = 0; i < (content.set == "fixed" ? 1 : numbers.count); ++i) {
+    auto record = std::make_shared<application>();
+    const uint64_t count = content.set == "fixed" ? 1 : numbers.count;
+    content.sent.reserve(count * sizeof(application));
+    for (uint64_t i = 0; i < count; ++i) {
         std::memset(static_cast<void *>(record.get()), 0, sizeof *record);
         fill(from, content.set, numbers.first + i, *record);
         append(content.sent, *record);
         std::vector<uint8_t> wire(Adapter::encode(record.get(), nullptr, 0));
         Adapter::encode(record.get(), wire.data(), static_cast<uint32_t>(wire.size()));
-        Adapter::decode(wire.data(), static_cast<uint32_t>(wire.size()), record.get());
-        append(content.received, *record);
         content.wires.push_back(std::move(wire));
     }
+    content.received = [&content, record](size_t i) {
+        const std::vector<uint8_t> &wire = content.wires[i];
+        Adapter::decode(wire.data(), static_cast<uint32_t>(wire.size()), record.get());
+        return byte_view(reinterpret_cast<const uint8_t *>(record.get()), sizeof *record);
+    };
 }
 
 std::vector<uint8_t> typical_session_wire()

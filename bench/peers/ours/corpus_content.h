@@ -14,7 +14,7 @@ struct message_window {
 };
 
 // Fills in the messages of the workload and set that `content` names: what is in a message depends on workload, set and
-// number only. Returns false if there are none of that name.
+// number only. Returns false if there are none of that name. `content` must not be moved afterwards.
 bool fill_corpus(corpus &content, const message_window &numbers);
 
 } // namespace bench

@@ -1,9 +1,7 @@
 // The library itself, through its codec functions and through its adapters.
 #include "peers/harness/peer_program.h"
 #include "peers/harness/workload_names.h"
-#include "peers/ours/adapter_operations.h"
-#include "peers/ours/arena_operations.h"
-#include "peers/ours/gather_operations.h"
+#include "peers/ours/our_operations.h"
 
 namespace bench
 {
@@ -16,13 +14,6 @@ void add_all(suite &operations)
     add_codec<Codec>(operations);
     add_arena_decode<Codec>(operations, MAVA_TUM_ALIAS);
     add_adapter<Adapter>(operations);
-    add_heap_floor<Codec>(operations, "decode_adapter");
-}
-
-void add_replay(suite &operations)
-{
-    add_codec<replay_codec>(operations);
-    add_heap_floor<replay_codec>(operations, "decode");
 }
 
 void add_large_bytes(suite &operations)
@@ -57,7 +48,7 @@ void add_operations(suite &operations)
     else if (workload == group_start)
         add_all<group_start_codec, group_start_adapter>(operations);
     else if (is_replay(workload))
-        add_replay(operations);
+        add_codec<replay_codec>(operations);
     else if (is_large_bytes(workload))
         add_large_bytes(operations);
 }

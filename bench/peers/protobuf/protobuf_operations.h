@@ -3,10 +3,100 @@
 #define MAVA_TUM_BENCH_PROTOBUF_OPERATIONS_H
 
 #include "peers/harness/suite.h"
-#include "peers/protobuf/message_sources.h"
+#include "peers/protobuf/peer_language.h"
+
+#include <google/protobuf/arena.h>
 
 namespace bench
 {
+
+// A protobuf arena at its best: one block of the caller's, large enough, used again for each message.
+class peer_arena
+{
+public:
+    explicit peer_arena(size_t block_bytes = 256 * 1024) : block_(block_bytes), arena_(options_for(block_)) {}
+
+    // The message lives until `reset`.
+    template <class Message>
+    Message *create()
+    {
+        return google::protobuf::Arena::CreateMessage<Message>(&arena_);
+    }
+
+    void reset()
+    {
+        arena_.Reset();
+    }
+
+private:
+    static google::protobuf::ArenaOptions options_for(std::vector<char> &block)
+    {
+        google::protobuf::ArenaOptions options;
+        options.initial_block = block.data();
+        options.initial_block_size = block.size();
+        return options;
+    }
+
+    std::vector<char> block_;
+    google::protobuf::Arena arena_;
+};
+
+// Where a protobuf user takes the message from that a call works on: a new one, one that is used again, or one on an
+// arena. `with` lends it to the call and takes it back.
+template <class Message>
+class new_message
+{
+public:
+    static constexpr const char *side = MAVA_TUM_BENCH_PROTOBUF_SIDE " new";
+
+    explicit new_message(size_t /*arena_bytes*/) {}
+
+    template <class Call>
+    auto with(Call call)
+    {
+        Message message;
+        return call(message);
+    }
+};
+
+template <class Message>
+class reused_message
+{
+public:
+    static constexpr const char *side = MAVA_TUM_BENCH_PROTOBUF_SIDE " reused";
+
+    explicit reused_message(size_t /*arena_bytes*/) {}
+
+    // Parsing and copying clear the message themselves; who fills it clears it first.
+    template <class Call>
+    auto with(Call call)
+    {
+        return call(message_);
+    }
+
+private:
+    Message message_;
+};
+
+template <class Message>
+class arena_message
+{
+public:
+    static constexpr const char *side = MAVA_TUM_BENCH_PROTOBUF_SIDE " arena";
+
+    explicit arena_message(size_t arena_bytes) : arena_(arena_bytes) {}
+
+    template <class Call>
+    auto with(Call call)
+    {
+        const auto result = call(*arena_.create<Message>());
+        arena_.reset();
+        return result;
+    }
+
+private:
+    peer_arena arena_;
+};
 
 template <class Message>
 bool parse(Message &message, const std::vector<uint8_t> &wire)
@@ -73,6 +163,8 @@ void add_decode(suite &operations)
 template <class Message>
 void add_encode(suite &operations)
 {
+    if (!operations.wants("encode"))
+        return;
     auto messages = parsed_corpus<Message>(operations.content());
     auto buffer = output_buffer(operations.content());
     operations.add_encode("encode", reused_message<Message>::side,
@@ -82,6 +174,8 @@ void add_encode(suite &operations)
 template <class Message, template <class> class Source>
 void add_duplicate(suite &operations)
 {
+    if (!operations.wants("duplicate"))
+        return;
     auto messages = parsed_corpus<Message>(operations.content());
     auto source = std::make_shared<Source<Message>>(arena_bytes_for(operations.content()));
     operations.add(
@@ -105,12 +199,12 @@ void add_adapter(suite &operations)
 {
     const corpus &content = operations.content();
     auto source = std::make_shared<Source<Message>>(arena_bytes_for(content));
-    auto sent = std::make_shared<std::vector<Application>>(records_to_send<Application>(content));
+    const std::span<const Application> sent = records_to_send<Application>(content);
     auto buffer = output_buffer(content);
     operations.add_encode("encode_adapter", Source<Message>::side, [sent, source, buffer](size_t i) {
         return source->with([&](Message &message) {
             message.Clear();
-            fill_peer((*sent)[i], message);
+            fill_peer(sent[i], message);
             return serialize(message, *buffer);
         });
     });

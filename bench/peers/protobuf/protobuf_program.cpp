@@ -1,10 +1,7 @@
 // protobuf C++: messages generated from session.proto, as proto3 or as proto2, the ordinary runtime.
 #include "peers/harness/peer_program.h"
 #include "peers/harness/workload_names.h"
-#include "peers/protobuf/reconciliation_peer.h"
-#include "peers/protobuf/routes_peer.h"
-#include "peers/protobuf/session_peer.h"
-#include "peers/protobuf/statistics_peer.h"
+#include "peers/protobuf/protobuf_records.h"
 
 // The operations find fill_peer and read_peer above.
 #include "peers/protobuf/protobuf_operations.h"

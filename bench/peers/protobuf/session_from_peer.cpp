@@ -1,6 +1,5 @@
 #include "peers/protobuf/peer_fields.h"
-#include "peers/protobuf/routes_peer.h"
-#include "peers/protobuf/session_peer.h"
+#include "peers/protobuf/protobuf_records.h"
 
 // The record is zero before anything is read into it, and an absent field reads as zero: only whole nested messages are
 // tested for presence, which is the faster way.

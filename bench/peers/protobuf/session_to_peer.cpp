@@ -1,6 +1,5 @@
 #include "peers/protobuf/peer_fields.h"
-#include "peers/protobuf/routes_peer.h"
-#include "peers/protobuf/session_peer.h"
+#include "peers/protobuf/protobuf_records.h"
 
 namespace bench
 {

@@ -153,6 +153,8 @@ void add_codec(suite &operations)
 {
     add_decode<Generated, malloc_memory>(operations);
     add_decode<Generated, bump_memory>(operations);
+    if (!operations.wants("encode"))
+        return;
     auto unpacked = std::make_shared<unpacked_corpus<Generated>>(operations.content());
     auto buffer = output_buffer(operations.content());
     operations.add_encode("encode", malloc_side,
@@ -163,13 +165,13 @@ void add_codec(suite &operations)
 template <class Generated, class Application, class Parts>
 void add_encode_adapter(suite &operations)
 {
-    auto sent = std::make_shared<std::vector<Application>>(records_to_send<Application>(operations.content()));
+    const std::span<const Application> sent = records_to_send<Application>(operations.content());
     auto buffer = output_buffer(operations.content());
     operations.add_encode("encode_adapter", malloc_side, [sent, buffer](size_t i) {
         typename Generated::message message;
         Parts parts;
         Generated::init(&message);
-        fill_peer((*sent)[i], message, parts);
+        fill_peer(sent[i], message, parts);
         return pack<Generated>(message, *buffer);
     });
 }

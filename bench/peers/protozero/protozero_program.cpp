@@ -15,11 +15,11 @@ template <class Application>
 void add_adapter(suite &operations)
 {
     const corpus &content = operations.content();
-    auto sent = std::make_shared<std::vector<Application>>(records_to_send<Application>(content));
+    const std::span<const Application> sent = records_to_send<Application>(content);
     auto bytes = std::make_shared<std::vector<char>>(content.longest_wire() + 64 * 1024);
     operations.add_encode("encode_adapter", "protozero", [sent, bytes](size_t i) {
         output_buffer buffer(bytes->data(), bytes->size());
-        write_record(buffer, (*sent)[i]);
+        write_record(buffer, sent[i]);
         return byte_view(reinterpret_cast<const uint8_t *>(buffer.data()), buffer.size());
     });
     auto received = std::make_shared<Application>();

@@ -30,6 +30,11 @@ void write_route(writer &message, const tum_nal_data_ipv6_route &route);
 void read_route(pbf_reader message, tum_nal_data_ipv4_route &route);
 void read_route(pbf_reader message, tum_nal_data_ipv6_route &route);
 
+// The nested messages of a session that say how it reaches the network: addresses, PPP, L2TP, VLANs, names.
+void read_v4(pbf_reader message, tum_nal_data_session_context &record);
+void read_v6(pbf_reader message, tum_nal_data_session_context &record);
+void read_session_data(pbf_reader message, tum_nal_data_session_context &record);
+
 } // namespace bench
 
 #endif

@@ -1,4 +1,4 @@
-#include "peers/protozero/protozero_access_reader.h"
+#include "peers/protozero/protozero_records.h"
 
 namespace bench
 {
