@@ -74,8 +74,9 @@ TEST_F(time_pairs_test, a_message_comes_again_only_after_half_of_the_others)
     std::map<size_t, size_t> last_use;
     for (size_t place = 0; place < calls.size(); ++place) {
         const auto [known, is_new] = last_use.emplace(calls[place].message, place);
-        if (!is_new && calls[place].message < messages)
+        if (!is_new && calls[place].message < messages) {
             EXPECT_GT(place - known->second, messages / 2) << "message " << calls[place].message;
+        }
     }
 }
 
