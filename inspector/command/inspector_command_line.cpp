@@ -77,9 +77,9 @@ void add_written_as(CLI::App &command, command_options &options)
         "how to write the message: raw, hex, base64 or frames", "FORMAT");
 }
 
-void add_json(CLI::App &command, command_options &options)
+CLI::Option *add_json(CLI::App &command, command_options &options)
 {
-    command.add_flag("-j,--json", options.as_json, "print JSON");
+    return command.add_flag("-j,--json", options.as_json, "print JSON");
 }
 
 void add_colour(CLI::App &command, command_options &options)
@@ -95,7 +95,10 @@ void declare_decode(CLI::App &command, command_options &options)
 {
     add_message(command, options);
     add_file(command, options);
-    add_json(command, options);
+    CLI::Option *json = add_json(command, options);
+    command.add_flag("--fields", options.with_fields, "with --json: say where each field stands, or that it is absent")
+        ->needs(json);
+    command.add_flag("--no-absent", options.without_absent, "do not name the fields that are absent");
     add_output(command, options);
     add_colour(command, options);
 }

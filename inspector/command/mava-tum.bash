@@ -12,7 +12,7 @@ _mava_tum_adapters() {
 # _mava_tum_options <command>
 _mava_tum_options() {
     case $1 in
-    decode) echo "--format --json --output --color --help" ;;
+    decode) echo "--format --json --fields --no-absent --output --color --help" ;;
     explain) echo "--format --output --color --help" ;;
     encode) echo "--output --to --help" ;;
     app) echo "--format --output --to --help" ;;

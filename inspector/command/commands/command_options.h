@@ -20,6 +20,8 @@ struct command_options {
     input_format written_as = input_format::raw;
     colour_choice colour = colour_choice::automatic;
     bool as_json = false;
+    bool with_fields = false;    // of JSON: where each field stands
+    bool without_absent = false; // absent fields are not named
 };
 
 } // namespace mava_tum_cli

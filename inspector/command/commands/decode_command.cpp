@@ -9,6 +9,17 @@
 namespace mava_tum_cli
 {
 
+namespace
+{
+
+json_style style_of(const command_options &options, const message_source &source)
+{
+    const auto layout = source.has_frames() ? json_writer::layout::one_line : json_writer::layout::spread;
+    return {layout, options.with_fields, !options.without_absent};
+}
+
+} // namespace
+
 exit_status run_decode(const command_options &options)
 {
     const mava_tum_inspect::message_description &message = message_named(options.name);
@@ -16,15 +27,17 @@ exit_status run_decode(const command_options &options)
     output_file output(options.output);
     source.show_progress_beside(output);
     const colours colour(options.colour, output.is_terminal());
+    const json_style style = style_of(options, source);
+    absent_fields absent(colour);
     fault_report report("decode", message);
     while (source.next()) {
         if (options.as_json) {
-            output.write(decode_to_json(message, source.message(), source.has_frames()).text + "\n");
-        } else {
-            output.write(frame_heading(source, message.name));
-            print_tree(message, source.message(), colour, output);
+            report.add(source, print_json(message, source.message(), style, output));
+            continue;
         }
-        report.look_at(source);
+        output.write(frame_heading(source, message.name));
+        report.add(
+            source, print_tree(message, source.message(), options.without_absent ? nullptr : &absent, colour, output));
     }
     output.commit();
     return report.finish();

@@ -54,8 +54,12 @@ fault_report::fault_report(std::string command, const mava_tum_inspect::message_
 
 void fault_report::look_at(const message_source &source)
 {
+    add(source, fault_of(m_message, source.message()));
+}
+
+void fault_report::add(const message_source &source, const std::optional<std::string> &fault)
+{
     ++m_seen;
-    const std::optional<std::string> fault = fault_of(m_message, source.message());
     if (!fault)
         return;
     if (++m_broken == 1)

@@ -5,6 +5,7 @@
 #include "input/message_source.h"
 #include "inspector/library/message_table.h"
 
+#include <optional>
 #include <string>
 
 namespace mava_tum_cli
@@ -20,6 +21,9 @@ public:
 
     // Takes note of the present message.
     void look_at(const message_source &source);
+
+    // The same, where its fault is known.
+    void add(const message_source &source, const std::optional<std::string> &fault);
 
     // Prints the first fault, and how many messages have one. Returns what the command returns.
     exit_status finish() const;

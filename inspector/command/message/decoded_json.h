@@ -1,22 +1,26 @@
-// A message as the JSON of `decode --json`:
+// A message as the JSON of `decode --json`, written as it is decoded:
 //
 //     message, bytes, result     its name, its size, and with what a decode answers it
 //     fault                      where and why a decode ends, if it does
 //     record                     the values of the fields that are present: what `encode` reads
-//     fields                     where each of them stands, and which are absent
+//     fields                     if asked for: where each of them stands, and which are absent
 #pragma once
 
 #include "message/field_value.h"
 
+#include <optional>
+
 namespace mava_tum_cli
 {
 
-struct decoded_json {
-    std::string text;
-    bool is_whole; // the message decodes
+struct json_style {
+    json_writer::layout layout = json_writer::layout::spread;
+    bool has_fields = false;
+    bool has_absent_fields = true; // among the fields
 };
 
-// `is_compact`: on one line.
-decoded_json decode_to_json(const mava_tum_inspect::message_description &message, wire_bytes wire, bool is_compact);
+// Returns the fault in words; nothing: the message decodes.
+std::optional<std::string> print_json(const mava_tum_inspect::message_description &message, wire_bytes wire,
+    const json_style &style, text_output &output);
 
 } // namespace mava_tum_cli

@@ -1,10 +1,9 @@
 #include "message/field_tree.h"
 
 #include "inspector/library/wire_walk.h"
+#include "message/absent_fields.h"
 #include "message/verdict.h"
 #include "words.h"
-
-#include <fmt/format.h>
 
 namespace mava_tum_cli
 {
@@ -13,7 +12,6 @@ namespace
 {
 
 using mava_tum_inspect::extent;
-using mava_tum_inspect::field_description;
 using mava_tum_inspect::message_description;
 using mava_tum_inspect::occurrence;
 using mava_tum_inspect::wire_fault;
@@ -22,30 +20,34 @@ constexpr size_t offset_width = 6;
 constexpr size_t name_width = 26;
 constexpr size_t kind_width = 18;
 constexpr size_t indent_width = 2;
-constexpr size_t longest_line = 96;
-constexpr std::string_view absent_label = "absent: ";
 
 class tree_visitor : public mava_tum_inspect::wire_visitor
 {
 public:
-    tree_visitor(wire_bytes wire, const colours &colour, output_file &output)
-        : m_wire(wire), m_colour(colour), m_output(output)
+    tree_visitor(wire_bytes wire, absent_fields *absent, const colours &colour, text_output &output)
+        : m_wire(wire), m_absent(absent), m_colour(colour), m_output(output)
     {
     }
 
     void on_value(const occurrence &at) override
     {
-        print_field(at, ink::value, text_of_value(at, m_wire));
+        print_place(at);
+        m_output.write(m_colour.start(ink::value));
+        write_value(m_output, at, m_wire);
+        m_output.write(m_colour.end(ink::value));
+        end_line(at);
     }
 
     void on_unknown(const occurrence &at) override
     {
-        print_field(at, ink::value, text_of_value(at, m_wire));
+        on_value(at);
     }
 
     void on_record(const occurrence &at) override
     {
-        print_field(at, ink::plain, counted(at.value.bytes, "byte"));
+        print_place(at);
+        print_size(at.value.bytes);
+        end_line(at);
     }
 
     void on_record_end(const occurrence &at, uint32_t present) override
@@ -55,87 +57,106 @@ public:
 
     void on_undecoded(const occurrence &at) override
     {
-        print_field(at, ink::faint, counted(at.value.bytes, "byte") + ", not decoded");
+        print_place(at);
+        m_output.write(m_colour.start(ink::faint));
+        print_size(at.value.bytes);
+        m_output.write(", not decoded");
+        m_output.write(m_colour.end(ink::faint));
+        end_line(at);
     }
 
-    void on_fault(const wire_fault &fault) override
+    void on_fault(const wire_fault &met) override
     {
-        m_output.write(m_colour.paint(ink::fault,
-                           fmt::format("{:>{}}  fault: {}", fault.offset, offset_width, fault_in_words(fault))) +
-                       "\n");
+        fault = fault_in_words(met);
+        m_output.write(m_colour.start(ink::fault));
+        m_output.write_right_aligned(met.offset, offset_width);
+        m_output.write("  fault: ");
+        m_output.write(*fault);
+        m_output.write(m_colour.end(ink::fault));
+        m_output.put('\n');
     }
 
     void on_unread(const extent &rest) override
     {
-        m_output.write(fmt::format("{:>{}}  {} not read\n", rest.offset, offset_width, counted(rest.bytes, "byte")));
+        m_output.write_right_aligned(rest.offset, offset_width);
+        m_output.write("  " + counted(rest.bytes, "byte") + " not read\n");
     }
 
-    // In lines of a bearable length.
     void print_absent(const message_description &message, uint32_t present, size_t depth)
     {
-        const std::string indent(offset_width + 2 + indent_width * depth, ' ');
-        std::string line;
-        for (const field_description &field : message.fields) {
-            if ((present >> (field.number - 1) & 1) != 0)
-                continue;
-            const std::string name = fmt::format("{} {}", field.number, field.name);
-            if (!line.empty() && indent.size() + line.size() + name.size() > longest_line) {
-                print_faint(indent, line + ",");
-                line = std::string(absent_label.size(), ' ') + name;
-            } else {
-                line += (line.empty() ? std::string(absent_label) : ", ") + name;
-            }
-        }
-        if (!line.empty())
-            print_faint(indent, line);
+        if (m_absent != nullptr)
+            m_output.write(m_absent->lines(message, present, offset_width + 2 + indent_width * depth));
     }
+
+    std::optional<std::string> fault;
 
 private:
-    void print_faint(const std::string &indent, const std::string &text)
+    // All but the value.
+    void print_place(const occurrence &at)
     {
-        m_output.write(indent + m_colour.paint(ink::faint, text) + "\n");
+        m_output.write(m_colour.start(ink::faint));
+        m_output.write_right_aligned(at.tag.offset, offset_width);
+        m_output.write(m_colour.end(ink::faint));
+        const size_t indent = indent_width * at.depth;
+        m_output.fill(2 + indent);
+        print_name(at, name_width - std::min(indent, name_width));
+        m_output.put(' ');
+        m_output.write_padded(short_kind_of(at), kind_width);
     }
 
-    static std::string name_of(const occurrence &at)
+    void print_name(const occurrence &at, size_t width)
     {
-        if (at.field == nullptr)
-            return fmt::format("{} (unknown)", at.path.number);
-        if (is_array_element(at.path))
-            return fmt::format("{} {}[{}]", at.path.number, at.field->name, at.path.index);
-        return fmt::format("{} {}", at.path.number, at.field->name);
+        const std::string_view name = at.field == nullptr ? "(unknown)" : at.field->name;
+        m_output.write(m_colour.start(ink::name));
+        size_t written = m_output.write_number(at.path.number) + 1 + name.size();
+        m_output.put(' ');
+        m_output.write(name);
+        if (is_array_element(at.path)) {
+            m_output.put('[');
+            written += m_output.write_number(at.path.index) + 2;
+            m_output.put(']');
+        }
+        m_output.fill(written < width ? width - written : 0);
+        m_output.write(m_colour.end(ink::name));
     }
 
-    static std::string short_kind_of(const occurrence &at)
+    static std::string_view short_kind_of(const occurrence &at)
     {
         // One element is one record or one text.
         return !is_array_element(at.path) ? kind_of(at) : at.field->nested != nullptr ? "record" : "text";
     }
 
-    void print_field(const occurrence &at, ink value_ink, const std::string &value)
+    void print_size(uint64_t bytes)
     {
-        const size_t indent = indent_width * at.depth;
-        const std::string name = fmt::format("{:<{}}", name_of(at), name_width - std::min(indent, name_width));
-        std::string line = m_colour.paint(ink::faint, fmt::format("{:>{}}", at.tag.offset, offset_width)) + "  " +
-                           std::string(indent, ' ') + m_colour.paint(ink::name, name) + " " +
-                           fmt::format("{:<{}}", short_kind_of(at), kind_width) + m_colour.paint(value_ink, value);
-        for (const std::string &note : notes_in_words(at, m_wire))
-            line += m_colour.paint(ink::faint, "  [" + note + "]");
-        m_output.write(line + "\n");
+        m_output.write_number(bytes);
+        m_output.write(bytes == 1 ? " byte" : " bytes");
+    }
+
+    void end_line(const occurrence &at)
+    {
+        if (at.notes.bits != 0) {
+            for (const std::string &note : notes_in_words(at, m_wire))
+                m_output.write(m_colour.paint(ink::faint, "  [" + note + "]"));
+        }
+        m_output.put('\n');
     }
 
     wire_bytes m_wire;
+    absent_fields *m_absent; // null: they are left out
     const colours &m_colour;
-    output_file &m_output;
+    text_output &m_output;
 };
 
 } // namespace
 
-void print_tree(const message_description &message, wire_bytes wire, const colours &colour, output_file &output)
+std::optional<std::string> print_tree(const message_description &message, wire_bytes wire, absent_fields *absent,
+    const colours &colour, text_output &output)
 {
-    tree_visitor visitor(wire, colour, output);
+    tree_visitor visitor(wire, absent, colour, output);
     const mava_tum_inspect::walk_result result =
         mava_tum_inspect::walk_message(message, wire.data(), wire.size(), visitor);
     visitor.print_absent(message, result.present, 0);
+    return visitor.fault;
 }
 
 } // namespace mava_tum_cli

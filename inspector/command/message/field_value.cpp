@@ -1,7 +1,8 @@
 #include "message/field_value.h"
 
-#include "input/hex_text.h"
 #include "inspector/library/payload_notes.h"
+#include "json/json_values.h"
+#include "json/utf8_text.h"
 
 #include <fmt/format.h>
 
@@ -32,14 +33,40 @@ std::string_view text_in(wire_bytes value)
     return {reinterpret_cast<const char *>(value.data()), mava_tum_inspect::text_bytes(value.data(), value.size())};
 }
 
-std::string hex_or_nothing(wire_bytes value)
+void write_hex_or_nothing(text_output &output, wire_bytes value)
 {
-    return value.empty() ? "(empty)" : hex_of_bytes(value);
+    if (value.empty())
+        output.write("(empty)");
+    else
+        output.write_hex(value);
 }
 
-std::string text_of_unknown(const occurrence &at, wire_bytes value)
+void write_unknown(text_output &output, const occurrence &at, wire_bytes value)
 {
-    return at.wire_type == 0 ? std::to_string(at.number_value) : hex_or_nothing(value);
+    if (at.wire_type == 0)
+        output.write_number(at.number_value);
+    else
+        write_hex_or_nothing(output, value);
+}
+
+void write_ipv4(text_output &output, uint32_t host_order)
+{
+    for (const unsigned shift : {24u, 16u, 8u, 0u}) {
+        output.write_number(host_order >> shift & 0xFF);
+        if (shift != 0)
+            output.put('.');
+    }
+}
+
+// A text that is no UTF-8 is an object with its bytes in hex.
+void write_text(json_writer &writer, std::string_view text)
+{
+    if (is_plain_utf8(text))
+        return writer.string(text);
+    writer.open_object();
+    writer.name("hex");
+    writer.hex({reinterpret_cast<const uint8_t *>(text.data()), text.size()});
+    writer.close();
 }
 
 } // namespace
@@ -49,54 +76,59 @@ wire_bytes value_bytes(const occurrence &at, wire_bytes wire)
     return wire.subspan(at.value.offset, at.value.bytes);
 }
 
-json json_of_value(const occurrence &at, wire_bytes wire)
+void write_value(json_writer &writer, const occurrence &at, wire_bytes wire)
 {
+    const wire_bytes value = value_bytes(at, wire);
     switch (at.field->kind) {
     case field_kind::varint:
-        return at.number_value;
+        return writer.number(at.number_value);
     case field_kind::fixed32:
-        return json_of_ipv4(address_of(at));
+        return writer.string(dotted_ipv4(address_of(at)));
     case field_kind::bytes:
-        return json_of_bytes(value_bytes(at, wire), is_ipv6(at));
+        return is_ipv6(at) ? writer.string(colon_ipv6(value.first<16>())) : writer.hex(value);
     default:
-        return json_of_text(text_in(value_bytes(at, wire)));
+        return write_text(writer, text_in(value));
+    }
+}
+
+void write_value(text_output &output, const occurrence &at, wire_bytes wire)
+{
+    const wire_bytes value = value_bytes(at, wire);
+    if (at.field == nullptr)
+        return write_unknown(output, at, value);
+    switch (at.field->kind) {
+    case field_kind::varint:
+        output.write_number(at.number_value);
+        return;
+    case field_kind::fixed32:
+        output.write_hex(value);
+        output.write(" = ");
+        return write_ipv4(output, address_of(at));
+    case field_kind::bytes:
+        write_hex_or_nothing(output, value);
+        if (is_ipv6(at))
+            output.write(" = " + colon_ipv6(value.first<16>()));
+        return;
+    default:
+        json_writer quoted(output, json_writer::layout::one_line);
+        return write_text(quoted, text_in(value));
     }
 }
 
 std::string text_of_value(const occurrence &at, wire_bytes wire)
 {
-    const wire_bytes value = value_bytes(at, wire);
-    if (at.field == nullptr)
-        return text_of_unknown(at, value);
-    switch (at.field->kind) {
-    case field_kind::varint:
-        return std::to_string(at.number_value);
-    case field_kind::fixed32:
-        return fmt::format("{} = {}", hex_of_bytes(value), dotted_ipv4(address_of(at)));
-    case field_kind::bytes:
-        return is_ipv6(at) ? fmt::format("{} = {}", hex_of_bytes(value), colon_ipv6(value.first<16>()))
-                           : hex_or_nothing(value);
-    default:
-        return json_of_text(text_in(value)).dump();
-    }
+    text_in_memory text;
+    write_value(text, at, wire);
+    return text.take();
 }
 
-std::string kind_of(const occurrence &at)
+std::string_view kind_of(const occurrence &at)
 {
     if (at.field != nullptr)
         return mava_tum_inspect::kind_name(at.field->kind);
-    switch (at.wire_type) {
-    case 0:
-        return "varint";
-    case 1:
-        return "fixed64";
-    case 2:
-        return "bytes";
-    case 5:
-        return "fixed32";
-    default:
-        return fmt::format("wire type {}", at.wire_type);
-    }
+    constexpr std::string_view kinds[] = {
+        "varint", "fixed64", "bytes", "wire type 3", "wire type 4", "fixed32", "wire type 6", "wire type 7"};
+    return kinds[at.wire_type];
 }
 
 bool is_array_element(const path_step &step)

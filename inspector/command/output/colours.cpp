@@ -1,7 +1,6 @@
 #include "output/colours.h"
 
 #include <cstdlib>
-#include <fmt/format.h>
 
 namespace mava_tum_cli
 {
@@ -26,15 +25,15 @@ std::string_view code_of(ink which)
 {
     switch (which) {
     case ink::faint:
-        return "2";
+        return "\033[2m";
     case ink::name:
-        return "36";
+        return "\033[36m";
     case ink::value:
-        return "1";
+        return "\033[1m";
     case ink::fault:
-        return "1;31";
+        return "\033[1;31m";
     default:
-        return "0";
+        return "";
     }
 }
 
@@ -42,11 +41,21 @@ std::string_view code_of(ink which)
 
 colours::colours(colour_choice choice, bool is_terminal) : m_on(are_on(choice, is_terminal)) {}
 
+std::string_view colours::start(ink which) const
+{
+    return m_on ? code_of(which) : "";
+}
+
+std::string_view colours::end(ink which) const
+{
+    return m_on && which != ink::plain ? "\033[0m" : "";
+}
+
 std::string colours::paint(ink which, std::string_view text) const
 {
-    if (!m_on || text.empty() || which == ink::plain)
-        return std::string(text);
-    return fmt::format("\033[{}m{}\033[0m", code_of(which), text);
+    if (text.empty())
+        return "";
+    return std::string(start(which)).append(text).append(end(which));
 }
 
 } // namespace mava_tum_cli

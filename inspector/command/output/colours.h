@@ -19,6 +19,10 @@ public:
 
     std::string paint(ink which, std::string_view text) const;
 
+    // What stands before and after text of this ink.
+    std::string_view start(ink which) const;
+    std::string_view end(ink which) const;
+
 private:
     bool m_on;
 };

@@ -12,13 +12,6 @@
 namespace mava_tum_cli
 {
 
-namespace
-{
-
-constexpr size_t flush_bytes = 64 * 1024;
-
-} // namespace
-
 output_file::output_file(std::string path) : m_path(std::move(path)), m_fd(open_place())
 {
     if (m_fd < 0)
@@ -56,34 +49,22 @@ void output_file::refuse(const char *what, int error) const
     throw bad_use(fmt::format("{}: {}: {}; give another place with -o", m_path, what, std::strerror(error)));
 }
 
-void output_file::flush()
+void output_file::hand_on(std::string &waiting)
 {
     size_t written = 0;
-    while (written < m_waiting.size()) {
-        const ssize_t count = ::write(m_fd, m_waiting.data() + written, m_waiting.size() - written);
+    while (written < waiting.size()) {
+        const ssize_t count = ::write(m_fd, waiting.data() + written, waiting.size() - written);
         if (count >= 0)
             written += static_cast<size_t>(count);
         else if (errno != EINTR)
             refuse("cannot write", errno);
     }
-    m_waiting.clear();
-}
-
-void output_file::write(std::string_view text)
-{
-    m_waiting += text;
-    if (m_waiting.size() >= flush_bytes)
-        flush();
-}
-
-void output_file::write(std::span<const uint8_t> bytes)
-{
-    write(std::string_view(reinterpret_cast<const char *>(bytes.data()), bytes.size()));
+    waiting.clear();
 }
 
 void output_file::commit()
 {
-    flush();
+    hand_on(m_waiting);
     if (m_pending && !m_pending->publish())
         refuse("cannot write", errno);
 }

@@ -3,17 +3,14 @@
 #pragma once
 
 #include "output/pending_file.h"
+#include "output/text_output.h"
 
-#include <cstdint>
 #include <optional>
-#include <span>
-#include <string>
-#include <string_view>
 
 namespace mava_tum_cli
 {
 
-class output_file
+class output_file final : public text_output
 {
 public:
     // An empty path or "-" means standard output. Throws bad_use when the file cannot be made.
@@ -23,8 +20,12 @@ public:
     output_file(const output_file &) = delete;
     output_file &operator=(const output_file &) = delete;
 
-    void write(std::string_view text);
-    void write(std::span<const uint8_t> bytes);
+    using text_output::write;
+
+    void write(std::span<const uint8_t> bytes)
+    {
+        write(std::string_view(reinterpret_cast<const char *>(bytes.data()), bytes.size()));
+    }
 
     // Writes what waits, and gives the file its name. Throws bad_use when the disk is full.
     void commit();
@@ -33,13 +34,12 @@ public:
 
 private:
     int open_place();
-    void flush();
+    void hand_on(std::string &waiting) override;
     [[noreturn]] void refuse(const char *what, int error) const;
 
     std::string m_path;
     std::optional<pending_file> m_pending; // nothing: written in place
     int m_fd;                              // of the pending file, or one that is open for this alone
-    std::string m_waiting;
 };
 
 } // namespace mava_tum_cli

@@ -54,7 +54,7 @@ class CompletionTest(InspectorTest):
 
     def test_the_options_offered_are_those_of_the_help(self):
         for command in COMMANDS:
-            in_help = set(re.findall(r"(?m)^  (?:-\w,)?(--\w+)", run(command, "--help").output))
+            in_help = set(re.findall(r"(?m)^  (?:-\w,)?(--[\w-]+)", run(command, "--help").output))
             self.assertEqual(set(offered(command, "-")), in_help, command)
 
 

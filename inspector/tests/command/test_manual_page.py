@@ -29,7 +29,7 @@ class ManualPageTest(InspectorTest):
         self.assertEqual(len(commands), 8)
         for command in commands:
             self.assertIn(f"mava-tum {command}", shown)
-            for option in re.findall(r"--[a-z]+", part_of(run(command, "--help").output, "Options:")):
+            for option in re.findall(r"--[a-z-]+", part_of(run(command, "--help").output, "Options:")):
                 self.assertIn(option, shown, command)
 
 

@@ -1,7 +1,7 @@
 // What an explanation looks like, to the character.
 #include "inspect_calls.h"
-#include "verdict_agreement.h"
 #include "support/wire_builder.h"
+#include "verdict_agreement.h"
 
 #include <gtest/gtest.h>
 

@@ -1,0 +1,132 @@
+#include "json/json_writer.h"
+
+namespace mava_tum_cli
+{
+
+namespace
+{
+
+constexpr size_t indent_width = 2;
+
+bool needs_escape(char character)
+{
+    return static_cast<unsigned char>(character) < ' ' || character == '"' || character == '\\';
+}
+
+void write_escaped(text_output &output, char character)
+{
+    constexpr std::string_view short_forms = "\"\"\\\\\bb\ff\nn\rr\tt"; // each character with its letter
+    for (size_t i = 0; i < short_forms.size(); i += 2) {
+        if (short_forms[i] != character)
+            continue;
+        output.put('\\');
+        output.put(short_forms[i + 1]);
+        return;
+    }
+    output.write("\\u00");
+    const auto byte = static_cast<uint8_t>(character);
+    output.write_hex({&byte, 1});
+}
+
+} // namespace
+
+void write_json_string(text_output &output, std::string_view text)
+{
+    output.put('"');
+    size_t written = 0;
+    for (size_t at = 0; at < text.size(); ++at) {
+        if (!needs_escape(text[at]))
+            continue;
+        output.write(text.substr(written, at - written));
+        write_escaped(output, text[at]);
+        written = at + 1;
+    }
+    output.write(text.substr(written));
+    output.put('"');
+}
+
+void json_writer::open(char opening, char closing, layout chosen)
+{
+    start_value();
+    m_output.put(opening);
+    const layout around = m_open.empty() ? m_whole : m_open.back().is_on_one_line ? layout::one_line : layout::spread;
+    m_open.push_back({closing, around == layout::one_line || chosen == layout::one_line});
+}
+
+void json_writer::close()
+{
+    const level closed = m_open.back();
+    m_open.pop_back();
+    if (closed.has_members && !closed.is_on_one_line)
+        start_line();
+    m_output.put(closed.closing);
+}
+
+void json_writer::start_line()
+{
+    m_output.put('\n');
+    m_output.fill(indent_width * m_open.size());
+}
+
+void json_writer::start_member()
+{
+    level &around = m_open.back();
+    if (around.has_members)
+        m_output.put(',');
+    around.has_members = true;
+    if (!around.is_on_one_line)
+        start_line();
+}
+
+void json_writer::start_value()
+{
+    if (!m_is_named && !m_open.empty())
+        start_member();
+    m_is_named = false;
+}
+
+void json_writer::name(std::string_view name)
+{
+    start_member();
+    m_output.put('"');
+    m_output.write(name);
+    m_output.write(m_open.back().is_on_one_line ? "\":" : "\": ");
+    m_is_named = true;
+}
+
+void json_writer::number(uint64_t value)
+{
+    start_value();
+    m_output.write_number(value);
+}
+
+void json_writer::signed_number(int64_t value)
+{
+    start_value();
+    const auto magnitude = static_cast<uint64_t>(value);
+    if (value < 0)
+        m_output.put('-');
+    m_output.write_number(value < 0 ? 0 - magnitude : magnitude);
+}
+
+void json_writer::truth(bool value)
+{
+    start_value();
+    m_output.write(value ? "true" : "false");
+}
+
+void json_writer::string(std::string_view text)
+{
+    start_value();
+    write_json_string(m_output, text);
+}
+
+void json_writer::hex(std::span<const uint8_t> bytes)
+{
+    start_value();
+    m_output.put('"');
+    m_output.write_hex(bytes);
+    m_output.put('"');
+}
+
+} // namespace mava_tum_cli

@@ -1,0 +1,76 @@
+// JSON that is written as it goes: nothing of it is kept but which brackets are open.
+#pragma once
+
+#include "output/text_output.h"
+
+#include <cstdint>
+#include <string_view>
+#include <vector>
+
+namespace mava_tum_cli
+{
+
+// `text` in quotes. It is well-formed UTF-8.
+void write_json_string(text_output &output, std::string_view text);
+
+class json_writer
+{
+public:
+    enum class layout { spread, one_line };
+
+    json_writer(text_output &output, layout whole) : m_output(output), m_whole(whole) {}
+
+    // What is inside of something on one line is on that line too.
+    void open_object(layout chosen = layout::spread)
+    {
+        open('{', '}', chosen);
+    }
+
+    void open_array(layout chosen = layout::spread)
+    {
+        open('[', ']', chosen);
+    }
+
+    // Of the object or array that was opened last.
+    void close();
+
+    // Closes what was opened since depth() was this.
+    void close_to(size_t depth)
+    {
+        while (m_open.size() > depth)
+            close();
+    }
+
+    size_t depth() const
+    {
+        return m_open.size();
+    }
+
+    // A member's name, of letters that need no escape. A value follows.
+    void name(std::string_view name);
+
+    void number(uint64_t value);
+    void signed_number(int64_t value);
+    void truth(bool value);
+    void string(std::string_view text); // well-formed UTF-8
+    void hex(std::span<const uint8_t> bytes);
+
+private:
+    struct level {
+        char closing;
+        bool is_on_one_line;
+        bool has_members = false;
+    };
+
+    void open(char opening, char closing, layout chosen);
+    void start_member();
+    void start_value();
+    void start_line();
+
+    text_output &m_output;
+    layout m_whole;
+    std::vector<level> m_open;
+    bool m_is_named = false; // the value that comes next
+};
+
+} // namespace mava_tum_cli
