@@ -49,7 +49,7 @@ void add_choice(CLI::App &command, const std::string &option, Value &target,
 
 void add_format(CLI::App &command, command_options &options)
 {
-    add_choice<input_format>(command, "-f,--format", options.format,
+    add_choice<input_format>(command, "-f,--format", options.input.format,
         {{"auto", input_format::automatic}, {"raw", input_format::raw}, {"hex", input_format::hex},
             {"base64", input_format::base64}, {"frames", input_format::frames}},
         "what the input is written in: auto, raw, hex, base64, or frames (each message after its length in 4 bytes, "
@@ -57,10 +57,19 @@ void add_format(CLI::App &command, command_options &options)
         "FORMAT");
 }
 
+void add_number(CLI::App &command, command_options &options)
+{
+    command.add_option("--message", options.input.number, "only this message of each file, counted from 1")
+        ->option_text("NUMBER")
+        ->check(CLI::PositiveNumber);
+}
+
 void add_file(CLI::App &command, command_options &options)
 {
-    command.add_option("FILE", options.file, "the input; - or nothing is standard input");
+    command.add_option(
+        "FILE", options.input.files, "the input, in any number of files; - or nothing is standard input");
     add_format(command, options);
+    add_number(command, options);
 }
 
 void add_output(CLI::App &command, command_options &options)
@@ -107,6 +116,7 @@ void declare_explain(CLI::App &command, command_options &options)
 {
     add_message(command, options);
     add_file(command, options);
+    add_json(command, options);
     add_output(command, options);
     add_colour(command, options);
 }
@@ -114,7 +124,8 @@ void declare_explain(CLI::App &command, command_options &options)
 void declare_encode(CLI::App &command, command_options &options)
 {
     add_message(command, options);
-    command.add_option("FILE.json", options.file, "the message as JSON; - or nothing is standard input");
+    command.add_option(
+        "FILE.json", options.input.files, "messages as JSON, in any number of files; - or nothing is standard input");
     add_output(command, options);
     add_written_as(command, options);
 }
@@ -134,21 +145,25 @@ void declare_check(CLI::App &command, command_options &options)
 {
     add_adapter(command, options);
     add_file(command, options);
+    add_json(command, options);
     add_output(command, options);
 }
 
 void declare_guess(CLI::App &command, command_options &options)
 {
     add_file(command, options);
+    add_json(command, options);
     add_output(command, options);
 }
 
 void declare_diff(CLI::App &command, command_options &options)
 {
     add_message(command, options);
-    command.add_option("A", options.file, "one message; - is standard input")->required();
-    command.add_option("B", options.second_file, "the other")->required();
+    command.add_option("A", options.input.files.front(), "the messages of one side; - is standard input")->required();
+    command.add_option("B", options.second_file, "those of the other")->required();
     add_format(command, options);
+    add_number(command, options);
+    add_json(command, options);
     add_output(command, options);
     add_colour(command, options);
 }
@@ -172,11 +187,11 @@ const command all_commands[] = {
     {"decode", "Print the fields of messages as a tree or as JSON", help::decode, declare_decode, run_decode},
     {"explain", "Print the bytes of messages with their meaning, and what is wrong with them", help::explain,
         declare_explain, run_explain},
-    {"encode", "Make a message from JSON", help::encode, declare_encode, run_encode},
+    {"encode", "Make messages from JSON", help::encode, declare_encode, run_encode},
     {"app", "The same as an application sees it: its records through the adapters", help::app, declare_app, run_app},
     {"check", "Tell whether messages fit into an application's record", help::check, declare_check, run_check},
     {"guess", "Tell which messages some bytes can be", help::guess, declare_guess, run_guess},
-    {"diff", "Compare two messages field by field", help::diff, declare_diff, run_diff},
+    {"diff", "Compare messages field by field", help::diff, declare_diff, run_diff},
     {"list", "List the messages and their adapters, or the fields of one", help::list, declare_list, run_list},
 };
 

@@ -12,12 +12,12 @@ _mava_tum_adapters() {
 # _mava_tum_options <command>
 _mava_tum_options() {
     case $1 in
-    decode) echo "--format --json --fields --no-absent --output --color --help" ;;
-    explain) echo "--format --output --color --help" ;;
+    decode) echo "--format --message --json --fields --no-absent --output --color --help" ;;
+    explain) echo "--format --message --json --output --color --help" ;;
     encode) echo "--output --to --help" ;;
-    app) echo "--format --output --to --help" ;;
-    check | guess) echo "--format --output --help" ;;
-    diff) echo "--format --output --color --help" ;;
+    app) echo "--format --message --output --to --help" ;;
+    check | guess) echo "--format --message --json --output --help" ;;
+    diff) echo "--format --message --json --output --color --help" ;;
     list) echo "--json --output --help" ;;
     esac
 }
@@ -36,7 +36,7 @@ _mava_tum_arguments_before() {
     local i count=0
     for ((i = 2; i < COMP_CWORD; i++)); do
         case ${COMP_WORDS[i]} in
-        -f | --format | -o | --output | -t | --to | --color) i=$((i + 1)) ;;
+        -f | --format | --message | -o | --output | -t | --to | --color) i=$((i + 1)) ;;
         -?*) ;;
         *) count=$((count + 1)) ;;
         esac
@@ -50,7 +50,7 @@ _mava_tum() {
     -f | --format) words="auto raw hex base64 frames" ;;
     -t | --to) words="raw hex base64 frames" ;;
     --color) words="auto always never" ;;
-    -o | --output) words= ;;
+    -o | --output | --message) words= ;;
     *)
         if [ "$COMP_CWORD" -eq 1 ]; then
             words="decode explain encode app check guess diff list --help --version"

@@ -2,10 +2,9 @@
 #include "commands/all_commands.h"
 #include "commands/decode_verdict.h"
 #include "commands/find_by_name.h"
-#include "commands/write_wire.h"
+#include "commands/wire_writer.h"
 #include "input/message_source.h"
 #include "output/output_file.h"
-#include "json/json_file.h"
 
 #include <cstddef>
 #include <memory>
@@ -42,8 +41,7 @@ json decode_record(const adapter_description &adapter, std::span<const uint8_t> 
 
 exit_status run_app_encode(const adapter_description &adapter, const command_options &options)
 {
-    const json document = read_json_file(options.file);
-    write_wire(at_place(options.file, [&] { return encode_record(adapter, document); }), options);
+    write_all_documents(options, [&adapter](const json &document) { return encode_record(adapter, document); });
     return exit_ok;
 }
 
@@ -52,12 +50,12 @@ exit_status run_app_encode(const adapter_description &adapter, const command_opt
 exit_status run_app_decode(const adapter_description &adapter, const command_options &options)
 {
     const mava_tum_inspect::message_description &message = *adapter.carried;
-    message_source source(options.file, options.format, plausibility_of(message));
+    message_source source(options.input, plausibility_of(message));
     output_file output(options.output);
-    source.show_progress_beside(output);
+    source.read_beside(output);
     fault_report report("app", message);
     while (source.next()) {
-        output.write(decode_record(adapter, source.message()).dump(source.has_frames() ? -1 : 2) + "\n");
+        output.write(decode_record(adapter, source.message()).dump(source.has_several() ? -1 : 2) + "\n");
         report.look_at(source);
     }
     output.commit();

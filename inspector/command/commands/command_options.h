@@ -2,7 +2,7 @@
 #pragma once
 
 #include "bad_use.h"
-#include "input/input_format.h"
+#include "input/message_source.h"
 #include "output/colours.h"
 
 #include <string>
@@ -13,10 +13,9 @@ namespace mava_tum_cli
 struct command_options {
     std::string name; // of a message, or of an adapter
     std::string direction;
-    std::string file = "-";
+    chosen_input input;
     std::string second_file;
     std::string output; // empty: standard output
-    input_format format = input_format::automatic;
     input_format written_as = input_format::raw;
     colour_choice colour = colour_choice::automatic;
     bool as_json = false;

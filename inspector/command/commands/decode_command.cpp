@@ -2,6 +2,7 @@
 #include "commands/decode_verdict.h"
 #include "commands/find_by_name.h"
 #include "commands/frame_heading.h"
+#include "commands/layout_of.h"
 #include "message/decoded_json.h"
 #include "message/field_tree.h"
 #include "output/output_file.h"
@@ -14,8 +15,7 @@ namespace
 
 json_style style_of(const command_options &options, const message_source &source)
 {
-    const auto layout = source.has_frames() ? json_writer::layout::one_line : json_writer::layout::spread;
-    return {layout, options.with_fields, !options.without_absent};
+    return {layout_of(source), options.with_fields, !options.without_absent};
 }
 
 } // namespace
@@ -23,16 +23,16 @@ json_style style_of(const command_options &options, const message_source &source
 exit_status run_decode(const command_options &options)
 {
     const mava_tum_inspect::message_description &message = message_named(options.name);
-    message_source source(options.file, options.format, plausibility_of(message));
+    message_source source(options.input, plausibility_of(message));
     output_file output(options.output);
-    source.show_progress_beside(output);
+    source.read_beside(output);
     const colours colour(options.colour, output.is_terminal());
     const json_style style = style_of(options, source);
     absent_fields absent(colour);
     fault_report report("decode", message);
     while (source.next()) {
         if (options.as_json) {
-            report.add(source, print_json(message, source.message(), style, output));
+            report.add(source, print_json(message, source.message(), source.place(), style, output));
             continue;
         }
         output.write(frame_heading(source, message.name));

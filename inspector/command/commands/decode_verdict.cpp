@@ -63,7 +63,7 @@ void fault_report::add(const message_source &source, const std::optional<std::st
     if (!fault)
         return;
     if (++m_broken == 1)
-        m_first = source.place() + ": " + m_message.name + " does not decode: " + *fault;
+        m_first = source.full_place() + ": " + m_message.name + " does not decode: " + *fault;
 }
 
 exit_status fault_report::finish() const

@@ -2,12 +2,12 @@
 #include "commands/decode_verdict.h"
 #include "commands/find_by_name.h"
 #include "error_line.h"
-#include "message/field_list.h"
+#include "message/field_difference.h"
 #include "message/verdict.h"
 #include "output/output_file.h"
 #include "words.h"
 
-#include <unordered_map>
+#include <algorithm>
 
 namespace mava_tum_cli
 {
@@ -17,59 +17,198 @@ namespace
 
 using mava_tum_inspect::message_description;
 
-// By path.
-using field_index = std::unordered_map<std::string, std::string>;
+// Two messages with the same number.
+struct message_pair {
+    const message_source &first;
+    const message_source &second;
 
-struct difference_writer {
-    const colours &colour;
-    output_file &output;
-    uint64_t differences = 0;
-
-    void write(const char *what, const std::string &path, const std::string &values)
+    bool has_same_bytes() const
     {
-        output.write(what + colour.paint(ink::name, path) + ": " + values + "\n");
-        ++differences;
+        return std::ranges::equal(first.message(), second.message());
+    }
+
+    // Of the one that does not decode, with "A" or "B" in front of it; empty: both do.
+    std::string fault(const message_description &message) const
+    {
+        for (const bool is_first : {true, false}) {
+            const std::optional<std::string> fault = fault_of(message, (is_first ? first : second).message());
+            if (fault)
+                return fmt::format("{} does not decode: {}", is_first ? "A" : "B", *fault);
+        }
+        return "";
     }
 };
 
-field_index index_of(const std::vector<listed_field> &fields)
+// ---- what is written about a pair --------------------------------------------------------------------------------
+
+class pair_writer
 {
-    field_index index;
-    for (const listed_field &field : fields)
-        index.emplace(field.path, field.value);
-    return index;
+public:
+    pair_writer(const command_options &options, output_file &output)
+        : m_as_json(options.as_json), m_colour(options.colour, output.is_terminal()), m_output(output)
+    {
+    }
+
+    void write(const message_pair &pair, const std::vector<field_difference> &differences)
+    {
+        if (m_as_json)
+            return write_json(pair, differences);
+        write_heading(pair);
+        for (const field_difference &each : differences) {
+            const std::string path = m_colour.paint(ink::name, each.path);
+            if (each.first && each.second)
+                m_output.write(fmt::format("{}: {} -> {}\n", path, *each.first, *each.second));
+            else
+                m_output.write(fmt::format(
+                    "only in {}: {}: {}\n", each.first ? "A" : "B", path, each.first ? *each.first : *each.second));
+        }
+    }
+
+    void write_broken(const message_pair &pair, const std::string &fault)
+    {
+        if (m_as_json) {
+            json_writer writer = open(pair);
+            writer.name("fault");
+            writer.string(fault);
+            return close(writer);
+        }
+        if (!is_one_of_several(pair))
+            return; // the line on standard error says it
+        write_heading(pair);
+        m_output.write(fault + "\n");
+    }
+
+private:
+    void write_heading(const message_pair &pair)
+    {
+        const message_place first = pair.first.place();
+        const message_place second = pair.second.place();
+        if (is_one_of_several(pair))
+            m_output.write(fmt::format("message {}, at byte {} of A and byte {} of B:\n",
+                std::max(first.number, second.number), first.offset, second.offset));
+    }
+
+    static bool is_one_of_several(const message_pair &pair)
+    {
+        return pair.first.has_several() || pair.second.has_several();
+    }
+
+    json_writer open(const message_pair &pair)
+    {
+        const message_place first = pair.first.place();
+        const message_place second = pair.second.place();
+        json_writer writer(
+            m_output, is_one_of_several(pair) ? json_writer::layout::one_line : json_writer::layout::spread);
+        writer.open_object();
+        if (is_one_of_several(pair)) {
+            write_number(writer, "number", std::max(first.number, second.number));
+            write_number(writer, "offset_a", first.offset);
+            write_number(writer, "offset_b", second.offset);
+        }
+        writer.name("same_bytes");
+        writer.truth(pair.has_same_bytes());
+        return writer;
+    }
+
+    void close(json_writer &writer)
+    {
+        writer.close();
+        m_output.put('\n');
+    }
+
+    void write_json(const message_pair &pair, const std::vector<field_difference> &differences)
+    {
+        json_writer writer = open(pair);
+        writer.name("differences");
+        writer.open_array();
+        for (const field_difference &each : differences) {
+            writer.open_object(json_writer::layout::one_line);
+            write_text(writer, "path", each.path);
+            write_text(writer, "a", each.first);
+            write_text(writer, "b", each.second);
+            writer.close();
+        }
+        writer.close();
+        close(writer);
+    }
+
+    static void write_number(json_writer &writer, std::string_view name, uint64_t number)
+    {
+        writer.name(name);
+        writer.number(number);
+    }
+
+    static void write_text(json_writer &writer, std::string_view name, const std::optional<std::string> &text)
+    {
+        if (!text)
+            return;
+        writer.name(name);
+        writer.string(*text);
+    }
+
+    bool m_as_json;
+    colours m_colour;
+    output_file &m_output;
+};
+
+// ---- all pairs -----------------------------------------------------------------------------------------------------
+
+struct comparison {
+    uint64_t pairs = 0;
+    uint64_t different = 0; // of them
+    uint64_t reencoded = 0; // the same fields in other bytes
+    uint64_t only_in_first = 0;
+    uint64_t only_in_second = 0;
+    std::string first_fault;
+
+    bool is_equal() const
+    {
+        return different + only_in_first + only_in_second == 0;
+    }
+};
+
+void compare_pair(const message_description &message, const message_pair &pair, pair_writer &writer, bool write_equal,
+    comparison &sum)
+{
+    ++sum.pairs;
+    const std::string fault = pair.fault(message);
+    if (!fault.empty()) {
+        ++sum.different;
+        if (sum.first_fault.empty())
+            sum.first_fault =
+                (fault.front() == 'A' ? pair.first : pair.second).full_place() + ": " + message.name + fault.substr(1);
+        return writer.write_broken(pair, fault);
+    }
+    if (pair.has_same_bytes() && !write_equal)
+        return;
+    const std::vector<field_difference> differences =
+        differences_of(message, pair.first.message(), pair.second.message());
+    sum.different += differences.empty() ? 0 : 1;
+    sum.reencoded += differences.empty() && !pair.has_same_bytes() ? 1 : 0;
+    if (!differences.empty() || write_equal)
+        writer.write(pair, differences);
 }
 
-void write_differences(
-    const std::vector<listed_field> &first, const std::vector<listed_field> &second, difference_writer &writer)
+uint64_t count_rest(message_source &source)
 {
-    const field_index in_first = index_of(first);
-    const field_index in_second = index_of(second);
-    for (const listed_field &field : first) {
-        const auto other = in_second.find(field.path);
-        if (other == in_second.end())
-            writer.write("only in A: ", field.path, field.value);
-        else if (other->second != field.value)
-            writer.write("", field.path, field.value + " -> " + other->second);
-    }
-    for (const listed_field &field : second)
-        if (!in_first.contains(field.path))
-            writer.write("only in B: ", field.path, field.value);
+    uint64_t count = 1;
+    while (source.next())
+        ++count;
+    return count;
 }
 
-// Prints which of the two does not decode. True: both do.
-bool both_decode(
-    const message_description &message, const command_options &options, wire_bytes first, wire_bytes second)
+std::string sum_in_words(const comparison &sum, bool has_several)
 {
-    for (const bool is_first : {true, false}) {
-        const std::optional<std::string> fault = fault_of(message, is_first ? first : second);
-        if (!fault)
-            continue;
-        print_error("diff", fmt::format("{}: {} does not decode: {}", is_first ? options.file : options.second_file,
-                                message.name, *fault));
-        return false;
-    }
-    return true;
+    const std::string equal = sum.reencoded == 0 ? "the same bytes" : "the same fields, in other bytes";
+    if (!has_several)
+        return sum.different == 0 ? equal + "\n" : "";
+    std::string text = sum.different == 0
+                           ? fmt::format("{}: {}", counted(sum.pairs, "message"), equal)
+                           : fmt::format("{} of {} differ", sum.different, counted(sum.pairs, "message"));
+    if (sum.only_in_first + sum.only_in_second != 0)
+        text +=
+            fmt::format("; {} more in {}", sum.only_in_first + sum.only_in_second, sum.only_in_first != 0 ? "A" : "B");
+    return text + "\n";
 }
 
 } // namespace
@@ -77,21 +216,35 @@ bool both_decode(
 exit_status run_diff(const command_options &options)
 {
     const message_description &message = message_named(options.name);
-    if (options.file == "-" && options.second_file == "-")
+    chosen_input input = options.input;
+    if (input.files.front() == "-" && options.second_file == "-")
         throw bad_use("both messages cannot come from standard input; name a file for one of them");
-    const plausible_fn plausible = plausibility_of(message);
-    const byte_vector first = read_single_message(options.file, options.format, plausible);
-    const byte_vector second = read_single_message(options.second_file, options.format, plausible);
-    if (!both_decode(message, options, first, second))
-        return exit_broken_data;
+    message_source first(input, plausibility_of(message));
+    input.files = {options.second_file};
+    message_source second(input, plausibility_of(message));
     output_file output(options.output);
-    const colours colour(options.colour, output.is_terminal());
-    difference_writer writer{colour, output};
-    write_differences(list_fields(message, first), list_fields(message, second), writer);
-    if (writer.differences == 0)
-        output.write(first == second ? "the same bytes\n" : "the same fields, in other bytes\n");
+    first.read_beside(output);
+    second.read_beside(output);
+    const bool has_several = first.has_several() || second.has_several();
+    pair_writer writer(options, output);
+    comparison sum;
+    for (;;) {
+        const bool has_first = first.next();
+        const bool has_second = second.next();
+        if (has_first && !has_second)
+            sum.only_in_first = count_rest(first);
+        if (has_second && !has_first)
+            sum.only_in_second = count_rest(second);
+        if (!has_first || !has_second)
+            break;
+        compare_pair(message, {first, second}, writer, options.as_json && !has_several, sum);
+    }
+    if (!options.as_json)
+        output.write(sum_in_words(sum, has_several));
     output.commit();
-    return writer.differences == 0 ? exit_ok : exit_broken_data;
+    if (!sum.first_fault.empty())
+        print_error("diff", sum.first_fault);
+    return sum.is_equal() ? exit_ok : exit_broken_data;
 }
 
 } // namespace mava_tum_cli

@@ -7,6 +7,7 @@
 #include <cstring>
 #include <fcntl.h>
 #include <fmt/format.h>
+#include <poll.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -42,6 +43,13 @@ int open_for_reading(const std::string &path)
     return fd;
 }
 
+// Whether a read would wait. A regular file never does, nor does the end of a pipe.
+bool would_wait(int fd)
+{
+    pollfd asked{fd, POLLIN, 0};
+    return poll(&asked, 1, 0) == 0;
+}
+
 } // namespace
 
 input_stream::input_stream(const std::string &path)
@@ -71,6 +79,8 @@ void input_stream::refill(size_t wanted)
     while (m_buffer.size() < wanted && !m_at_end) {
         const size_t filled = m_buffer.size();
         m_buffer.resize(filled + block_bytes);
+        if (m_before_waiting && would_wait(m_fd))
+            m_before_waiting();
         const ssize_t received = ::read(m_fd, m_buffer.data() + filled, block_bytes);
         const int error = errno;
         m_buffer.resize(filled + static_cast<size_t>(std::max<ssize_t>(received, 0)));
@@ -104,6 +114,15 @@ size_t input_stream::read(std::span<uint8_t> bytes)
         m_position += waiting.size();
     }
     return total;
+}
+
+byte_vector input_stream::read_some()
+{
+    peek(1);
+    byte_vector some(m_buffer.begin() + static_cast<ptrdiff_t>(m_taken), m_buffer.end());
+    m_taken = m_buffer.size();
+    m_position += some.size();
+    return some;
 }
 
 byte_vector input_stream::read_all()

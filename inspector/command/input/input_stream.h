@@ -5,6 +5,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <span>
 #include <string>
 #include <vector>
@@ -38,12 +39,21 @@ public:
     // The first bytes, at most `wanted`, without taking them.
     std::span<const uint8_t> peek(size_t wanted);
 
+    // What is there, at least one byte; nothing at the end.
+    byte_vector read_some();
+
     // Everything up to the end. Throws bad_use above `message_limit_bytes`.
     byte_vector read_all();
 
     void show_progress()
     {
         m_progress.allow();
+    }
+
+    // Called before a read that has to wait for the other end of a pipe, or for somebody at a terminal.
+    void call_before_waiting(std::function<void()> before_waiting)
+    {
+        m_before_waiting = std::move(before_waiting);
     }
 
     uint64_t position() const
@@ -67,6 +77,7 @@ private:
     byte_vector m_buffer; // read from the file and not yet taken: from m_taken on
     size_t m_taken = 0;
     bool m_at_end = false;
+    std::function<void()> m_before_waiting;
     progress_line m_progress;
 };
 

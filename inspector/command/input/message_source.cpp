@@ -4,72 +4,120 @@
 #include "input/base64_text.h"
 #include "input/frame_reader.h"
 #include "input/hex_text.h"
+#include "words.h"
 
 #include <fmt/format.h>
 
 namespace mava_tum_cli
 {
 
-message_source::message_source(const std::string &path, input_format format, const plausible_fn &plausible)
-    : m_stream(path), m_format(format)
+message_source::message_source(chosen_input input, plausible_fn plausible)
+    : m_input(std::move(input)), m_plausible(std::move(plausible))
 {
-    if (m_stream.peek(1).empty())
+    open(m_input.files.front());
+}
+
+void message_source::open(const std::string &path)
+{
+    m_stream.emplace(path);
+    ++m_opened;
+    m_number = 0;
+    if (m_output != nullptr)
+        read_beside(*m_output);
+    if (m_stream->peek(1).empty())
         throw bad_use(fmt::format("{}: is empty; an empty message can be given as a frame of length 0: "
                                   "printf '\\0\\0\\0\\0'",
-            m_stream.name()));
+            m_stream->name()));
+    m_format = m_input.format;
     if (m_format == input_format::automatic)
-        m_format = detect_format(m_stream, plausible);
+        m_format = detect_format(*m_stream, m_plausible);
 }
 
 byte_vector message_source::whole_message()
 {
-    byte_vector content = m_stream.read_all();
+    byte_vector content = m_stream->read_all();
     if (m_format == input_format::raw)
         return content;
-    byte_vector bytes = m_format == input_format::hex ? bytes_of_hex(content, m_stream.name())
-                                                      : bytes_of_base64(content, m_stream.name());
+    byte_vector bytes = m_format == input_format::hex ? bytes_of_hex(content, m_stream->name())
+                                                      : bytes_of_base64(content, m_stream->name());
     if (bytes.empty())
         throw bad_use(fmt::format("{}: has no {} digit; an empty message can be given as a frame of length 0: "
                                   "printf '\\0\\0\\0\\0'",
-            m_stream.name(), name_of(m_format)));
+            m_stream->name(), name_of(m_format)));
     return bytes;
 }
 
-void message_source::show_progress_beside(const output_file &output)
+void message_source::read_beside(output_file &output)
 {
+    m_output = &output;
+    m_stream->call_before_waiting([&output] { output.flush(); });
     if (!output.is_terminal())
-        m_stream.show_progress();
+        m_stream->show_progress();
 }
 
-bool message_source::next()
+bool message_source::take_frame()
 {
-    m_begin = m_stream.position();
-    if (has_frames()) {
-        if (!read_frame(m_stream, m_number + 1, m_message))
-            return false;
-    } else {
-        if (m_number != 0)
-            return false;
-        m_message = whole_message();
-    }
+    m_begin = m_stream->position();
+    if (!read_frame(*m_stream, m_number + 1, m_message))
+        return false;
     ++m_number;
     return true;
 }
 
-std::string message_source::place() const
+bool message_source::take_whole()
 {
-    return has_frames() ? fmt::format("{}: frame {} at byte {}", m_stream.name(), m_number, m_begin) : m_stream.name();
+    if (m_number != 0)
+        return false;
+    m_message = whole_message();
+    m_number = 1;
+    return m_input.number <= 1;
 }
 
-byte_vector read_single_message(const std::string &path, input_format format, const plausible_fn &plausible)
+// False: the file has no further message that is wanted.
+bool message_source::take_from_file()
 {
-    message_source source(path, format, plausible);
-    source.next();
-    const std::span<const uint8_t> message = source.message();
-    byte_vector single(message.begin(), message.end());
-    if (source.next())
-        throw bad_use(fmt::format("{}: a second message, where one is expected; split the file", source.place()));
-    return single;
+    if (!has_frames())
+        return take_whole();
+    if (m_input.number != 0 && m_number == m_input.number)
+        return false;
+    do {
+        if (!take_frame())
+            return false;
+    } while (m_number < m_input.number);
+    return true;
+}
+
+bool message_source::next()
+{
+    while (!take_from_file()) {
+        if (m_number < m_input.number)
+            throw bad_use(fmt::format(
+                "{}: has {}; give --message a number up to that", m_stream->name(), counted(m_number, "message")));
+        if (m_opened == m_input.files.size())
+            return false;
+        open(m_input.files[m_opened]);
+    }
+    ++m_taken;
+    return true;
+}
+
+message_place message_source::place() const
+{
+    message_place place;
+    if (m_input.files.size() > 1)
+        place.file = m_stream->name();
+    if (has_frames()) {
+        place.number = m_number;
+        place.offset = m_begin;
+    }
+    return place;
+}
+
+std::string message_source::full_place() const
+{
+    message_place named = place();
+    named.file = m_stream->name();
+    return named.to_string();
 }
 
 } // namespace mava_tum_cli

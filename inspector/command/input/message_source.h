@@ -2,21 +2,30 @@
 #pragma once
 
 #include "input/input_format.h"
+#include "input/message_place.h"
 #include "output/output_file.h"
 
-#include <memory>
+#include <optional>
 
 namespace mava_tum_cli
 {
 
+// What the command line says about the input.
+struct chosen_input {
+    std::vector<std::string> files{"-"};
+    input_format format = input_format::automatic;
+    uint64_t number = 0; // of the only message that is wanted of each file, from 1; 0: all
+};
+
 class message_source
 {
 public:
-    // Throws bad_use for what cannot be read or is empty.
-    message_source(const std::string &path, input_format format, const plausible_fn &plausible);
+    // Throws bad_use if the first file cannot be read or is empty; next() does so for the others.
+    message_source(chosen_input input, plausible_fn plausible);
 
-    // Lets a line on the terminal say how far the input is read, unless the output goes there.
-    void show_progress_beside(const output_file &output);
+    // What waits in the output is written before the input is waited for. Lets a line on the terminal say how far the
+    // input is read, unless the output goes there.
+    void read_beside(output_file &output);
 
     // Takes the next message; false after the last.
     bool next();
@@ -26,42 +35,46 @@ public:
         return m_message;
     }
 
-    // The messages taken so far: the number of the present one, from 1.
-    uint64_t number() const
+    // Whether there can be several messages.
+    bool has_several() const
     {
-        return m_number;
+        return has_frames() || m_input.files.size() > 1;
     }
 
-    // Where the present message begins in the file.
-    uint64_t begin() const
+    // Whether a message came before the present one.
+    bool is_first() const
     {
-        return m_begin;
+        return m_taken == 1;
     }
 
+    // Of the present message; empty unless there can be several.
+    message_place place() const;
+
+    // The input, and the frame in it if there are frames: how messages to the user begin.
+    std::string full_place() const;
+
+private:
     bool has_frames() const
     {
         return m_format == input_format::frames;
     }
 
-    // The input, and the frame in it if there are frames: how messages to the user begin.
-    std::string place() const;
-
-    const input_stream &stream() const
-    {
-        return m_stream;
-    }
-
-private:
+    void open(const std::string &path);
+    bool take_from_file();
+    bool take_frame();
+    bool take_whole();
     byte_vector whole_message();
 
-    input_stream m_stream;
-    input_format m_format;
+    chosen_input m_input;
+    plausible_fn m_plausible;
+    output_file *m_output = nullptr;
+    std::optional<input_stream> m_stream;
+    size_t m_opened = 0; // files
+    input_format m_format = input_format::automatic;
     byte_vector m_message;
-    uint64_t m_number = 0;
-    uint64_t m_begin = 0;
+    uint64_t m_number = 0; // of the present message in its file
+    uint64_t m_begin = 0;  // where it begins there
+    uint64_t m_taken = 0;  // messages of all files
 };
-
-// The one message of an input that must not have more.
-byte_vector read_single_message(const std::string &path, input_format format, const plausible_fn &plausible);
 
 } // namespace mava_tum_cli

@@ -1,5 +1,7 @@
 #include "json/json_writer.h"
 
+#include "json/utf8_text.h"
+
 namespace mava_tum_cli
 {
 
@@ -127,6 +129,16 @@ void json_writer::hex(std::span<const uint8_t> bytes)
     m_output.put('"');
     m_output.write_hex(bytes);
     m_output.put('"');
+}
+
+void write_json_text(json_writer &writer, std::string_view text)
+{
+    if (is_plain_utf8(text))
+        return writer.string(text);
+    writer.open_object();
+    writer.name("hex");
+    writer.hex({reinterpret_cast<const uint8_t *>(text.data()), text.size()});
+    writer.close();
 }
 
 } // namespace mava_tum_cli

@@ -73,4 +73,7 @@ private:
     bool m_is_named = false; // the value that comes next
 };
 
+// A text that is no UTF-8 is an object with its bytes in hex.
+void write_json_text(json_writer &writer, std::string_view text);
+
 } // namespace mava_tum_cli

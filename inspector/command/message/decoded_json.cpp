@@ -2,6 +2,7 @@
 
 #include "inspector/library/wire_walk.h"
 #include "message/last_occurrences.h"
+#include "message/message_head.h"
 #include "message/verdict.h"
 #include "json/json_values.h"
 
@@ -218,23 +219,6 @@ private:
     bool m_has_absent_fields;
 };
 
-void write_verdict(json_writer &writer, const first_look &look)
-{
-    writer.name("result");
-    writer.signed_number(look.result);
-    if (!look.fault)
-        return;
-    writer.name("fault");
-    writer.open_object();
-    writer.name("path");
-    writer.string(look.path);
-    writer.name("offset");
-    writer.number(look.offset);
-    writer.name("rule");
-    writer.string(*look.fault);
-    writer.close();
-}
-
 void write_record(json_writer &writer, const message_description &message, wire_bytes wire, const first_look &look)
 {
     writer.name("record");
@@ -257,18 +241,14 @@ void write_fields(json_writer &writer, const message_description &message, wire_
 
 } // namespace
 
-std::optional<std::string> print_json(
-    const message_description &message, wire_bytes wire, const json_style &style, text_output &output)
+std::optional<std::string> print_json(const message_description &message, wire_bytes wire, const message_place &place,
+    const json_style &style, text_output &output)
 {
     first_look look;
     walk_message(message, wire.data(), wire.size(), look);
     json_writer writer(output, style.layout);
-    writer.open_object();
-    writer.name("message");
-    writer.string(message.name);
-    writer.name("bytes");
-    writer.number(wire.size());
-    write_verdict(writer, look);
+    open_message(writer, place, message.name, wire.size());
+    write_verdict(writer, look.result, look.path, look.offset, look.fault.value_or(""));
     write_record(writer, message, wire, look);
     if (style.has_fields)
         write_fields(writer, message, wire, style.has_absent_fields);

@@ -1,11 +1,13 @@
 // A message as the JSON of `decode --json`, written as it is decoded:
 //
+//     file, number, offset       where it comes from, if there can be several
 //     message, bytes, result     its name, its size, and with what a decode answers it
 //     fault                      where and why a decode ends, if it does
 //     record                     the values of the fields that are present: what `encode` reads
 //     fields                     if asked for: where each of them stands, and which are absent
 #pragma once
 
+#include "input/message_place.h"
 #include "message/field_value.h"
 
 #include <optional>
@@ -21,6 +23,6 @@ struct json_style {
 
 // Returns the fault in words; nothing: the message decodes.
 std::optional<std::string> print_json(const mava_tum_inspect::message_description &message, wire_bytes wire,
-    const json_style &style, text_output &output);
+    const message_place &place, const json_style &style, text_output &output);
 
 } // namespace mava_tum_cli

@@ -2,7 +2,6 @@
 
 #include "inspector/library/payload_notes.h"
 #include "json/json_values.h"
-#include "json/utf8_text.h"
 
 #include <fmt/format.h>
 
@@ -58,17 +57,6 @@ void write_ipv4(text_output &output, uint32_t host_order)
     }
 }
 
-// A text that is no UTF-8 is an object with its bytes in hex.
-void write_text(json_writer &writer, std::string_view text)
-{
-    if (is_plain_utf8(text))
-        return writer.string(text);
-    writer.open_object();
-    writer.name("hex");
-    writer.hex({reinterpret_cast<const uint8_t *>(text.data()), text.size()});
-    writer.close();
-}
-
 } // namespace
 
 wire_bytes value_bytes(const occurrence &at, wire_bytes wire)
@@ -87,7 +75,7 @@ void write_value(json_writer &writer, const occurrence &at, wire_bytes wire)
     case field_kind::bytes:
         return is_ipv6(at) ? writer.string(colon_ipv6(value.first<16>())) : writer.hex(value);
     default:
-        return write_text(writer, text_in(value));
+        return write_json_text(writer, text_in(value));
     }
 }
 
@@ -111,7 +99,7 @@ void write_value(text_output &output, const occurrence &at, wire_bytes wire)
         return;
     default:
         json_writer quoted(output, json_writer::layout::one_line);
-        return write_text(quoted, text_in(value));
+        return write_json_text(quoted, text_in(value));
     }
 }
 

@@ -64,7 +64,7 @@ void output_file::hand_on(std::string &waiting)
 
 void output_file::commit()
 {
-    hand_on(m_waiting);
+    flush();
     if (m_pending && !m_pending->publish())
         refuse("cannot write", errno);
 }

@@ -27,6 +27,12 @@ public:
         write(std::string_view(reinterpret_cast<const char *>(bytes.data()), bytes.size()));
     }
 
+    // Writes what waits.
+    void flush()
+    {
+        hand_on(m_waiting);
+    }
+
     // Writes what waits, and gives the file its name. Throws bad_use when the disk is full.
     void commit();
 

@@ -19,7 +19,7 @@ class SyntaxTest(InspectorTest):
         self.refused(*MESSAGE, data=b'{"record": {}, "message": ' + deep + b"}", says="/message: expected")
 
     def test_text_behind_the_document_is_refused(self):
-        self.refused("encode", "subscriber_v4", data=b"{} {}", says="parse error")
+        self.refused("encode", "subscriber_v4", data=b"{} x", says="parse error")
 
     def test_a_name_that_occurs_twice_is_refused(self):
         self.refused("encode", "subscriber_v4", data=b'{"field_1": 1, "field_1": 2}', says='"field_1" occurs twice')

@@ -52,7 +52,7 @@ struct printed_json {
 printed_json print(const message_description &message, const byte_vector &wire, const json_style &style)
 {
     text_in_memory output;
-    const bool is_whole = !mava_tum_cli::print_json(message, wire, style, output);
+    const bool is_whole = !mava_tum_cli::print_json(message, wire, {}, style, output);
     return {output.take(), is_whole};
 }
 

@@ -1,0 +1,44 @@
+#include "message/message_head.h"
+
+namespace mava_tum_cli
+{
+
+void open_message(json_writer &writer, const message_place &place, std::string_view name, uint64_t bytes)
+{
+    writer.open_object();
+    if (!place.file.empty()) {
+        writer.name("file");
+        write_json_text(writer, place.file);
+    }
+    if (place.number != 0) {
+        writer.name("number");
+        writer.number(place.number);
+        writer.name("offset");
+        writer.number(place.offset);
+    }
+    if (!name.empty()) {
+        writer.name("message");
+        writer.string(name);
+    }
+    writer.name("bytes");
+    writer.number(bytes);
+}
+
+void write_verdict(json_writer &writer, int32_t result, std::string_view path, uint64_t offset, std::string_view rule)
+{
+    writer.name("result");
+    writer.signed_number(result);
+    if (result == 0)
+        return;
+    writer.name("fault");
+    writer.open_object();
+    writer.name("path");
+    writer.string(path);
+    writer.name("offset");
+    writer.number(offset);
+    writer.name("rule");
+    writer.string(rule);
+    writer.close();
+}
+
+} // namespace mava_tum_cli
