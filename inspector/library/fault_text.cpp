@@ -38,8 +38,8 @@ void add_cut_tag(sentence &text, const wire_fault &fault)
 void add_wrong_wire_type(sentence &text, const wire_fault &fault)
 {
     add_field(text, fault);
-    text.add(" has wire type ").add_number(fault.at.wire_type);
-    text.add(" instead of ").add_number(wire_type_number(fault.at.field->kind));
+    text.add(" is ").add(wire_type_name(fault.at.wire_type));
+    text.add(" instead of ").add(wire_type_name(wire_type_number(fault.at.field->kind)));
 }
 
 void add_unsupported_wire_type(sentence &text, const wire_fault &fault)

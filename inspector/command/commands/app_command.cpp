@@ -2,6 +2,7 @@
 #include "commands/all_commands.h"
 #include "commands/decode_verdict.h"
 #include "commands/find_by_name.h"
+#include "commands/layout_of.h"
 #include "commands/wire_writer.h"
 #include "input/message_source.h"
 #include "output/output_file.h"
@@ -55,7 +56,9 @@ exit_status run_app_decode(const adapter_description &adapter, const command_opt
     source.read_beside(output);
     fault_report report("app", message);
     while (source.next()) {
-        output.write(decode_record(adapter, source.message()).dump(source.has_several() ? -1 : 2) + "\n");
+        json_writer writer(output, layout_of(source));
+        write_json(writer, decode_record(adapter, source.message()));
+        output.put('\n');
         report.look_at(source);
     }
     output.commit();

@@ -24,11 +24,9 @@ void message_source::open(const std::string &path)
     m_number = 0;
     if (m_output != nullptr)
         read_beside(*m_output);
-    if (m_stream->peek(1).empty())
-        throw bad_use(fmt::format("{}: is empty; an empty message can be given as a frame of length 0: "
-                                  "printf '\\0\\0\\0\\0'",
-            m_stream->name()));
     m_format = m_input.format;
+    if (m_format != input_format::raw && m_stream->peek(1).empty())
+        throw bad_use(fmt::format("{}: is empty; if this is an empty message, say -f raw", m_stream->name()));
     if (m_format == input_format::automatic)
         m_format = detect_format(*m_stream, m_plausible);
 }
@@ -41,8 +39,7 @@ byte_vector message_source::whole_message()
     byte_vector bytes = m_format == input_format::hex ? bytes_of_hex(content, m_stream->name())
                                                       : bytes_of_base64(content, m_stream->name());
     if (bytes.empty())
-        throw bad_use(fmt::format("{}: has no {} digit; an empty message can be given as a frame of length 0: "
-                                  "printf '\\0\\0\\0\\0'",
+        throw bad_use(fmt::format("{}: has no {} digit; if this is an empty message, give an empty input and -f raw",
             m_stream->name(), name_of(m_format)));
     return bytes;
 }

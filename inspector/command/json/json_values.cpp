@@ -184,4 +184,23 @@ json json_of_text(std::string_view text)
     return json{{"hex", hex_of_bytes({reinterpret_cast<const uint8_t *>(text.data()), text.size()})}};
 }
 
+// Numbers here have no sign, and names need no escape.
+void write_json(json_writer &writer, const json &value)
+{
+    if (value.is_number())
+        return writer.number(value.get<uint64_t>());
+    if (value.is_string())
+        return writer.string(value.get_ref<const std::string &>());
+    if (value.is_array())
+        writer.open_array();
+    else
+        writer.open_object();
+    for (const auto &[name, element] : value.items()) {
+        if (value.is_object())
+            writer.name(name);
+        write_json(writer, element);
+    }
+    writer.close();
+}
+
 } // namespace mava_tum_cli

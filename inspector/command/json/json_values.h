@@ -8,6 +8,7 @@
 #pragma once
 
 #include "input/input_stream.h"
+#include "json/json_writer.h"
 
 #include <cstdint>
 #include <nlohmann/json.hpp>
@@ -40,5 +41,7 @@ std::string colon_ipv6(std::span<const uint8_t, 16> address);
 json json_of_ipv4(uint32_t host_order);
 json json_of_bytes(std::span<const uint8_t> bytes, bool is_ipv6);
 json json_of_text(std::string_view text);
+
+void write_json(json_writer &writer, const json &value);
 
 } // namespace mava_tum_cli

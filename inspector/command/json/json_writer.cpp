@@ -10,9 +10,11 @@ namespace
 
 constexpr size_t indent_width = 2;
 
-bool needs_escape(char character)
+void write_code(text_output &output, uint32_t code)
 {
-    return static_cast<unsigned char>(character) < ' ' || character == '"' || character == '\\';
+    const uint8_t bytes[] = {static_cast<uint8_t>(code >> 8), static_cast<uint8_t>(code)};
+    output.write("\\u");
+    output.write_hex(bytes);
 }
 
 void write_escaped(text_output &output, char character)
@@ -25,9 +27,27 @@ void write_escaped(text_output &output, char character)
         output.put(short_forms[i + 1]);
         return;
     }
-    output.write("\\u00");
-    const auto byte = static_cast<uint8_t>(character);
-    output.write_hex({&byte, 1});
+    write_code(output, static_cast<unsigned char>(character));
+}
+
+bool is_escaped(char character)
+{
+    return static_cast<unsigned char>(character) < ' ' || character == '"' || character == '\\';
+}
+
+// Writes what cannot stand at `position` as it is. Returns how many bytes that were; 0: it can.
+size_t write_if_escaped(text_output &output, std::string_view text, size_t position, std::string_view before)
+{
+    const direction_control control = direction_control_at(text, position);
+    if (!is_escaped(text[position]) && control.bytes == 0)
+        return 0;
+    output.write(before);
+    if (control.bytes == 0) {
+        write_escaped(output, text[position]);
+        return 1;
+    }
+    write_code(output, control.code);
+    return control.bytes;
 }
 
 } // namespace
@@ -36,12 +56,11 @@ void write_json_string(text_output &output, std::string_view text)
 {
     output.put('"');
     size_t written = 0;
-    for (size_t at = 0; at < text.size(); ++at) {
-        if (!needs_escape(text[at]))
-            continue;
-        output.write(text.substr(written, at - written));
-        write_escaped(output, text[at]);
-        written = at + 1;
+    for (size_t at = 0; at < text.size();) {
+        const size_t escaped = write_if_escaped(output, text, at, text.substr(written, at - written));
+        at += escaped == 0 ? 1 : escaped;
+        if (escaped != 0)
+            written = at;
     }
     output.write(text.substr(written));
     output.put('"');

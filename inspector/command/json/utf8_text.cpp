@@ -1,8 +1,5 @@
 #include "json/utf8_text.h"
 
-#include <cstddef>
-#include <cstdint>
-
 namespace mava_tum_cli
 {
 
@@ -39,7 +36,26 @@ bool is_character(uint32_t code)
     return code <= 0x10FFFF && (code < 0xD800 || code > 0xDFFF) && !is_control(code);
 }
 
+// U+061C, U+200E, U+200F, U+202A to U+202E, U+2066 to U+2069.
+bool changes_direction(uint32_t code)
+{
+    return code == 0x061C || code == 0x200E || code == 0x200F || (code >= 0x202A && code <= 0x202E) ||
+           (code >= 0x2066 && code <= 0x2069);
+}
+
 } // namespace
+
+direction_control direction_control_at(std::string_view text, size_t position)
+{
+    const auto byte = [text, position](size_t i) { return static_cast<unsigned char>(text[position + i]); };
+    if (byte(0) != 0xD8 && byte(0) != 0xE2)
+        return {0, 0};
+    const size_t bytes = byte(0) == 0xD8 ? 2 : 3;
+    uint32_t code = kind_of(byte(0)).first_bits;
+    for (size_t i = 1; i < bytes; ++i)
+        code = code << 6 | (byte(i) & 0x3Fu);
+    return changes_direction(code) ? direction_control{code, bytes} : direction_control{0, 0};
+}
 
 bool is_plain_utf8(std::string_view text)
 {

@@ -3,7 +3,7 @@ import os
 import subprocess
 import unittest
 
-from inspector import PROGRAM, V4, InspectorTest, frames
+from inspector import PROGRAM, V4, InspectorTest, frames, run
 
 NOBODY = 65534
 
@@ -44,13 +44,17 @@ class FileTest(InspectorTest):
 
     def test_empty_input_is_told(self):
         for command in READERS:
-            self.refused(*command, self.file("empty", b""), says=["empty: is empty", "length 0"])
+            self.refused(*command, self.file("empty", b""), says=["empty: is empty", "-f raw"])
             self.refused(*command, data=b"", says="standard input: is empty")
         for command in JSON_READERS:
             self.refused(*command, self.file("empty", b""), says=["empty: is empty", "{}"])
 
-    def test_the_advice_for_an_empty_message_works(self):
-        self.succeeds("decode", "subscriber_v4", data=b"\0\0\0\0")
+    def test_an_empty_raw_input_is_an_empty_message(self):
+        for command in READERS:
+            done = run(*command, "-f", "raw", data=b"")
+            self.assertEqual((done.status, done.errors), (0, ""), command)
+        done = self.succeeds("decode", "-f", "raw", "subscriber_v4", self.file("empty", b""))
+        self.assertEqual(done.output.splitlines()[0], "subscriber_v4, 0 bytes")
 
     def test_a_name_with_a_line_end_stays_on_one_line(self):
         self.refused("decode", "subscriber_v4", "no\nsuch\nfile", says="no?such?file")
@@ -113,6 +117,28 @@ class NameTest(InspectorTest):
     def test_a_wrong_adapter_gets_the_nearest_names(self):
         self.refused("app", "rec_start_ress", "decode", data=V4, says="rec_start_res")
         self.refused("check", "sub_rout", data=V4, says="sub_route")
+
+    def test_a_name_in_other_letters_finds_its_message(self):
+        expected = self.succeeds("decode", "subscriber_v4", data=V4).output
+        for name in ("SUBSCRIBER_V4", "subscriber-v4", "SubscriberV4", "mava_tum_subscriber_v4", "Subscriber V4"):
+            self.assertEqual(self.succeeds("decode", name, data=V4).output, expected)
+        self.refused("decode", "SUBSCRIBER_V5", data=V4, says=["subscriber_v4", "subscriber_v6"])
+        self.assertEqual(self.succeeds("app", "SessionDelete", "encode", "--to", "hex", data=b"{}").output,
+                         self.succeeds("app", "session_delete", "encode", "--to", "hex", data=b"{}").output)
+
+    def test_every_name_is_one_of_its_own_without_its_underscores(self):
+        names = [line.split()[0] for line in self.succeeds("list").output.splitlines()[1:]]
+        self.assertEqual(len({name.replace("_", "") for name in names}), 40)
+
+    def test_an_adapter_that_alone_carries_a_message_may_be_named_by_it(self):
+        data = b"\x08\x01"
+        self.assertEqual(self.succeeds("check", "rec_sess_resp", "-f", "raw", data=data).output,
+                         self.succeeds("check", "rec_sess_res", "-f", "raw", data=data).output)
+
+    def test_a_message_with_several_adapters_leads_to_them(self):
+        self.refused("check", "rec_resp", data=b"\x08\x01",
+                     says="2 adapters carry the message rec_resp: rec_start_res and rec_complete_res; name one of them")
+        self.refused("app", "subscriber_v4", "decode", data=V4, says="no adapter carries the message subscriber_v4")
 
     def test_a_name_like_none_leads_to_the_list(self):
         done = self.refused("decode", "%%%%", data=V4, says="mava-tum list has all names")

@@ -5,7 +5,7 @@ import subprocess
 import tempfile
 import unittest
 
-from inspector import PROGRAM, V4, InspectorTest, frames
+from inspector import PROGRAM, V4, InspectorTest, frames, run
 
 IS_INSTRUMENTED = os.environ.get("MAVA_TUM_IS_INSTRUMENTED") == "1"
 # A sub_route with one route for IPv4: each as small as it can be, so that the JSON is far larger than the message.
@@ -65,6 +65,24 @@ class TreeTest(InspectorTest):
         self.assertEqual(len(tree), 1 + 2 * 20000)
         self.assertEqual({line.index(" record") for line in tree[1::2]} | {line.index(" varint") for line in tree[2::2]},
                          {len("     0  4 ipv4_routes[0]          ")})
+
+
+class DirectionTest(InspectorTest):
+    """Characters that change the direction of text would make a name look like another one."""
+    text = "admin\u202etxt.exe\u2069\u200f \u05d0\u00e9"
+    escaped = '"admin\\u202etxt.exe\\u2069\\u200f \u05d0\u00e9"'
+
+    def test_they_are_escaped_wherever_a_text_is_printed(self):
+        message = json.dumps({"session_data": {"field_5": self.text}}).encode()
+        wire = self.succeeds("encode", "session_context", data=message).raw
+        other = self.file("other", self.succeeds("encode", "session_context", data=b'{"session_data": {}}').raw)
+        printed = [self.succeeds("decode", "session_context", data=wire), self.succeeds(
+            "decode", "--json", "session_context", data=wire), self.succeeds("app", "session_context", "decode", data=wire),
+            run("diff", "-f", "raw", "session_context", self.file("one", wire), other)]
+        for done in printed:
+            self.assertIn(self.escaped, done.output)
+            self.assertNotIn("\u202e", done.output)
+        self.assertEqual(self.succeeds("encode", "session_context", data=printed[1].raw).raw, wire)
 
 
 class MemoryTest(InspectorTest):

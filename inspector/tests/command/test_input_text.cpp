@@ -92,4 +92,14 @@ TEST(utf8_text, longer_forms_and_halves_of_pairs_are_none)
     EXPECT_FALSE(mava_tum_cli::is_plain_utf8("\xC2\x9B"));
 }
 
+TEST(utf8_text, characters_that_change_the_direction_are_told_from_their_neighbours)
+{
+    for (const auto &[text, code] : {std::pair{"\xD8\x9C", 0x061Cu}, {"\xE2\x80\x8E", 0x200E}, {"\xE2\x80\x8F", 0x200F},
+             {"\xE2\x80\xAA", 0x202A}, {"\xE2\x80\xAE", 0x202E}, {"\xE2\x81\xA6", 0x2066}, {"\xE2\x81\xA9", 0x2069}})
+        EXPECT_EQ(mava_tum_cli::direction_control_at(text, 0).code, code);
+    for (const std::string_view text : {"\xD8\x9B", "\xD8\x9D", "\xE2\x80\x8D", "\xE2\x80\x90", "\xE2\x80\xA9",
+             "\xE2\x80\xAF", "\xE2\x81\xA5", "\xE2\x81\xAA", "a"})
+        EXPECT_EQ(mava_tum_cli::direction_control_at(text, 0).bytes, 0u);
+}
+
 } // namespace

@@ -66,7 +66,7 @@ TEST(inspect_explain, names_the_wire_type_that_stands_where_another_belongs)
 {
     EXPECT_EQ(lines_of("subscriber_v4", "0D 01"),
         "       0  0D                       field_1: field 1, fixed32 instead of varint\n"
-        "                                   fault: `field_1` has wire type 5 instead of 0 at byte 0: result -3\n"
+        "                                   fault: `field_1` is fixed32 instead of varint at byte 0: result -3\n"
         "       1  01                       not read: 1 byte\n");
 }
 

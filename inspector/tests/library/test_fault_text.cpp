@@ -46,8 +46,10 @@ INSTANTIATE_TEST_SUITE_P(inspect_judge, every_fault,
             "a tag of `session_data` is cut short at byte 6: result -1"},
         broken{"session_context", "5A 00 80", "qos", 2,
             "the tag behind the run of `qos` is cut short at byte 2: result -1"},
-        broken{"subscriber_v4", "0A 01", "field_1", 0, "`field_1` has wire type 2 instead of 0 at byte 0: result -3"},
-        broken{"session_context", "08 07 5D 00", "qos", 2, "`qos` has wire type 5 instead of 2 at byte 2: result -3"},
+        broken{"subscriber_v4", "0A 01", "field_1", 0,
+            "`field_1` is length-delimited instead of varint at byte 0: result -3"},
+        broken{"session_context", "08 07 5D 00", "qos", 2,
+            "`qos` is fixed32 instead of length-delimited at byte 2: result -3"},
         // values
         broken{"subscriber_v4", "08 80", "field_1", 1, "`field_1` is cut short inside its varint at byte 1: result -1"},
         broken{
