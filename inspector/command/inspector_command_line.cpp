@@ -51,9 +51,10 @@ void add_format(CLI::App &command, command_options &options)
 {
     add_choice<input_format>(command, "-f,--format", options.input.format,
         {{"auto", input_format::automatic}, {"raw", input_format::raw}, {"hex", input_format::hex},
-            {"base64", input_format::base64}, {"frames", input_format::frames}},
-        "what the input is written in: auto, raw, hex, base64, or frames (each message after its length in 4 bytes, "
-        "big-endian)",
+            {"base64", input_format::base64}, {"frames", input_format::frames}, {"dump", input_format::dump},
+            {"c", input_format::c}},
+        "what the input is written in: auto, raw, hex, base64, frames (each message after its length in 4 bytes, "
+        "big-endian), dump (of xxd, hexdump, od or tshark) or c (an array or escapes)",
         "FORMAT");
 }
 

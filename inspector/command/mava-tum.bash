@@ -47,7 +47,7 @@ _mava_tum_arguments_before() {
 _mava_tum() {
     local program=${COMP_WORDS[0]} word=${COMP_WORDS[COMP_CWORD]} before=${COMP_WORDS[COMP_CWORD - 1]} words
     case $before in
-    -f | --format) words="auto raw hex base64 frames" ;;
+    -f | --format) words="auto raw hex base64 frames dump c" ;;
     -t | --to) words="raw hex base64 frames" ;;
     --color) words="auto always never" ;;
     -o | --output | --message) words= ;;

@@ -43,7 +43,7 @@ complete -c mava-tum -n "__mava_tum_argument 0 app check" -f -a "(__mava_tum_ada
 complete -c mava-tum -n "__mava_tum_argument 1 app" -f -a "encode decode"
 
 complete -c mava-tum -n "__fish_seen_subcommand_from decode explain app check guess diff" -x -s f -l format \
-    -a "auto raw hex base64 frames" -d "What the input is written in"
+    -a "auto raw hex base64 frames dump c" -d "What the input is written in"
 complete -c mava-tum -n "__fish_seen_subcommand_from decode explain app check guess diff" -x -l message \
     -d "Only this message of each file"
 complete -c mava-tum -n "__fish_seen_subcommand_from decode explain check guess diff list" -s j -l json -d "Print JSON"

@@ -16,7 +16,7 @@ _mava_tum_adapters() {
 
 _mava_tum_arguments() {
     local -a input output json color written
-    input=('(-f --format)'{-f,--format}'[what the input is written in]:format:(auto raw hex base64 frames)'
+    input=('(-f --format)'{-f,--format}'[what the input is written in]:format:(auto raw hex base64 frames dump c)'
         '--message[only this message of each file]:number:')
     output=('(-o --output)'{-o,--output}'[write to this file]:file:_files' '(- *)'{-h,--help}'[print help]')
     json=('(-j --json)'{-j,--json}'[print JSON]')

@@ -2,6 +2,8 @@
 
 #include "bad_use.h"
 #include "input/base64_text.h"
+#include "input/c_text.h"
+#include "input/dump_text.h"
 #include "input/hex_text.h"
 
 #include <algorithm>
@@ -52,6 +54,33 @@ bool is_mostly_hex(const beginning &input)
     return digits >= 3 * others;
 }
 
+bool is_printable(const beginning &input)
+{
+    return std::ranges::all_of(input.bytes,
+        [](uint8_t character) { return (character >= ' ' && character < 0x7F) || is_text_space(character); });
+}
+
+// What people paste; nothing: it is no such text.
+std::optional<input_format> pasted_format(const beginning &input)
+{
+    if (!is_printable(input))
+        return std::nullopt;
+    std::string_view text(reinterpret_cast<const char *>(input.bytes.data()), input.bytes.size());
+    if (!input.is_all)
+        text = text.substr(0, text.rfind('\n') + 1); // whole lines
+    if (is_dump(text))
+        return input_format::dump;
+    return is_c(text) ? std::optional(input_format::c) : std::nullopt;
+}
+
+[[noreturn]] void refuse_text(const input_stream &stream)
+{
+    throw bad_use(
+        fmt::format("{}: is a text, and neither hex, base64, a dump nor C; mend it, or say -f raw if its letters "
+                    "are the bytes of a message (JSON is read by mava-tum encode)",
+            stream.name()));
+}
+
 using reader_fn = byte_vector (*)(std::span<const uint8_t>, const std::string &);
 
 // The bytes that a text stands for, unless it is broken or was not seen to its end.
@@ -84,7 +113,7 @@ plausibility plausibility_as(const beginning &input, reader_fn reader, const pla
 
 std::string_view name_of(input_format format)
 {
-    constexpr std::string_view names[] = {"auto", "raw", "hex", "base64", "frames"};
+    constexpr std::string_view names[] = {"auto", "raw", "hex", "base64", "frames", "dump", "c"};
     return names[static_cast<size_t>(format)];
 }
 
@@ -96,11 +125,16 @@ input_format detect_format(input_stream &stream, const plausible_fn &plausible)
     // number 0 does not exist.
     if (!bytes.empty() && bytes[0] == 0)
         return input_format::frames;
+    if (const std::optional<input_format> pasted = pasted_format(input))
+        return *pasted;
     const bool hex_shaped = is_hex_shaped(input);
     const bool base64_shaped = is_base64_shaped(input);
     const bool mostly_hex = is_mostly_hex(input);
-    if (!hex_shaped && !base64_shaped && (!mostly_hex || plausible(input.bytes) != plausibility::none))
+    if (!hex_shaped && !base64_shaped && (!mostly_hex || plausible(input.bytes) != plausibility::none)) {
+        if (is_printable(input) && plausible(input.bytes) != plausibility::exact)
+            refuse_text(stream);
         return input_format::raw;
+    }
     // Text decodes as many a message, as long as what is unknown in it is put up with. So whatever the input looks like
     // most is taken if it decodes, and the rest only if it fits without a remainder.
     std::vector<input_format> possible;

@@ -9,7 +9,7 @@
 namespace mava_tum_cli
 {
 
-enum class input_format { automatic, raw, hex, base64, frames };
+enum class input_format { automatic, raw, hex, base64, frames, dump, c };
 
 std::string_view name_of(input_format format);
 

@@ -2,6 +2,8 @@
 
 #include "bad_use.h"
 #include "input/base64_text.h"
+#include "input/c_text.h"
+#include "input/dump_text.h"
 #include "input/frame_reader.h"
 #include "input/hex_text.h"
 #include "words.h"
@@ -10,6 +12,26 @@
 
 namespace mava_tum_cli
 {
+
+namespace
+{
+
+byte_vector bytes_of_text(std::span<const uint8_t> content, input_format format, const std::string &where)
+{
+    const std::string_view text(reinterpret_cast<const char *>(content.data()), content.size());
+    switch (format) {
+    case input_format::hex:
+        return bytes_of_hex(content, where);
+    case input_format::dump:
+        return bytes_of_dump(text, where);
+    case input_format::c:
+        return bytes_of_c(text, where);
+    default:
+        return bytes_of_base64(content, where);
+    }
+}
+
+} // namespace
 
 message_source::message_source(chosen_input input, plausible_fn plausible)
     : m_input(std::move(input)), m_plausible(std::move(plausible))
@@ -36,10 +58,9 @@ byte_vector message_source::whole_message()
     byte_vector content = m_stream->read_all();
     if (m_format == input_format::raw)
         return content;
-    byte_vector bytes = m_format == input_format::hex ? bytes_of_hex(content, m_stream->name())
-                                                      : bytes_of_base64(content, m_stream->name());
+    byte_vector bytes = bytes_of_text(content, m_format, m_stream->name());
     if (bytes.empty())
-        throw bad_use(fmt::format("{}: has no {} digit; if this is an empty message, give an empty input and -f raw",
+        throw bad_use(fmt::format("{}: has no byte in {}; if this is an empty message, give an empty input and -f raw",
             m_stream->name(), name_of(m_format)));
     return bytes;
 }

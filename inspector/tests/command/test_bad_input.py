@@ -75,7 +75,7 @@ class HexTest(InspectorTest):
             self.refused("decode", "subscriber_v4", data=data, says=place)
 
     def test_hex_without_a_digit_is_told(self):
-        self.refused("decode", "-f", "hex", "subscriber_v4", data=b" \n", says="has no hex digit")
+        self.refused("decode", "-f", "hex", "subscriber_v4", data=b" \n", says="has no byte in hex")
 
 
 class Base64Test(InspectorTest):
@@ -159,7 +159,7 @@ class ArgumentTest(InspectorTest):
 
     def test_choices_are_told(self):
         self.refused("decode", "subscriber_v4", "--format", "octal",
-                     says=["--format", "octal not in {auto,raw,hex,base64,frames}"])
+                     says=["--format", "octal not in {auto,raw,hex,base64,frames,dump,c}"])
         self.refused("app", "session_delete", "transcode", says="transcode")
 
     def test_standard_input_is_one_message_only(self):
