@@ -1,14 +1,14 @@
-#include "app/record_json.h"
+#include "app/adapter_calls.h"
 #include "commands/all_commands.h"
 #include "commands/decode_verdict.h"
 #include "commands/find_by_name.h"
 #include "commands/layout_of.h"
 #include "commands/wire_writer.h"
+#include "error_line.h"
 #include "input/message_source.h"
 #include "output/output_file.h"
 
-#include <cstddef>
-#include <memory>
+#include <fmt/format.h>
 
 namespace mava_tum_cli
 {
@@ -18,31 +18,29 @@ namespace
 
 using mava_tum_inspect::adapter_description;
 
-// Aligned for any record.
-std::unique_ptr<std::byte[]> block_for(const record_layout &layout)
+// "qos (bit 0 of feature_mask is not set), field_7"
+std::string in_words(const std::vector<unsent_member> &unsent)
 {
-    return std::make_unique<std::byte[]>(layout.size_bytes);
-}
-
-byte_vector encode_record(const adapter_description &adapter, const json &document)
-{
-    const auto record = block_for(*adapter.sent);
-    record_of_json(*adapter.sent, document, "", record.get());
-    byte_vector wire(adapter.encode(record.get(), nullptr, 0));
-    adapter.encode(record.get(), wire.data(), static_cast<uint32_t>(wire.size()));
-    return wire;
-}
-
-json decode_record(const adapter_description &adapter, std::span<const uint8_t> wire)
-{
-    const auto record = block_for(*adapter.received);
-    adapter.decode(wire.data(), static_cast<uint32_t>(wire.size()), record.get());
-    return json_of_record(*adapter.received, record.get());
+    std::string words;
+    for (const unsent_member &member : unsent) {
+        words += (words.empty() ? "" : ", ") + member.name;
+        if (member.feature_bit)
+            words += fmt::format(" (bit {} of feature_mask is not set)", *member.feature_bit);
+    }
+    return words;
 }
 
 exit_status run_app_encode(const adapter_description &adapter, const command_options &options)
 {
-    write_all_documents(options, [&adapter](const json &document) { return encode_record(adapter, document); });
+    std::string unsent; // of the first record that has such members
+    write_all_documents(options, [&](const json &document) {
+        byte_vector wire = encode_record(adapter, document);
+        if (unsent.empty())
+            unsent = in_words(unsent_members(adapter, document, wire));
+        return wire;
+    });
+    if (!unsent.empty())
+        print_error("app", "these members are not sent: " + unsent);
     return exit_ok;
 }
 

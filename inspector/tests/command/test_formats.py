@@ -100,6 +100,16 @@ class AdapterTest(InspectorTest):
             wire = self.succeeds("app", name, "encode", "--to", "frames", data=b"{}").raw
             self.assertTrue(json.loads(self.succeeds("app", name, "decode", data=wire).output), name)
 
+    def test_members_that_are_not_sent_are_told_with_their_bit(self):
+        record = {"feature_mask": 1 << 8, "qos": [{"value_1": 1}], "acl_text_2": "in", "ipv6_part_2": "2001:db8::1",
+                  "urpf_2_value_1": 0, "icmp_1_value": 7}
+        done = run("app", "session_context", "encode", data=json.dumps(record).encode())
+        self.assertEqual((done.status, done.errors), (0, "mava-tum app: these members are not sent: "
+                         "qos (bit 0 of feature_mask is not set), ipv6_part_2 (bit 10 of feature_mask is not set), "
+                         "icmp_1_value (bit 5 of feature_mask is not set)\n"))
+        record["feature_mask"] |= 1 | 1 << 10 | 1 << 5
+        self.succeeds("app", "session_context", "encode", data=json.dumps(record).encode())
+
     def test_frames_become_one_record_a_line(self):
         done = self.succeeds(*SESSION_DELETE, "decode", data=frames(b"\x08\x01", b"\x08\x02"))
         self.assertEqual([json.loads(line)["field_1"] for line in done.output.splitlines()], [1, 2])
