@@ -2,9 +2,9 @@
 
 A mutant is one small change: a comparison turned round or moved by one, an operator exchanged for its counterpart, a
 whole number one higher or lower, a condition or truth value negated, a call or an assignment left out, a return of the
-empty value. Only what runs is changed: constant variables, template arguments, array bounds, static_assert and
-`if constexpr` stay, and so does the number in `return {nullptr, 0}`: beside a null position there is no value. A
-template is one place, however many messages instantiate it.
+empty value. Only what runs is changed. Constants, what computes them and template arguments are find_constants.py's;
+array bounds, static_assert and `if constexpr` stay, and so does the number in `return {nullptr, 0}`: beside a null
+position there is no value. A template is one place, however many messages instantiate it.
 """
 import hashlib
 import re
@@ -12,21 +12,8 @@ from dataclasses import dataclass
 
 from clang.cindex import CursorKind, Index, TypeKind
 
-# operator -> (function of mutant_switch.h, what each of its mutants does)
-BINARY = {
-    "==": ("equal", ["!="]), "!=": ("unequal", ["=="]),
-    "<": ("less", [">=", "<="]), "<=": ("less_or_equal", [">", "<"]),
-    ">": ("greater", ["<=", ">="]), ">=": ("greater_or_equal", ["<", ">"]),
-    "+": ("plus", ["-"]), "-": ("minus", ["+"]), "*": ("times", ["/"]),
-    "/": ("divided", ["*"]), "%": ("remainder", ["*"]),
-    "&": ("both_bits", ["|"]), "|": ("any_bits", ["&"]), "^": ("other_bits", ["&"]),
-    "<<": ("shifted_left", [">>"]), ">>": ("shifted_right", ["<<"]),
-    "+=": ("add", ["-="]), "-=": ("subtract", ["+="]), "|=": ("set_bits", ["&="]), "&=": ("keep_bits", ["|="]),
-    "<<=": ("shift_left", [">>="]), ">>=": ("shift_right", ["<<="]),
-}
-COMPARISONS = {"==", "!=", "<", "<=", ">", ">="}
-LOGICAL = {"&&": "||", "||": "&&"}
-STEPS = {"++": ("step_up", "--"), "--": ("step_down", "++")}
+from find_constants import COMPILED_FUNCTIONS
+from mutant_operators import BINARY, COMPARISONS, LOGICAL, STEPS
 
 FUNCTIONS = {CursorKind.FUNCTION_DECL, CursorKind.FUNCTION_TEMPLATE, CursorKind.CXX_METHOD,
              CursorKind.CONSTRUCTOR, CursorKind.DESTRUCTOR}
@@ -81,7 +68,7 @@ class Finder:
     def visit(self, cursor):
         """Dispatches on what the cursor is; whatever is not named here only has children."""
         kind = cursor.kind
-        if kind in SKIPPED:
+        if kind in SKIPPED or (kind in FUNCTIONS and cursor.spelling in COMPILED_FUNCTIONS):
             return
         if kind in FUNCTIONS or kind in RECORDS:
             self.visit_named(cursor)
@@ -247,7 +234,8 @@ class Finder:
             self.add(cursor, f"mut::{name}({{0}}, ", ")", [f"without {text[0]}"], (start, start + 1, ""))
 
     def mutate_number(self, cursor):
-        if self.text_of(cursor)[:1].isdigit():  # not one that a macro wrote
+        is_template_argument = self.text[cursor.extent.start.offset - 1] == "<"
+        if self.text_of(cursor)[:1].isdigit() and not is_template_argument:  # nor one that a macro wrote
             self.add(cursor, "mut::literal({0}, ", ")", ["+ 1", "- 1"])
 
 

@@ -1,9 +1,10 @@
 #!/usr/bin/env python3
-"""Puts every mutant of src/codec and of the queue into a copy of the tree, at once: see mutant_switch.h.
+"""Puts every mutant that can be chosen while a program runs into a copy of the tree, at once: see mutant_switch.h.
 
     mutate_sources.py <copy of the project> <mutants.json>
 
-Rewrites the sources in the copy, drops what no compiler takes, and writes down what each mutant is.
+Rewrites the sources in the copy, drops what no compiler takes, and writes down what each mutant is. So it does for the
+mutants that are built one at a time (find_constants.py), which stay out of the copy.
 """
 import glob
 import json
@@ -14,10 +15,12 @@ import subprocess
 import sys
 from concurrent.futures import ThreadPoolExecutor
 
+import find_constants
 import find_mutants
 
 COMPILER = "clang++-19"
 SWITCH = os.path.join(os.path.dirname(os.path.abspath(__file__)), "mutant_switch.h")
+# The lists of fields in src/messages have no mutants: what differs there does not compile.
 MUTATED = ["src/codec/*.h", "src/codec/*.cpp", "src/messages/*.cpp", "src/nal/*.h", "src/nal/*.cpp"]
 # Each template is seen in the sources that instantiate it.
 COMPILED = ["src/*/*.cpp"]
@@ -41,6 +44,7 @@ def find_all(root, files):
 
 
 def number_sites(found):
+    """Returns how many mutants there are."""
     number = 1
     for sites in found.values():
         for site in sites:
@@ -150,11 +154,19 @@ def describe(found, texts):
             for index, change in enumerate(site.changes):
                 key = f"{os.path.basename(site.file)} {site.function}: {original} [{change}]"
                 seen[key] = seen.get(key, 0) + 1
-                mutants[site.first + index] = {
-                    "key": key if seen[key] == 1 else f"{key} #{seen[key]}", "file": site.file,
-                    "line": texts[path].count("\n", 0, site.start) + 1, "function": site.function,
-                    "within": site.within, "compiles": not site.dropped}
+                if not site.dropped:
+                    mutants[site.first + index] = {
+                        "key": key if seen[key] == 1 else f"{key} #{seen[key]}", "file": site.file,
+                        "line": texts[path].count("\n", 0, site.start) + 1, "within": site.within}
     return mutants
+
+
+def describe_built(files, first):
+    """The same of what is built one at a time, with the edit."""
+    edits = [edit for path, name in files.items() for edit in find_constants.find_edits(path, name)]
+    return {number: {"key": edit.key, "file": edit.file, "line": edit.line, "within": edit.within,
+                     "edit": {"file": edit.file, "start": edit.start, "end": edit.end, "text": edit.text}}
+            for number, edit in enumerate(edits, first)}
 
 
 def main():
@@ -166,13 +178,18 @@ def main():
             texts[path] = without_forced_inlining(stream.read())
     shutil.copy(SWITCH, os.path.join(root, "src"))
     found = find_all(root, files)
+    built = {path: name for path, name in files.items() if not name.startswith("src/messages/")}
     count = number_sites(found)
     drop_what_does_not_compile(root, found, texts)
     mutants = describe(found, texts)
+    edits = describe_built(built, count + 1)
+    print(f"{count} mutants to be chosen, {count - len(mutants)} of them do not compile; {len(edits)} to be built")
+    mutants.update(edits)
+    keys = [mutant["key"] for mutant in mutants.values()]
+    if len(keys) != len(set(keys)):
+        raise SystemExit(f"described alike: {[key for key in keys if keys.count(key) > 1][:3]}")
     with open(result, "w", encoding="utf-8") as stream:
         json.dump(mutants, stream, indent=1)
-    compiled = sum(mutant["compiles"] for mutant in mutants.values())
-    print(f"{count} mutants, {count - compiled} of them do not compile")
 
 
 if __name__ == "__main__":

@@ -1,191 +1,247 @@
 #!/usr/bin/env python3
-"""Runs the ordinary test programs against every mutant of a mutated build and prints the score.
+"""Runs the ordinary test programs against every mutant and prints the score.
 
-    run_mutants.py <build folder> <mutants.json> <survivors.md> <fuzz corpus> <results.json> [--again]
+    run_mutants.py run <work folder> [--again] [--only <pattern>]
+    run_mutants.py sanitize <work folder>
+    run_mutants.py report <work folder> <survivors.md>
 
-First each program runs once with nothing mutated and notes which mutants it reaches. Then each mutant is run through
-the programs that reach it, the fastest first, until one fails: it is killed. A program that takes much longer than it
-should counts as failed. What no program fails for has survived, and has to be listed with a reason. A listed survivor
-is not run through the slow programs again: that could only raise the score.
+The work folder holds what scripts/check/mutation_score made: mutants.json, and two copies of the project: `source`,
+with the mutants that can be chosen while a program runs, and `plain`, without mutants, built in `build`.
 
-With --again, what an earlier run killed counts as killed if the function that it is in has not changed since: to try
-a new test, or to go on after MUTATION_MINUTES, after which no further mutant is begun.
+run: each program runs once with nothing mutated, and notes which mutants it reaches. Each mutant is run through the
+programs that reach it, the fast ones first, until one fails: it is killed. What only a compiler sees is built
+(mutant_builder.py) and run through all programs; what does not compile is no mutant. A program that takes much longer
+than it should counts as failed. What no program fails for has survived.
+
+sanitize: every survivor is run through the same programs once more, under the address sanitizer: what fails there is
+unsafe, and needs a test.
+
+report: every other survivor has to be listed with a reason.
+
+With --again, results of earlier runs are taken over: all of the same sources and tests, which is how to go on after
+MUTATION_END, seconds since 1970, after which no further mutant is begun; and from others, what was killed, if the
+function that the mutant is in has not changed since. --only tries the mutants whose description the pattern is found
+in.
 """
 import argparse
+import hashlib
 import json
 import os
 import re
-import resource
 import subprocess
 import sys
+import threading
 import time
 from concurrent.futures import ThreadPoolExecutor
 
-# A part of a program is named by its filter.
-PROGRAMS = ["tests/test_codec", "tests/test_messages", "tests/test_leniency", "tests/nal/test_nal nal_queue.*",
-            "tests/nal/test_nal -nal_queue.*", "tests/model/test_model", "fuzz/replay_messages", "fuzz/replay_adapters",
-            "tests/interop/test_interop", "tests/sweeps/test_sweeps"]
+from mutant_builder import DOES_NOT_COMPILE, Builder
+
 LEAST_SHARE = 0.95
-SLOW_SECONDS = 3
-MEMORY_BYTES = 8 << 30
-NOT_RUN = "not run"
-# Run by the compiler alone; the tool stops when a program reaches one of them after all.
-COMPILE_TIME_FUNCTIONS = {
-    "all_scalar", "any_asks_for_room", "asks_for_room", "is_well_formed", "make_varint_shapes", "max_head_bytes",
-    "max_put_bytes", "presence_bits_up_to", "sum_of_head_bytes", "sum_of_put_bytes", "tag_of"}
 
 
-class Program:
-    """A test program of the mutated build."""
+class Switched:
+    """The mutants of one build, chosen by the environment."""
 
-    def __init__(self, build, name, corpus):
-        path, _, selected = name.partition(" ")
-        self.name = os.path.basename(name)
-        if self.name.startswith("replay_"):
-            arguments = [os.path.join(corpus, self.name[len("replay_"):] + ".packed")]
-        else:
-            arguments = ["--gtest_fail_fast", "--gtest_brief=1", f"--gtest_filter={selected or '*'}"]
-        self.command = [os.path.join(build, path), *arguments]
-        self.seconds = 0.0
-        self.reached = set()
+    def __init__(self, builder):
+        builder.prepare()
+        self.programs = builder.programs
 
-    def run(self, variables, cpu_seconds):
-        """The exit code; not 0 as well when the time is up."""
-        def limit():
-            resource.setrlimit(resource.RLIMIT_CPU, (cpu_seconds, cpu_seconds))
-            resource.setrlimit(resource.RLIMIT_AS, (MEMORY_BYTES, MEMORY_BYTES))
-            resource.setrlimit(resource.RLIMIT_CORE, (0, 0))
-        try:
-            return subprocess.run(self.command, env={**os.environ, **variables}, preexec_fn=limit, check=False,
-                                  stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL,
-                                  timeout=60 + 40 * cpu_seconds).returncode
-        except subprocess.TimeoutExpired:
-            return 1
-
-    def trace(self, folder):
-        """What it reaches, and how long it takes."""
-        file = os.path.join(folder, f"{self.name.replace('*', 'all')}.trace")
-        if os.path.exists(file):
-            os.remove(file)
-        before = resource.getrusage(resource.RUSAGE_CHILDREN)
-        code = self.run({"MUTANT_TRACE": file}, 600)
-        after = resource.getrusage(resource.RUSAGE_CHILDREN)
-        if code != 0:
-            raise SystemExit(f"{self.name} fails with nothing mutated, exit code {code}")
-        self.seconds = after.ru_utime + after.ru_stime - before.ru_utime - before.ru_stime
-        with open(file, "rb") as stream:
-            self.reached = {number for number, byte in enumerate(stream.read()) if byte}
-        print(f"{self.name}: reaches {len(self.reached)} mutants in {self.seconds:.1f} s of processor time", flush=True)
-
-    def kills(self, number):
-        return self.run({"MUTANT": str(number)}, int(3 * self.seconds) + 3) != 0
-
-
-def try_mutant(number, programs, is_listed):
-    """The name of the program that killed it, or None."""
-    for program in programs:
-        if number in program.reached and not (is_listed and program.seconds > SLOW_SECONDS):
-            if program.kills(number):
+    def killer_among(self, programs, mutant):
+        number = mutant["number"]
+        for program in programs:
+            if program.reaches(number) and program.fails({"MUTANT": str(number)}):
                 return program.name
-    return None
+        return None
+
+    def killer(self, mutant):
+        return self.killer_among(self.programs, mutant)
+
+
+class Results:
+    """What is known of each mutant, saved on the way. By its description, with the text of the function that it is in,
+    so that a later run can tell whether it still holds."""
+
+    def __init__(self, path, mutants, version):
+        self.path, self.mutants, self.version = path, mutants, version
+        self.known, self.left_over = {}, {}
+        self.end = float(os.environ.get("MUTATION_END", "inf"))
+        self.lock = threading.Lock()
+
+    def take_over(self):
+        if not os.path.exists(self.path):
+            return
+        with open(self.path, encoding="utf-8") as stream:
+            self.left_over = json.load(stream)
+        for number, mutant in self.mutants.items():
+            earlier = self.left_over.get(mutant["key"], {})
+            is_of_now = earlier.get("version") == self.version
+            if earlier.get("within") == mutant["within"] and (is_of_now or earlier["killer"]):
+                self.known[number] = earlier
+
+    def add(self, number, killer):
+        mutant = self.mutants[number]
+        with self.lock:
+            self.known[number] = {"killer": killer, "within": mutant["within"], "version": self.version}
+        if len(self.known) % 20 == 0:
+            self.save()
+            print(f"{len(self.known)} of {len(self.mutants)}", flush=True)
+
+    def add_sanitized(self, number, killer):
+        with self.lock:
+            self.known[number]["unsafe"] = killer
+        self.save()
+
+    def save(self):
+        with self.lock:
+            known = {self.mutants[number]["key"]: result for number, result in self.known.items()}
+            with open(f"{self.path}.new", "w", encoding="utf-8") as stream:
+                json.dump({**self.left_over, **known}, stream, indent=1)
+            os.replace(f"{self.path}.new", self.path)
+
+    def is_over(self):
+        return time.time() > self.end
+
+    def survivors(self):
+        return [number for number, result in self.known.items() if result["killer"] is None]
+
+    def compiled(self):
+        return {number: result for number, result in self.known.items() if result["killer"] != DOES_NOT_COMPILE}
+
+
+def run_all(killer, numbers, add, results):
+    """Gives each mutant to `killer`, and what that returns to `add`, until the time is over."""
+    def run_one(number):
+        if not results.is_over():
+            add(number, killer(results.mutants[number]))
+
+    with ThreadPoolExecutor(int(os.environ.get("MUTATION_JOBS", os.cpu_count()))) as pool:
+        for _ in pool.map(run_one, numbers):
+            pass
+    results.save()
 
 
 def read_survivors(path):
-    """The keys in the list: each in a line of its own, as an item in backquotes."""
+    """The descriptions in the list: each in a line of its own, as an item in backquotes."""
     with open(path, encoding="utf-8") as stream:
         return set(re.findall(r"^- `(.*)`$", stream.read(), re.M))
 
 
-def save(mutants, results, path):
-    """By key, with the function's text, so that a later run can tell whether it still holds."""
-    with open(path, "w", encoding="utf-8") as stream:
-        json.dump({mutants[number]["key"]: {"killer": killer, "within": mutants[number]["within"]}
-                   for number, killer in results.items()}, stream, indent=1)
-
-
-def killed_before(mutants, path):
-    """number -> the program that killed it in an earlier run."""
-    with open(path, encoding="utf-8") as stream:
-        earlier = json.load(stream)
-    killers = {number: earlier[mutant["key"]]["killer"] for number, mutant in mutants.items()
-               if earlier.get(mutant["key"], {}).get("within") == mutant["within"]}
-    known = {number: killer for number, killer in killers.items() if killer}
-    print(f"{len(known)} of {len(mutants)} mutants taken over as killed", flush=True)
-    return known
-
-
-def run_all(mutants, programs, listed, known, path):
-    """number -> the program that killed it, or None, of all that the time was enough for. Saves them, also on the
-    way."""
-    results, started = dict(known), time.time()
-    last = started + 60 * float(os.environ.get("MUTATION_MINUTES", "inf"))
-
-    def run(number):
-        if time.time() > last:
-            return number, NOT_RUN
-        return number, try_mutant(number, programs, mutants[number]["key"] in listed)
-
-    with ThreadPoolExecutor(int(os.environ.get("MUTATION_JOBS", os.cpu_count()))) as pool:
-        for number, killer in pool.map(run, sorted(set(mutants) - set(known))):
-            if killer == NOT_RUN:
-                continue
-            results[number] = killer
-            if len(results) % 100 == 0:
-                save(mutants, results, path)
-                print(f"{len(results)} of {len(mutants)} in {time.time() - started:.0f} s", flush=True)
-    save(mutants, results, path)
-    return results
-
-
-def report(mutants, programs, results, listed):
-    """Prints what survived and the score. Returns whether the list says the same."""
-    if len(results) < len(mutants):
-        print(f"{len(results)} of {len(mutants)} mutants were run; --again goes on")
-        return False
-    reached = set().union(*(program.reached for program in programs))
-    survivors = {mutants[number]["key"]: number for number, killer in results.items() if killer is None}
-    unlisted, stale = sorted(set(survivors) - listed), sorted(listed - set(survivors))
-    for key in unlisted:
-        where = mutants[survivors[key]]
-        note = "" if survivors[key] in reached else " (reached by no test)"
-        print(f"survived, not listed: {where['file']}:{where['line']}{note}\n- `{key}`")
+def print_survivors(results, listed):
+    """Returns whether the list says the same: of what was run, where not all was."""
+    survivors = {results.mutants[number]["key"]: number for number in results.survivors()}
+    unsafe = {key for key, number in survivors.items() if results.known[number].get("unsafe")}
+    unlisted = sorted(set(survivors) - listed - unsafe)
+    stale = sorted(key for key in listed - set(survivors) if len(results.known) == len(results.mutants)
+                   or key in {results.mutants[number]["key"] for number in results.known})
+    for key in unlisted + sorted(unsafe):
+        where, sanitized = results.mutants[survivors[key]], results.known[survivors[key]].get("unsafe")
+        what = f"unsafe ({sanitized}), needs a test" if sanitized else "survived, not listed"
+        print(f"{what}: {where['file']}:{where['line']}\n- `{key}`")
     for key in stale:
         print(f"listed, but killed or gone:\n- `{key}`")
-    for name in sorted({killer for killer in results.values() if killer}):
-        print(f"killed by {name}: {sum(killer == name for killer in results.values())}")
-    killed, count = len(results) - len(survivors), len(results)
-    print(f"mutation score: {killed} of {count} killed, {100 * killed / count:.2f} %; {len(survivors)} survivors, "
-          f"{len(unlisted)} of them not listed")
-    return not unlisted and not stale and killed >= LEAST_SHARE * count
+    print(f"{len(survivors)} survivors, {len(unlisted)} of them not listed, {len(unsafe)} unsafe; {len(stale)} listed "
+          "that are none")
+    return not unlisted and not stale and not unsafe
 
 
-def run_by_the_compiler(mutants, programs):
-    """Takes out what only the compiler evaluates. Stops when a program evaluates it after all."""
-    reached = set().union(*(program.reached for program in programs))
-    left_out = {n for n, mutant in mutants.items() if mutant["function"].split("::")[-1] in COMPILE_TIME_FUNCTIONS}
-    if left_out & reached:
-        raise SystemExit(f"runs after all: {[mutants[n]['function'] for n in left_out & reached][0]}")
-    print(f"{len(left_out)} mutants left out: only the compiler runs {', '.join(sorted(COMPILE_TIME_FUNCTIONS))}")
-    return {n: mutant for n, mutant in mutants.items() if n not in left_out}
+def report(results, listed):
+    """Prints what survived and the score. Returns whether all is well."""
+    counted = results.compiled()
+    killers = [result["killer"] for result in counted.values() if result["killer"]]
+    for name in sorted(set(killers)):
+        print(f"killed by {name}: {killers.count(name)}")
+    is_listed = print_survivors(results, listed)
+    not_sanitized = sum("unsafe" not in results.known[number] for number in results.survivors())
+    missing = len(results.mutants) - len(results.known)
+    if missing or not_sanitized:
+        print(f"{missing} of {len(results.mutants)} mutants were not run, and {not_sanitized} survivors not under the "
+              "sanitizer; --again goes on")
+    of_what = "" if missing == 0 else " that were run"
+    share = len(killers) / max(len(counted), 1)
+    print(f"mutation score: {len(killers)} of {len(counted)} mutants{of_what} killed, {100 * share:.2f} %")
+    return is_listed and missing == 0 and not_sanitized == 0 and share >= LEAST_SHARE
+
+
+def run_switched(switched, numbers, results):
+    """Most mutants are killed at once: only what is left goes through the slow programs."""
+    quick = [program for program in switched.programs if not program.is_slow]
+    slow = [program for program in switched.programs if program.is_slow]
+    left = []
+
+    def add(number, killer):
+        if killer:
+            results.add(number, killer)
+        else:
+            left.append(number)
+
+    run_all(lambda mutant: switched.killer_among(quick, mutant), numbers, add, results)
+    print(f"{len(left)} left for {', '.join(program.name for program in slow)}", flush=True)
+    run_all(lambda mutant: switched.killer_among(slow, mutant), left, results.add, results)
+
+
+def split(results, numbers):
+    """Those to be chosen while a program runs, and those to be built."""
+    return ([number for number in numbers if "edit" not in results.mutants[number]],
+            [number for number in numbers if "edit" in results.mutants[number]])
+
+
+def run(options, results):
+    left = [number for number, mutant in results.mutants.items()
+            if number not in results.known and re.search(options.only, mutant["key"])]
+    print(f"{len(results.known)} of {len(results.mutants)} mutants taken over, {len(left)} to run", flush=True)
+    chosen, built = split(results, left)
+    if chosen and not results.is_over():
+        switched = Switched(Builder(options.work, "source", options.corpus, results.version))
+        run_switched(switched, chosen, results)
+    if built and not results.is_over():
+        builder = Builder(options.work, "plain", options.corpus, results.version)
+        builder.prepare()
+        run_all(builder.killer, built, results.add, results)
+
+
+def sanitize(options, results):
+    """Every survivor, unless it was on these sources."""
+    chosen, built = split(results, [n for n in results.survivors() if "unsafe" not in results.known[n]])
+    if chosen and not results.is_over():
+        switched = Switched(Builder(options.work, "source", options.corpus, results.version, sanitized=True))
+        run_all(switched.killer, chosen, results.add_sanitized, results)
+    if built and not results.is_over():
+        builder = Builder(options.work, "plain", options.corpus, results.version, sanitized=True)
+        builder.prepare()
+        run_all(builder.killer, built, results.add_sanitized, results)
+
+
+def read_results(options):
+    with open(os.path.join(options.work, "mutants.json"), encoding="utf-8") as stream:
+        mutants = {int(number): {**mutant, "number": int(number)} for number, mutant in json.load(stream).items()}
+    of_what = [f"HEAD:{folder}" for folder in ("src", "include", "tests", "fuzz", "catalogue")]
+    trees = subprocess.run(["git", "-C", options.plain, "rev-parse", *of_what], capture_output=True, text=True,
+                           check=True).stdout
+    version = hashlib.sha1((trees + json.dumps(list(mutants.values()))).encode()).hexdigest()
+    results = Results(os.path.join(options.work, "results.json"), mutants, version)
+    if options.again:
+        results.take_over()
+    return results
 
 
 def main():
     parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
-    for name in ("build", "mutants", "survivors", "corpus", "results"):
-        parser.add_argument(name)
+    parser.add_argument("what", choices=["run", "sanitize", "report"])
+    parser.add_argument("work")
+    parser.add_argument("survivors", nargs="?")
     parser.add_argument("--again", action="store_true")
+    parser.add_argument("--only", default="")
     options = parser.parse_args()
-    with open(options.mutants, encoding="utf-8") as stream:
-        mutants = {int(number): mutant for number, mutant in json.load(stream).items() if mutant["compiles"]}
-    programs = [Program(options.build, name, options.corpus) for name in PROGRAMS]
-    for program in programs:
-        program.trace(options.build)
-    programs.sort(key=lambda program: program.seconds)
-    mutants = run_by_the_compiler(mutants, programs)
-    listed = read_survivors(options.survivors)
-    known = killed_before(mutants, options.results) if options.again and os.path.exists(options.results) else {}
-    results = run_all(mutants, programs, listed, known, options.results)
-    sys.exit(0 if report(mutants, programs, results, listed) else 1)
+    options.again |= options.what != "run"
+    options.plain = os.path.join(options.work, "plain")
+    options.corpus = os.path.join(options.plain, "fuzz", "corpus")
+    results = read_results(options)
+    if options.what == "run":
+        run(options, results)
+    elif options.what == "sanitize":
+        sanitize(options, results)
+    elif not report(results, read_survivors(options.survivors)):
+        sys.exit(1)
 
 
 if __name__ == "__main__":

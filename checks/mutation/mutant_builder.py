@@ -1,0 +1,194 @@
+"""Builds the test programs with other sources of the library than those of the ordinary build, or with other flags: the
+switched mutants, those that are built one at a time (the edits of find_constants.py), and both under the address
+sanitizer.
+
+Only what is made from src/ is compiled here; a program takes the rest from the ordinary build. For a mutant that is
+built, what is made from the edited file is compiled once more, in a folder of its own, with the edited file laid over
+the original (-ivfsoverlay). So the sanitizer watches the library, its stack and all blocks, but no array on the stack
+of a test that knows nothing of src/.
+"""
+import functools
+import json
+import os
+import re
+import shlex
+import subprocess
+import tempfile
+from collections import Counter
+from concurrent.futures import ThreadPoolExecutor
+
+from test_programs import programs_of
+
+DOES_NOT_COMPILE = "the compiler"
+# Mutants make constants variable, which braces do not take without a word. Not optimised: the compiler takes longer
+# than the programs.
+COMPILER, FLAGS = "clang++-19", ["-O0", "-g0", "-w", "-Wno-c++11-narrowing"]
+LINKER = "-fuse-ld=lld"
+STATIC_LIBRARY = "src/libmava_tum.a"
+SHARED_LIBRARY = re.compile(r"src/libmava_tum\.so\S*")
+SOURCE = re.compile(r"/(src/(?:codec|messages|nal)/\S+)$")
+PRECOMPILED = re.compile(r"-Winvalid-pch|-include \S+\.hxx")
+
+
+class Commands:
+    """What ninja knows of the ordinary build of `source`: the commands, and what of src/ each object is made from."""
+
+    def __init__(self, build, source):
+        self.build, self.source = build, source
+        self.command = {each["output"]: each["command"] for each in json.loads(self.ninja("compdb"))}
+        self.made_from = {}
+        for found in re.finditer(r"^(\S+): #deps.*\n((?:    .*\n)*)", self.ninja("deps"), re.M):
+            paths = map(SOURCE.search, found.group(2).splitlines())
+            self.made_from[found.group(1)] = {path.group(1) for path in paths if path}
+
+    def ninja(self, tool):
+        return subprocess.run(["ninja", "-t", tool], cwd=self.build, capture_output=True, text=True, check=True).stdout
+
+    def objects_of(self, archive):
+        return re.findall(r"\S+\.o\b", self.command[archive])
+
+    @functools.cache
+    def link_words(self, target):
+        """The words of the command that links it, with the library's objects instead of the library."""
+        [command] = [text for output, text in self.command.items() if os.path.basename(output) == target
+                     and " -o " in text]
+        words = shlex.split(next(part for part in command.split(" && ") if " -o " in part))[1:]
+        archives = {STATIC_LIBRARY if SHARED_LIBRARY.fullmatch(word) else word for word in words}
+        if any(self.made_from.get(each) for word in archives & set(self.command) - {STATIC_LIBRARY, target}
+               if word.endswith(".a") for each in self.objects_of(word)):
+            raise SystemExit(f"{target} is linked with an archive that is made from src/")
+        words = [word for word in words if word != STATIC_LIBRARY and not SHARED_LIBRARY.fullmatch(word)]
+        return [COMPILER, LINKER, *self.objects_of(STATIC_LIBRARY), *words]
+
+
+class Folder:
+    """Objects compiled from the sources as they are, or with one file edited."""
+
+    def __init__(self, commands, tree, path, flags):
+        self.commands, self.tree, self.path, self.flags = commands, tree, path, flags
+        self.objects = {}  # object of the build -> the one here
+
+    def run(self, words):
+        with open(os.path.join(self.path, "log"), "ab") as log:
+            return subprocess.run(words, cwd=self.commands.build, check=False, stdout=log, stderr=log).returncode == 0
+
+    def compile(self, target, source=None):
+        """The object here; None when it does not compile."""
+        made = os.path.join(self.path, target.replace("/", "."))
+        if os.path.exists(made):
+            return made
+        command = self.commands.command[target].replace(f"{self.commands.source}/", f"{self.tree}/")
+        words = shlex.split(PRECOMPILED.sub("", command))
+        words = [COMPILER, *words[next(i for i, word in enumerate(words) if word[0] == "-"):]]
+        words[words.index("-o") + 1] = made
+        del words[words.index("-MD"):words.index("-o")]
+        if source:
+            words[-1] = source
+        return made if self.run([*words, *self.flags]) else None
+
+    def compile_library(self, objects):
+        """All of them at once, as one source."""
+        source = os.path.join(self.path, "library.cpp")
+        with open(source, "w", encoding="latin-1") as stream:
+            for each in objects:
+                path = self.commands.command[each].split()[-1]
+                stream.write(f'#include "{path.replace(self.commands.source, self.tree)}"\n')
+        made = self.compile(objects[0], source)
+        self.objects.update({each: made for each in objects})
+        return made is not None
+
+    def link(self, target, others):
+        """The program, with the objects of here, or else of `others`, or else of the build."""
+        program = os.path.join(self.path, target)
+        words = self.commands.link_words(target)
+        words[words.index("-o") + 1] = program
+        here = [self.objects.get(word) or others.get(word) or word for word in words]
+        here = [word for index, word in enumerate(here) if not word.endswith(".o") or word not in here[:index]]
+        return program if self.run([*here, *self.flags]) else None
+
+
+class Builder:
+    """The programs with the sources of the copy `name`, and with its mutants."""
+
+    def __init__(self, work, name, corpus, version, sanitized=False):
+        """`version` is of the sources: what was built of another is built again."""
+        build = os.path.join(work, "build")
+        self.commands = Commands(build, os.path.join(work, "plain"))
+        self.tree = os.path.join(work, name)
+        self.flags = FLAGS + (["-fsanitize=address"] if sanitized else [])
+        self.programs = programs_of(build, corpus, sanitized)
+        self.library = self.commands.objects_of(STATIC_LIBRARY)
+        self.kills = Counter()
+        self.unmutated = {}
+        self.folder = os.path.join(work, f"{name}.{'address' if sanitized else 'objects'}.{version[:12]}")
+
+    def stale_objects(self, program, files=None):
+        """Those of a program, without the library's, that are made from one of the files; from any of src/."""
+        return [word for word in self.commands.link_words(program.target)
+                if word not in self.library and self.is_made_from(word, files)]
+
+    def is_made_from(self, target, files):
+        sources = self.commands.made_from.get(target, set())
+        return bool(sources & files if files is not None else sources)
+
+    def prepare(self):
+        """Builds everything with nothing mutated, unless it is there already."""
+        os.makedirs(self.folder, exist_ok=True)
+        folder = Folder(self.commands, self.tree, self.folder, self.flags)
+        stale = {*self.library, *(each for program in self.programs for each in self.stale_objects(program))}
+        with ThreadPoolExecutor(int(os.environ.get("MUTATION_JOBS", os.cpu_count()))) as pool:
+            folder.objects = dict(zip(stale, pool.map(folder.compile, stale)))
+        if None in folder.objects.values():
+            raise SystemExit(f"a source does not compile with nothing mutated: see {self.folder}/log")
+        self.unmutated = folder.objects
+        for program in self.programs:
+            path = folder.link(program.target, {})
+            if path is None:
+                raise SystemExit(f"{program.target} does not link with nothing mutated: see {self.folder}/log")
+            program.command[0] = path
+
+    def order(self, files):
+        """First those that need nothing but the library compiled, and have killed mutants of the same folder."""
+        folder = os.path.dirname(min(files))
+        return sorted(self.programs, key=lambda program: (program.is_slow, len(self.stale_objects(program, files)),
+                                                          -self.kills[program.name, folder]))
+
+    def killer(self, mutant):
+        edit = mutant["edit"]
+        with open(os.path.join(self.tree, edit["file"]), encoding="latin-1") as stream:
+            text = stream.read()
+        return self.killer_of({edit["file"]: text[:edit["start"]] + edit["text"] + text[edit["end"]:]})
+
+    def killer_of(self, changed):
+        """The name of the program that fails, or does not build, with the changed files (path -> text);
+        DOES_NOT_COMPILE where the library does not; None."""
+        files = set(changed)
+        with tempfile.TemporaryDirectory() as path:
+            folder = Folder(self.commands, self.tree, path, [*self.flags, *self.overlay(changed, path)])
+            if not folder.compile_library([each for each in self.library if self.is_made_from(each, files)]):
+                return DOES_NOT_COMPILE
+            for program in self.order(files):
+                if self.is_killed_by(program, files, folder):
+                    self.kills[program.name, os.path.dirname(min(files))] += 1
+                    return program.name
+        return None
+
+    def is_killed_by(self, program, files, folder):
+        for each in self.stale_objects(program, files):
+            if each not in folder.objects:
+                folder.objects[each] = folder.compile(each)
+            if folder.objects[each] is None:
+                return True
+        path = folder.link(program.target, self.unmutated)
+        return path is None or program.fails({}, path)
+
+    def overlay(self, changed, path):
+        roots, overlay = [], os.path.join(path, "overlay.json")
+        for index, (file, text) in enumerate(changed.items()):
+            roots.append({"name": os.path.join(self.tree, file), "type": "file",
+                          "external-contents": os.path.join(path, f"changed{index}")})
+            with open(roots[-1]["external-contents"], "w", encoding="latin-1") as stream:
+                stream.write(text)
+        with open(overlay, "w", encoding="utf-8") as stream:
+            json.dump({"version": 0, "use-external-names": False, "roots": roots}, stream)
+        return ["-ivfsoverlay", overlay]

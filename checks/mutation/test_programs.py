@@ -1,0 +1,75 @@
+"""The test programs that mutants are run through."""
+import os
+import resource
+import subprocess
+import threading
+
+# A part of a program is named by its filter.
+QUICK = ["fuzz/replay_messages", "fuzz/replay_adapters", "tests/test_codec", "tests/test_messages",
+         "tests/test_leniency", "tests/nal/test_nal -*_sweeps.*:*_bad_input.*", "tests/interop/test_interop",
+         "fuzz/test_adapter_agreement"]
+SLOW = ["tests/model/test_model", "tests/nal/test_nal *_sweeps.*:*_bad_input.*", "tests/sweeps/test_sweeps"]
+MEMORY_BYTES = 8 << 30
+
+
+class Program:
+    """A test program of one build."""
+
+    def __init__(self, build, name, corpus, sanitized=False):
+        path, _, selected = name.partition(" ")
+        self.name = os.path.basename(name)
+        self.target = os.path.basename(path)
+        if self.name.startswith("replay_"):
+            arguments = [os.path.join(corpus, self.name[len("replay_"):] + ".packed")]
+        else:
+            arguments = ["--gtest_fail_fast", "--gtest_brief=1", f"--gtest_filter={selected or '*'}"]
+        self.command = [os.path.join(build, path), *arguments]
+        self.is_slow = name in SLOW
+        self.sanitized = sanitized
+        self.seconds = None
+        self.reached = None  # all that there is
+        self.lock = threading.Lock()
+
+    def run(self, variables, cpu_seconds, path=None):
+        """The exit code; not 0 as well when the time is up."""
+        def limit():
+            resource.setrlimit(resource.RLIMIT_CPU, (cpu_seconds, cpu_seconds))
+            resource.setrlimit(resource.RLIMIT_CORE, (0, 0))
+            if not self.sanitized:  # the sanitizer reserves more than there is
+                resource.setrlimit(resource.RLIMIT_AS, (MEMORY_BYTES, MEMORY_BYTES))
+        try:
+            return subprocess.run([path or self.command[0], *self.command[1:]], env={**os.environ, **variables},
+                                  preexec_fn=limit, check=False, stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL,
+                                  stderr=subprocess.DEVNULL, timeout=60 + 40 * cpu_seconds).returncode
+        except subprocess.TimeoutExpired:
+            return 1
+
+    def measure(self):
+        """With nothing mutated, once: notes how long it takes, and which switched mutants it reaches."""
+        with self.lock:
+            if self.seconds is not None:
+                return
+            trace = f"{self.command[0]}.{self.name.replace('*', 'all')}.trace"
+            before = resource.getrusage(resource.RUSAGE_CHILDREN)
+            code = self.run({"MUTANT_TRACE": trace}, 600)
+            after = resource.getrusage(resource.RUSAGE_CHILDREN)
+            if code != 0:
+                raise SystemExit(f"{' '.join(self.command)} fails with nothing mutated, exit code {code}")
+            if os.path.exists(trace):
+                with open(trace, "rb") as stream:
+                    self.reached = {number for number, byte in enumerate(stream.read()) if byte}
+            self.seconds = after.ru_utime + after.ru_stime - before.ru_utime - before.ru_stime
+            print(f"{self.name}: at most {self.seconds:.1f} s of processor time", flush=True)
+
+    def reaches(self, number):
+        self.measure()
+        return self.reached is None or number in self.reached
+
+    def fails(self, variables, path=None):
+        """Also when it takes much longer than it should. `path`: of the same program, built otherwise."""
+        self.measure()
+        return self.run(variables, int(3 * self.seconds) + 3, path) != 0
+
+
+def programs_of(build, corpus, sanitized=False):
+    return [Program(build, name, corpus, sanitized) for name in QUICK + SLOW]
