@@ -6,9 +6,9 @@ import threading
 
 # A part of a program is named by its filter.
 QUICK = ["fuzz/replay_messages", "fuzz/replay_adapters", "tests/test_codec", "tests/test_messages",
-         "tests/test_leniency", "tests/nal/test_nal -*_sweeps.*:*_bad_input.*", "tests/interop/test_interop",
-         "fuzz/test_adapter_agreement"]
-SLOW = ["tests/model/test_model", "tests/nal/test_nal *_sweeps.*:*_bad_input.*", "tests/sweeps/test_sweeps"]
+         "tests/test_leniency", "tests/nal/test_nal -*_sweeps.*:*_bad_input.*", "tests/interop/test_interop"]
+SLOW = ["fuzz/test_adapter_agreement", "tests/model/test_model", "tests/nal/test_nal *_sweeps.*:*_bad_input.*",
+        "tests/sweeps/test_sweeps"]
 MEMORY_BYTES = 8 << 30
 
 
@@ -45,21 +45,30 @@ class Program:
             return 1
 
     def measure(self):
-        """With nothing mutated, once: notes how long it takes, and which switched mutants it reaches."""
+        """Notes how long it takes with nothing mutated, and which switched mutants it reaches, unless that is beside it
+        already."""
+        notes = f"{self.command[0]}.{self.name.replace('*', 'all')}"
         with self.lock:
             if self.seconds is not None:
                 return
-            trace = f"{self.command[0]}.{self.name.replace('*', 'all')}.trace"
-            before = resource.getrusage(resource.RUSAGE_CHILDREN)
-            code = self.run({"MUTANT_TRACE": trace}, 600)
-            after = resource.getrusage(resource.RUSAGE_CHILDREN)
-            if code != 0:
-                raise SystemExit(f"{' '.join(self.command)} fails with nothing mutated, exit code {code}")
-            if os.path.exists(trace):
-                with open(trace, "rb") as stream:
+            if not os.path.exists(f"{notes}.seconds"):
+                self.run_unmutated(notes)
+            if os.path.exists(f"{notes}.trace"):
+                with open(f"{notes}.trace", "rb") as stream:
                     self.reached = {number for number, byte in enumerate(stream.read()) if byte}
-            self.seconds = after.ru_utime + after.ru_stime - before.ru_utime - before.ru_stime
-            print(f"{self.name}: at most {self.seconds:.1f} s of processor time", flush=True)
+            with open(f"{notes}.seconds", encoding="utf-8") as stream:
+                self.seconds = float(stream.read())
+
+    def run_unmutated(self, notes):
+        before = resource.getrusage(resource.RUSAGE_CHILDREN)
+        code = self.run({"MUTANT_TRACE": f"{notes}.trace"}, 600)
+        after = resource.getrusage(resource.RUSAGE_CHILDREN)
+        if code != 0:
+            raise SystemExit(f"{' '.join(self.command)} fails with nothing mutated, exit code {code}")
+        seconds = after.ru_utime + after.ru_stime - before.ru_utime - before.ru_stime
+        print(f"{self.name}: at most {seconds:.1f} s of processor time", flush=True)
+        with open(f"{notes}.seconds", "w", encoding="utf-8") as stream:
+            stream.write(str(seconds))
 
     def reaches(self, number):
         self.measure()
