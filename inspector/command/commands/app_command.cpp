@@ -1,4 +1,4 @@
-#include "app/adapter_calls.h"
+#include "app/called_adapters.h"
 #include "commands/all_commands.h"
 #include "commands/decode_verdict.h"
 #include "commands/find_by_name.h"

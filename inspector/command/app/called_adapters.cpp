@@ -1,4 +1,4 @@
-#include "app/adapter_calls.h"
+#include "app/called_adapters.h"
 
 #include <algorithm>
 #include <cstddef>
