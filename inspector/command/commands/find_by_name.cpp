@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <array>
 #include <fmt/format.h>
+#include <vector>
 
 namespace mava_tum_cli
 {
