@@ -25,7 +25,9 @@ SKIPPED = {CursorKind.STATIC_ASSERT, CursorKind.ENUM_DECL, CursorKind.PARM_DECL,
 VARIABLES = {CursorKind.VAR_DECL, CursorKind.FIELD_DECL}
 LOOPS = {CursorKind.FOR_STMT, CursorKind.WHILE_STMT, CursorKind.CXX_FOR_RANGE_STMT, CursorKind.DO_STMT}
 OPERATORS = {CursorKind.BINARY_OPERATOR, CursorKind.COMPOUND_ASSIGNMENT_OPERATOR}
-OWN_MUTANT_OR_EMPTY = re.compile(r"true|false|nullptr|MAVA_TUM_OK|-?\d\w*|\{((nullptr|0|false)(, )?)*\}")
+OWN_MUTANT_OR_EMPTY = re.compile(
+    r"true|false|nullptr|MAVA_TUM_OK|-?\d\w*|\{((nullptr|0|false)(, )?)*\}"
+    r"|(\w+<\w+>::)?truncated(\(\))?|follower::element")
 COMMA_FOLD = re.compile(r"^\(.*,\s*\.\.\.\)$", re.S)
 
 
