@@ -9,6 +9,7 @@
 #include <cstdlib>
 #include <memory>
 #include <optional>
+#include <vector>
 
 namespace
 {
@@ -23,27 +24,22 @@ using mava_tum_test::random_documents;
 
 constexpr int documents_of_a_message = 50;
 
-void *allocate(uint64_t size, void *)
-{
-    // Kept until the program ends: the tests look at records that nobody frees.
-    static std::vector<void *> blocks;
-    blocks.push_back(std::calloc(1, size == 0 ? 1 : size));
-    return blocks.back();
-}
+// What a decoder allocates. Of a field that occurs again, the record no longer holds the first block.
+using allocated_blocks = std::vector<std::unique_ptr<void, decltype(&std::free)>>;
 
-void release(void *pointer, void *)
+void *allocate(uint64_t size, void *blocks)
 {
-    std::free(pointer);
+    return static_cast<allocated_blocks *>(blocks)->emplace_back(std::calloc(1, size), std::free).get();
 }
 
 // What a process makes of the bytes: decoded into a record and encoded again. Nothing if they do not decode.
 std::optional<byte_vector> decoded_and_encoded(const message_description &message, const byte_vector &wire)
 {
     const auto record = std::make_unique<std::byte[]>(message.record_bytes);
-    const bool decodes = message.decode(record.get(), wire.data(), wire.size(), allocate, nullptr, 0) == MAVA_TUM_OK;
+    allocated_blocks blocks;
+    const bool decodes = message.decode(record.get(), wire.data(), wire.size(), allocate, &blocks, 0) == MAVA_TUM_OK;
     byte_vector again(message.encode(record.get(), nullptr, 0, nullptr, nullptr, 0));
     message.encode(record.get(), again.data(), again.size(), nullptr, nullptr, 0);
-    message.free(record.get(), release, nullptr, 0);
     return decodes ? std::optional(again) : std::nullopt;
 }
 
