@@ -1,7 +1,7 @@
 // What the catalogue says of a message, of an application record and of an adapter.
 #pragma once
 
-#include "mava_tum/cpp/codec_calls.hpp"
+#include "mava_tum.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -56,29 +56,24 @@ struct message {
 template <class Record>
 struct message_row;
 
+// A message's functions in that shape. They are compiled once, in catalogue_calls.cpp: in each file that looks at the
+// tables they took longer than the rest of it.
+template <class Record>
+struct message_calls {
+    static int32_t decode(void *record, const uint8_t *data, uint64_t length, mava_tum_alloc_fn alloc_fn,
+        void *alloc_ctx, uint32_t flags);
+    static uint64_t encode(const void *record, uint8_t *buffer, uint64_t length, mava_tum_segment *segments,
+        uint32_t *segment_count, uint32_t flags);
+    static int32_t duplicate(void *destination, const void *source, mava_tum_alloc_fn alloc_fn, void *alloc_ctx);
+    static void free(void *record, mava_tum_release_fn release_fn, void *release_ctx, uint32_t flags);
+};
+
 template <class Record>
 constexpr message describe_message(const char *name, std::span<const field> fields, bool holds_bytes, bool allocates)
 {
-    using mava_tum::cpp::call_codec;
-    using row = message_row<Record>;
+    using calls = message_calls<Record>;
     return {name, sizeof(Record), offsetof(Record, presence_mask), sizeof(Record::presence_mask), holds_bytes,
-        allocates, fields,
-        [](void *record, const uint8_t *data, uint64_t length, mava_tum_alloc_fn alloc_fn, void *alloc_ctx,
-            uint32_t flags) {
-            return call_codec(row::decode, static_cast<Record *>(record), data, length, alloc_fn, alloc_ctx, flags);
-        },
-        [](const void *record, uint8_t *buffer, uint64_t length, mava_tum_segment *segments, uint32_t *segment_count,
-            uint32_t flags) {
-            return call_codec(
-                row::encode, static_cast<const Record *>(record), buffer, length, segments, segment_count, flags);
-        },
-        [](void *destination, const void *source, mava_tum_alloc_fn alloc_fn, void *alloc_ctx) {
-            return call_codec(row::duplicate, static_cast<Record *>(destination), static_cast<const Record *>(source),
-                alloc_fn, alloc_ctx);
-        },
-        [](void *record, mava_tum_release_fn release_fn, void *release_ctx, uint32_t flags) {
-            call_codec(row::release, static_cast<Record *>(record), release_fn, release_ctx, flags);
-        }};
+        allocates, fields, calls::decode, calls::encode, calls::duplicate, calls::free};
 }
 
 // ---- application records ----

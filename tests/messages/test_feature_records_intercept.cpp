@@ -9,7 +9,6 @@ namespace mava_tum_test
 namespace
 {
 
-constexpr uint32_t alias = MAVA_TUM_ALIAS;
 
 using li_decode = decoded<mava_tum_subscriber_li>;
 
@@ -190,7 +189,7 @@ TYPED_TEST(scalar_feature, free_does_nothing)
     decoded<TypeParam> got("08 AC 02");
     got.free_now();
     EXPECT_EQ(encoded_hex(got.record), "08 AC 02");
-    message_row<TypeParam>::release(nullptr);
+    mava_tum_catalogue::message_row<TypeParam>::release(nullptr);
 }
 
 } // namespace

@@ -19,8 +19,11 @@
 namespace mava_tum_test
 {
 
-using mava_tum::cpp::call_codec;
-using mava_tum_catalogue::message_row;
+// The flag, as decoders and encoders call what it does.
+inline constexpr uint32_t alias = MAVA_TUM_ALIAS;
+inline constexpr uint32_t gather = MAVA_TUM_ALIAS;
+
+inline constexpr uint64_t pointer_bytes = sizeof(char *);
 
 // ---- one call each, whatever parameters the message's function takes ----
 
@@ -28,26 +31,26 @@ template <class record_type>
 int32_t call_decode(record_type &record, const uint8_t *data, uint64_t length, mava_tum_alloc_fn alloc_fn,
     void *alloc_ctx, uint32_t flags)
 {
-    return call_codec(message_row<record_type>::decode, &record, data, length, alloc_fn, alloc_ctx, flags);
+    return mava_tum_catalogue::message_of<record_type>().decode(&record, data, length, alloc_fn, alloc_ctx, flags);
 }
 
 template <class record_type>
 uint64_t call_encode(const record_type &record, uint8_t *buffer, uint64_t length, mava_tum_segment *segments = nullptr,
     uint32_t *segment_count = nullptr, uint32_t flags = 0)
 {
-    return call_codec(message_row<record_type>::encode, &record, buffer, length, segments, segment_count, flags);
+    return mava_tum_catalogue::message_of<record_type>().encode(&record, buffer, length, segments, segment_count, flags);
 }
 
 template <class record_type>
 int32_t call_duplicate(record_type &destination, const record_type &source, mava_tum_alloc_fn alloc_fn, void *alloc_ctx)
 {
-    return call_codec(message_row<record_type>::duplicate, &destination, &source, alloc_fn, alloc_ctx);
+    return mava_tum_catalogue::message_of<record_type>().duplicate(&destination, &source, alloc_fn, alloc_ctx);
 }
 
 template <class record_type>
 void call_free(record_type &record, mava_tum_release_fn release_fn, void *release_ctx, uint32_t flags)
 {
-    call_codec(message_row<record_type>::release, &record, release_fn, release_ctx, flags);
+    mava_tum_catalogue::message_of<record_type>().free(&record, release_fn, release_ctx, flags);
 }
 
 template <class record_type>

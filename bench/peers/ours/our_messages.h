@@ -4,6 +4,7 @@
 #define MAVA_TUM_BENCH_OUR_MESSAGES_H
 
 #include "catalogue.h"
+#include "mava_tum/cpp/codec_calls.hpp"
 
 namespace bench
 {
