@@ -19,11 +19,7 @@ namespace
 {
 
 constexpr uint64_t first_seed = 104729;
-#if defined(__SANITIZE_ADDRESS__)
-constexpr uint64_t input_count = 5000; // under sanitizers each takes ten times as long
-#else
-constexpr uint64_t input_count = 20000;
-#endif
+constexpr uint64_t input_count = 20000 / sparing;
 
 class hostile_input : public testing::TestWithParam<message>
 {

@@ -11,8 +11,8 @@ namespace mava_tum_test
 namespace
 {
 
-constexpr uint64_t first_seed = 20240229;
-constexpr uint64_t record_count = 2000;
+constexpr uint64_t round_trip_seed = 20240229;
+constexpr uint64_t record_count = 2000 / sparing;
 
 class round_trips : public testing::TestWithParam<message>
 {
@@ -21,7 +21,7 @@ class round_trips : public testing::TestWithParam<message>
 TEST_P(round_trips, reproduce_random_records)
 {
     const message &tested = GetParam();
-    for (uint64_t seed = first_seed; seed < first_seed + record_count; ++seed) {
+    for (uint64_t seed = round_trip_seed; seed < round_trip_seed + record_count; ++seed) {
         SCOPED_TRACE("seed " + std::to_string(seed));
         random_source random(seed);
         const record_value value = random_record(*tested.skeleton, random);
@@ -36,7 +36,7 @@ TEST_P(round_trips, reproduce_the_seeds_of_the_sweeps)
     const message &tested = GetParam();
     for (const named_record &seed : seeds_of(*tested.skeleton)) {
         SCOPED_TRACE(seed.name);
-        random_source random(first_seed);
+        random_source random(round_trip_seed);
         check_round_trip(tested, seed.value, random);
     }
 }
