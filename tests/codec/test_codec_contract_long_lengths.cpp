@@ -15,7 +15,6 @@ namespace
 constexpr uint64_t four_gib = uint64_t{1} << 32;
 constexpr uint64_t longest_value = four_gib - 1; // the most that a length on the wire can say
 
-constexpr uint32_t alias = MAVA_TUM_ALIAS;
 
 // A field of `longest_value` bytes with more fields around it: the input is longer than 32 bits can say.
 class long_input

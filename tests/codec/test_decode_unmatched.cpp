@@ -10,15 +10,14 @@ namespace
 {
 
 using mava_tum::unmatched_tag;
-using mava_tum::wire_type;
 
 // A message of 20 fields: field 1 is a varint, field 2 a fixed32, the others are length-delimited.
 unmatched_tag step(page_end_buffer &input)
 {
-    wire_type types[20];
-    std::fill(std::begin(types), std::end(types), wire_type::length_delimited);
-    types[0] = wire_type::varint;
-    types[1] = wire_type::fixed32;
+    mava_tum::wire_type types[20];
+    std::fill(std::begin(types), std::end(types), mava_tum::wire_type::length_delimited);
+    types[0] = mava_tum::wire_type::varint;
+    types[1] = mava_tum::wire_type::fixed32;
     return mava_tum::decode_unmatched(input.data(), input.data() + input.size(), types, std::size(types));
 }
 

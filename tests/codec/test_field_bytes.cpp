@@ -11,7 +11,6 @@ namespace
 
 using v6_decode = decoded<mava_tum_subscriber_v6>;
 
-constexpr uint32_t alias = MAVA_TUM_ALIAS;
 
 TEST(field_bytes, decode_copies_into_a_block_of_exactly_the_length)
 {

@@ -12,7 +12,6 @@ namespace
 using session_data_decode = decoded<mava_tum_session_data>;
 using context_decode = decoded<mava_tum_session_context>;
 
-constexpr uint32_t alias = MAVA_TUM_ALIAS;
 
 TEST(field_record, decode_sees_exactly_its_own_span)
 {

@@ -12,7 +12,6 @@ namespace
 using route_decode = decoded<mava_tum_sub_route>;
 using context_decode = decoded<mava_tum_session_context>;
 
-constexpr uint32_t alias = MAVA_TUM_ALIAS;
 
 constexpr uint64_t ipv4_route_bytes = sizeof(mava_tum_subscriber_route_ipv4);
 constexpr uint64_t ipv6_route_bytes = sizeof(mava_tum_subscriber_route_ipv6);

@@ -11,8 +11,8 @@ namespace mava_tum_test
 namespace
 {
 
-constexpr uint64_t ipv4_route_bytes = sizeof(mava_tum_subscriber_route_ipv4);
-constexpr uint64_t ipv6_route_bytes = sizeof(mava_tum_subscriber_route_ipv6);
+constexpr uint64_t ipv4_block_bytes = sizeof(mava_tum_subscriber_route_ipv4);
+constexpr uint64_t ipv6_block_bytes = sizeof(mava_tum_subscriber_route_ipv6);
 
 TEST(field_record_array, encode_needs_both_bit_and_count)
 {
@@ -96,7 +96,7 @@ TEST(field_record_array, duplicate_obtains_each_array_and_then_the_blocks_of_its
     duplicated<mava_tum_sub_route> copy(source.record);
     EXPECT_EQ(copy.result, MAVA_TUM_OK);
     EXPECT_EQ(copy.allocator.requested_sizes(),
-        (std::vector<uint64_t>{2 * ipv4_route_bytes, 3, 3, 2 * ipv6_route_bytes, 3, 4, 3, 4}));
+        (std::vector<uint64_t>{2 * ipv4_block_bytes, 3, 3, 2 * ipv6_block_bytes, 3, 4, 3, 4}));
     EXPECT_EQ(encoded(copy.record), encoded(source.record));
     EXPECT_NE(copy.record.ipv6_routes[1].field_3.data, source.address.data());
 }

@@ -13,7 +13,6 @@ namespace
 using httpr_decode = decoded<mava_tum_subscriber_httpr>;
 using l2tp_decode = decoded<mava_tum_l2tp_data>;
 
-constexpr uint32_t alias = MAVA_TUM_ALIAS;
 
 TEST(field_text, decode_copies_into_a_block_of_length_plus_1_and_terminates_it)
 {

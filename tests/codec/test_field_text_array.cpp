@@ -14,7 +14,6 @@ namespace
 
 using start_decode = decoded<mava_tum_sess_svc_start>;
 
-constexpr uint64_t pointer_bytes = sizeof(char *);
 
 void expect_no_texts(const start_decode &got, const char *hex)
 {

@@ -13,7 +13,6 @@ namespace mava_tum_test
 namespace
 {
 
-constexpr uint64_t pointer_bytes = sizeof(char *);
 
 // Texts of one, two and three characters, and a slot that an earlier failure left null between them.
 struct start_with_texts {

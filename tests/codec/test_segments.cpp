@@ -11,7 +11,6 @@ namespace mava_tum_test
 namespace
 {
 
-constexpr uint32_t gather = MAVA_TUM_ALIAS;
 constexpr uint32_t room = 8;
 
 // One encode with a list of segments. Entries of the list that were not stored keep `untouched`.

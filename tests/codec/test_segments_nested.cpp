@@ -13,17 +13,16 @@ namespace mava_tum_test
 namespace
 {
 
-constexpr uint32_t gather = MAVA_TUM_ALIAS;
-constexpr uint32_t room = 16;
+constexpr uint32_t room_for_nested = 16;
 
 struct gathered {
     guarded_buffer buffer{64, 0x00};
-    std::array<mava_tum_segment, room> segments{};
+    std::array<mava_tum_segment, room_for_nested> segments{};
     uint32_t count;
     uint64_t size;
 
     template <class record_type>
-    explicit gathered(const record_type &record, uint32_t capacity = room) : count(capacity)
+    explicit gathered(const record_type &record, uint32_t capacity = room_for_nested) : count(capacity)
     {
         size = call_encode(record, buffer.data(), buffer.size(), segments.data(), &count, gather);
     }

@@ -11,20 +11,20 @@ namespace mava_tum_test
 namespace
 {
 
-struct varint_row {
+struct written_varint {
     uint64_t value;
     const char *hex;
 };
 
 TEST(wire_write, a_32_bit_varint_takes_one_to_five_bytes)
 {
-    const varint_row rows[] = {
+    const written_varint rows[] = {
         {0, "08 00"}, {0x7F, "08 7F"}, {0x80, "08 80 01"}, {0x3FFF, "08 FF 7F"}, {0x4000, "08 80 80 01"},
         {0x1FFFFF, "08 FF FF 7F"}, {0x200000, "08 80 80 80 01"}, {0xFFFFFFF, "08 FF FF FF 7F"},
         {0x10000000, "08 80 80 80 80 01"},
         {0xFFFFFFFF, "08 FF FF FF FF 0F"}, // a negative value is not sign-extended to ten bytes
     };
-    for (const varint_row &row : rows) {
+    for (const written_varint &row : rows) {
         mava_tum_vlan_info record{};
         record.field_1 = static_cast<uint32_t>(row.value);
         mark_present(record, 1);
@@ -34,7 +34,7 @@ TEST(wire_write, a_32_bit_varint_takes_one_to_five_bytes)
 
 TEST(wire_write, a_64_bit_varint_takes_one_to_ten_bytes)
 {
-    const varint_row rows[] = {
+    const written_varint rows[] = {
         {0, "10 00"},
         {0x7F, "10 7F"},
         {0x80, "10 80 01"},
@@ -46,7 +46,7 @@ TEST(wire_write, a_64_bit_varint_takes_one_to_ten_bytes)
         {uint64_t{1} << 63, "10 80 80 80 80 80 80 80 80 80 01"},
         {0xFFFFFFFFFFFFFFFF, "10 FF FF FF FF FF FF FF FF FF 01"},
     };
-    for (const varint_row &row : rows) {
+    for (const written_varint &row : rows) {
         mava_tum_session_data record{};
         record.field_2 = row.value;
         mark_present(record, 2);

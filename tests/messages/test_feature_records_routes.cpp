@@ -9,7 +9,6 @@ namespace mava_tum_test
 namespace
 {
 
-constexpr uint32_t alias = MAVA_TUM_ALIAS;
 
 using ipv4_decode = decoded<mava_tum_subscriber_route_ipv4>;
 using ipv6_decode = decoded<mava_tum_subscriber_route_ipv6>;

@@ -17,7 +17,6 @@ namespace
 using replay_decode = decoded<mava_tum_rec_sess_replay_req>;
 using replay_copy = duplicated<mava_tum_rec_sess_replay_req>;
 
-constexpr uint32_t alias = MAVA_TUM_ALIAS;
 constexpr uint64_t context_bytes = sizeof(mava_tum_session_context);
 
 // Two complete sessions and a text at the end.

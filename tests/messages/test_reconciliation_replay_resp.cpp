@@ -14,14 +14,13 @@ namespace
 
 using failure_decode = decoded<mava_tum_rec_sess_replay_fail>;
 using failure_copy = duplicated<mava_tum_rec_sess_replay_fail>;
-using start_decode = decoded<mava_tum_sess_svc_start>;
-using answer_decode = decoded<mava_tum_rec_sess_replay_resp>;
-using answer_copy = duplicated<mava_tum_rec_sess_replay_resp>;
+using started_decode = decoded<mava_tum_sess_svc_start>;
+using replayed_decode = decoded<mava_tum_rec_sess_replay_resp>;
+using replayed_copy = duplicated<mava_tum_rec_sess_replay_resp>;
 
 constexpr uint64_t service_bytes = sizeof(mava_tum_service_stats);
 constexpr uint64_t failure_bytes = sizeof(mava_tum_rec_sess_replay_fail);
 constexpr uint64_t start_bytes = sizeof(mava_tum_sess_svc_start);
-constexpr uint64_t pointer_bytes = sizeof(char *);
 
 TEST(rec_sess_replay_fail, schema_is_two_varints_and_a_record)
 {
@@ -139,7 +138,7 @@ TEST(sess_svc_start, schema_is_four_varints_and_an_array_of_texts)
 
 TEST(sess_svc_start, two_texts_are_an_array_of_two_each_with_its_nul)
 {
-    start_decode got("2A 02 61 62 2A 01 63");
+    started_decode got("2A 02 61 62 2A 01 63");
     EXPECT_EQ(got.result, MAVA_TUM_OK);
     ASSERT_EQ(got.record.field_5_count, 2u);
     EXPECT_STREQ(got.record.field_5[0], "ab");
@@ -148,7 +147,7 @@ TEST(sess_svc_start, two_texts_are_an_array_of_two_each_with_its_nul)
 
 TEST(sess_svc_start, decode_of_an_empty_span_resets_the_record_and_keeps_the_spare_bits)
 {
-    start_decode got("");
+    started_decode got("");
     EXPECT_EQ(got.result, MAVA_TUM_OK);
     EXPECT_EQ(got.record.field_1, 0u);
     EXPECT_EQ(got.record.field_2 | got.record.field_3 | got.record.field_4, 0u);
@@ -179,7 +178,7 @@ TEST(rec_sess_replay_resp, schema_is_two_varints_two_arrays_and_a_text)
 
 TEST(rec_sess_replay_resp, decode_stores_each_value_in_its_own_member_and_asks_in_wire_order)
 {
-    answer_decode got(full);
+    replayed_decode got(full);
     ASSERT_EQ(got.result, MAVA_TUM_OK);
     EXPECT_EQ(got.record.field_1, 1u);
     ASSERT_EQ(got.record.field_2_count, 2u);
@@ -211,7 +210,7 @@ TEST(rec_sess_replay_resp, a_failure_with_content_but_a_clear_bit_arrives_with_i
     record.field_2_count = 1;
     mark_present(record, 2);
     EXPECT_EQ(encoded_hex(record), "12 04 1A 02 10 05");
-    answer_decode received(encoded(record));
+    replayed_decode received(encoded(record));
     ASSERT_EQ(received.record.field_2_count, 1u);
     EXPECT_EQ(received.record.field_2[0].presence_mask, fields(3));
     EXPECT_EQ(received.record.field_2[0].field_3.field_2, 5u);
@@ -221,7 +220,7 @@ TEST(rec_sess_replay_resp, each_allocation_that_fails_leaves_everything_before_i
 {
     const uint32_t failing_field[] = {2, 2, 2, 3, 3, 3, 3, 4};
     for (std::size_t failing = 1; failing <= full_sizes.size(); ++failing) {
-        answer_decode got(full, {.failing_call = failing});
+        replayed_decode got(full, {.failing_call = failing});
         EXPECT_EQ(got.result, MAVA_TUM_NO_MEMORY) << failing;
         EXPECT_EQ(got.present(), fields(failing_field[failing - 1]) - 1) << "the fields before it, " << failing;
         EXPECT_EQ(got.record.field_2_count, failing < 2 ? 0u : 2u) << failing;
@@ -234,19 +233,19 @@ TEST(rec_sess_replay_resp, each_allocation_that_fails_leaves_everything_before_i
 
 TEST(rec_sess_replay_resp, the_arrays_arrive_in_either_order_and_each_in_one_run)
 {
-    answer_decode swapped("1A 02 08 01 12 02 08 02 12 00");
+    replayed_decode swapped("1A 02 08 01 12 02 08 02 12 00");
     EXPECT_EQ(swapped.result, MAVA_TUM_OK);
     EXPECT_EQ(swapped.allocator.requested_sizes(), (std::vector<uint64_t>{start_bytes, 2 * failure_bytes}));
     EXPECT_EQ(swapped.present(), fields(2, 3));
     for (const char *hex : {"12 00 1A 00 12 00", "1A 00 28 05 1A 00", "22 00 22 00"})
-        EXPECT_EQ(answer_decode(hex).result, MAVA_TUM_TRUNCATED) << hex;
+        EXPECT_EQ(replayed_decode(hex).result, MAVA_TUM_TRUNCATED) << hex;
 }
 
 TEST(rec_sess_replay_resp, results_of_elements_are_passed_up_and_their_array_stays_attached)
 {
-    EXPECT_EQ(answer_decode("12 04 1A 02 3A 7F").result, MAVA_TUM_TRUNCATED) << "three levels down";
-    EXPECT_EQ(answer_decode("1A 01 33").result, MAVA_TUM_UNSUPPORTED_WIRE_TYPE);
-    answer_decode got("08 01 12 00 1A 05 2A 01 61 0A 00 1A 00");
+    EXPECT_EQ(replayed_decode("12 04 1A 02 3A 7F").result, MAVA_TUM_TRUNCATED) << "three levels down";
+    EXPECT_EQ(replayed_decode("1A 01 33").result, MAVA_TUM_UNSUPPORTED_WIRE_TYPE);
+    replayed_decode got("08 01 12 00 1A 05 2A 01 61 0A 00 1A 00");
     EXPECT_EQ(got.result, MAVA_TUM_WRONG_WIRE_TYPE);
     ASSERT_EQ(got.record.field_3_count, 2u);
     EXPECT_STREQ(got.record.field_3[0].field_5[0], "a");
@@ -267,13 +266,13 @@ TEST(rec_sess_replay_resp, duplicate_loses_exactly_what_could_not_be_copied)
         "08 01 12 07 1A 05 42 03 0A 01 61 12 02 10 05 1A 06 20 04 2A 02 62 63 1A 00 22 04 67 68 69 6A 28 05",
         "08 01 12 07 1A 05 42 03 0A 01 61 12 02 10 05 1A 0B 20 04 2A 02 62 63 2A 03 64 65 66 1A 00 28 05",
     };
-    answer_decode source(full);
-    answer_copy whole(source.record);
+    replayed_decode source(full);
+    replayed_copy whole(source.record);
     EXPECT_EQ(whole.result, MAVA_TUM_OK);
     EXPECT_EQ(whole.allocator.requested_sizes(), full_sizes);
     EXPECT_EQ(encoded_hex(whole.record), full);
     for (std::size_t failing = 1; failing <= full_sizes.size(); ++failing) {
-        answer_copy copy(source.record, {.failing_call = failing});
+        replayed_copy copy(source.record, {.failing_call = failing});
         EXPECT_EQ(copy.result, MAVA_TUM_NO_MEMORY) << failing;
         EXPECT_EQ(encoded_hex(copy.record), remaining[failing - 1]) << failing;
     }
@@ -281,12 +280,12 @@ TEST(rec_sess_replay_resp, duplicate_loses_exactly_what_could_not_be_copied)
 
 TEST(rec_sess_replay_resp, bits_of_a_failed_copy_are_cleared_for_the_field_itself_only)
 {
-    answer_decode source(full);
-    EXPECT_EQ(answer_copy(source.record, {.failing_call = 1}).present(), fields(1, 3, 4, 5));
-    EXPECT_EQ(answer_copy(source.record, {.failing_call = 4}).present(), fields(1, 2, 4, 5));
-    EXPECT_EQ(answer_copy(source.record, {.failing_call = 8}).present(), fields(1, 2, 3, 5));
-    EXPECT_EQ(answer_copy(source.record, {.allocator_given = false}).present(), fields(1, 5));
-    answer_copy copy(source.record, {.failing_call = 5});
+    replayed_decode source(full);
+    EXPECT_EQ(replayed_copy(source.record, {.failing_call = 1}).present(), fields(1, 3, 4, 5));
+    EXPECT_EQ(replayed_copy(source.record, {.failing_call = 4}).present(), fields(1, 2, 4, 5));
+    EXPECT_EQ(replayed_copy(source.record, {.failing_call = 8}).present(), fields(1, 2, 3, 5));
+    EXPECT_EQ(replayed_copy(source.record, {.allocator_given = false}).present(), fields(1, 5));
+    replayed_copy copy(source.record, {.failing_call = 5});
     EXPECT_EQ(copy.present(), fields(1, 2, 3, 4, 5));
     EXPECT_EQ(copy.record.field_3[0].field_5, nullptr);
     EXPECT_EQ(copy.record.field_3[0].presence_mask, fields(4)) << "the element lost its texts";
@@ -294,7 +293,7 @@ TEST(rec_sess_replay_resp, bits_of_a_failed_copy_are_cleared_for_the_field_itsel
 
 TEST(rec_sess_replay_resp, free_goes_field_by_field_and_element_by_element)
 {
-    answer_decode got(full);
+    replayed_decode got(full);
     const mava_tum_rec_sess_replay_resp before = got.record;
     const mava_tum_subscriber_stats &statistics = before.field_2[0].field_3;
     char *const *texts = before.field_3[0].field_5;
@@ -314,9 +313,9 @@ TEST(rec_sess_replay_resp, free_goes_field_by_field_and_element_by_element)
 
 TEST(rec_sess_replay_resp, output_of_all_three_messages_is_one_segment)
 {
-    expect_output_is_one_segment(answer_decode(full).record);
+    expect_output_is_one_segment(replayed_decode(full).record);
     expect_output_is_one_segment(failure_decode("08 01 1A 05 42 03 0A 01 61").record);
-    expect_output_is_one_segment(start_decode("20 04 2A 02 62 63").record);
+    expect_output_is_one_segment(started_decode("20 04 2A 02 62 63").record);
 }
 
 } // namespace

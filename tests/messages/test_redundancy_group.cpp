@@ -12,10 +12,10 @@ namespace mava_tum_test
 namespace
 {
 
-using request_decode = decoded<mava_tum_srg_group_rec_replay_req>;
-using request_copy = duplicated<mava_tum_srg_group_rec_replay_req>;
-using response_decode = decoded<mava_tum_srg_group_rec_replay_resp>;
-using response_copy = duplicated<mava_tum_srg_group_rec_replay_resp>;
+using group_request_decode = decoded<mava_tum_srg_group_rec_replay_req>;
+using group_request_copy = duplicated<mava_tum_srg_group_rec_replay_req>;
+using group_response_decode = decoded<mava_tum_srg_group_rec_replay_resp>;
+using group_response_copy = duplicated<mava_tum_srg_group_rec_replay_resp>;
 using data_decode = decoded<mava_tum_srg_group_data>;
 
 constexpr uint64_t data_bytes = sizeof(mava_tum_srg_group_data);
@@ -155,7 +155,7 @@ TEST(srg_group_rec_replay_req, an_element_without_content_is_its_tag_and_00)
 
 TEST(srg_group_rec_replay_req, a_run_that_is_interrupted_by_field_4_is_refused)
 {
-    request_decode got("1A 03 2A 01 61 1A 00 20 04 1A 00");
+    group_request_decode got("1A 03 2A 01 61 1A 00 20 04 1A 00");
     EXPECT_EQ(got.result, MAVA_TUM_TRUNCATED);
     ASSERT_EQ(got.record.field_3_count, 2u);
     EXPECT_STREQ(got.record.field_3[0].field_5, "a");
@@ -165,7 +165,7 @@ TEST(srg_group_rec_replay_req, a_run_that_is_interrupted_by_field_4_is_refused)
 
 TEST(srg_group_rec_replay_req, the_array_is_one_block_followed_by_the_texts)
 {
-    request_decode got("1A 03 2A 01 61 1A 00 1A 04 2A 02 62 63");
+    group_request_decode got("1A 03 2A 01 61 1A 00 1A 04 2A 02 62 63");
     EXPECT_EQ(got.result, MAVA_TUM_OK);
     EXPECT_EQ(got.allocator.requested_sizes(), (std::vector<uint64_t>{3 * data_bytes, 2, 3}));
     EXPECT_EQ(got.record.field_3[1].presence_mask, 0u) << "the codec zeroes the array";
@@ -173,10 +173,10 @@ TEST(srg_group_rec_replay_req, the_array_is_one_block_followed_by_the_texts)
 
 TEST(srg_group_rec_replay_req, results_of_elements_are_passed_up_and_the_array_stays_attached)
 {
-    EXPECT_EQ(request_decode("1A 02 08 80").result, MAVA_TUM_TRUNCATED);
-    EXPECT_EQ(request_decode("1A 01 33").result, MAVA_TUM_UNSUPPORTED_WIRE_TYPE);
-    EXPECT_EQ(request_decode("1A 03 2A 01 61", {.failing_call = 2}).result, MAVA_TUM_NO_MEMORY);
-    request_decode got("08 01 1A 05 2A 01 61 0A 00 1A 00");
+    EXPECT_EQ(group_request_decode("1A 02 08 80").result, MAVA_TUM_TRUNCATED);
+    EXPECT_EQ(group_request_decode("1A 01 33").result, MAVA_TUM_UNSUPPORTED_WIRE_TYPE);
+    EXPECT_EQ(group_request_decode("1A 03 2A 01 61", {.failing_call = 2}).result, MAVA_TUM_NO_MEMORY);
+    group_request_decode got("08 01 1A 05 2A 01 61 0A 00 1A 00");
     EXPECT_EQ(got.result, MAVA_TUM_WRONG_WIRE_TYPE);
     ASSERT_EQ(got.record.field_3_count, 2u);
     EXPECT_STREQ(got.record.field_3[0].field_5, "a");
@@ -185,8 +185,8 @@ TEST(srg_group_rec_replay_req, results_of_elements_are_passed_up_and_the_array_s
 
 TEST(srg_group_rec_replay_req, duplicate_with_a_failing_element_goes_on_and_keeps_its_slot)
 {
-    request_decode source("1A 05 08 01 2A 01 61 1A 03 2A 01 62 20 04");
-    request_copy copy(source.record, {.failing_call = 2});
+    group_request_decode source("1A 05 08 01 2A 01 61 1A 03 2A 01 62 20 04");
+    group_request_copy copy(source.record, {.failing_call = 2});
     EXPECT_EQ(copy.result, MAVA_TUM_NO_MEMORY);
     EXPECT_EQ(copy.allocator.requested_sizes(), (std::vector<uint64_t>{2 * data_bytes, 2, 2}));
     ASSERT_EQ(copy.record.field_3_count, 2u);
@@ -199,9 +199,9 @@ TEST(srg_group_rec_replay_req, duplicate_with_a_failing_element_goes_on_and_keep
 
 TEST(srg_group_rec_replay_req, duplicate_without_the_array_is_empty_and_absent)
 {
-    request_decode source("1A 03 2A 01 61 20 04");
+    group_request_decode source("1A 03 2A 01 61 20 04");
     for (bool allocator_given : {true, false}) {
-        request_copy copy(source.record, {.allocator_given = allocator_given, .failing_call = 1});
+        group_request_copy copy(source.record, {.allocator_given = allocator_given, .failing_call = 1});
         EXPECT_EQ(copy.result, MAVA_TUM_NO_MEMORY);
         EXPECT_EQ(copy.record.field_3, nullptr);
         EXPECT_EQ(copy.record.field_3_count, 0u);
@@ -230,7 +230,7 @@ TEST(srg_group_rec_replay_resp, texts_and_arrays_are_allocated_and_released_what
 
 TEST(srg_group_rec_replay_resp, the_arrays_are_separate_and_arrive_in_either_order)
 {
-    response_decode got("1A 03 2A 01 61 1A 00 12 02 08 05");
+    group_response_decode got("1A 03 2A 01 61 1A 00 12 02 08 05");
     EXPECT_EQ(got.result, MAVA_TUM_OK);
     EXPECT_EQ(got.allocator.requested_sizes(), (std::vector<uint64_t>{2 * data_bytes, 2, data_bytes}));
     ASSERT_EQ(got.record.field_2_count, 1u);
@@ -238,14 +238,14 @@ TEST(srg_group_rec_replay_resp, the_arrays_are_separate_and_arrive_in_either_ord
     ASSERT_EQ(got.record.field_3_count, 2u);
     EXPECT_STREQ(got.record.field_3[0].field_5, "a");
 
-    response_decode alternating("12 00 1A 00 12 00");
+    group_response_decode alternating("12 00 1A 00 12 00");
     EXPECT_EQ(alternating.result, MAVA_TUM_TRUNCATED);
     EXPECT_EQ(alternating.present(), fields(2, 3));
 }
 
 TEST(srg_group_rec_replay_resp, one_array_alone_leaves_the_other_empty)
 {
-    response_decode got("1A 02 08 01");
+    group_response_decode got("1A 02 08 01");
     EXPECT_EQ(got.result, MAVA_TUM_OK);
     EXPECT_EQ(got.record.field_2, nullptr);
     EXPECT_EQ(got.record.field_2_count, 0u);
@@ -255,21 +255,21 @@ TEST(srg_group_rec_replay_resp, one_array_alone_leaves_the_other_empty)
 
 TEST(srg_group_rec_replay_resp, duplicate_of_one_array_goes_on_when_the_other_fails)
 {
-    response_decode source("12 03 2A 01 61 1A 03 2A 01 62 20 04");
-    response_copy no_first(source.record, {.failing_call = 1});
+    group_response_decode source("12 03 2A 01 61 1A 03 2A 01 62 20 04");
+    group_response_copy no_first(source.record, {.failing_call = 1});
     EXPECT_EQ(no_first.result, MAVA_TUM_NO_MEMORY);
     EXPECT_EQ(no_first.record.field_2, nullptr);
     EXPECT_EQ(no_first.record.field_2_count, 0u);
     EXPECT_STREQ(no_first.record.field_3[0].field_5, "b");
     EXPECT_EQ(no_first.present(), fields(3, 4));
 
-    response_copy no_second(source.record, {.failing_call = 3});
+    group_response_copy no_second(source.record, {.failing_call = 3});
     EXPECT_EQ(no_second.result, MAVA_TUM_NO_MEMORY);
     EXPECT_STREQ(no_second.record.field_2[0].field_5, "a");
     EXPECT_EQ(no_second.record.field_3, nullptr);
     EXPECT_EQ(no_second.present(), fields(2, 4));
 
-    response_copy no_text(source.record, {.failing_call = 2});
+    group_response_copy no_text(source.record, {.failing_call = 2});
     EXPECT_EQ(no_text.result, MAVA_TUM_NO_MEMORY);
     EXPECT_EQ(no_text.record.field_2[0].field_5, nullptr);
     EXPECT_STREQ(no_text.record.field_3[0].field_5, "b");
@@ -278,7 +278,7 @@ TEST(srg_group_rec_replay_resp, duplicate_of_one_array_goes_on_when_the_other_fa
 
 TEST(srg_group_rec_replay_resp, free_goes_array_by_array_with_the_texts_before_their_array)
 {
-    response_decode got("1A 03 2A 01 63 12 03 2A 01 61 12 03 2A 01 62");
+    group_response_decode got("1A 03 2A 01 63 12 03 2A 01 61 12 03 2A 01 62");
     const mava_tum_srg_group_rec_replay_resp before = got.record;
     const std::vector<const void *> expected = {before.field_2[0].field_5, before.field_2[1].field_5, before.field_2,
         before.field_3[0].field_5, before.field_3};
@@ -293,8 +293,8 @@ TEST(srg_group_rec_replay_resp, free_goes_array_by_array_with_the_texts_before_t
 
 TEST(srg_group_rec_replay_resp, output_is_one_segment)
 {
-    expect_output_is_one_segment(response_decode("08 01 12 03 2A 01 61 1A 00").record);
-    expect_output_is_one_segment(request_decode("08 01 1A 03 2A 01 61").record);
+    expect_output_is_one_segment(group_response_decode("08 01 12 03 2A 01 61 1A 00").record);
+    expect_output_is_one_segment(group_request_decode("08 01 1A 03 2A 01 61").record);
 }
 
 } // namespace

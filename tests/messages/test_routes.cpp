@@ -13,7 +13,6 @@ namespace
 
 using batch_decode = decoded<mava_tum_sub_route>;
 
-constexpr uint32_t alias = MAVA_TUM_ALIAS;
 
 TEST(sub_route, schema_is_four_varints_and_two_arrays)
 {

@@ -12,7 +12,6 @@ namespace
 
 using context_decode = decoded<mava_tum_session_context>;
 
-constexpr uint32_t alias = MAVA_TUM_ALIAS;
 
 TEST(session_context, schema_is_24_fields_with_two_byte_tags_from_16)
 {

@@ -12,8 +12,7 @@ namespace
 using context_decode = decoded<mava_tum_session_context>;
 using context_copy = duplicated<mava_tum_session_context>;
 
-constexpr uint32_t alias = MAVA_TUM_ALIAS;
-constexpr uint32_t all_fields = all_own_bits<mava_tum_session_context>;
+constexpr uint32_t every_field = all_own_bits<mava_tum_session_context>;
 
 // What a duplicate asks for when call number `failing` fails: an array that is missing has no elements to copy.
 std::vector<uint64_t> sizes_of_a_duplicate(std::size_t failing)
@@ -38,7 +37,7 @@ TEST(session_context, duplicate_copies_everything_in_schema_order)
         context_copy copy(source.record);
         EXPECT_EQ(copy.result, MAVA_TUM_OK);
         EXPECT_EQ(copy.allocator.requested_sizes(), sizes_of_a_duplicate(0));
-        EXPECT_EQ(copy.present(), all_fields);
+        EXPECT_EQ(copy.present(), every_field);
         EXPECT_EQ(hex_of(encoded(copy.record)), hex_of(full_session_context()));
         for (const void *block : full_session_context_blocks(copy.record))
             EXPECT_TRUE(copy.allocator.is_outstanding(block)) << "a copy owns all it points to";
@@ -56,7 +55,7 @@ TEST(session_context, duplicate_loses_exactly_what_could_not_be_copied)
         EXPECT_EQ(copy.allocator.requested_sizes(), sizes_of_a_duplicate(failing)) << failing;
         // Bits of nested records are copied whatever came of them; an own field that failed loses its bit.
         const bool own_field = row.field == 6 || row.array;
-        EXPECT_EQ(copy.present(), own_field ? all_fields & ~fields(row.field) : all_fields) << failing;
+        EXPECT_EQ(copy.present(), own_field ? every_field & ~fields(row.field) : every_field) << failing;
         EXPECT_EQ(copy.record.field_7, 7u);
         EXPECT_EQ(copy.record.acct.field_1, 22u) << failing;
     }
@@ -67,7 +66,7 @@ TEST(session_context, duplicate_without_an_allocator_keeps_the_scalars_of_all_de
     context_decode source(full_session_context());
     context_copy copy(source.record, {.allocator_given = false});
     EXPECT_EQ(copy.result, MAVA_TUM_NO_MEMORY);
-    EXPECT_EQ(copy.present(), all_fields & ~fields(6, 11, 23, 24));
+    EXPECT_EQ(copy.present(), every_field & ~fields(6, 11, 23, 24));
     EXPECT_EQ(copy.record.field_6.length, 0u);
     EXPECT_EQ(copy.record.qos, nullptr);
     EXPECT_EQ(copy.record.qos_count, 0u);

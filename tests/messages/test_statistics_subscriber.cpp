@@ -13,9 +13,9 @@ namespace
 using stats_decode = decoded<mava_tum_subscriber_stats>;
 using stats_copy = duplicated<mava_tum_subscriber_stats>;
 
-constexpr uint64_t service_bytes = sizeof(mava_tum_service_stats);
+constexpr uint64_t service_block_bytes = sizeof(mava_tum_service_stats);
 
-constexpr const char *full = "08 01 10 02 18 03 20 04 28 05 30 06 3A 02 08 07 42 03 0A 01 61 42 06 0A 02 62 63 12 00 "
+constexpr const char *full_statistics = "08 01 10 02 18 03 20 04 28 05 30 06 3A 02 08 07 42 03 0A 01 61 42 06 0A 02 62 63 12 00 "
                              "48 09 52 02 10 0A 58 0B 62 03 90 01 0C";
 
 TEST(subscriber_stats, schema_is_eight_varints_three_blocks_and_an_array)
@@ -39,7 +39,7 @@ TEST(subscriber_stats, schema_is_eight_varints_three_blocks_and_an_array)
 
 TEST(subscriber_stats, decode_stores_each_value_in_its_own_member)
 {
-    stats_decode got(full);
+    stats_decode got(full_statistics);
     ASSERT_EQ(got.result, MAVA_TUM_OK);
     const mava_tum_subscriber_stats &record = got.record;
     EXPECT_EQ(record.field_1, 1u);
@@ -59,7 +59,7 @@ TEST(subscriber_stats, decode_stores_each_value_in_its_own_member)
     EXPECT_EQ(record.field_11, 11u);
     EXPECT_EQ(record.field_12.field_18, 12u);
     EXPECT_EQ(got.present(), 0xFFFu);
-    EXPECT_EQ(encoded_hex(record), full);
+    EXPECT_EQ(encoded_hex(record), full_statistics);
 }
 
 TEST(subscriber_stats, field_1_has_64_bits_and_the_other_scalars_32)
@@ -129,7 +129,7 @@ TEST(subscriber_stats, services_are_one_block_followed_by_their_names)
 {
     stats_decode got("42 03 0A 01 61 42 00 42 04 0A 02 62 63");
     EXPECT_EQ(got.result, MAVA_TUM_OK);
-    EXPECT_EQ(got.allocator.requested_sizes(), (std::vector<uint64_t>{3 * service_bytes, 2, 3}));
+    EXPECT_EQ(got.allocator.requested_sizes(), (std::vector<uint64_t>{3 * service_block_bytes, 2, 3}));
 }
 
 TEST(subscriber_stats, only_services_need_an_allocator)
@@ -180,11 +180,11 @@ TEST(subscriber_stats, a_second_block_replaces_the_first_and_keeps_the_bit_even_
 
 TEST(subscriber_stats, duplicate_copies_everything_and_each_name_into_a_block_of_its_own)
 {
-    stats_decode source(full);
+    stats_decode source(full_statistics);
     stats_copy copy(source.record);
     EXPECT_EQ(copy.result, MAVA_TUM_OK);
-    EXPECT_EQ(copy.allocator.requested_sizes(), (std::vector<uint64_t>{2 * service_bytes, 2, 3}));
-    EXPECT_EQ(encoded_hex(copy.record), full);
+    EXPECT_EQ(copy.allocator.requested_sizes(), (std::vector<uint64_t>{2 * service_block_bytes, 2, 3}));
+    EXPECT_EQ(encoded_hex(copy.record), full_statistics);
     EXPECT_TRUE(copy.allocator.is_outstanding(copy.record.field_8));
     EXPECT_TRUE(copy.allocator.is_outstanding(copy.record.field_8[1].field_1));
     EXPECT_EQ(copy.record.field_7.presence_mask, 0xFFFC0001u) << "spare bits of nested records stay";
@@ -193,7 +193,7 @@ TEST(subscriber_stats, duplicate_copies_everything_and_each_name_into_a_block_of
 
 TEST(subscriber_stats, duplicate_loses_exactly_what_could_not_be_copied)
 {
-    stats_decode source(full);
+    stats_decode source(full_statistics);
     stats_copy no_array(source.record, {.failing_call = 1});
     EXPECT_EQ(no_array.result, MAVA_TUM_NO_MEMORY);
     EXPECT_EQ(no_array.record.field_8, nullptr);
@@ -212,7 +212,7 @@ TEST(subscriber_stats, duplicate_loses_exactly_what_could_not_be_copied)
 
 TEST(subscriber_stats, free_releases_the_names_and_then_the_array)
 {
-    stats_decode got(full);
+    stats_decode got(full_statistics);
     const mava_tum_service_stats *services = got.record.field_8;
     const std::vector<const void *> expected = {services[0].field_1, services[1].field_1, services};
     got.free_now();
@@ -224,7 +224,7 @@ TEST(subscriber_stats, free_releases_the_names_and_then_the_array)
 
 TEST(subscriber_stats, output_is_one_segment)
 {
-    expect_output_is_one_segment(stats_decode(full).record);
+    expect_output_is_one_segment(stats_decode(full_statistics).record);
 }
 
 } // namespace

@@ -9,7 +9,6 @@ namespace mava_tum_test
 namespace
 {
 
-constexpr uint32_t alias = MAVA_TUM_ALIAS;
 
 using v4_decode = decoded<mava_tum_subscriber_v4>;
 using v6_decode = decoded<mava_tum_subscriber_v6>;

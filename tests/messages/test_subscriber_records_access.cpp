@@ -9,7 +9,6 @@ namespace mava_tum_test
 namespace
 {
 
-constexpr uint32_t alias = MAVA_TUM_ALIAS;
 
 using ppp_decode = decoded<mava_tum_ppp_data>;
 using l2tp_decode = decoded<mava_tum_l2tp_data>;

@@ -9,7 +9,6 @@ namespace mava_tum_test
 namespace
 {
 
-constexpr uint32_t alias = MAVA_TUM_ALIAS;
 
 using session_data_decode = decoded<mava_tum_session_data>;
 

@@ -54,7 +54,7 @@ byte_vector part_of(const byte_vector &wire, std::size_t begin, std::size_t end)
 }
 
 // The content of the nested record in the message.
-byte_vector content_of(byte_vector wire, const std::vector<uint32_t> &numbers)
+byte_vector content_under(byte_vector wire, const std::vector<uint32_t> &numbers)
 {
     for (const uint32_t number : numbers) {
         byte_vector found;
@@ -93,7 +93,7 @@ TEST(adapter_contract_repeats, a_nested_record_that_occurs_twice_arrives_as_its_
 {
     for (const nested_path &path : nested_records()) {
         const adapter &tested = adapter_named(path.adapter_name);
-        const byte_vector full = content_of(send(tested, tested.sent), path.numbers);
+        const byte_vector full = content_under(send(tested, tested.sent), path.numbers);
         ASSERT_FALSE(full.empty()) << tested.name << " " << testing::PrintToString(path.numbers);
         const byte_vector nothing = receive(tested, message_with(path.numbers, {{}}));
         EXPECT_NE(receive(tested, message_with(path.numbers, {full})), nothing)
@@ -112,7 +112,7 @@ TEST(adapter_contract_repeats, a_second_occurrence_of_its_parent_replaces_a_nest
         if (path.numbers.size() != 2)
             continue;
         const adapter &tested = adapter_named(path.adapter_name);
-        const byte_vector full = content_of(send(tested, tested.sent), path.numbers);
+        const byte_vector full = content_under(send(tested, tested.sent), path.numbers);
         const byte_vector empty_parent = wire_builder().length_delimited(path.numbers[0], {});
         EXPECT_EQ(
             receive(tested, joined({message_with(path.numbers, {full}), empty_parent})), receive(tested, empty_parent))

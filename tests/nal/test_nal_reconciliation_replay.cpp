@@ -15,7 +15,7 @@ namespace
 
 using request_sent = tum_nal_data_rec_sess_replay_req_encode;
 using request_received = tum_nal_data_rec_sess_replay_req_decode;
-using answer = tum_nal_data_rec_sess_replay_resp;
+using replay_answer = tum_nal_data_rec_sess_replay_resp;
 
 static_assert(sizeof(request_sent) == sizeof(request_received));
 
@@ -108,23 +108,23 @@ TEST(nal_reconciliation_replay, a_replaced_record_of_a_session_leaves_nothing_be
 
 TEST(nal_reconciliation_replay, each_row_of_an_answer_is_sent_and_received)
 {
-    expect_both_ways<answer>({
-        {"nothing: the numbers are always sent", [](answer &) {}, "08 00 28 00"},
-        {"field 1", [](answer &r) { r.field_1 = 300; }, "08 AC 02 28 00"},
-        {"a failure, all of which is always sent", [](answer &r) { r.field_2_count = 1; },
+    expect_both_ways<replay_answer>({
+        {"nothing: the numbers are always sent", [](replay_answer &) {}, "08 00 28 00"},
+        {"field 1", [](replay_answer &r) { r.field_1 = 300; }, "08 AC 02 28 00"},
+        {"a failure, all of which is always sent", [](replay_answer &r) { r.field_2_count = 1; },
             "08 00 12 06 08 00 10 00 1A 00 28 00"},
         {"a failure",
-            [](answer &r) {
+            [](replay_answer &r) {
                 r.field_2_count = 1;
                 r.field_2[0].field_1 = ~uint64_t{0};
                 r.field_2[0].field_2 = 300;
                 r.field_2[0].field_3.value_2 = 2;
             },
             "08 00 12 12 08 FF FF FF FF FF FF FF FF FF 01 10 AC 02 1A 02 10 02 28 00"},
-        {"a start, whose numbers are always sent", [](answer &r) { r.field_3_count = 1; },
+        {"a start, whose numbers are always sent", [](replay_answer &r) { r.field_3_count = 1; },
             "08 00 1A 08 08 00 10 00 18 00 20 00 28 00"},
         {"the numbers of a start",
-            [](answer &r) {
+            [](replay_answer &r) {
                 r.field_3_count = 1;
                 r.field_3[0].field_1 = uint64_t{1} << 63;
                 r.field_3[0].field_2 = 2;
@@ -133,24 +133,24 @@ TEST(nal_reconciliation_replay, each_row_of_an_answer_is_sent_and_received)
             },
             "08 00 1A 12 08 80 80 80 80 80 80 80 80 80 01 10 02 18 03 20 AC 02 28 00"},
         {"the texts of a start, empty ones too",
-            [](answer &r) {
+            [](replay_answer &r) {
                 r.field_3_count = 1;
                 r.field_3[0].field_5_count = 3;
                 set_text(r.field_3[0].field_5[0], "a");
                 set_text(r.field_3[0].field_5[2], "bc");
             },
             "08 00 1A 11 08 00 10 00 18 00 20 00 2A 01 61 2A 00 2A 02 62 63 28 00"},
-        {"field 4", [](answer &r) { set_text(r.field_4, "a"); }, "08 00 22 01 61 28 00"},
-        {"field 5", [](answer &r) { r.field_5 = 0xFFFFFFFF; }, "08 00 28 FF FF FF FF 0F"},
+        {"field 4", [](replay_answer &r) { set_text(r.field_4, "a"); }, "08 00 22 01 61 28 00"},
+        {"field 5", [](replay_answer &r) { r.field_5 = 0xFFFFFFFF; }, "08 00 28 FF FF FF FF 0F"},
     });
 }
 
 TEST(nal_reconciliation_replay, texts_of_a_start_beyond_its_count_are_not_sent)
 {
-    answer record = full_rec_sess_replay_resp();
+    replay_answer record = full_rec_sess_replay_resp();
     record.field_2_count = 0;
     record.field_3[0].field_5_count = 0;
-    received<answer> got(sent(record));
+    received<replay_answer> got(sent(record));
     EXPECT_EQ(got->field_3[0].field_4, record.field_3[0].field_4);
     EXPECT_EQ(got->field_3[0].field_5_count, 0u);
     EXPECT_EQ(got->field_3[0].field_5[0][0], '\0');
@@ -158,8 +158,8 @@ TEST(nal_reconciliation_replay, texts_of_a_start_beyond_its_count_are_not_sent)
 
 TEST(nal_reconciliation_replay, of_two_failures_and_two_starts_the_first_arrive)
 {
-    expect_received<answer>({{"two of each",
-        [](answer &r) {
+    expect_received<replay_answer>({{"two of each",
+        [](replay_answer &r) {
             r.field_2_count = 1;
             r.field_2[0].field_2 = 1;
             r.field_3_count = 1;
@@ -171,8 +171,8 @@ TEST(nal_reconciliation_replay, of_two_failures_and_two_starts_the_first_arrive)
 
 TEST(nal_reconciliation_replay, starts_may_arrive_before_failures)
 {
-    expect_received<answer>({{"the other way round",
-        [](answer &r) {
+    expect_received<replay_answer>({{"the other way round",
+        [](replay_answer &r) {
             r.field_2_count = 1;
             r.field_2[0].field_2 = 1;
             r.field_3_count = 1;
@@ -186,7 +186,7 @@ TEST(nal_reconciliation_replay, of_nine_texts_of_a_start_the_first_eight_arrive)
     wire_builder start;
     for (int i = 0; i < 9; ++i)
         start.text(5, "t" + std::to_string(i));
-    received<answer> got(wire_builder().length_delimited(3, start).varint(5, 7));
+    received<replay_answer> got(wire_builder().length_delimited(3, start).varint(5, 7));
     EXPECT_EQ(got->field_3[0].field_5_count, 8u);
     EXPECT_STREQ(got->field_3[0].field_5[7], "t7");
     EXPECT_STREQ(got->field_4, "");
@@ -198,7 +198,7 @@ TEST(nal_reconciliation_replay, of_258_texts_of_a_start_the_count_is_2)
     wire_builder start;
     for (int i = 0; i < 258; ++i)
         start.text(5, "t");
-    received<answer> got(wire_builder().length_delimited(3, start));
+    received<replay_answer> got(wire_builder().length_delimited(3, start));
     EXPECT_EQ(got->field_3[0].field_5_count, 2u);
     EXPECT_STREQ(got->field_3[0].field_5[1], "t");
     EXPECT_STREQ(got->field_3[0].field_5[2], "");
@@ -217,30 +217,30 @@ TEST(nal_reconciliation_replay, statistics_that_a_failure_holds_without_marking_
     uint8_t wire[32];
     const uint64_t size = mava_tum_rec_sess_replay_resp_encode_ext(&message, wire, sizeof wire, nullptr, nullptr);
     ASSERT_EQ(hex_of(wire, size), "12 04 1A 02 10 07");
-    received<answer> got(byte_vector(wire, wire + size));
+    received<replay_answer> got(byte_vector(wire, wire + size));
     EXPECT_EQ(got->field_2[0].field_3.value_2, 7u);
 }
 
 TEST(nal_reconciliation_replay, of_statistics_that_occur_twice_in_a_failure_only_the_second_arrive)
 {
-    received<answer> got("12 12 1A 07 42 05 0A 01 61 12 00 1A 07 42 05 0A 01 62 12 00");
+    received<replay_answer> got("12 12 1A 07 42 05 0A 01 61 12 00 1A 07 42 05 0A 01 62 12 00");
     EXPECT_EQ(got->field_2[0].field_3.service_count, 1u);
     EXPECT_STREQ(got->field_2[0].field_3.services[0].name, "b");
 }
 
 TEST(nal_reconciliation_replay, a_failure_that_fails_does_not_arrive)
 {
-    expect_received<answer>({
-        {"its second statistics are malformed", [](answer &r) { r.field_1 = 7; },
+    expect_received<replay_answer>({
+        {"its second statistics are malformed", [](replay_answer &r) { r.field_1 = 7; },
             "08 07 12 0C 1A 07 42 05 0A 01 61 12 00 1A 01 80 28 05"},
-        {"its statistics have a wrong wire type", [](answer &r) { r.field_1 = 7; }, "08 07 12 04 1A 02 0D 00 28 05"},
+        {"its statistics have a wrong wire type", [](replay_answer &r) { r.field_1 = 7; }, "08 07 12 04 1A 02 0D 00 28 05"},
     });
 }
 
 TEST(nal_reconciliation_replay, a_start_with_two_runs_of_texts_does_not_arrive)
 {
-    received<answer> got("08 07 1A 08 2A 01 61 10 02 2A 01 62 28 05");
-    answer expected = zero_record<answer>();
+    received<replay_answer> got("08 07 1A 08 2A 01 61 10 02 2A 01 62 28 05");
+    replay_answer expected = zero_record<replay_answer>();
     expected.field_1 = 7;
     EXPECT_EQ(first_difference(*got, expected), -1);
 }

@@ -17,7 +17,7 @@ namespace
 using routes = tum_nal_data_sub_route;
 
 template <class fill_call>
-void expect_received(std::string_view wire_hex, fill_call &&fill)
+void expect_routes(std::string_view wire_hex, fill_call &&fill)
 {
     routes expected = zero_record<routes>();
     fill(expected);
@@ -37,12 +37,12 @@ void expect_part_of(const routes &got, const routes &whole, const std::string &w
 
 TEST(nal_routes_receiving, an_input_of_length_0_gives_an_all_zero_record)
 {
-    expect_received("", [](routes &) {});
+    expect_routes("", [](routes &) {});
 }
 
 TEST(nal_routes_receiving, field_8_arrives_in_field_8_for_both_kinds)
 {
-    expect_received("22 04 38 05 40 09 2A 04 38 06 40 0A", [](routes &r) {
+    expect_routes("22 04 38 05 40 09 2A 04 38 06 40 0A", [](routes &r) {
         r.ipv4_route_count = 1;
         r.ipv4_routes[0].field_7 = 5;
         r.ipv4_routes[0].field_8 = 9;
@@ -54,7 +54,7 @@ TEST(nal_routes_receiving, field_8_arrives_in_field_8_for_both_kinds)
 
 TEST(nal_routes_receiving, members_narrower_than_their_field_keep_the_low_bits)
 {
-    expect_received("10 C5 C6 04 22 04 20 C5 C6 04 2A 04 20 C5 C6 04", [](routes &r) {
+    expect_routes("10 C5 C6 04 22 04 20 C5 C6 04 2A 04 20 C5 C6 04", [](routes &r) {
         r.field_2 = 0x2345;
         r.ipv4_route_count = 1;
         r.ipv4_routes[0].field_4 = 0x45;
@@ -129,7 +129,7 @@ TEST(nal_routes_receiving, a_count_is_taken_modulo_256_and_then_kept_within_the_
 
 TEST(nal_routes_receiving, a_list_of_empty_elements_is_counted)
 {
-    expect_received("22 00 22 00 22 00 2A 00", [](routes &r) {
+    expect_routes("22 00 22 00 22 00 2A 00", [](routes &r) {
         r.ipv4_route_count = 3;
         r.ipv6_route_count = 1;
     });
@@ -137,7 +137,7 @@ TEST(nal_routes_receiving, a_list_of_empty_elements_is_counted)
 
 TEST(nal_routes_receiving, a_second_run_ends_the_message_and_what_came_before_arrives)
 {
-    expect_received("22 02 08 01 08 07 22 02 08 02 30 06", [](routes &r) {
+    expect_routes("22 02 08 01 08 07 22 02 08 02 30 06", [](routes &r) {
         r.ipv4_route_count = 1;
         r.ipv4_routes[0].field_1 = 1;
         r.field_1 = 7;
@@ -146,9 +146,9 @@ TEST(nal_routes_receiving, a_second_run_ends_the_message_and_what_came_before_ar
 
 TEST(nal_routes_receiving, a_list_with_a_failing_element_does_not_arrive)
 {
-    expect_received("08 07 22 03 12 01 61 22 01 08 30 06", [](routes &r) { r.field_1 = 7; });
-    expect_received("08 07 2A 03 12 01 61 2A 02 0D 00 30 06", [](routes &r) { r.field_1 = 7; });
-    expect_received("08 07 22 02 08 01 22 09 30 06", [](routes &r) { r.field_1 = 7; });
+    expect_routes("08 07 22 03 12 01 61 22 01 08 30 06", [](routes &r) { r.field_1 = 7; });
+    expect_routes("08 07 2A 03 12 01 61 2A 02 0D 00 30 06", [](routes &r) { r.field_1 = 7; });
+    expect_routes("08 07 22 02 08 01 22 09 30 06", [](routes &r) { r.field_1 = 7; });
 }
 
 TEST(nal_routes_receiving, every_cut_of_a_message_delivers_a_part_of_it)

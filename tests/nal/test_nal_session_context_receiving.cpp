@@ -16,7 +16,7 @@ using session = tum_nal_data_session_context;
 
 // The record that is received from `wire` is the one that `fill` makes of an all-zero one.
 template <class fill_call>
-void expect_received(std::string_view wire_hex, fill_call &&fill)
+void expect_context(std::string_view wire_hex, fill_call &&fill)
 {
     session expected = zero_record<session>();
     fill(expected);
@@ -26,29 +26,29 @@ void expect_received(std::string_view wire_hex, fill_call &&fill)
 
 TEST(nal_session_context_receiving, ipv6_values_arrive_with_their_part_and_not_without_it)
 {
-    expect_received("4A 04 28 05 38 07", [](session &) {});
-    expect_received("4A 02 1A 00", [](session &) {});
-    expect_received("4A 04 1A 00 28 05", [](session &s) { s.ipv6_value_5 = 5; });
-    expect_received("4A 06 1A 00 28 05 38 07", [](session &s) { s.ipv6_value_5 = 5; });
-    expect_received("4A 04 38 07 32 00", [](session &s) { s.ipv6_value_7 = 7; });
+    expect_context("4A 04 28 05 38 07", [](session &) {});
+    expect_context("4A 02 1A 00", [](session &) {});
+    expect_context("4A 04 1A 00 28 05", [](session &s) { s.ipv6_value_5 = 5; });
+    expect_context("4A 06 1A 00 28 05 38 07", [](session &s) { s.ipv6_value_5 = 5; });
+    expect_context("4A 04 38 07 32 00", [](session &s) { s.ipv6_value_7 = 7; });
 }
 
 TEST(nal_session_context_receiving, conditions_of_the_sender_do_not_bind_the_receiver)
 {
     // IPv4 value without an address, both pairs of L2TP end points, L2TP 16 and 18 without 15 and 17.
-    expect_received("42 02 08 07", [](session &s) { s.ipv4_value_1 = 7; });
-    expect_received("52 0D 22 0B 15 C0 00 02 02 22 01 AA 80 01 10", [](session &s) {
+    expect_context("42 02 08 07", [](session &s) { s.ipv4_value_1 = 7; });
+    expect_context("52 0D 22 0B 15 C0 00 02 02 22 01 AA 80 01 10", [](session &s) {
         s.l2tp_ipv4_2 = 0xC0000202;
         s.l2tp_ipv6_4[0] = 0xAA;
         s.l2tp_value_16 = 16;
     });
-    expect_received("52 05 22 03 90 01 12", [](session &s) { s.l2tp_value_18 = 18; });
+    expect_context("52 05 22 03 90 01 12", [](session &s) { s.l2tp_value_18 = 18; });
     // Identifier and value 9 without a session kind; accounting values without flags.
-    expect_received("52 05 32 01 EE 48 09", [](session &s) {
+    expect_context("52 05 32 01 EE 48 09", [](session &s) {
         s.session_identifier[0] = 0xEE;
         s.session_value_9 = 9;
     });
-    expect_received("B2 01 04 10 02 18 03", [](session &s) {
+    expect_context("B2 01 04 10 02 18 03", [](session &s) {
         s.accounting_value_2 = 2;
         s.accounting_value_3 = 3;
     });
@@ -56,14 +56,14 @@ TEST(nal_session_context_receiving, conditions_of_the_sender_do_not_bind_the_rec
 
 TEST(nal_session_context_receiving, fields_without_a_member_are_dropped)
 {
-    expect_received("32 02 AA BB", [](session &) {});
-    expect_received("5A 05 4A 01 69 52 00", [](session &s) { s.qos_count = 1; });
-    expect_received("CA 01 02 08 07", [](session &) {}); // field 25 is unknown
+    expect_context("32 02 AA BB", [](session &) {});
+    expect_context("5A 05 4A 01 69 52 00", [](session &s) { s.qos_count = 1; });
+    expect_context("CA 01 02 08 07", [](session &) {}); // field 25 is unknown
 }
 
 TEST(nal_session_context_receiving, field_8_of_an_ipv4_route_arrives_in_field_8)
 {
-    expect_received("BA 01 04 38 05 40 09", [](session &s) {
+    expect_context("BA 01 04 38 05 40 09", [](session &s) {
         s.ipv4_route_count = 1;
         s.ipv4_routes[0].field_7 = 5;
         s.ipv4_routes[0].field_8 = 9;
@@ -73,11 +73,11 @@ TEST(nal_session_context_receiving, field_8_of_an_ipv4_route_arrives_in_field_8)
 TEST(nal_session_context_receiving, a_member_narrower_than_its_field_keeps_the_low_bits)
 {
     // 0x12345 as a varint is C5 C6 04.
-    expect_received("4A 0C 1A 00 28 C5 C6 04 32 00 38 C5 C6 04", [](session &s) {
+    expect_context("4A 0C 1A 00 28 C5 C6 04 32 00 38 C5 C6 04", [](session &s) {
         s.ipv6_value_5 = 0x45;
         s.ipv6_value_7 = 0x45;
     });
-    expect_received(
+    expect_context(
         "52 1A 1A 04 30 C5 C6 04 22 08 30 C5 C6 04 38 C5 C6 04 48 C5 C6 04 52 04 08 C5 C6 04", [](session &s) {
             s.ppp_value_6 = 0x2345;
             s.l2tp_value_6 = 0x2345;
@@ -85,19 +85,19 @@ TEST(nal_session_context_receiving, a_member_narrower_than_its_field_keeps_the_l
             s.session_value_9 = 0x2345;
             s.vlan_value_1 = 0x2345;
         });
-    expect_received("52 0E 22 0C 40 C5 C6 04 48 C5 C6 04 50 C5 C6 04", [](session &s) {
+    expect_context("52 0E 22 0C 40 C5 C6 04 48 C5 C6 04 50 C5 C6 04", [](session &s) {
         s.l2tp_value_8 = 0x2345;
         s.l2tp_value_9 = 0x2345;
         s.l2tp_value_10 = 0x45;
     });
-    expect_received("52 06 52 04 10 C5 C6 04", [](session &s) { s.vlan_value_2 = 0x2345; });
-    expect_received("72 04 18 C5 C6 04", [](session &s) { s.intercept_value_3 = 0x2345; });
-    expect_received("5A 08 30 C5 C6 04 38 C5 C6 04", [](session &s) {
+    expect_context("52 06 52 04 10 C5 C6 04", [](session &s) { s.vlan_value_2 = 0x2345; });
+    expect_context("72 04 18 C5 C6 04", [](session &s) { s.intercept_value_3 = 0x2345; });
+    expect_context("5A 08 30 C5 C6 04 38 C5 C6 04", [](session &s) {
         s.qos_count = 1;
         s.qos[0].value_6 = 0x2345;
         s.qos[0].value_7 = 0x2345;
     });
-    expect_received("BA 01 04 20 C5 C6 04 C2 01 04 20 C5 C6 04", [](session &s) {
+    expect_context("BA 01 04 20 C5 C6 04 C2 01 04 20 C5 C6 04", [](session &s) {
         s.ipv4_route_count = 1;
         s.ipv4_routes[0].field_4 = 0x45;
         s.ipv6_route_count = 1;
@@ -165,7 +165,7 @@ TEST(nal_session_context_receiving, a_text_is_cut_to_its_array_and_terminated)
 
 TEST(nal_session_context_receiving, a_text_ends_at_a_nul_inside_it)
 {
-    expect_received("52 07 2A 05 61 62 00 63 64", [](session &s) { set_text(s.session_name, "ab"); });
+    expect_context("52 07 2A 05 61 62 00 63 64", [](session &s) { set_text(s.session_name, "ab"); });
 }
 
 std::vector<member_place> bytes_places()
@@ -232,7 +232,7 @@ TEST(nal_session_context_receiving, a_count_is_taken_modulo_256_and_then_kept_wi
 
 TEST(nal_session_context_receiving, a_list_of_empty_elements_is_counted)
 {
-    expect_received("5A 00 5A 00 5A 00 BA 01 00 C2 01 00 C2 01 00", [](session &s) {
+    expect_context("5A 00 5A 00 5A 00 BA 01 00 C2 01 00 C2 01 00", [](session &s) {
         s.qos_count = 3;
         s.ipv4_route_count = 1;
         s.ipv6_route_count = 2;

@@ -11,7 +11,7 @@ const std::vector<message> &all_messages()
     static const std::vector<message> messages = [] {
         std::vector<message> made;
         mava_tum_catalogue::for_each_type(mava_tum_catalogue::message_records(),
-            [&](auto type) { made.push_back(message_of<typename decltype(type)::type>()); });
+            [&](auto type) { made.push_back(mava_tum_test::message_of<typename decltype(type)::type>()); });
         return made;
     }();
     return messages;

@@ -12,7 +12,7 @@ struct sequence_kind {
     uint32_t smallest;   // a longer form of a smaller one is not well-formed
 };
 
-sequence_kind kind_of(unsigned char first)
+sequence_kind sequence_of(unsigned char first)
 {
     if (first < 0x80)
         return {1, first, 1};
@@ -51,7 +51,7 @@ direction_control direction_control_at(std::string_view text, size_t position)
     if (byte(0) != 0xD8 && byte(0) != 0xE2)
         return {0, 0};
     const size_t bytes = byte(0) == 0xD8 ? 2 : 3;
-    uint32_t code = kind_of(byte(0)).first_bits;
+    uint32_t code = sequence_of(byte(0)).first_bits;
     for (size_t i = 1; i < bytes; ++i)
         code = code << 6 | (byte(i) & 0x3Fu);
     return changes_direction(code) ? direction_control{code, bytes} : direction_control{0, 0};
@@ -60,7 +60,7 @@ direction_control direction_control_at(std::string_view text, size_t position)
 bool is_plain_utf8(std::string_view text)
 {
     for (size_t at = 0; at < text.size();) {
-        const sequence_kind kind = kind_of(static_cast<unsigned char>(text[at]));
+        const sequence_kind kind = sequence_of(static_cast<unsigned char>(text[at]));
         if (kind.length == 0 || kind.length > text.size() - at)
             return false;
         uint32_t code = kind.first_bits;

@@ -19,7 +19,7 @@ using mava_tum_inspect::wire_fault;
 constexpr size_t offset_width = 6;
 constexpr size_t name_width = 26;
 constexpr size_t kind_width = 18;
-constexpr size_t indent_width = 2;
+constexpr size_t tree_indent_width = 2;
 
 class tree_visitor : public mava_tum_inspect::wire_visitor
 {
@@ -85,7 +85,7 @@ public:
     void print_absent(const message_description &message, uint32_t present, size_t depth)
     {
         if (m_absent != nullptr)
-            m_output.write(m_absent->lines(message, present, offset_width + 2 + indent_width * depth));
+            m_output.write(m_absent->lines(message, present, offset_width + 2 + tree_indent_width * depth));
     }
 
     std::optional<std::string> fault;
@@ -97,7 +97,7 @@ private:
         m_output.write(m_colour.start(ink::faint));
         m_output.write_right_aligned(at.tag.offset, offset_width);
         m_output.write(m_colour.end(ink::faint));
-        const size_t indent = indent_width * at.depth;
+        const size_t indent = tree_indent_width * at.depth;
         m_output.fill(2 + indent);
         print_name(at, name_width - std::min(indent, name_width));
         m_output.put(' ');
