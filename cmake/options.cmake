@@ -1,4 +1,4 @@
-# Every option, with its default; docs/build-options.md has them in one table. As part of another project, this one
+# Every option, with its default; docs/install.md has them in one table. As part of another project, this one
 # builds the libraries alone.
 if(PROJECT_IS_TOP_LEVEL)
     option(BUILD_SHARED_LIBS "Build the shared library; otherwise mava_tum::mava_tum is the static one" ON)
