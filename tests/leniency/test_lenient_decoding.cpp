@@ -1,4 +1,4 @@
-// What the decoders accept on purpose. The numbers are stable: code cites them, README.md in this folder lists them.
+// What the decoders accept on purpose. The numbers are stable: code cites them, docs/leniency.md lists them.
 #include "support/record_calls.h"
 #include "support/wire_builder.h"
 

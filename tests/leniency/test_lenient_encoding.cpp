@@ -1,5 +1,5 @@
-// What the encoders do without complaint, on purpose. The numbers are stable: code cites them, README.md in this
-// folder lists them.
+// What the encoders do without complaint, on purpose. The numbers are stable: code cites them, docs/leniency.md
+// lists them.
 #include "support/record_calls.h"
 
 #include <gtest/gtest.h>
