@@ -1,4 +1,4 @@
-/* The shortest round trip: a session to wire bytes and back. Prints their number, and what came back. */
+/* Encodes a session, decodes it, and prints the size and two values. */
 #include "tum_nal/nal_session_context.h"
 
 #include <stdio.h>
@@ -11,7 +11,7 @@ int main(void)
         .session_name = "user@example.com",
         .mtu_1_value = 1492,
     };
-    uint8_t wire[TUM_NAL_SESSION_CONTEXT_MAX_SIZE]; /* takes any session: none is cut */
+    uint8_t wire[TUM_NAL_SESSION_CONTEXT_MAX_SIZE]; /* large enough for every session */
     uint64_t size = tum_nal_data_gpb_encode_tum_session_context(&sent, wire, sizeof wire);
     tum_nal_data_session_context received;
     tum_nal_data_gpb_decode_tum_session_context(wire, (uint32_t)size, &received);

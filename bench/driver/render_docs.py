@@ -1,5 +1,6 @@
 #!/usr/bin/env python3
-"""Writes what was measured into docs/benchmarks.md and bench/README.md, and the plot: no figure there is typed by hand.
+"""Writes what was measured into README.md, docs/benchmarks.md and bench/README.md, and the plot: no figure there is
+typed by hand.
 
   render_docs.py <folder of the results>    what bench/publish left there, and bench/instructions.tsv
 """
@@ -19,7 +20,7 @@ from svg_plot import write_plots
 from tables import fenced, fill, markdown, markdown_of_words, page_rows, summary_rows, widest_spread
 
 ROOT = pathlib.Path(__file__).resolve().parents[2]
-PAGES = (ROOT / "docs" / "benchmarks.md", ROOT / "bench" / "README.md")
+PAGES = (ROOT / "README.md", ROOT / "docs" / "benchmarks.md", ROOT / "bench" / "README.md")
 PLOTS = ROOT / "docs" / "benchmarks"
 SHOWN_MESSAGES = 5
 # proto2 with a new message differs from proto3 with one as the reused ones differ.
