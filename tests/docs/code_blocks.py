@@ -6,7 +6,7 @@ A comment directly above a block, which readers do not see, says how to treat it
     text that the compiler is to see around the block, with one line "@block@"
     -->
 
-CONTRIBUTING.md lists the instructions.
+README.md in this folder lists the instructions.
 """
 from dataclasses import dataclass, field
 import re
