@@ -8,7 +8,9 @@ folder becomes the list of its files. What is linked from there comes along. The
 of the site alone: what was there before is removed.
 """
 import argparse
+import json
 import os
+import re
 import shutil
 
 from page_template import page_html, stylesheet
@@ -37,18 +39,29 @@ def clear(output):
     shutil.rmtree(output, ignore_errors=True)
 
 
+def search_index(pages):
+    """One entry for each section of each page in Markdown."""
+    return [{"target": page.target + (f"#{anchor}" if anchor else ""), "text": " ".join(text.split()),
+             "title": page.title if words == page.title else f"{page.title}: {words}"}
+            for page in pages for anchor, words, text in page.sections]
+
+
 def main():
     arguments = parse_arguments()
     site = Site(arguments.project)
     pages = list(site.all_pages())  # all of them before the first is written: a link that leads nowhere ends it here
+    version = re.search(r"^ +VERSION ([0-9.]+)$", site.read("CMakeLists.txt"), re.MULTILINE)[1]
     clear(arguments.output)
     for page in pages:
-        write(arguments.output, page.target, page_html(page, site.navigation, arguments.reference))
+        write(arguments.output, page.target, page_html(page, site.navigation, arguments.reference, version))
     for copied in sorted(site.copied):
         target = os.path.join(arguments.output, copied)
         os.makedirs(os.path.dirname(target), exist_ok=True)
         shutil.copyfile(os.path.join(arguments.project, copied), target)
     write(arguments.output, "style.css", stylesheet())
+    write(arguments.output, "site.js", site.read("reference/site/site.js"))
+    # A script, because a browser loads no other file of a page that it has from a folder.
+    write(arguments.output, "search-index.js", f"window.searchIndex = {json.dumps(search_index(pages))};\n")
     print(f"{len(pages)} pages and {len(site.copied)} pictures in {arguments.output}")
 
 

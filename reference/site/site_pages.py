@@ -1,6 +1,6 @@
 """The pages of the site: which there are, what is on each, and where its links lead."""
 from collections import namedtuple
-from dataclasses import dataclass
+from dataclasses import dataclass, field
 import html
 import os
 import re
@@ -11,6 +11,10 @@ from pygments.formatters import HtmlFormatter
 from pygments.lexers import get_lexer_by_name, get_lexer_for_filename
 from pygments.util import ClassNotFound
 
+from page_template import MANY_COLUMNS
+
+TABLE = re.compile(r"<table>.*?</table>", re.DOTALL)
+HEADER = re.compile(r"<th[^>]*>(.*?)</th>", re.DOTALL)
 COMMENT = re.compile(r"<!--.*?-->\s*", re.DOTALL)
 EXTERNAL = re.compile(r"^[a-z]+:")
 # What a browser shows by itself, or saves.
@@ -22,12 +26,15 @@ Group = namedtuple("Group", "title entries")
 
 @dataclass
 class Page:
-    """`path` is the file or folder in the project, `target` the file of the site."""
+    """`path` is the file or folder in the project, `target` the file of the site. `headings` are (level, anchor, words)
+    of the second and third level; `sections`, (anchor, words, text), are all of it, for the search."""
 
     path: str
     target: str
     title: str = ""
     body: str = ""
+    headings: list = field(default_factory=list)
+    sections: list = field(default_factory=list)
 
     def link_to(self, target):
         return os.path.relpath(target, os.path.dirname(self.target) or ".")
@@ -42,6 +49,18 @@ def slug(words, taken):
         found = f"{base}-{number}"
     taken.add(found)
     return found
+
+
+def labelled(table):
+    """A table with the heading of its column at each cell, for screens on which it becomes a list."""
+    labels = [re.sub(r"<[^>]+>", "", cell).replace('"', "&quot;") for cell in HEADER.findall(table[0])]
+    row = re.compile(r"<tr>(.*?)</tr>", re.DOTALL)
+
+    def label(found):
+        place = iter(labels)
+        return re.sub(r"<td", lambda _: f'<td data-label="{next(place, "")}"', found[0])
+    many = " many" if len(labels) > MANY_COLUMNS else ""
+    return f'<div class="table{many}">{row.sub(label, table[0])}</div>'
 
 
 def colour(text, lexer_name):
@@ -138,19 +157,30 @@ class Site:
 
     def render_page(self, page):
         tokens = self.markdown.parse(COMMENT.sub("", self.read(page.path)))
-        taken = set()
-        for token, following in zip(tokens, tokens[1:]):
-            if token.type == "heading_open":
-                words = "".join(child.content for child in following.children if child.type in ("text", "code_inline"))
-                token.attrs["id"] = slug(words, taken)
-                page.title = page.title or words
+        self.find_sections(page, tokens)
         for token in tokens:
             for child in token.children or []:
                 for name in ("href", "src"):
                     if name in child.attrs:
                         child.attrs[name] = self.rewritten(page, child.attrs[name])
         body = self.markdown.renderer.render(tokens, self.markdown.options, {})
-        page.body = body.replace("<table>", '<div class="table"><table>').replace("</table>", "</table></div>")
+        page.body = TABLE.sub(labelled, body)
+
+    @staticmethod
+    def find_sections(page, tokens):
+        """Gives each heading its anchor, and the page its headings and the text below each."""
+        taken = set()
+        for token, following in zip(tokens, tokens[1:]):
+            if token.type == "heading_open":
+                words = "".join(child.content for child in following.children if child.type in ("text", "code_inline"))
+                token.attrs["id"] = slug(words, taken)
+                page.title = page.title or words
+                if token.tag in ("h2", "h3"):
+                    page.headings.append((int(token.tag[1]), token.attrs["id"], words))
+                page.sections.append((token.attrs["id"] if token.tag != "h1" else "", words, ""))
+            elif token.type in ("inline", "fence") and page.sections:
+                anchor, words, text = page.sections[-1]
+                page.sections[-1] = (anchor, words, f"{text} {token.content}")
 
     def rewritten(self, page, link):
         """A link of a page, as one of the site."""
