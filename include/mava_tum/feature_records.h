@@ -1,6 +1,6 @@
 /* The features of a subscriber: QoS, access lists, redirect, intercept, checks, accounting, routes.
  *
- * Result codes, the alias bit, callbacks, ownership and what all messages share: codec_contract.h. */
+ * Result codes, the alias bit, callbacks and ownership are the same for all messages: codec_contract.h. */
 #ifndef MAVA_TUM_FEATURE_RECORDS_H
 #define MAVA_TUM_FEATURE_RECORDS_H
 
@@ -26,28 +26,29 @@ typedef struct mava_tum_subscriber_qos {
     char *field_10;         /* 10: text, bit 9 */
     char *field_11;         /* 11: text, bit 10 */
     char *field_12;         /* 12: text, bit 11 */
-    uint16_t presence_mask; /* bits 12-15 spare */
+    uint16_t presence_mask; /* bits 12-15 reserved */
 } mava_tum_subscriber_qos;
 
-/* Decodes `length` bytes of wire at `data` into `record`, which is reset first. Calls `alloc_fn` for texts; the
- * record owns those blocks, also after a failure. Returns MAVA_TUM_OK, MAVA_TUM_TRUNCATED,
- * MAVA_TUM_UNSUPPORTED_WIRE_TYPE, MAVA_TUM_WRONG_WIRE_TYPE or MAVA_TUM_NO_MEMORY. */
+/* Decodes the `length` bytes at `data` into `record`, which is reset first. Allocates texts with `alloc_fn`; the record
+ * owns those blocks, also after a failure. Returns MAVA_TUM_OK, MAVA_TUM_TRUNCATED, MAVA_TUM_UNSUPPORTED_WIRE_TYPE,
+ * MAVA_TUM_WRONG_WIRE_TYPE or MAVA_TUM_NO_MEMORY. */
 MAVA_TUM_API int32_t mava_tum_subscriber_qos_decode_ext(
     mava_tum_subscriber_qos *record, const uint8_t *data, uint64_t length, mava_tum_alloc_fn alloc_fn, void *alloc_ctx);
 
 /* Encodes `record` into `buffer` (capacity `length` bytes; may be null if 0). Allocates nothing. `segments` and
- * `segment_count` may be null. Returns the size needed in bytes; above `length`, the output was cut: do not send it. */
+ * `segment_count` may be null. Returns the size needed in bytes. If it is above `length`, the output is truncated: do
+ * not send it. */
 MAVA_TUM_API uint64_t mava_tum_subscriber_qos_encode_ext(const mava_tum_subscriber_qos *record, uint8_t *buffer,
     uint64_t length, mava_tum_segment *segments, uint32_t *segment_count);
 
-/* Copies `source` into `destination`, whose earlier pointers are overwritten without being released. Every owned
- * block is copied through `alloc_fn`. Returns MAVA_TUM_OK, or MAVA_TUM_NO_MEMORY when some block could not be copied:
- * what it was for is then empty and absent, all else is copied. */
+/* Copies `source` into `destination`, whose pointers are overwritten and not released. Every block is copied with
+ * `alloc_fn`. Returns MAVA_TUM_OK, or MAVA_TUM_NO_MEMORY if an allocation fails: its field is then empty and absent,
+ * all others are copied. */
 MAVA_TUM_API int32_t mava_tum_subscriber_qos_duplicate(mava_tum_subscriber_qos *destination,
     const mava_tum_subscriber_qos *source, mava_tum_alloc_fn alloc_fn, void *alloc_ctx);
 
-/* Hands the texts of `record` to `release_fn` and nulls their pointers. The record itself, its scalars and its
- * presence bits stay. Calling it twice is harmless. */
+/* Releases the texts of `record` with `release_fn`. Their pointers become null. The record itself, its scalars and its
+ * presence bits do not change. A second call does nothing. */
 MAVA_TUM_API void mava_tum_subscriber_qos_free_ext(
     mava_tum_subscriber_qos *record, mava_tum_release_fn release_fn, void *release_ctx);
 
@@ -60,28 +61,29 @@ typedef struct mava_tum_subscriber_acl {
     char *field_3;         /* 3: text, bit 2 */
     char *field_4;         /* 4: text, bit 3 */
     char *field_5;         /* 5: text, bit 4 */
-    uint8_t presence_mask; /* bits 5-7 spare */
+    uint8_t presence_mask; /* bits 5-7 reserved */
 } mava_tum_subscriber_acl;
 
-/* Decodes `length` bytes of wire at `data` into `record`, which is reset first. Calls `alloc_fn` for texts; the
- * record owns those blocks, also after a failure. Returns MAVA_TUM_OK, MAVA_TUM_TRUNCATED,
- * MAVA_TUM_UNSUPPORTED_WIRE_TYPE, MAVA_TUM_WRONG_WIRE_TYPE or MAVA_TUM_NO_MEMORY. */
+/* Decodes the `length` bytes at `data` into `record`, which is reset first. Allocates texts with `alloc_fn`; the record
+ * owns those blocks, also after a failure. Returns MAVA_TUM_OK, MAVA_TUM_TRUNCATED, MAVA_TUM_UNSUPPORTED_WIRE_TYPE,
+ * MAVA_TUM_WRONG_WIRE_TYPE or MAVA_TUM_NO_MEMORY. */
 MAVA_TUM_API int32_t mava_tum_subscriber_acl_decode_ext(
     mava_tum_subscriber_acl *record, const uint8_t *data, uint64_t length, mava_tum_alloc_fn alloc_fn, void *alloc_ctx);
 
 /* Encodes `record` into `buffer` (capacity `length` bytes; may be null if 0). Allocates nothing. `segments` and
- * `segment_count` may be null. Returns the size needed in bytes; above `length`, the output was cut: do not send it. */
+ * `segment_count` may be null. Returns the size needed in bytes. If it is above `length`, the output is truncated: do
+ * not send it. */
 MAVA_TUM_API uint64_t mava_tum_subscriber_acl_encode_ext(const mava_tum_subscriber_acl *record, uint8_t *buffer,
     uint64_t length, mava_tum_segment *segments, uint32_t *segment_count);
 
-/* Copies `source` into `destination`, whose earlier pointers are overwritten without being released. Every owned
- * block is copied through `alloc_fn`. Returns MAVA_TUM_OK, or MAVA_TUM_NO_MEMORY when some block could not be copied:
- * what it was for is then empty and absent, all else is copied. */
+/* Copies `source` into `destination`, whose pointers are overwritten and not released. Every block is copied with
+ * `alloc_fn`. Returns MAVA_TUM_OK, or MAVA_TUM_NO_MEMORY if an allocation fails: its field is then empty and absent,
+ * all others are copied. */
 MAVA_TUM_API int32_t mava_tum_subscriber_acl_duplicate(mava_tum_subscriber_acl *destination,
     const mava_tum_subscriber_acl *source, mava_tum_alloc_fn alloc_fn, void *alloc_ctx);
 
-/* Hands the texts of `record` to `release_fn` and nulls their pointers. The record itself, its scalars and its
- * presence bits stay. Calling it twice is harmless. */
+/* Releases the texts of `record` with `release_fn`. Their pointers become null. The record itself, its scalars and its
+ * presence bits do not change. A second call does nothing. */
 MAVA_TUM_API void mava_tum_subscriber_acl_free_ext(
     mava_tum_subscriber_acl *record, mava_tum_release_fn release_fn, void *release_ctx);
 
@@ -91,28 +93,29 @@ MAVA_TUM_API void mava_tum_subscriber_acl_free_ext(
 typedef struct mava_tum_subscriber_httpr {
     uint32_t field_1;      /* 1: varint, bit 0 */
     char *field_2;         /* 2: text, bit 1 */
-    uint8_t presence_mask; /* bits 2-7 spare */
+    uint8_t presence_mask; /* bits 2-7 reserved */
 } mava_tum_subscriber_httpr;
 
-/* Decodes `length` bytes of wire at `data` into `record`, which is reset first. Calls `alloc_fn` for texts; the
- * record owns those blocks, also after a failure. Returns MAVA_TUM_OK, MAVA_TUM_TRUNCATED,
- * MAVA_TUM_UNSUPPORTED_WIRE_TYPE, MAVA_TUM_WRONG_WIRE_TYPE or MAVA_TUM_NO_MEMORY. */
+/* Decodes the `length` bytes at `data` into `record`, which is reset first. Allocates texts with `alloc_fn`; the record
+ * owns those blocks, also after a failure. Returns MAVA_TUM_OK, MAVA_TUM_TRUNCATED, MAVA_TUM_UNSUPPORTED_WIRE_TYPE,
+ * MAVA_TUM_WRONG_WIRE_TYPE or MAVA_TUM_NO_MEMORY. */
 MAVA_TUM_API int32_t mava_tum_subscriber_httpr_decode_ext(mava_tum_subscriber_httpr *record, const uint8_t *data,
     uint64_t length, mava_tum_alloc_fn alloc_fn, void *alloc_ctx);
 
 /* Encodes `record` into `buffer` (capacity `length` bytes; may be null if 0). Allocates nothing. `segments` and
- * `segment_count` may be null. Returns the size needed in bytes; above `length`, the output was cut: do not send it. */
+ * `segment_count` may be null. Returns the size needed in bytes. If it is above `length`, the output is truncated: do
+ * not send it. */
 MAVA_TUM_API uint64_t mava_tum_subscriber_httpr_encode_ext(const mava_tum_subscriber_httpr *record, uint8_t *buffer,
     uint64_t length, mava_tum_segment *segments, uint32_t *segment_count);
 
-/* Copies `source` into `destination`, whose earlier pointers are overwritten without being released. Every owned
- * block is copied through `alloc_fn`. Returns MAVA_TUM_OK, or MAVA_TUM_NO_MEMORY when some block could not be copied:
- * what it was for is then empty and absent, all else is copied. */
+/* Copies `source` into `destination`, whose pointers are overwritten and not released. Every block is copied with
+ * `alloc_fn`. Returns MAVA_TUM_OK, or MAVA_TUM_NO_MEMORY if an allocation fails: its field is then empty and absent,
+ * all others are copied. */
 MAVA_TUM_API int32_t mava_tum_subscriber_httpr_duplicate(mava_tum_subscriber_httpr *destination,
     const mava_tum_subscriber_httpr *source, mava_tum_alloc_fn alloc_fn, void *alloc_ctx);
 
-/* Hands the texts of `record` to `release_fn` and nulls their pointers. The record itself, its scalars and its
- * presence bits stay. Calling it twice is harmless. */
+/* Releases the texts of `record` with `release_fn`. Their pointers become null. The record itself, its scalars and its
+ * presence bits do not change. A second call does nothing. */
 MAVA_TUM_API void mava_tum_subscriber_httpr_free_ext(
     mava_tum_subscriber_httpr *record, mava_tum_release_fn release_fn, void *release_ctx);
 
@@ -128,32 +131,31 @@ typedef struct mava_tum_subscriber_li {
     uint32_t field_6;       /* 6: varint, bit 5 */
     uint32_t field_7;       /* 7: fixed32, bit 6; IPv4 address, network byte order */
     mava_tum_bytes field_8; /* 8: bytes, bit 7 */
-    uint8_t presence_mask;  /* no spare bits */
+    uint8_t presence_mask;  /* no reserved bits */
 } mava_tum_subscriber_li;
 
-/* Decodes `length` bytes of wire at `data` into `record`, which is reset first. Calls `alloc_fn` for bytes fields
- * when the alias bit of `flags` is clear; the record owns those blocks, also after a failure. With the alias bit set,
- * bytes fields point into `data`, which must outlive them. Returns MAVA_TUM_OK, MAVA_TUM_TRUNCATED,
+/* Decodes the `length` bytes at `data` into `record`, which is reset first. Allocates bytes fields with `alloc_fn` if
+ * the alias bit of `flags` is clear; the record owns those blocks, also after a failure. If the alias bit is set, bytes
+ * fields point into `data`, which must outlive them. Returns MAVA_TUM_OK, MAVA_TUM_TRUNCATED,
  * MAVA_TUM_UNSUPPORTED_WIRE_TYPE, MAVA_TUM_WRONG_WIRE_TYPE or MAVA_TUM_NO_MEMORY. */
 MAVA_TUM_API int32_t mava_tum_subscriber_li_decode_ext(mava_tum_subscriber_li *record, const uint8_t *data,
     uint64_t length, mava_tum_alloc_fn alloc_fn, void *alloc_ctx, uint32_t flags);
 
 /* Encodes `record` into `buffer` (capacity `length` bytes; may be null if 0). Allocates nothing. `segments` and
- * `segment_count` may be null. With the alias bit of `flags` set, bytes fields become segments of their own instead
- * of being copied. Returns the size needed in bytes; above `length`, the output was cut: do not send it. */
+ * `segment_count` may be null. If the alias bit of `flags` is set, bytes fields are not copied: each is a segment of
+ * its own. Returns the size needed in bytes. If it is above `length`, the output is truncated: do not send it. */
 MAVA_TUM_API uint64_t mava_tum_subscriber_li_encode_ext(const mava_tum_subscriber_li *record, uint8_t *buffer,
     uint64_t length, mava_tum_segment *segments, uint32_t *segment_count, uint32_t flags);
 
-/* Copies `source` into `destination`, whose earlier pointers are overwritten without being released. Every owned
- * block is copied through `alloc_fn`, also those that `source` aliases: free the copy with the alias bit clear.
- * Returns MAVA_TUM_OK, or MAVA_TUM_NO_MEMORY when some block could not be copied: what it was for is then empty and
- * absent, all else is copied. */
+/* Copies `source` into `destination`, whose pointers are overwritten and not released. Every block is copied with
+ * `alloc_fn`, also bytes that `source` aliases: free the copy with the alias bit clear. Returns MAVA_TUM_OK, or
+ * MAVA_TUM_NO_MEMORY if an allocation fails: its field is then empty and absent, all others are copied. */
 MAVA_TUM_API int32_t mava_tum_subscriber_li_duplicate(mava_tum_subscriber_li *destination,
     const mava_tum_subscriber_li *source, mava_tum_alloc_fn alloc_fn, void *alloc_ctx);
 
-/* Hands the bytes fields of `record` to `release_fn` and nulls their pointers; with the alias bit of `flags` set,
- * releases nothing. `flags` must be what the decode used. The record itself, its scalars and its presence bits stay.
- * Calling it twice is harmless. */
+/* Releases the bytes fields of `record` with `release_fn` if the alias bit of `flags` is clear; otherwise nothing.
+ * Their pointers become null. `flags` must be those of the decode. The record itself, its scalars and its presence bits
+ * do not change. A second call does nothing. */
 MAVA_TUM_API void mava_tum_subscriber_li_free_ext(
     mava_tum_subscriber_li *record, mava_tum_release_fn release_fn, void *release_ctx, uint32_t flags);
 
@@ -163,21 +165,22 @@ MAVA_TUM_API void mava_tum_subscriber_li_free_ext(
 typedef struct mava_tum_subscriber_urpf {
     uint32_t field_1;      /* 1: varint, bit 0 */
     uint32_t field_2;      /* 2: varint, bit 1 */
-    uint8_t presence_mask; /* bits 2-7 spare */
+    uint8_t presence_mask; /* bits 2-7 reserved */
 } mava_tum_subscriber_urpf;
 
-/* Decodes `length` bytes of wire at `data` into `record`, which is reset first. Allocates nothing. Returns
- * MAVA_TUM_OK, MAVA_TUM_TRUNCATED, MAVA_TUM_UNSUPPORTED_WIRE_TYPE or MAVA_TUM_WRONG_WIRE_TYPE. */
+/* Decodes the `length` bytes at `data` into `record`, which is reset first. Allocates nothing. Returns MAVA_TUM_OK,
+ * MAVA_TUM_TRUNCATED, MAVA_TUM_UNSUPPORTED_WIRE_TYPE or MAVA_TUM_WRONG_WIRE_TYPE. */
 MAVA_TUM_API int32_t mava_tum_subscriber_urpf_decode_ext(
     mava_tum_subscriber_urpf *record, const uint8_t *data, uint64_t length);
 
 /* Encodes `record` into `buffer` (capacity `length` bytes; may be null if 0). Allocates nothing. `segments` and
- * `segment_count` may be null. Returns the size needed in bytes; above `length`, the output was cut: do not send it. */
+ * `segment_count` may be null. Returns the size needed in bytes. If it is above `length`, the output is truncated: do
+ * not send it. */
 MAVA_TUM_API uint64_t mava_tum_subscriber_urpf_encode_ext(const mava_tum_subscriber_urpf *record, uint8_t *buffer,
     uint64_t length, mava_tum_segment *segments, uint32_t *segment_count);
 
-/* Copies every field of `source` and its presence bit into `destination`; the spare bits of `destination` stay.
- * Returns MAVA_TUM_OK. */
+/* Copies every field of `source` and its presence bit into `destination`; reserved bits of `destination` are not
+ * modified. Returns MAVA_TUM_OK. */
 MAVA_TUM_API int32_t mava_tum_subscriber_urpf_duplicate(
     mava_tum_subscriber_urpf *destination, const mava_tum_subscriber_urpf *source);
 
@@ -189,21 +192,22 @@ MAVA_TUM_API void mava_tum_subscriber_urpf_free_ext(mava_tum_subscriber_urpf *re
 /* An ICMP setting. Nested in session_context. */
 typedef struct mava_tum_subscriber_icmp {
     uint32_t field_1;      /* 1: varint, bit 0 */
-    uint8_t presence_mask; /* bits 1-7 spare */
+    uint8_t presence_mask; /* bits 1-7 reserved */
 } mava_tum_subscriber_icmp;
 
-/* Decodes `length` bytes of wire at `data` into `record`, which is reset first. Allocates nothing. Returns
- * MAVA_TUM_OK, MAVA_TUM_TRUNCATED, MAVA_TUM_UNSUPPORTED_WIRE_TYPE or MAVA_TUM_WRONG_WIRE_TYPE. */
+/* Decodes the `length` bytes at `data` into `record`, which is reset first. Allocates nothing. Returns MAVA_TUM_OK,
+ * MAVA_TUM_TRUNCATED, MAVA_TUM_UNSUPPORTED_WIRE_TYPE or MAVA_TUM_WRONG_WIRE_TYPE. */
 MAVA_TUM_API int32_t mava_tum_subscriber_icmp_decode_ext(
     mava_tum_subscriber_icmp *record, const uint8_t *data, uint64_t length);
 
 /* Encodes `record` into `buffer` (capacity `length` bytes; may be null if 0). Allocates nothing. `segments` and
- * `segment_count` may be null. Returns the size needed in bytes; above `length`, the output was cut: do not send it. */
+ * `segment_count` may be null. Returns the size needed in bytes. If it is above `length`, the output is truncated: do
+ * not send it. */
 MAVA_TUM_API uint64_t mava_tum_subscriber_icmp_encode_ext(const mava_tum_subscriber_icmp *record, uint8_t *buffer,
     uint64_t length, mava_tum_segment *segments, uint32_t *segment_count);
 
-/* Copies every field of `source` and its presence bit into `destination`; the spare bits of `destination` stay.
- * Returns MAVA_TUM_OK. */
+/* Copies every field of `source` and its presence bit into `destination`; reserved bits of `destination` are not
+ * modified. Returns MAVA_TUM_OK. */
 MAVA_TUM_API int32_t mava_tum_subscriber_icmp_duplicate(
     mava_tum_subscriber_icmp *destination, const mava_tum_subscriber_icmp *source);
 
@@ -215,21 +219,22 @@ MAVA_TUM_API void mava_tum_subscriber_icmp_free_ext(mava_tum_subscriber_icmp *re
 /* An MTU setting. Nested in session_context. */
 typedef struct mava_tum_subscriber_mtu {
     uint32_t field_1;      /* 1: varint, bit 0 */
-    uint8_t presence_mask; /* bits 1-7 spare */
+    uint8_t presence_mask; /* bits 1-7 reserved */
 } mava_tum_subscriber_mtu;
 
-/* Decodes `length` bytes of wire at `data` into `record`, which is reset first. Allocates nothing. Returns
- * MAVA_TUM_OK, MAVA_TUM_TRUNCATED, MAVA_TUM_UNSUPPORTED_WIRE_TYPE or MAVA_TUM_WRONG_WIRE_TYPE. */
+/* Decodes the `length` bytes at `data` into `record`, which is reset first. Allocates nothing. Returns MAVA_TUM_OK,
+ * MAVA_TUM_TRUNCATED, MAVA_TUM_UNSUPPORTED_WIRE_TYPE or MAVA_TUM_WRONG_WIRE_TYPE. */
 MAVA_TUM_API int32_t mava_tum_subscriber_mtu_decode_ext(
     mava_tum_subscriber_mtu *record, const uint8_t *data, uint64_t length);
 
 /* Encodes `record` into `buffer` (capacity `length` bytes; may be null if 0). Allocates nothing. `segments` and
- * `segment_count` may be null. Returns the size needed in bytes; above `length`, the output was cut: do not send it. */
+ * `segment_count` may be null. Returns the size needed in bytes. If it is above `length`, the output is truncated: do
+ * not send it. */
 MAVA_TUM_API uint64_t mava_tum_subscriber_mtu_encode_ext(const mava_tum_subscriber_mtu *record, uint8_t *buffer,
     uint64_t length, mava_tum_segment *segments, uint32_t *segment_count);
 
-/* Copies every field of `source` and its presence bit into `destination`; the spare bits of `destination` stay.
- * Returns MAVA_TUM_OK. */
+/* Copies every field of `source` and its presence bit into `destination`; reserved bits of `destination` are not
+ * modified. Returns MAVA_TUM_OK. */
 MAVA_TUM_API int32_t mava_tum_subscriber_mtu_duplicate(
     mava_tum_subscriber_mtu *destination, const mava_tum_subscriber_mtu *source);
 
@@ -243,21 +248,22 @@ typedef struct mava_tum_subscriber_acct {
     uint32_t field_1;      /* 1: varint, bit 0 */
     uint32_t field_2;      /* 2: varint, bit 1 */
     uint32_t field_3;      /* 3: varint, bit 2 */
-    uint8_t presence_mask; /* bits 3-7 spare */
+    uint8_t presence_mask; /* bits 3-7 reserved */
 } mava_tum_subscriber_acct;
 
-/* Decodes `length` bytes of wire at `data` into `record`, which is reset first. Allocates nothing. Returns
- * MAVA_TUM_OK, MAVA_TUM_TRUNCATED, MAVA_TUM_UNSUPPORTED_WIRE_TYPE or MAVA_TUM_WRONG_WIRE_TYPE. */
+/* Decodes the `length` bytes at `data` into `record`, which is reset first. Allocates nothing. Returns MAVA_TUM_OK,
+ * MAVA_TUM_TRUNCATED, MAVA_TUM_UNSUPPORTED_WIRE_TYPE or MAVA_TUM_WRONG_WIRE_TYPE. */
 MAVA_TUM_API int32_t mava_tum_subscriber_acct_decode_ext(
     mava_tum_subscriber_acct *record, const uint8_t *data, uint64_t length);
 
 /* Encodes `record` into `buffer` (capacity `length` bytes; may be null if 0). Allocates nothing. `segments` and
- * `segment_count` may be null. Returns the size needed in bytes; above `length`, the output was cut: do not send it. */
+ * `segment_count` may be null. Returns the size needed in bytes. If it is above `length`, the output is truncated: do
+ * not send it. */
 MAVA_TUM_API uint64_t mava_tum_subscriber_acct_encode_ext(const mava_tum_subscriber_acct *record, uint8_t *buffer,
     uint64_t length, mava_tum_segment *segments, uint32_t *segment_count);
 
-/* Copies every field of `source` and its presence bit into `destination`; the spare bits of `destination` stay.
- * Returns MAVA_TUM_OK. */
+/* Copies every field of `source` and its presence bit into `destination`; reserved bits of `destination` are not
+ * modified. Returns MAVA_TUM_OK. */
 MAVA_TUM_API int32_t mava_tum_subscriber_acct_duplicate(
     mava_tum_subscriber_acct *destination, const mava_tum_subscriber_acct *source);
 
@@ -277,28 +283,29 @@ typedef struct mava_tum_subscriber_route_ipv4 {
     uint32_t field_7;       /* 7: varint, bit 6 */
     uint32_t field_8;       /* 8: varint, bit 7 */
     char *field_9;          /* 9: text, bit 8 */
-    uint16_t presence_mask; /* bits 9-15 spare */
+    uint16_t presence_mask; /* bits 9-15 reserved */
 } mava_tum_subscriber_route_ipv4;
 
-/* Decodes `length` bytes of wire at `data` into `record`, which is reset first. Calls `alloc_fn` for texts; the
- * record owns those blocks, also after a failure. Returns MAVA_TUM_OK, MAVA_TUM_TRUNCATED,
- * MAVA_TUM_UNSUPPORTED_WIRE_TYPE, MAVA_TUM_WRONG_WIRE_TYPE or MAVA_TUM_NO_MEMORY. */
+/* Decodes the `length` bytes at `data` into `record`, which is reset first. Allocates texts with `alloc_fn`; the record
+ * owns those blocks, also after a failure. Returns MAVA_TUM_OK, MAVA_TUM_TRUNCATED, MAVA_TUM_UNSUPPORTED_WIRE_TYPE,
+ * MAVA_TUM_WRONG_WIRE_TYPE or MAVA_TUM_NO_MEMORY. */
 MAVA_TUM_API int32_t mava_tum_subscriber_route_ipv4_decode_ext(mava_tum_subscriber_route_ipv4 *record,
     const uint8_t *data, uint64_t length, mava_tum_alloc_fn alloc_fn, void *alloc_ctx);
 
 /* Encodes `record` into `buffer` (capacity `length` bytes; may be null if 0). Allocates nothing. `segments` and
- * `segment_count` may be null. Returns the size needed in bytes; above `length`, the output was cut: do not send it. */
+ * `segment_count` may be null. Returns the size needed in bytes. If it is above `length`, the output is truncated: do
+ * not send it. */
 MAVA_TUM_API uint64_t mava_tum_subscriber_route_ipv4_encode_ext(const mava_tum_subscriber_route_ipv4 *record,
     uint8_t *buffer, uint64_t length, mava_tum_segment *segments, uint32_t *segment_count);
 
-/* Copies `source` into `destination`, whose earlier pointers are overwritten without being released. Every owned
- * block is copied through `alloc_fn`. Returns MAVA_TUM_OK, or MAVA_TUM_NO_MEMORY when some block could not be copied:
- * what it was for is then empty and absent, all else is copied. */
+/* Copies `source` into `destination`, whose pointers are overwritten and not released. Every block is copied with
+ * `alloc_fn`. Returns MAVA_TUM_OK, or MAVA_TUM_NO_MEMORY if an allocation fails: its field is then empty and absent,
+ * all others are copied. */
 MAVA_TUM_API int32_t mava_tum_subscriber_route_ipv4_duplicate(mava_tum_subscriber_route_ipv4 *destination,
     const mava_tum_subscriber_route_ipv4 *source, mava_tum_alloc_fn alloc_fn, void *alloc_ctx);
 
-/* Hands the texts of `record` to `release_fn` and nulls their pointers. The record itself, its scalars and its
- * presence bits stay. Calling it twice is harmless. */
+/* Releases the texts of `record` with `release_fn`. Their pointers become null. The record itself, its scalars and its
+ * presence bits do not change. A second call does nothing. */
 MAVA_TUM_API void mava_tum_subscriber_route_ipv4_free_ext(
     mava_tum_subscriber_route_ipv4 *record, mava_tum_release_fn release_fn, void *release_ctx);
 
@@ -315,32 +322,31 @@ typedef struct mava_tum_subscriber_route_ipv6 {
     uint32_t field_7;       /* 7: varint, bit 6 */
     uint32_t field_8;       /* 8: varint, bit 7 */
     char *field_9;          /* 9: text, bit 8 */
-    uint16_t presence_mask; /* bits 9-15 spare */
+    uint16_t presence_mask; /* bits 9-15 reserved */
 } mava_tum_subscriber_route_ipv6;
 
-/* Decodes `length` bytes of wire at `data` into `record`, which is reset first. Calls `alloc_fn` for bytes fields
- * when the alias bit of `flags` is clear and texts; the record owns those blocks, also after a failure. With the
- * alias bit set, bytes fields point into `data`, which must outlive them. Returns MAVA_TUM_OK, MAVA_TUM_TRUNCATED,
+/* Decodes the `length` bytes at `data` into `record`, which is reset first. Allocates texts with `alloc_fn`, and bytes
+ * fields if the alias bit of `flags` is clear; the record owns those blocks, also after a failure. If the alias bit is
+ * set, bytes fields point into `data`, which must outlive them. Returns MAVA_TUM_OK, MAVA_TUM_TRUNCATED,
  * MAVA_TUM_UNSUPPORTED_WIRE_TYPE, MAVA_TUM_WRONG_WIRE_TYPE or MAVA_TUM_NO_MEMORY. */
 MAVA_TUM_API int32_t mava_tum_subscriber_route_ipv6_decode_ext(mava_tum_subscriber_route_ipv6 *record,
     const uint8_t *data, uint64_t length, mava_tum_alloc_fn alloc_fn, void *alloc_ctx, uint32_t flags);
 
 /* Encodes `record` into `buffer` (capacity `length` bytes; may be null if 0). Allocates nothing. `segments` and
- * `segment_count` may be null. With the alias bit of `flags` set, bytes fields become segments of their own instead
- * of being copied. Returns the size needed in bytes; above `length`, the output was cut: do not send it. */
+ * `segment_count` may be null. If the alias bit of `flags` is set, bytes fields are not copied: each is a segment of
+ * its own. Returns the size needed in bytes. If it is above `length`, the output is truncated: do not send it. */
 MAVA_TUM_API uint64_t mava_tum_subscriber_route_ipv6_encode_ext(const mava_tum_subscriber_route_ipv6 *record,
     uint8_t *buffer, uint64_t length, mava_tum_segment *segments, uint32_t *segment_count, uint32_t flags);
 
-/* Copies `source` into `destination`, whose earlier pointers are overwritten without being released. Every owned
- * block is copied through `alloc_fn`, also those that `source` aliases: free the copy with the alias bit clear.
- * Returns MAVA_TUM_OK, or MAVA_TUM_NO_MEMORY when some block could not be copied: what it was for is then empty and
- * absent, all else is copied. */
+/* Copies `source` into `destination`, whose pointers are overwritten and not released. Every block is copied with
+ * `alloc_fn`, also bytes that `source` aliases: free the copy with the alias bit clear. Returns MAVA_TUM_OK, or
+ * MAVA_TUM_NO_MEMORY if an allocation fails: its field is then empty and absent, all others are copied. */
 MAVA_TUM_API int32_t mava_tum_subscriber_route_ipv6_duplicate(mava_tum_subscriber_route_ipv6 *destination,
     const mava_tum_subscriber_route_ipv6 *source, mava_tum_alloc_fn alloc_fn, void *alloc_ctx);
 
-/* Hands the texts of `record` to `release_fn`, its bytes fields too when the alias bit of `flags` is clear, and nulls
- * their pointers. `flags` must be what the decode used. The record itself, its scalars and its presence bits stay.
- * Calling it twice is harmless. */
+/* Releases the texts of `record` with `release_fn`, and its bytes fields if the alias bit of `flags` is clear. Their
+ * pointers become null. `flags` must be those of the decode. The record itself, its scalars and its presence bits do
+ * not change. A second call does nothing. */
 MAVA_TUM_API void mava_tum_subscriber_route_ipv6_free_ext(
     mava_tum_subscriber_route_ipv6 *record, mava_tum_release_fn release_fn, void *release_ctx, uint32_t flags);
 

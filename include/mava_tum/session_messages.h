@@ -1,6 +1,6 @@
 /* The session as a whole, and the messages that delete it or answer an operation on it.
  *
- * Result codes, the alias bit, callbacks, ownership and what all messages share: codec_contract.h. */
+ * Result codes, the alias bit, callbacks and ownership are the same for all messages: codec_contract.h. */
 #ifndef MAVA_TUM_SESSION_MESSAGES_H
 #define MAVA_TUM_SESSION_MESSAGES_H
 
@@ -44,32 +44,31 @@ typedef struct mava_tum_session_context {
     uint32_t route_ipv4_count;                  /* records in the array */
     mava_tum_subscriber_route_ipv6 *route_ipv6; /* 24: array of records, bit 23 */
     uint32_t route_ipv6_count;                  /* records in the array */
-    uint32_t presence_mask;                     /* bits 24-31 spare */
+    uint32_t presence_mask;                     /* bits 24-31 reserved */
 } mava_tum_session_context;
 
-/* Decodes `length` bytes of wire at `data` into `record`, which is reset first. Calls `alloc_fn` for bytes fields
- * when the alias bit of `flags` is clear, texts and arrays; the record owns those blocks, also after a failure. With
- * the alias bit set, bytes fields point into `data`, which must outlive them. Returns MAVA_TUM_OK,
- * MAVA_TUM_TRUNCATED, MAVA_TUM_UNSUPPORTED_WIRE_TYPE, MAVA_TUM_WRONG_WIRE_TYPE or MAVA_TUM_NO_MEMORY. */
+/* Decodes the `length` bytes at `data` into `record`, which is reset first. Allocates texts and arrays with `alloc_fn`,
+ * and bytes fields if the alias bit of `flags` is clear; the record owns those blocks, also after a failure. If the
+ * alias bit is set, bytes fields point into `data`, which must outlive them. Returns MAVA_TUM_OK, MAVA_TUM_TRUNCATED,
+ * MAVA_TUM_UNSUPPORTED_WIRE_TYPE, MAVA_TUM_WRONG_WIRE_TYPE or MAVA_TUM_NO_MEMORY. */
 MAVA_TUM_API int32_t mava_tum_session_context_decode_ext(mava_tum_session_context *record, const uint8_t *data,
     uint64_t length, mava_tum_alloc_fn alloc_fn, void *alloc_ctx, uint32_t flags);
 
 /* Encodes `record` into `buffer` (capacity `length` bytes; may be null if 0). Allocates nothing. `segments` and
- * `segment_count` may be null. With the alias bit of `flags` set, bytes fields become segments of their own instead
- * of being copied. Returns the size needed in bytes; above `length`, the output was cut: do not send it. */
+ * `segment_count` may be null. If the alias bit of `flags` is set, bytes fields are not copied: each is a segment of
+ * its own. Returns the size needed in bytes. If it is above `length`, the output is truncated: do not send it. */
 MAVA_TUM_API uint64_t mava_tum_session_context_encode_ext(const mava_tum_session_context *record, uint8_t *buffer,
     uint64_t length, mava_tum_segment *segments, uint32_t *segment_count, uint32_t flags);
 
-/* Copies `source` into `destination`, whose earlier pointers are overwritten without being released. Every owned
- * block is copied through `alloc_fn`, also those that `source` aliases: free the copy with the alias bit clear.
- * Returns MAVA_TUM_OK, or MAVA_TUM_NO_MEMORY when some block could not be copied: what it was for is then empty and
- * absent, all else is copied. */
+/* Copies `source` into `destination`, whose pointers are overwritten and not released. Every block is copied with
+ * `alloc_fn`, also bytes that `source` aliases: free the copy with the alias bit clear. Returns MAVA_TUM_OK, or
+ * MAVA_TUM_NO_MEMORY if an allocation fails: its field is then empty and absent, all others are copied. */
 MAVA_TUM_API int32_t mava_tum_session_context_duplicate(mava_tum_session_context *destination,
     const mava_tum_session_context *source, mava_tum_alloc_fn alloc_fn, void *alloc_ctx);
 
-/* Hands the texts and arrays of `record` to `release_fn`, its bytes fields too when the alias bit of `flags` is
- * clear, and nulls their pointers. `flags` must be what the decode used. The record itself, its scalars and its
- * presence bits stay. Calling it twice is harmless. */
+/* Releases the texts and arrays of `record` with `release_fn`, and its bytes fields if the alias bit of `flags` is
+ * clear. Their pointers become null. `flags` must be those of the decode. The record itself, its scalars and its
+ * presence bits do not change. A second call does nothing. */
 MAVA_TUM_API void mava_tum_session_context_free_ext(
     mava_tum_session_context *record, mava_tum_release_fn release_fn, void *release_ctx, uint32_t flags);
 
@@ -82,22 +81,23 @@ typedef struct mava_tum_session_delete {
     uint32_t field_3;      /* 3: varint, bit 2 */
     uint64_t field_4;      /* 4: 64-bit varint, bit 3 */
     uint32_t field_5;      /* 5: varint, bit 4 */
-    uint8_t presence_mask; /* bits 5-7 spare */
+    uint8_t presence_mask; /* bits 5-7 reserved */
 } mava_tum_session_delete;
 
-/* Decodes `length` bytes of wire at `data` into `record`, which is reset first. `alloc_fn` and `alloc_ctx` are
- * ignored: the record owns no memory. Returns MAVA_TUM_OK, MAVA_TUM_TRUNCATED, MAVA_TUM_UNSUPPORTED_WIRE_TYPE or
+/* Decodes the `length` bytes at `data` into `record`, which is reset first. `alloc_fn` and `alloc_ctx` are ignored: the
+ * record owns no memory. Returns MAVA_TUM_OK, MAVA_TUM_TRUNCATED, MAVA_TUM_UNSUPPORTED_WIRE_TYPE or
  * MAVA_TUM_WRONG_WIRE_TYPE. */
 MAVA_TUM_API int32_t mava_tum_session_delete_decode_ext(
     mava_tum_session_delete *record, const uint8_t *data, uint64_t length, mava_tum_alloc_fn alloc_fn, void *alloc_ctx);
 
 /* Encodes `record` into `buffer` (capacity `length` bytes; may be null if 0). Allocates nothing. `segments` and
- * `segment_count` may be null. Returns the size needed in bytes; above `length`, the output was cut: do not send it. */
+ * `segment_count` may be null. Returns the size needed in bytes. If it is above `length`, the output is truncated: do
+ * not send it. */
 MAVA_TUM_API uint64_t mava_tum_session_delete_encode_ext(const mava_tum_session_delete *record, uint8_t *buffer,
     uint64_t length, mava_tum_segment *segments, uint32_t *segment_count);
 
-/* Copies every field of `source` and its presence bit into `destination`; the spare bits of `destination` stay.
- * Returns MAVA_TUM_OK. */
+/* Copies every field of `source` and its presence bit into `destination`; reserved bits of `destination` are not
+ * modified. Returns MAVA_TUM_OK. */
 MAVA_TUM_API int32_t mava_tum_session_delete_duplicate(
     mava_tum_session_delete *destination, const mava_tum_session_delete *source);
 
@@ -118,32 +118,31 @@ typedef struct mava_tum_sess_oper_resp {
     char *field_8;                     /* 8: text, bit 7 */
     mava_tum_subscriber_stats field_9; /* 9: record, bit 8 */
     mava_tum_bytes field_10;           /* 10: bytes, bit 9 */
-    uint16_t presence_mask;            /* bits 10-15 spare */
+    uint16_t presence_mask;            /* bits 10-15 reserved */
 } mava_tum_sess_oper_resp;
 
-/* Decodes `length` bytes of wire at `data` into `record`, which is reset first. Calls `alloc_fn` for bytes fields
- * when the alias bit of `flags` is clear, texts and arrays; the record owns those blocks, also after a failure. With
- * the alias bit set, bytes fields point into `data`, which must outlive them. Returns MAVA_TUM_OK,
- * MAVA_TUM_TRUNCATED, MAVA_TUM_UNSUPPORTED_WIRE_TYPE, MAVA_TUM_WRONG_WIRE_TYPE or MAVA_TUM_NO_MEMORY. */
+/* Decodes the `length` bytes at `data` into `record`, which is reset first. Allocates texts and arrays with `alloc_fn`,
+ * and bytes fields if the alias bit of `flags` is clear; the record owns those blocks, also after a failure. If the
+ * alias bit is set, bytes fields point into `data`, which must outlive them. Returns MAVA_TUM_OK, MAVA_TUM_TRUNCATED,
+ * MAVA_TUM_UNSUPPORTED_WIRE_TYPE, MAVA_TUM_WRONG_WIRE_TYPE or MAVA_TUM_NO_MEMORY. */
 MAVA_TUM_API int32_t mava_tum_sess_oper_resp_decode_ext(mava_tum_sess_oper_resp *record, const uint8_t *data,
     uint64_t length, mava_tum_alloc_fn alloc_fn, void *alloc_ctx, uint32_t flags);
 
 /* Encodes `record` into `buffer` (capacity `length` bytes; may be null if 0). Allocates nothing. `segments` and
- * `segment_count` may be null. With the alias bit of `flags` set, bytes fields become segments of their own instead
- * of being copied. Returns the size needed in bytes; above `length`, the output was cut: do not send it. */
+ * `segment_count` may be null. If the alias bit of `flags` is set, bytes fields are not copied: each is a segment of
+ * its own. Returns the size needed in bytes. If it is above `length`, the output is truncated: do not send it. */
 MAVA_TUM_API uint64_t mava_tum_sess_oper_resp_encode_ext(const mava_tum_sess_oper_resp *record, uint8_t *buffer,
     uint64_t length, mava_tum_segment *segments, uint32_t *segment_count, uint32_t flags);
 
-/* Copies `source` into `destination`, whose earlier pointers are overwritten without being released. Every owned
- * block is copied through `alloc_fn`, also those that `source` aliases: free the copy with the alias bit clear.
- * Returns MAVA_TUM_OK, or MAVA_TUM_NO_MEMORY when some block could not be copied: what it was for is then empty and
- * absent, all else is copied. */
+/* Copies `source` into `destination`, whose pointers are overwritten and not released. Every block is copied with
+ * `alloc_fn`, also bytes that `source` aliases: free the copy with the alias bit clear. Returns MAVA_TUM_OK, or
+ * MAVA_TUM_NO_MEMORY if an allocation fails: its field is then empty and absent, all others are copied. */
 MAVA_TUM_API int32_t mava_tum_sess_oper_resp_duplicate(mava_tum_sess_oper_resp *destination,
     const mava_tum_sess_oper_resp *source, mava_tum_alloc_fn alloc_fn, void *alloc_ctx);
 
-/* Hands the texts and arrays of `record` to `release_fn`, its bytes fields too when the alias bit of `flags` is
- * clear, and nulls their pointers. `flags` must be what the decode used. The record itself, its scalars and its
- * presence bits stay. Calling it twice is harmless. */
+/* Releases the texts and arrays of `record` with `release_fn`, and its bytes fields if the alias bit of `flags` is
+ * clear. Their pointers become null. `flags` must be those of the decode. The record itself, its scalars and its
+ * presence bits do not change. A second call does nothing. */
 MAVA_TUM_API void mava_tum_sess_oper_resp_free_ext(
     mava_tum_sess_oper_resp *record, mava_tum_release_fn release_fn, void *release_ctx, uint32_t flags);
 

@@ -1,6 +1,6 @@
 /* Traffic statistics of a subscriber and of its services.
  *
- * Result codes, the alias bit, callbacks, ownership and what all messages share: codec_contract.h. */
+ * Result codes, the alias bit, callbacks and ownership are the same for all messages: codec_contract.h. */
 #ifndef MAVA_TUM_STATISTICS_H
 #define MAVA_TUM_STATISTICS_H
 
@@ -32,20 +32,21 @@ typedef struct mava_tum_stats {
     uint32_t field_16;      /* 16: varint, bit 15 */
     uint32_t field_17;      /* 17: varint, bit 16 */
     uint32_t field_18;      /* 18: varint, bit 17 */
-    uint32_t presence_mask; /* bits 18-31 spare */
+    uint32_t presence_mask; /* bits 18-31 reserved */
 } mava_tum_stats;
 
-/* Decodes `length` bytes of wire at `data` into `record`, which is reset first. Allocates nothing. Returns
- * MAVA_TUM_OK, MAVA_TUM_TRUNCATED, MAVA_TUM_UNSUPPORTED_WIRE_TYPE or MAVA_TUM_WRONG_WIRE_TYPE. */
+/* Decodes the `length` bytes at `data` into `record`, which is reset first. Allocates nothing. Returns MAVA_TUM_OK,
+ * MAVA_TUM_TRUNCATED, MAVA_TUM_UNSUPPORTED_WIRE_TYPE or MAVA_TUM_WRONG_WIRE_TYPE. */
 MAVA_TUM_API int32_t mava_tum_stats_decode_ext(mava_tum_stats *record, const uint8_t *data, uint64_t length);
 
 /* Encodes `record` into `buffer` (capacity `length` bytes; may be null if 0). Allocates nothing. `segments` and
- * `segment_count` may be null. Returns the size needed in bytes; above `length`, the output was cut: do not send it. */
+ * `segment_count` may be null. Returns the size needed in bytes. If it is above `length`, the output is truncated: do
+ * not send it. */
 MAVA_TUM_API uint64_t mava_tum_stats_encode_ext(const mava_tum_stats *record, uint8_t *buffer, uint64_t length,
     mava_tum_segment *segments, uint32_t *segment_count);
 
-/* Copies every field of `source` and its presence bit into `destination`; the spare bits of `destination` stay.
- * Returns MAVA_TUM_OK. */
+/* Copies every field of `source` and its presence bit into `destination`; reserved bits of `destination` are not
+ * modified. Returns MAVA_TUM_OK. */
 MAVA_TUM_API int32_t mava_tum_stats_duplicate(mava_tum_stats *destination, const mava_tum_stats *source);
 
 /* Does nothing: the record owns no memory. `record` may be null. */
@@ -57,28 +58,29 @@ MAVA_TUM_API void mava_tum_stats_free_ext(mava_tum_stats *record);
 typedef struct mava_tum_service_stats {
     char *field_1;          /* 1: text, bit 0 */
     mava_tum_stats field_2; /* 2: record, bit 1 */
-    uint8_t presence_mask;  /* bits 2-7 spare */
+    uint8_t presence_mask;  /* bits 2-7 reserved */
 } mava_tum_service_stats;
 
-/* Decodes `length` bytes of wire at `data` into `record`, which is reset first. Calls `alloc_fn` for texts; the
- * record owns those blocks, also after a failure. Returns MAVA_TUM_OK, MAVA_TUM_TRUNCATED,
- * MAVA_TUM_UNSUPPORTED_WIRE_TYPE, MAVA_TUM_WRONG_WIRE_TYPE or MAVA_TUM_NO_MEMORY. */
+/* Decodes the `length` bytes at `data` into `record`, which is reset first. Allocates texts with `alloc_fn`; the record
+ * owns those blocks, also after a failure. Returns MAVA_TUM_OK, MAVA_TUM_TRUNCATED, MAVA_TUM_UNSUPPORTED_WIRE_TYPE,
+ * MAVA_TUM_WRONG_WIRE_TYPE or MAVA_TUM_NO_MEMORY. */
 MAVA_TUM_API int32_t mava_tum_service_stats_decode_ext(
     mava_tum_service_stats *record, const uint8_t *data, uint64_t length, mava_tum_alloc_fn alloc_fn, void *alloc_ctx);
 
 /* Encodes `record` into `buffer` (capacity `length` bytes; may be null if 0). Allocates nothing. `segments` and
- * `segment_count` may be null. Returns the size needed in bytes; above `length`, the output was cut: do not send it. */
+ * `segment_count` may be null. Returns the size needed in bytes. If it is above `length`, the output is truncated: do
+ * not send it. */
 MAVA_TUM_API uint64_t mava_tum_service_stats_encode_ext(const mava_tum_service_stats *record, uint8_t *buffer,
     uint64_t length, mava_tum_segment *segments, uint32_t *segment_count);
 
-/* Copies `source` into `destination`, whose earlier pointers are overwritten without being released. Every owned
- * block is copied through `alloc_fn`. Returns MAVA_TUM_OK, or MAVA_TUM_NO_MEMORY when some block could not be copied:
- * what it was for is then empty and absent, all else is copied. */
+/* Copies `source` into `destination`, whose pointers are overwritten and not released. Every block is copied with
+ * `alloc_fn`. Returns MAVA_TUM_OK, or MAVA_TUM_NO_MEMORY if an allocation fails: its field is then empty and absent,
+ * all others are copied. */
 MAVA_TUM_API int32_t mava_tum_service_stats_duplicate(mava_tum_service_stats *destination,
     const mava_tum_service_stats *source, mava_tum_alloc_fn alloc_fn, void *alloc_ctx);
 
-/* Hands the texts of `record` to `release_fn` and nulls their pointers. The record itself, its scalars and its
- * presence bits stay. Calling it twice is harmless. */
+/* Releases the texts of `record` with `release_fn`. Their pointers become null. The record itself, its scalars and its
+ * presence bits do not change. A second call does nothing. */
 MAVA_TUM_API void mava_tum_service_stats_free_ext(
     mava_tum_service_stats *record, mava_tum_release_fn release_fn, void *release_ctx);
 
@@ -99,28 +101,29 @@ typedef struct mava_tum_subscriber_stats {
     mava_tum_stats field_10;         /* 10: record, bit 9 */
     uint32_t field_11;               /* 11: varint, bit 10 */
     mava_tum_stats field_12;         /* 12: record, bit 11 */
-    uint16_t presence_mask;          /* bits 12-15 spare */
+    uint16_t presence_mask;          /* bits 12-15 reserved */
 } mava_tum_subscriber_stats;
 
-/* Decodes `length` bytes of wire at `data` into `record`, which is reset first. Calls `alloc_fn` for texts and
- * arrays; the record owns those blocks, also after a failure. Returns MAVA_TUM_OK, MAVA_TUM_TRUNCATED,
+/* Decodes the `length` bytes at `data` into `record`, which is reset first. Allocates texts and arrays with `alloc_fn`;
+ * the record owns those blocks, also after a failure. Returns MAVA_TUM_OK, MAVA_TUM_TRUNCATED,
  * MAVA_TUM_UNSUPPORTED_WIRE_TYPE, MAVA_TUM_WRONG_WIRE_TYPE or MAVA_TUM_NO_MEMORY. */
 MAVA_TUM_API int32_t mava_tum_subscriber_stats_decode_ext(mava_tum_subscriber_stats *record, const uint8_t *data,
     uint64_t length, mava_tum_alloc_fn alloc_fn, void *alloc_ctx);
 
 /* Encodes `record` into `buffer` (capacity `length` bytes; may be null if 0). Allocates nothing. `segments` and
- * `segment_count` may be null. Returns the size needed in bytes; above `length`, the output was cut: do not send it. */
+ * `segment_count` may be null. Returns the size needed in bytes. If it is above `length`, the output is truncated: do
+ * not send it. */
 MAVA_TUM_API uint64_t mava_tum_subscriber_stats_encode_ext(const mava_tum_subscriber_stats *record, uint8_t *buffer,
     uint64_t length, mava_tum_segment *segments, uint32_t *segment_count);
 
-/* Copies `source` into `destination`, whose earlier pointers are overwritten without being released. Every owned
- * block is copied through `alloc_fn`. Returns MAVA_TUM_OK, or MAVA_TUM_NO_MEMORY when some block could not be copied:
- * what it was for is then empty and absent, all else is copied. */
+/* Copies `source` into `destination`, whose pointers are overwritten and not released. Every block is copied with
+ * `alloc_fn`. Returns MAVA_TUM_OK, or MAVA_TUM_NO_MEMORY if an allocation fails: its field is then empty and absent,
+ * all others are copied. */
 MAVA_TUM_API int32_t mava_tum_subscriber_stats_duplicate(mava_tum_subscriber_stats *destination,
     const mava_tum_subscriber_stats *source, mava_tum_alloc_fn alloc_fn, void *alloc_ctx);
 
-/* Hands the texts and arrays of `record` to `release_fn` and nulls their pointers. The record itself, its scalars and
- * its presence bits stay. Calling it twice is harmless. */
+/* Releases the texts and arrays of `record` with `release_fn`. Their pointers become null. The record itself, its
+ * scalars and its presence bits do not change. A second call does nothing. */
 MAVA_TUM_API void mava_tum_subscriber_stats_free_ext(
     mava_tum_subscriber_stats *record, mava_tum_release_fn release_fn, void *release_ctx);
 

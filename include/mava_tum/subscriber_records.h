@@ -1,6 +1,6 @@
 /* A subscriber's addresses, access records and session data.
  *
- * Result codes, the alias bit, callbacks, ownership and what all messages share: codec_contract.h. */
+ * Result codes, the alias bit, callbacks and ownership are the same for all messages: codec_contract.h. */
 #ifndef MAVA_TUM_SUBSCRIBER_RECORDS_H
 #define MAVA_TUM_SUBSCRIBER_RECORDS_H
 
@@ -16,21 +16,22 @@ extern "C" {
 typedef struct mava_tum_subscriber_v4 {
     uint32_t field_1;      /* 1: varint, bit 0 */
     uint32_t ipv4_address; /* 2: fixed32, bit 1; IPv4 address in network byte order */
-    uint8_t presence_mask; /* bits 2-7 spare */
+    uint8_t presence_mask; /* bits 2-7 reserved */
 } mava_tum_subscriber_v4;
 
-/* Decodes `length` bytes of wire at `data` into `record`, which is reset first. Allocates nothing. Returns
- * MAVA_TUM_OK, MAVA_TUM_TRUNCATED, MAVA_TUM_UNSUPPORTED_WIRE_TYPE or MAVA_TUM_WRONG_WIRE_TYPE. */
+/* Decodes the `length` bytes at `data` into `record`, which is reset first. Allocates nothing. Returns MAVA_TUM_OK,
+ * MAVA_TUM_TRUNCATED, MAVA_TUM_UNSUPPORTED_WIRE_TYPE or MAVA_TUM_WRONG_WIRE_TYPE. */
 MAVA_TUM_API int32_t mava_tum_subscriber_v4_decode_ext(
     mava_tum_subscriber_v4 *record, const uint8_t *data, uint64_t length);
 
 /* Encodes `record` into `buffer` (capacity `length` bytes; may be null if 0). Allocates nothing. `segments` and
- * `segment_count` may be null. Returns the size needed in bytes; above `length`, the output was cut: do not send it. */
+ * `segment_count` may be null. Returns the size needed in bytes. If it is above `length`, the output is truncated: do
+ * not send it. */
 MAVA_TUM_API uint64_t mava_tum_subscriber_v4_encode_ext(const mava_tum_subscriber_v4 *record, uint8_t *buffer,
     uint64_t length, mava_tum_segment *segments, uint32_t *segment_count);
 
-/* Copies every field of `source` and its presence bit into `destination`; the spare bits of `destination` stay.
- * Returns MAVA_TUM_OK. */
+/* Copies every field of `source` and its presence bit into `destination`; reserved bits of `destination` are not
+ * modified. Returns MAVA_TUM_OK. */
 MAVA_TUM_API int32_t mava_tum_subscriber_v4_duplicate(
     mava_tum_subscriber_v4 *destination, const mava_tum_subscriber_v4 *source);
 
@@ -48,32 +49,31 @@ typedef struct mava_tum_subscriber_v6 {
     uint32_t field_5;       /* 5: varint, bit 4 */
     mava_tum_bytes field_6; /* 6: bytes, bit 5 */
     uint32_t field_7;       /* 7: varint, bit 6 */
-    uint8_t presence_mask;  /* bit 7 spare */
+    uint8_t presence_mask;  /* bit 7 reserved */
 } mava_tum_subscriber_v6;
 
-/* Decodes `length` bytes of wire at `data` into `record`, which is reset first. Calls `alloc_fn` for bytes fields
- * when the alias bit of `flags` is clear; the record owns those blocks, also after a failure. With the alias bit set,
- * bytes fields point into `data`, which must outlive them. Returns MAVA_TUM_OK, MAVA_TUM_TRUNCATED,
+/* Decodes the `length` bytes at `data` into `record`, which is reset first. Allocates bytes fields with `alloc_fn` if
+ * the alias bit of `flags` is clear; the record owns those blocks, also after a failure. If the alias bit is set, bytes
+ * fields point into `data`, which must outlive them. Returns MAVA_TUM_OK, MAVA_TUM_TRUNCATED,
  * MAVA_TUM_UNSUPPORTED_WIRE_TYPE, MAVA_TUM_WRONG_WIRE_TYPE or MAVA_TUM_NO_MEMORY. */
 MAVA_TUM_API int32_t mava_tum_subscriber_v6_decode_ext(mava_tum_subscriber_v6 *record, const uint8_t *data,
     uint64_t length, mava_tum_alloc_fn alloc_fn, void *alloc_ctx, uint32_t flags);
 
 /* Encodes `record` into `buffer` (capacity `length` bytes; may be null if 0). Allocates nothing. `segments` and
- * `segment_count` may be null. With the alias bit of `flags` set, bytes fields become segments of their own instead
- * of being copied. Returns the size needed in bytes; above `length`, the output was cut: do not send it. */
+ * `segment_count` may be null. If the alias bit of `flags` is set, bytes fields are not copied: each is a segment of
+ * its own. Returns the size needed in bytes. If it is above `length`, the output is truncated: do not send it. */
 MAVA_TUM_API uint64_t mava_tum_subscriber_v6_encode_ext(const mava_tum_subscriber_v6 *record, uint8_t *buffer,
     uint64_t length, mava_tum_segment *segments, uint32_t *segment_count, uint32_t flags);
 
-/* Copies `source` into `destination`, whose earlier pointers are overwritten without being released. Every owned
- * block is copied through `alloc_fn`, also those that `source` aliases: free the copy with the alias bit clear.
- * Returns MAVA_TUM_OK, or MAVA_TUM_NO_MEMORY when some block could not be copied: what it was for is then empty and
- * absent, all else is copied. */
+/* Copies `source` into `destination`, whose pointers are overwritten and not released. Every block is copied with
+ * `alloc_fn`, also bytes that `source` aliases: free the copy with the alias bit clear. Returns MAVA_TUM_OK, or
+ * MAVA_TUM_NO_MEMORY if an allocation fails: its field is then empty and absent, all others are copied. */
 MAVA_TUM_API int32_t mava_tum_subscriber_v6_duplicate(mava_tum_subscriber_v6 *destination,
     const mava_tum_subscriber_v6 *source, mava_tum_alloc_fn alloc_fn, void *alloc_ctx);
 
-/* Hands the bytes fields of `record` to `release_fn` and nulls their pointers; with the alias bit of `flags` set,
- * releases nothing. `flags` must be what the decode used. The record itself, its scalars and its presence bits stay.
- * Calling it twice is harmless. */
+/* Releases the bytes fields of `record` with `release_fn` if the alias bit of `flags` is clear; otherwise nothing.
+ * Their pointers become null. `flags` must be those of the decode. The record itself, its scalars and its presence bits
+ * do not change. A second call does nothing. */
 MAVA_TUM_API void mava_tum_subscriber_v6_free_ext(
     mava_tum_subscriber_v6 *record, mava_tum_release_fn release_fn, void *release_ctx, uint32_t flags);
 
@@ -87,32 +87,31 @@ typedef struct mava_tum_ppp_data {
     uint32_t field_4;       /* 4: varint, bit 3 */
     mava_tum_bytes field_5; /* 5: bytes, bit 4 */
     uint32_t field_6;       /* 6: varint, bit 5 */
-    uint8_t presence_mask;  /* bits 6-7 spare */
+    uint8_t presence_mask;  /* bits 6-7 reserved */
 } mava_tum_ppp_data;
 
-/* Decodes `length` bytes of wire at `data` into `record`, which is reset first. Calls `alloc_fn` for bytes fields
- * when the alias bit of `flags` is clear; the record owns those blocks, also after a failure. With the alias bit set,
- * bytes fields point into `data`, which must outlive them. Returns MAVA_TUM_OK, MAVA_TUM_TRUNCATED,
+/* Decodes the `length` bytes at `data` into `record`, which is reset first. Allocates bytes fields with `alloc_fn` if
+ * the alias bit of `flags` is clear; the record owns those blocks, also after a failure. If the alias bit is set, bytes
+ * fields point into `data`, which must outlive them. Returns MAVA_TUM_OK, MAVA_TUM_TRUNCATED,
  * MAVA_TUM_UNSUPPORTED_WIRE_TYPE, MAVA_TUM_WRONG_WIRE_TYPE or MAVA_TUM_NO_MEMORY. */
 MAVA_TUM_API int32_t mava_tum_ppp_data_decode_ext(mava_tum_ppp_data *record, const uint8_t *data, uint64_t length,
     mava_tum_alloc_fn alloc_fn, void *alloc_ctx, uint32_t flags);
 
 /* Encodes `record` into `buffer` (capacity `length` bytes; may be null if 0). Allocates nothing. `segments` and
- * `segment_count` may be null. With the alias bit of `flags` set, bytes fields become segments of their own instead
- * of being copied. Returns the size needed in bytes; above `length`, the output was cut: do not send it. */
+ * `segment_count` may be null. If the alias bit of `flags` is set, bytes fields are not copied: each is a segment of
+ * its own. Returns the size needed in bytes. If it is above `length`, the output is truncated: do not send it. */
 MAVA_TUM_API uint64_t mava_tum_ppp_data_encode_ext(const mava_tum_ppp_data *record, uint8_t *buffer, uint64_t length,
     mava_tum_segment *segments, uint32_t *segment_count, uint32_t flags);
 
-/* Copies `source` into `destination`, whose earlier pointers are overwritten without being released. Every owned
- * block is copied through `alloc_fn`, also those that `source` aliases: free the copy with the alias bit clear.
- * Returns MAVA_TUM_OK, or MAVA_TUM_NO_MEMORY when some block could not be copied: what it was for is then empty and
- * absent, all else is copied. */
+/* Copies `source` into `destination`, whose pointers are overwritten and not released. Every block is copied with
+ * `alloc_fn`, also bytes that `source` aliases: free the copy with the alias bit clear. Returns MAVA_TUM_OK, or
+ * MAVA_TUM_NO_MEMORY if an allocation fails: its field is then empty and absent, all others are copied. */
 MAVA_TUM_API int32_t mava_tum_ppp_data_duplicate(
     mava_tum_ppp_data *destination, const mava_tum_ppp_data *source, mava_tum_alloc_fn alloc_fn, void *alloc_ctx);
 
-/* Hands the bytes fields of `record` to `release_fn` and nulls their pointers; with the alias bit of `flags` set,
- * releases nothing. `flags` must be what the decode used. The record itself, its scalars and its presence bits stay.
- * Calling it twice is harmless. */
+/* Releases the bytes fields of `record` with `release_fn` if the alias bit of `flags` is clear; otherwise nothing.
+ * Their pointers become null. `flags` must be those of the decode. The record itself, its scalars and its presence bits
+ * do not change. A second call does nothing. */
 MAVA_TUM_API void mava_tum_ppp_data_free_ext(
     mava_tum_ppp_data *record, mava_tum_release_fn release_fn, void *release_ctx, uint32_t flags);
 
@@ -139,32 +138,31 @@ typedef struct mava_tum_l2tp_data {
     uint32_t field_17;      /* 17: varint, bit 16 */
     uint32_t field_18;      /* 18: varint, bit 17 */
     char *field_19;         /* 19: text, bit 18 */
-    uint32_t presence_mask; /* bits 19-31 spare */
+    uint32_t presence_mask; /* bits 19-31 reserved */
 } mava_tum_l2tp_data;
 
-/* Decodes `length` bytes of wire at `data` into `record`, which is reset first. Calls `alloc_fn` for bytes fields
- * when the alias bit of `flags` is clear and texts; the record owns those blocks, also after a failure. With the
- * alias bit set, bytes fields point into `data`, which must outlive them. Returns MAVA_TUM_OK, MAVA_TUM_TRUNCATED,
+/* Decodes the `length` bytes at `data` into `record`, which is reset first. Allocates texts with `alloc_fn`, and bytes
+ * fields if the alias bit of `flags` is clear; the record owns those blocks, also after a failure. If the alias bit is
+ * set, bytes fields point into `data`, which must outlive them. Returns MAVA_TUM_OK, MAVA_TUM_TRUNCATED,
  * MAVA_TUM_UNSUPPORTED_WIRE_TYPE, MAVA_TUM_WRONG_WIRE_TYPE or MAVA_TUM_NO_MEMORY. */
 MAVA_TUM_API int32_t mava_tum_l2tp_data_decode_ext(mava_tum_l2tp_data *record, const uint8_t *data, uint64_t length,
     mava_tum_alloc_fn alloc_fn, void *alloc_ctx, uint32_t flags);
 
 /* Encodes `record` into `buffer` (capacity `length` bytes; may be null if 0). Allocates nothing. `segments` and
- * `segment_count` may be null. With the alias bit of `flags` set, bytes fields become segments of their own instead
- * of being copied. Returns the size needed in bytes; above `length`, the output was cut: do not send it. */
+ * `segment_count` may be null. If the alias bit of `flags` is set, bytes fields are not copied: each is a segment of
+ * its own. Returns the size needed in bytes. If it is above `length`, the output is truncated: do not send it. */
 MAVA_TUM_API uint64_t mava_tum_l2tp_data_encode_ext(const mava_tum_l2tp_data *record, uint8_t *buffer, uint64_t length,
     mava_tum_segment *segments, uint32_t *segment_count, uint32_t flags);
 
-/* Copies `source` into `destination`, whose earlier pointers are overwritten without being released. Every owned
- * block is copied through `alloc_fn`, also those that `source` aliases: free the copy with the alias bit clear.
- * Returns MAVA_TUM_OK, or MAVA_TUM_NO_MEMORY when some block could not be copied: what it was for is then empty and
- * absent, all else is copied. */
+/* Copies `source` into `destination`, whose pointers are overwritten and not released. Every block is copied with
+ * `alloc_fn`, also bytes that `source` aliases: free the copy with the alias bit clear. Returns MAVA_TUM_OK, or
+ * MAVA_TUM_NO_MEMORY if an allocation fails: its field is then empty and absent, all others are copied. */
 MAVA_TUM_API int32_t mava_tum_l2tp_data_duplicate(
     mava_tum_l2tp_data *destination, const mava_tum_l2tp_data *source, mava_tum_alloc_fn alloc_fn, void *alloc_ctx);
 
-/* Hands the texts of `record` to `release_fn`, its bytes fields too when the alias bit of `flags` is clear, and nulls
- * their pointers. `flags` must be what the decode used. The record itself, its scalars and its presence bits stay.
- * Calling it twice is harmless. */
+/* Releases the texts of `record` with `release_fn`, and its bytes fields if the alias bit of `flags` is clear. Their
+ * pointers become null. `flags` must be those of the decode. The record itself, its scalars and its presence bits do
+ * not change. A second call does nothing. */
 MAVA_TUM_API void mava_tum_l2tp_data_free_ext(
     mava_tum_l2tp_data *record, mava_tum_release_fn release_fn, void *release_ctx, uint32_t flags);
 
@@ -174,20 +172,21 @@ MAVA_TUM_API void mava_tum_l2tp_data_free_ext(
 typedef struct mava_tum_vlan_info {
     uint32_t field_1;      /* 1: varint, bit 0 */
     uint32_t field_2;      /* 2: varint, bit 1 */
-    uint8_t presence_mask; /* bits 2-7 spare */
+    uint8_t presence_mask; /* bits 2-7 reserved */
 } mava_tum_vlan_info;
 
-/* Decodes `length` bytes of wire at `data` into `record`, which is reset first. Allocates nothing. Returns
- * MAVA_TUM_OK, MAVA_TUM_TRUNCATED, MAVA_TUM_UNSUPPORTED_WIRE_TYPE or MAVA_TUM_WRONG_WIRE_TYPE. */
+/* Decodes the `length` bytes at `data` into `record`, which is reset first. Allocates nothing. Returns MAVA_TUM_OK,
+ * MAVA_TUM_TRUNCATED, MAVA_TUM_UNSUPPORTED_WIRE_TYPE or MAVA_TUM_WRONG_WIRE_TYPE. */
 MAVA_TUM_API int32_t mava_tum_vlan_info_decode_ext(mava_tum_vlan_info *record, const uint8_t *data, uint64_t length);
 
 /* Encodes `record` into `buffer` (capacity `length` bytes; may be null if 0). Allocates nothing. `segments` and
- * `segment_count` may be null. Returns the size needed in bytes; above `length`, the output was cut: do not send it. */
+ * `segment_count` may be null. Returns the size needed in bytes. If it is above `length`, the output is truncated: do
+ * not send it. */
 MAVA_TUM_API uint64_t mava_tum_vlan_info_encode_ext(const mava_tum_vlan_info *record, uint8_t *buffer, uint64_t length,
     mava_tum_segment *segments, uint32_t *segment_count);
 
-/* Copies every field of `source` and its presence bit into `destination`; the spare bits of `destination` stay.
- * Returns MAVA_TUM_OK. */
+/* Copies every field of `source` and its presence bit into `destination`; reserved bits of `destination` are not
+ * modified. Returns MAVA_TUM_OK. */
 MAVA_TUM_API int32_t mava_tum_vlan_info_duplicate(mava_tum_vlan_info *destination, const mava_tum_vlan_info *source);
 
 /* Does nothing: the record owns no memory. `record` may be null. */
@@ -208,32 +207,31 @@ typedef struct mava_tum_session_data {
     uint32_t field_9;        /* 9: varint, bit 8 */
     mava_tum_vlan_info vlan; /* 10: record, bit 9 */
     uint32_t field_11;       /* 11: varint, bit 10 */
-    uint16_t presence_mask;  /* bits 11-15 spare */
+    uint16_t presence_mask;  /* bits 11-15 reserved */
 } mava_tum_session_data;
 
-/* Decodes `length` bytes of wire at `data` into `record`, which is reset first. Calls `alloc_fn` for bytes fields
- * when the alias bit of `flags` is clear and texts; the record owns those blocks, also after a failure. With the
- * alias bit set, bytes fields point into `data`, which must outlive them. Returns MAVA_TUM_OK, MAVA_TUM_TRUNCATED,
+/* Decodes the `length` bytes at `data` into `record`, which is reset first. Allocates texts with `alloc_fn`, and bytes
+ * fields if the alias bit of `flags` is clear; the record owns those blocks, also after a failure. If the alias bit is
+ * set, bytes fields point into `data`, which must outlive them. Returns MAVA_TUM_OK, MAVA_TUM_TRUNCATED,
  * MAVA_TUM_UNSUPPORTED_WIRE_TYPE, MAVA_TUM_WRONG_WIRE_TYPE or MAVA_TUM_NO_MEMORY. */
 MAVA_TUM_API int32_t mava_tum_session_data_decode_ext(mava_tum_session_data *record, const uint8_t *data,
     uint64_t length, mava_tum_alloc_fn alloc_fn, void *alloc_ctx, uint32_t flags);
 
 /* Encodes `record` into `buffer` (capacity `length` bytes; may be null if 0). Allocates nothing. `segments` and
- * `segment_count` may be null. With the alias bit of `flags` set, bytes fields become segments of their own instead
- * of being copied. Returns the size needed in bytes; above `length`, the output was cut: do not send it. */
+ * `segment_count` may be null. If the alias bit of `flags` is set, bytes fields are not copied: each is a segment of
+ * its own. Returns the size needed in bytes. If it is above `length`, the output is truncated: do not send it. */
 MAVA_TUM_API uint64_t mava_tum_session_data_encode_ext(const mava_tum_session_data *record, uint8_t *buffer,
     uint64_t length, mava_tum_segment *segments, uint32_t *segment_count, uint32_t flags);
 
-/* Copies `source` into `destination`, whose earlier pointers are overwritten without being released. Every owned
- * block is copied through `alloc_fn`, also those that `source` aliases: free the copy with the alias bit clear.
- * Returns MAVA_TUM_OK, or MAVA_TUM_NO_MEMORY when some block could not be copied: what it was for is then empty and
- * absent, all else is copied. */
+/* Copies `source` into `destination`, whose pointers are overwritten and not released. Every block is copied with
+ * `alloc_fn`, also bytes that `source` aliases: free the copy with the alias bit clear. Returns MAVA_TUM_OK, or
+ * MAVA_TUM_NO_MEMORY if an allocation fails: its field is then empty and absent, all others are copied. */
 MAVA_TUM_API int32_t mava_tum_session_data_duplicate(mava_tum_session_data *destination,
     const mava_tum_session_data *source, mava_tum_alloc_fn alloc_fn, void *alloc_ctx);
 
-/* Hands the texts of `record` to `release_fn`, its bytes fields too when the alias bit of `flags` is clear, and nulls
- * their pointers. `flags` must be what the decode used. The record itself, its scalars and its presence bits stay.
- * Calling it twice is harmless. */
+/* Releases the texts of `record` with `release_fn`, and its bytes fields if the alias bit of `flags` is clear. Their
+ * pointers become null. `flags` must be those of the decode. The record itself, its scalars and its presence bits do
+ * not change. A second call does nothing. */
 MAVA_TUM_API void mava_tum_session_data_free_ext(
     mava_tum_session_data *record, mava_tum_release_fn release_fn, void *release_ctx, uint32_t flags);
 

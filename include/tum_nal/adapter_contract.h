@@ -6,27 +6,26 @@
  * Application record
  *   A flat structure of fixed size without pointers, owned by the caller; a record pointer must not be null. Integers
  *   are in host byte order, IPv4 addresses too (192.0.2.1 is 0xC0000201); IPv6 addresses and identifiers are byte
- *   arrays as they stand on the wire. A text is a NUL-terminated char array; an empty one is absent. A repeated part is
- *   a count and a fixed array, of which the first `count` elements are used. Members called `reserved_...` are neither
- *   read nor set to anything but zero. The layout is natural alignment, part of the ABI. Beside a member: its field's
- *   number, which most members of a session have in their names instead, and when it is sent.
+ *   arrays in the order of the wire. A text is a NUL-terminated char array; an empty one is absent. A list is a count
+ *   and a fixed array; its first `count` elements are used. Members called `reserved_...` are not read, and zero after
+ *   a decode. The layout has natural alignment and is part of the ABI. The comment of a member has the number of its
+ *   field and the condition under which it is sent; most members of a session have the number in their names.
  *
  * Encode
- *   Returns the size of the message in bytes, also when `capacity` (bytes) is smaller: the output was then cut and
- *   must not be sent. `buffer` may be null when `capacity` is 0; it must not overlap `record`. Nothing is written
- *   beyond the returned size, and `record` is only read. A count above the number of slots is taken as the number of
- *   slots. Every char array must contain a NUL: an array without one is read beyond its end.
- *   No message is larger than TUM_NAL_<NAME>_MAX_SIZE bytes, the function's <name> in capitals: a buffer of that size
- *   takes every record.
+ *   Returns the size of the message in bytes. If `capacity` (bytes) is smaller, the output is truncated: do not send
+ *   it. `buffer` may be null if `capacity` is 0; it must not overlap `record`. Nothing is written beyond the returned
+ *   size, and `record` is only read. A count above the number of slots is reduced to the number of slots. Every char
+ *   array must contain a NUL: an array without one is read beyond its end. A buffer of TUM_NAL_<NAME>_MAX_SIZE bytes,
+ *   with the function's <name> in capitals, is large enough for every record.
  *
  * Decode
- *   `record` is always overwritten as a whole: absent fields are zero. Nothing is reported: of a malformed message the
- *   fields before the fault arrive, also those of the nested record that it lies in, but nothing of the list that it
- *   lies in; the rest is zero. Texts longer than their array, or than the record says that it takes, are cut, with a
- *   NUL; values wider than their member keep their low bits; of a list longer than its array (a count in 8 bits is
- *   first taken modulo 256) the first elements arrive and the count says how many; of a bytes value longer than its
- *   array the first bytes arrive, a shorter one is followed by zeros. `data` may be null when `length` is 0; it must
- *   not overlap `record`. Nothing is allocated, whatever the input: all that a call needs is its stack.
+ *   `record` is always overwritten completely: absent fields are zero. Nothing is reported. Of a malformed message, the
+ *   fields before the fault arrive, also those of the nested record with the fault, but nothing of a list with the
+ *   fault; the rest is zero. A text that is longer than its array, or than the record documents, is truncated, with a
+ *   NUL. A value that is wider than its member keeps its low bits. Of a list that is longer than its array (a count in
+ *   8 bits is first taken modulo 256), the first elements arrive, with their count. Of a bytes value that is longer
+ *   than its array, the first bytes arrive; a shorter one is followed by zeros. `data` may be null if `length` is 0; it
+ *   must not overlap `record`. Nothing is allocated, for any input.
  *
  * Stack
  *   An encode adapter needs at most 12 KiB, a decode adapter at most 4 KiB.

@@ -1,6 +1,6 @@
 /* Application records and adapters of reconciliation: start, session states, replay, complete.
  *
- * What all adapters do with counts, texts, short buffers and bad input: adapter_contract.h. */
+ * Counts, texts, short buffers and malformed input are the same for all adapters: adapter_contract.h. */
 #ifndef TUM_NAL_NAL_RECONCILIATION_H
 #define TUM_NAL_NAL_RECONCILIATION_H
 
@@ -138,83 +138,83 @@ typedef struct tum_nal_data_rec_sess_replay_resp {
 } tum_nal_data_rec_sess_replay_resp;
 
 /* Encodes one rec_start_req message into `buffer` (`capacity` bytes; may be null if 0). Returns the size needed in
- * bytes; above `capacity`, the output was cut: do not send it. */
+ * bytes. If it is above `capacity`, the output is truncated: do not send it. */
 MAVA_TUM_API uint64_t tum_nal_data_gpb_encode_tum_rec_start_req(
     const tum_nal_data_rec_start_req *record, uint8_t *buffer, uint32_t capacity);
 
-/* Decodes the rec_start_req message in the `length` bytes at `data` into `record`, all of which is overwritten. The
- * message's field 3 arrives in `field_1`; its fields 1 and 2 are dropped. Reports nothing; of a malformed message
- * the part before the fault arrives. */
+/* Decodes the rec_start_req message in the `length` bytes at `data` into `record`, which is overwritten completely. The
+ * message's field 3 arrives in `field_1`; its fields 1 and 2 are dropped. Reports nothing: of a malformed message, the
+ * fields before the fault arrive. */
 MAVA_TUM_API void tum_nal_data_gpb_decode_tum_rec_start_req(
     const uint8_t *data, uint32_t length, tum_nal_data_rec_start_req *record);
 
-/* Encodes one rec_resp message into `buffer` (`capacity` bytes; may be null if 0). Returns the size needed in bytes;
- * above `capacity`, the output was cut: do not send it. */
+/* Encodes one rec_resp message into `buffer` (`capacity` bytes; may be null if 0). Returns the size needed in bytes. If
+ * it is above `capacity`, the output is truncated: do not send it. */
 MAVA_TUM_API uint64_t tum_nal_data_gpb_encode_tum_rec_start_res(
     const tum_nal_data_rec_res *record, uint8_t *buffer, uint32_t capacity);
 
-/* Decodes the rec_resp message in the `length` bytes at `data` into `record`, all of which is overwritten. Reports
- * nothing; of a malformed message the part before the fault arrives. */
+/* Decodes the rec_resp message in the `length` bytes at `data` into `record`, which is overwritten completely. Reports
+ * nothing: of a malformed message, the fields before the fault arrive. */
 MAVA_TUM_API void tum_nal_data_gpb_decode_tum_rec_start_res(
     const uint8_t *data, uint32_t length, tum_nal_data_rec_res *record);
 
-/* Encodes one rec_complete_req message into `buffer` (`capacity` bytes; may be null if 0). Returns the size needed
- * in bytes; above `capacity`, the output was cut: do not send it. */
+/* Encodes one rec_complete_req message into `buffer` (`capacity` bytes; may be null if 0). Returns the size needed in
+ * bytes. If it is above `capacity`, the output is truncated: do not send it. */
 MAVA_TUM_API uint64_t tum_nal_data_gpb_encode_tum_rec_complete_req(
     const tum_nal_data_rec_complete_req *record, uint8_t *buffer, uint32_t capacity);
 
-/* Decodes the rec_complete_req message in the `length` bytes at `data` into `record`, all of which is overwritten.
- * Reports nothing; of a malformed message the part before the fault arrives. */
+/* Decodes the rec_complete_req message in the `length` bytes at `data` into `record`, which is overwritten completely.
+ * Reports nothing: of a malformed message, the fields before the fault arrive. */
 MAVA_TUM_API void tum_nal_data_gpb_decode_tum_rec_complete_req(
     const uint8_t *data, uint32_t length, tum_nal_data_rec_complete_req *record);
 
-/* Encodes one rec_resp message into `buffer` (`capacity` bytes; may be null if 0). Returns the size needed in bytes;
- * above `capacity`, the output was cut: do not send it. */
+/* Encodes one rec_resp message into `buffer` (`capacity` bytes; may be null if 0). Returns the size needed in bytes. If
+ * it is above `capacity`, the output is truncated: do not send it. */
 MAVA_TUM_API uint64_t tum_nal_data_gpb_encode_tum_rec_complete_res(
     const tum_nal_data_rec_res *record, uint8_t *buffer, uint32_t capacity);
 
-/* Decodes the rec_resp message in the `length` bytes at `data` into `record`, all of which is overwritten. Reports
- * nothing; of a malformed message the part before the fault arrives. */
+/* Decodes the rec_resp message in the `length` bytes at `data` into `record`, which is overwritten completely. Reports
+ * nothing: of a malformed message, the fields before the fault arrive. */
 MAVA_TUM_API void tum_nal_data_gpb_decode_tum_rec_complete_res(
     const uint8_t *data, uint32_t length, tum_nal_data_rec_res *record);
 
 /* Encodes one rec_sess_req message into `buffer` (`capacity` bytes; may be null if 0). Returns the size needed in
- * bytes; above `capacity`, the output was cut: do not send it. */
+ * bytes. If it is above `capacity`, the output is truncated: do not send it. */
 MAVA_TUM_API uint64_t tum_nal_data_gpb_encode_tum_rec_sess_req(
     const tum_nal_data_rec_sess_req *record, uint8_t *buffer, uint32_t capacity);
 
-/* Decodes the rec_sess_req message in the `length` bytes at `data` into `record`, all of which is overwritten.
- * Reports nothing; of a malformed message the part before the fault arrives. */
+/* Decodes the rec_sess_req message in the `length` bytes at `data` into `record`, which is overwritten completely.
+ * Reports nothing: of a malformed message, the fields before the fault arrive. */
 MAVA_TUM_API void tum_nal_data_gpb_decode_tum_rec_sess_req(
     const uint8_t *data, uint32_t length, tum_nal_data_rec_sess_req *record);
 
 /* Encodes one rec_sess_resp message into `buffer` (`capacity` bytes; may be null if 0). Returns the size needed in
- * bytes; above `capacity`, the output was cut: do not send it. */
+ * bytes. If it is above `capacity`, the output is truncated: do not send it. */
 MAVA_TUM_API uint64_t tum_nal_data_gpb_encode_tum_rec_sess_res(
     const tum_nal_data_rec_sess_res *record, uint8_t *buffer, uint32_t capacity);
 
-/* Decodes the rec_sess_resp message in the `length` bytes at `data` into `record`, all of which is overwritten.
- * Reports nothing; of a malformed message the part before the fault arrives. */
+/* Decodes the rec_sess_resp message in the `length` bytes at `data` into `record`, which is overwritten completely.
+ * Reports nothing: of a malformed message, the fields before the fault arrive. */
 MAVA_TUM_API void tum_nal_data_gpb_decode_tum_rec_sess_res(
     const uint8_t *data, uint32_t length, tum_nal_data_rec_sess_res *record);
 
-/* Encodes one rec_sess_replay_req message into `buffer` (`capacity` bytes; may be null if 0). Returns the size
- * needed in bytes; above `capacity`, the output was cut: do not send it. */
+/* Encodes one rec_sess_replay_req message into `buffer` (`capacity` bytes; may be null if 0). Returns the size needed
+ * in bytes. If it is above `capacity`, the output is truncated: do not send it. */
 MAVA_TUM_API uint64_t tum_nal_data_gpb_encode_tum_rec_sess_replay_req(
     const tum_nal_data_rec_sess_replay_req_encode *record, uint8_t *buffer, uint32_t capacity);
 
-/* Decodes the rec_sess_replay_req message in the `length` bytes at `data` into `record`, all of which is
- * overwritten. Reports nothing; of a malformed message the part before the fault arrives. */
+/* Decodes the rec_sess_replay_req message in the `length` bytes at `data` into `record`, which is overwritten
+ * completely. Reports nothing: of a malformed message, the fields before the fault arrive. */
 MAVA_TUM_API void tum_nal_data_gpb_decode_tum_rec_sess_replay_req(
     const uint8_t *data, uint32_t length, tum_nal_data_rec_sess_replay_req_decode *record);
 
-/* Encodes one rec_sess_replay_resp message into `buffer` (`capacity` bytes; may be null if 0). Returns the size
- * needed in bytes; above `capacity`, the output was cut: do not send it. */
+/* Encodes one rec_sess_replay_resp message into `buffer` (`capacity` bytes; may be null if 0). Returns the size needed
+ * in bytes. If it is above `capacity`, the output is truncated: do not send it. */
 MAVA_TUM_API uint64_t tum_nal_data_gpb_encode_tum_rec_sess_replay_resp(
     const tum_nal_data_rec_sess_replay_resp *record, uint8_t *buffer, uint32_t capacity);
 
-/* Decodes the rec_sess_replay_resp message in the `length` bytes at `data` into `record`, all of which is
- * overwritten. Reports nothing; of a malformed message the part before the fault arrives. */
+/* Decodes the rec_sess_replay_resp message in the `length` bytes at `data` into `record`, which is overwritten
+ * completely. Reports nothing: of a malformed message, the fields before the fault arrive. */
 MAVA_TUM_API void tum_nal_data_gpb_decode_tum_rec_sess_replay_resp(
     const uint8_t *data, uint32_t length, tum_nal_data_rec_sess_replay_resp *record);
 

@@ -1,6 +1,6 @@
 /* Application records and adapters of subscriber routes.
  *
- * What all adapters do with counts, texts, short buffers and bad input: adapter_contract.h. */
+ * Counts, texts, short buffers and malformed input are the same for all adapters: adapter_contract.h. */
 #ifndef TUM_NAL_NAL_ROUTES_H
 #define TUM_NAL_NAL_ROUTES_H
 
@@ -64,23 +64,23 @@ typedef struct tum_nal_data_subscriber_route_resp {
     char field_4[65]; /* 4: not empty */
 } tum_nal_data_subscriber_route_resp;
 
-/* Encodes a batch of routes as one sub_route message into `buffer` (`capacity` bytes; may be null if 0).
- * Returns the size needed in bytes; above `capacity`, the output was cut: do not send it. */
+/* Encodes a batch of routes as one sub_route message into `buffer` (`capacity` bytes; may be null if 0). Returns the
+ * size needed in bytes. If it is above `capacity`, the output is truncated: do not send it. */
 MAVA_TUM_API uint64_t tum_nal_data_gpb_encode_tum_sub_route(
     const tum_nal_data_sub_route *record, uint8_t *buffer, uint32_t capacity);
 
-/* Decodes the sub_route message in the `length` bytes at `data` into `record`, all of which is overwritten. Reports
- * nothing; of a malformed message the part before the fault arrives. */
+/* Decodes the sub_route message in the `length` bytes at `data` into `record`, which is overwritten completely. Reports
+ * nothing: of a malformed message, the fields before the fault arrive. */
 MAVA_TUM_API void tum_nal_data_gpb_decode_tum_sub_route(
     const uint8_t *data, uint32_t length, tum_nal_data_sub_route *record);
 
-/* Encodes one subscriber_route_resp message into `buffer` (`capacity` bytes; may be null if 0). Returns the size
- * needed in bytes; above `capacity`, the output was cut: do not send it. */
+/* Encodes one subscriber_route_resp message into `buffer` (`capacity` bytes; may be null if 0). Returns the size needed
+ * in bytes. If it is above `capacity`, the output is truncated: do not send it. */
 MAVA_TUM_API uint64_t tum_nal_data_gpb_encode_tum_subscriber_route_resp(
     const tum_nal_data_subscriber_route_resp *record, uint8_t *buffer, uint32_t capacity);
 
-/* Decodes the subscriber_route_resp message in the `length` bytes at `data` into `record`, all of which is
- * overwritten. Reports nothing; of a malformed message the part before the fault arrives. */
+/* Decodes the subscriber_route_resp message in the `length` bytes at `data` into `record`, which is overwritten
+ * completely. Reports nothing: of a malformed message, the fields before the fault arrive. */
 MAVA_TUM_API void tum_nal_data_gpb_decode_tum_subscriber_route_resp(
     const uint8_t *data, uint32_t length, tum_nal_data_subscriber_route_resp *record);
 

@@ -1,6 +1,6 @@
 /* Application records and adapters of the messages about a session: its removal, the answer to an operation.
  *
- * What all adapters do with counts, texts, short buffers and bad input: adapter_contract.h. */
+ * Counts, texts, short buffers and malformed input are the same for all adapters: adapter_contract.h. */
 #ifndef TUM_NAL_NAL_SESSION_H
 #define TUM_NAL_NAL_SESSION_H
 
@@ -41,23 +41,23 @@ typedef struct tum_nal_data_sess_oper_resp {
     tum_nal_data_subscriber_stats field_9; /* 9: always */
 } tum_nal_data_sess_oper_resp;
 
-/* Encodes one session_delete message into `buffer` (`capacity` bytes; may be null if 0).
- * Returns the size needed in bytes; above `capacity`, the output was cut: do not send it. */
+/* Encodes one session_delete message into `buffer` (`capacity` bytes; may be null if 0). Returns the size needed in
+ * bytes. If it is above `capacity`, the output is truncated: do not send it. */
 MAVA_TUM_API uint64_t tum_nal_data_gpb_encode_tum_session_delete(
     const tum_nal_data_session_delete *record, uint8_t *buffer, uint32_t capacity);
 
-/* Decodes the session_delete message in the `length` bytes at `data` into `record`, all of which is overwritten.
- * Reports nothing; of a malformed message the part before the fault arrives. */
+/* Decodes the session_delete message in the `length` bytes at `data` into `record`, which is overwritten completely.
+ * Reports nothing: of a malformed message, the fields before the fault arrive. */
 MAVA_TUM_API void tum_nal_data_gpb_decode_tum_session_delete(
     const uint8_t *data, uint32_t length, tum_nal_data_session_delete *record);
 
-/* Encodes one sess_oper_resp message into `buffer` (`capacity` bytes; may be null if 0).
- * Returns the size needed in bytes; above `capacity`, the output was cut: do not send it. */
+/* Encodes one sess_oper_resp message into `buffer` (`capacity` bytes; may be null if 0). Returns the size needed in
+ * bytes. If it is above `capacity`, the output is truncated: do not send it. */
 MAVA_TUM_API uint64_t tum_nal_data_gpb_encode_tum_sess_oper_resp(
     const tum_nal_data_sess_oper_resp *record, uint8_t *buffer, uint32_t capacity);
 
-/* Decodes the sess_oper_resp message in the `length` bytes at `data` into `record`, all of which is overwritten.
- * Reports nothing; of a malformed message the part before the fault arrives. */
+/* Decodes the sess_oper_resp message in the `length` bytes at `data` into `record`, which is overwritten completely.
+ * Reports nothing: of a malformed message, the fields before the fault arrive. */
 MAVA_TUM_API void tum_nal_data_gpb_decode_tum_sess_oper_resp(
     const uint8_t *data, uint32_t length, tum_nal_data_sess_oper_resp *record);
 

@@ -1,6 +1,6 @@
 /* Application record and adapters of a whole subscriber session.
  *
- * What all adapters do with counts, texts, short buffers and bad input: adapter_contract.h. */
+ * Counts, texts, short buffers and malformed input are the same for all adapters: adapter_contract.h. */
 #ifndef TUM_NAL_NAL_SESSION_CONTEXT_H
 #define TUM_NAL_NAL_SESSION_CONTEXT_H
 
@@ -17,8 +17,8 @@ enum { TUM_NAL_SESSION_QOS_ENTRIES = 8, TUM_NAL_SESSION_IPV4_ROUTES = 4, TUM_NAL
 /* Bytes of the largest message that the encode adapter below makes. */
 enum { TUM_NAL_SESSION_CONTEXT_MAX_SIZE = 9207 };
 
-/* Bits of `feature_mask`. The mask is sent as it is; on encode its bits also decide which members are sent. On decode
- * they decide nothing: what the message holds arrives. Bits without a name here select nothing. */
+/* Bits of `feature_mask`. The mask is sent unchanged. On encode, its bits also decide which members are sent. On
+ * decode, they are ignored: everything in the message arrives. Bits without a name here select nothing. */
 enum {
     TUM_NAL_FEATURE_QOS = 1 << 0,             /* `qos` */
     TUM_NAL_FEATURE_REDIRECT = 1 << 1,        /* `redirect_...` */
@@ -47,7 +47,7 @@ enum {
     TUM_NAL_FEATURE_IPV6_PART_6 = 1 << 26     /* `ipv6_part_6`, `ipv6_value_7` */
 };
 
-/* Values of `session_value_1` that decide what of a session is sent. */
+/* Values of `session_value_1` that decide which members of a session are sent. */
 enum {
     TUM_NAL_SESSION_KIND_1 = 1, /* `session_identifier` is sent */
     TUM_NAL_SESSION_KIND_4 = 4  /* `session_identifier` and `session_value_9` are sent */
@@ -75,9 +75,9 @@ typedef struct tum_nal_data_qos_element {
 } tum_nal_data_qos_element;
 
 /* A subscriber session. The comment beside a member says when it is sent: "always", "non-zero" (a text: not empty), a
- * bit of the feature mask, or several of these together; the comment above a group holds for all of it, and its members
- * are then sent also when zero unless they say otherwise. A message always holds session data with a PPP record, both
- * of which may be empty. 8848 bytes. */
+ * bit of the feature mask, or several of these. The comment above a group applies to the whole group; its members are
+ * then sent also if zero, unless their comment has a condition. A message always has session data with a PPP record;
+ * both may be empty. 8848 bytes. */
 typedef struct tum_nal_data_session_context {
     uint32_t session_value_1; /* always; see TUM_NAL_SESSION_KIND_... */
     uint32_t session_value_2; /* always */
@@ -113,7 +113,7 @@ typedef struct tum_nal_data_session_context {
     uint8_t ppp_identifier[9]; /* TUM_NAL_FEATURE_PPP_IDENTIFIER */
     uint16_t ppp_value_6;      /* non-zero */
 
-    /* L2TP: TUM_NAL_FEATURE_L2TP and what stands beside the member. */
+    /* L2TP: TUM_NAL_FEATURE_L2TP, and the condition beside the member. */
     uint32_t l2tp_kind;      /* also when zero; TUM_NAL_L2TP_... */
     uint32_t l2tp_ipv4_2;    /* kind IPV4 and non-zero; host byte order */
     uint32_t l2tp_ipv4_3;    /* kind IPV4 and non-zero; host byte order */
@@ -189,14 +189,14 @@ typedef struct tum_nal_data_session_context {
     tum_nal_data_ipv6_route ipv6_routes[TUM_NAL_SESSION_IPV6_ROUTES];
 } tum_nal_data_session_context;
 
-/* Encodes a session as one session_context message into `buffer` (`capacity` bytes; may be null if 0).
- * Returns the size needed in bytes; above `capacity`, the output was cut: do not send it.
- * The message's field 6 (bytes) and field 9 of its QoS entries have no member here and are never sent. */
+/* Encodes a session as one session_context message into `buffer` (`capacity` bytes; may be null if 0). Returns the size
+ * needed in bytes. If it is above `capacity`, the output is truncated: do not send it. The message's field 6 (bytes)
+ * and field 9 of its QoS entries have no member here and are never sent. */
 MAVA_TUM_API uint64_t tum_nal_data_gpb_encode_tum_session_context(
     const tum_nal_data_session_context *record, uint8_t *buffer, uint32_t capacity);
 
-/* Decodes the session_context message in the `length` bytes at `data` into `record`, all of which is overwritten.
- * Reports nothing; of a malformed message the part before the fault arrives. */
+/* Decodes the session_context message in the `length` bytes at `data` into `record`, which is overwritten completely.
+ * Reports nothing: of a malformed message, the fields before the fault arrive. */
 MAVA_TUM_API void tum_nal_data_gpb_decode_tum_session_context(
     const uint8_t *data, uint32_t length, tum_nal_data_session_context *record);
 

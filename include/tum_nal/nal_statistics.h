@@ -1,6 +1,6 @@
 /* Application record and adapters of subscriber statistics.
  *
- * What all adapters do with counts, texts, short buffers and bad input: adapter_contract.h. */
+ * Counts, texts, short buffers and malformed input are the same for all adapters: adapter_contract.h. */
 #ifndef TUM_NAL_NAL_STATISTICS_H
 #define TUM_NAL_NAL_STATISTICS_H
 
@@ -47,13 +47,14 @@ typedef struct tum_nal_data_subscriber_stats {
     tum_nal_data_stats_block block_12;                           /* 12: `block_12_switch` non-zero */
 } tum_nal_data_subscriber_stats;
 
-/* Encodes statistics as one subscriber_stats message into `buffer` (`capacity` bytes; may be null if 0).
- * Returns the size needed in bytes (0 for an all-zero record); above `capacity`, the output was cut: do not send it. */
+/* Encodes statistics as one subscriber_stats message into `buffer` (`capacity` bytes; may be null if 0). Returns the
+ * size needed in bytes (0 for an all-zero record). If it is above `capacity`, the output is truncated: do not send
+ * it. */
 MAVA_TUM_API uint64_t tum_nal_data_gpb_encode_tum_subscriber_stats(
     const tum_nal_data_subscriber_stats *record, uint8_t *buffer, uint32_t capacity);
 
-/* Decodes the subscriber_stats message in the `length` bytes at `data` into `record`, all of which is overwritten.
- * Reports nothing; of a malformed message the part before the fault arrives. */
+/* Decodes the subscriber_stats message in the `length` bytes at `data` into `record`, which is overwritten completely.
+ * Reports nothing: of a malformed message, the fields before the fault arrive. */
 MAVA_TUM_API void tum_nal_data_gpb_decode_tum_subscriber_stats(
     const uint8_t *data, uint32_t length, tum_nal_data_subscriber_stats *record);
 

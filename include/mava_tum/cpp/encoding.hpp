@@ -59,7 +59,7 @@ public:
     }
 
 protected:
-    ~encoding() = default; // nobody owns a record through this
+    ~encoding() = default; // no record is destroyed through this base
 };
 
 } // namespace mava_tum::cpp

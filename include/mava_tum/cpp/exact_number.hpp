@@ -1,5 +1,5 @@
-// The value that a setter of a number takes. A number of another type could lose bits or its sign on the way into the
-// field without a word, so it is refused when the program is compiled:
+// The parameter of a setter of a number. A number of another type could lose bits or its sign unnoticed, so the
+// compiler rejects it:
 //
 //     vlan.set_field_1(5);             // a constant that is not negative
 //     vlan.set_field_1(number);        // std::uint32_t, or an unsigned type that is narrower

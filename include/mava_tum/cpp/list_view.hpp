@@ -110,7 +110,7 @@ private:
 
 // A null text, which stands in an array after a copy that ran out of memory, is shown as an empty one.
 struct show_text {
-    // The text as it stands in the record; not a copy.
+    // The text in the record; not a copy.
     std::string_view operator()(char *const &text) const noexcept
     {
         return text == nullptr ? std::string_view() : std::string_view(text);

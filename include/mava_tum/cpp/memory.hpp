@@ -12,8 +12,8 @@
 namespace mava_tum::cpp
 {
 
-// Says that nothing has to be given back, since all of it is taken back at once: as a
-// std::pmr::monotonic_buffer_resource does it.
+// Blocks need not be released one by one, since the resource releases everything at once: a
+// std::pmr::monotonic_buffer_resource.
 struct monotonic_t {
     explicit monotonic_t() = default; // not from {}
 };
@@ -47,7 +47,7 @@ public:
     {
     }
 
-    // True if blocks need not be given back.
+    // True if blocks need not be released.
     bool is_monotonic() const noexcept
     {
         return kind_ == kind::kept;
@@ -97,7 +97,7 @@ private:
     }
 
     // An empty bytes field asks for nothing, and a resource may answer that with null, which would be a refusal.
-    // Without exceptions there is nothing to catch: a resource that throws none the less ends the program.
+    // Without exceptions there is nothing to catch: a resource that throws still ends the program.
     static void *ask_resource(std::uint64_t size, void *resource) noexcept
     {
         if (!is_addressable(size))

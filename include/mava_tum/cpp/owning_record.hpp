@@ -100,7 +100,7 @@ public:
         blocks_.release_all();
     }
 
-    // To be read by whoever need not know who owns the record.
+    // A view, for code that does not need to know the owner of the record.
     typename message::view view() const &noexcept MAVA_TUM_LIFETIMEBOUND
     {
         return typename message::view(record_);
@@ -134,7 +134,7 @@ public:
     }
 
 protected:
-    ~owning_record() = default; // nobody owns a Derived through this
+    ~owning_record() = default; // no Derived is destroyed through this base
 
 private:
     static block_list *list_in(block_list &list) noexcept

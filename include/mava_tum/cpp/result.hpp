@@ -19,7 +19,7 @@ enum class [[nodiscard]] result : std::int32_t{
     no_memory = MAVA_TUM_NO_MEMORY,                         // a block was refused
 };
 
-// A sentence for a log. It stays for good.
+// A sentence for a log. It is valid until the program ends.
 constexpr std::string_view text_of(result code) noexcept
 {
     switch (code) {
