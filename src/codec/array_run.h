@@ -30,7 +30,7 @@ struct run_position {
 
     enum class follower { element, other_field, truncated };
 
-    // What stands behind the element that was read last.
+    // The bytes after the element that was read last.
     follower next()
     {
         if (at == end)

@@ -1,4 +1,4 @@
-// Memory through the caller's callbacks: the only way in which the codec obtains or gives back any.
+// Memory from the caller's callbacks: the codec allocates and releases only here.
 #pragma once
 
 #include "mava_tum/codec_contract.h"
@@ -29,7 +29,7 @@ struct block_sink {
         return (flags & MAVA_TUM_ALIAS) == 0;
     }
 
-    // Gives back the block behind `pointer` and nulls it; nothing happens when it is null already.
+    // Releases the block at `pointer` and sets it to null. A null pointer is ignored.
     template <class Value>
     void release(Value *&pointer) const
     {

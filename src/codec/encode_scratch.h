@@ -28,7 +28,7 @@ struct encode_scratch {
     uint64_t handed_over;
     bool failed = false; // something found no room, and what has been written since is void
 
-    // An element of the message itself starts anew at the front of the scratch buffer once this much has been written,
+    // An element of the message itself starts again at the front of the scratch buffer once this much has been written,
     // so that a large message stays within the nearest cache; a nested one cannot: lengths before it are still open.
     uint8_t *element_mark(nesting level) const
     {

@@ -11,7 +11,7 @@
 namespace mava_tum
 {
 
-// A zeroed array, or null. Counts beyond 32 bits cannot be told to the record.
+// A zeroed array, or null. The record cannot hold counts beyond 32 bits.
 template <class Element>
 [[gnu::always_inline]] inline Element *obtain_array(uint64_t count, const block_source &blocks)
 {

@@ -74,7 +74,7 @@ struct text_array : field_key<Number, wire_type::length_delimited> {
         return read_text_array(record.*Member, record.*CountMember, Number, at, end, context);
     }
 
-    // An element may be null after a duplicate that ran out of memory; it is left out.
+    // An element may be null after a duplicate whose allocation failed; it is not written.
     template <class Fields>
     [[gnu::always_inline]] static void describe(Fields &fields, const owner &record, uint32_t present)
     {

@@ -81,8 +81,8 @@ uint64_t encode_mapped(const typename Rows::record &record, uint8_t *buffer, uin
     memset(record, 0, bytes);
 }
 
-// L15: the decode result is dropped: of a malformed message the fields before the fault are delivered, and the caller
-// is told nothing.
+// L15: the decode result is dropped: of a malformed message the fields before the fault are delivered, and nothing is
+// reported.
 template <class Rows>
 void decode_mapped(typename Rows::record &record, const uint8_t *data, uint32_t length)
 {

@@ -1,5 +1,5 @@
 // The decode engine, in ordered rounds: a tag is compared with each field's whole tag in schema order, and when it
-// matches, value and next tag are read right there and the comparison goes on with the next field. Writers write in
+// matches, value and next tag are read there and the comparison continues with the next field. Writers write in
 // field order, so one round usually decodes the message and every branch predicts well.
 //
 // A form says where the values go:
@@ -21,7 +21,7 @@
 namespace mava_tum
 {
 
-// Where a decode stands: at a tag, of which only the first byte has been read. It lives in registers: everything that
+// The position of a decode: at a tag whose first byte has been read. It lives in registers: everything that
 // takes it is inlined.
 struct decode_position {
     const uint8_t *at;

@@ -1,4 +1,4 @@
-// A record's presence mask: field n owns bit n-1; the bits above the last field are spare and nobody's to change.
+// A record's presence mask: field n owns bit n-1; the bits above the last field are reserved; never modified.
 #pragma once
 
 #include <cstdint>
@@ -25,7 +25,7 @@ template <class Record>
     record.presence_mask = static_cast<mask>(record.presence_mask | present);
 }
 
-// Replaces the own bits of `record` and keeps the spare ones.
+// Replaces the own bits of `record` and keeps the reserved ones.
 template <class Record>
 [[gnu::always_inline]] inline void set_presence(Record &record, uint32_t own_bits, uint32_t present)
 {

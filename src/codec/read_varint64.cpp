@@ -24,12 +24,12 @@ static number_read<uint64_t> read_byte_by_byte(const uint8_t *at, const uint8_t 
     while (byte >= varint_continues) {
         if (at == end)
             return number_read<uint64_t>::truncated();
-        byte = *at++; // L1: further bytes are stepped over, however many
+        byte = *at++; // L1: any number of further bytes is skipped
     }
     return {at, value};
 }
 
-// Joins the groups of 7 bits that stand in the low bits of each byte: 7 to 14, to 28, to 56 bits.
+// Joins the groups of 7 bits in the low bits of each byte: 7 to 14, to 28, to 56 bits.
 static uint64_t join_groups(uint64_t groups)
 {
     groups = (groups & 0x007f007f007f007f) | (groups & 0x7f007f007f007f00) >> 1;

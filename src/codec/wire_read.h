@@ -115,7 +115,7 @@ template <uint32_t index>
     while (byte >= varint_continues) {
         if (at == end)
             return truncated;
-        byte = *at++; // L1: further bytes are stepped over, however many
+        byte = *at++; // L1: any number of further bytes is skipped
     }
     return {at, value};
 }
@@ -137,7 +137,7 @@ template <uint32_t index>
     return {length.next, length.value};
 }
 
-// Whether a length prefix of one byte and its whole payload stand at `at`.
+// Whether a length prefix of one byte and its whole payload are at `at`.
 [[gnu::always_inline]] inline bool is_short_payload(const uint8_t *at, const uint8_t *end)
 {
     return at != end && *at < varint_continues && *at < end - at;

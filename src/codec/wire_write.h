@@ -50,7 +50,7 @@ struct varint_shape {
     uint64_t bytes;
 };
 
-// Eight bytes, which one word holds, carry so many bits.
+// The bits of a varint of eight bytes, which one word holds.
 inline constexpr uint32_t word_varint_bits = 56;
 
 constexpr std::array<varint_shape, word_varint_bits> make_varint_shapes()

@@ -1,4 +1,4 @@
-// The data of one group, as it stands in the replay of a redundancy group.
+// The data of one group, in the replay of a redundancy group.
 #pragma once
 
 #include "messages/redundancy_group_schema.h"

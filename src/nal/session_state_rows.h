@@ -1,4 +1,4 @@
-// One session state, as it stands in the batches of a reconciliation.
+// One session state, in the batches of a reconciliation.
 #pragma once
 
 #include "messages/reconciliation_schema.h"
