@@ -1,5 +1,5 @@
 """Who owns what: three ways to receive the same kind of message, side by side."""
-from memory_table import blocks, members, whole
+from draw_record_memory import blocks, members, whole
 from svg_picture import Picture
 
 PANEL, LEFT = 278, 24

@@ -1,10 +1,40 @@
 """The memory of a decoded record: the record itself, and every block behind it."""
-from memory_table import blocks, members, whole
+from collections import namedtuple
+
 from svg_picture import Picture
 
 ROW, GAP = 30, 20
 RECORD, BLOCK, TEXT = (24, 330), (430, 210), (696, 160)  # left edge and width of each column
 TOP = 92
+
+
+# What picture_facts has printed: where a decoded record lies and points to.
+Row = namedtuple("Row", "where name offset size content target")
+
+
+def read_tables(path):
+    """A table without the alias bit, and one with it; each a list of rows by the place that contains them."""
+    tables = []
+    with open(path, encoding="utf-8") as file:
+        for line in file.read().splitlines():
+            if line.startswith("#"):
+                tables.append([])
+                continue
+            where, name, offset, size, content, target = line.split("\t")
+            tables[-1].append(Row(where, name, int(offset), int(size), content, target))
+    return tables
+
+
+def whole(table, where):
+    return next(row for row in table if row.where == where and row.name == "whole")
+
+
+def members(table, where):
+    return [row for row in table if row.where == where and row.name != "whole"]
+
+
+def blocks(table):
+    return [row for row in table if row.where.startswith("block") and row.name == "whole"]
 
 
 def rows_with_gaps(rows, size):

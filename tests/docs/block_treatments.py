@@ -4,9 +4,9 @@ import json
 import os
 import re
 import shlex
+import shutil
 import subprocess
 
-from block_commands import missing_commands
 from code_blocks import is_output
 
 WARNINGS = ["-Wall", "-Wextra", "-Wpedantic", "-Werror"]
@@ -15,6 +15,14 @@ STANDARDS = {"c": "-std=c11", "cpp": "-std=c++17"}
 SUFFIXES = {"c": ".c", "cpp": ".cpp"}
 HAS_MAIN = re.compile(r"^int main\(", re.MULTILINE)
 SECONDS = 120
+
+# Of a shell block that is not run, every command has to exist.
+SEPARATORS = {"&&", "||", "|", ";", "&", "(", ")", "|&"}
+# Words of the shell, and commands that lead to another command.
+SHELL_WORDS = {"cd", "export", "set", ".", "[", "test", "echo", "exit", "for", "in", "do", "done", "if", "then",
+               "else", "fi", "while", "until", "!", "{", "}", "true", "false", ":", "ulimit"}
+PREFIXES = {"sudo", "time", "nice", "env", "do", "then", "else", "!", "if", "while"}
+ASSIGNMENT = re.compile(r"^[A-Za-z_][A-Za-z0-9_]*=")
 
 
 class BlockError(Exception):
@@ -27,6 +35,37 @@ def same_output(expected, actual):
         return "\n".join(line.rstrip() for line in text.strip("\n").splitlines())
     pattern = re.escape(lines(expected)).replace(re.escape("..."), "(?:.|\n)*")
     return re.fullmatch(pattern, lines(actual)) is not None
+
+
+def commands_of(script):
+    """The words of a shell script that stand where a command does."""
+    found = []
+    for line in script.replace("\\\n", " ").splitlines():
+        words = shlex.shlex(line, posix=True, punctuation_chars=True)
+        words.whitespace_split = True
+        expecting = True
+        for word in words:
+            if word in SEPARATORS:
+                expecting = True
+            elif expecting and not ASSIGNMENT.match(word) and word not in PREFIXES:
+                found.append(word)
+                expecting = False
+    return found
+
+
+def is_there(command, project, path):
+    if command in SHELL_WORDS or shutil.which(command, path=path):
+        return True
+    # What a build makes is not there yet.
+    return command.startswith("build/") or os.access(os.path.join(project, command), os.X_OK)
+
+
+def missing_commands(script, project, path):
+    """What is wrong with a script that is not run: its syntax, or commands that nobody has."""
+    checked = subprocess.run(["bash", "-n"], input=script, text=True, capture_output=True, check=False)
+    if checked.returncode != 0:
+        return [checked.stderr.strip()]
+    return [f"there is no command {command}" for command in commands_of(script) if not is_there(command, project, path)]
 
 
 class Page:
