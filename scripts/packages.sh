@@ -1,7 +1,36 @@
-# Sourced by the scripts beside it: sees that Debian packages are installed.
+# shellcheck shell=sh
+# Sourced by the commands, in the project's folder: their arguments, and the Debian packages that they need.
+#   accept_arguments <most>|any "$@"
+# --help prints the comment at the head of the command. Options that this comment does not name, and more than <most>
+# other arguments, are refused with exit status 2. To be called before anything is installed.
 #   require_packages <package>...
 # Installs what is missing through apt where that is allowed (as root, or by sudo without a password); otherwise prints
-# the command to run and exits with 1.
+# the command to run and exits with 1. What apt says goes to build/packages.log.
+
+# The comment below the first line of the command, without its marks.
+head_of_command() {
+    for folder in scripts scripts/check bench reference/site bindings/wireshark; do
+        [ ! -f "$folder/${0##*/}" ] || sed -n '1d; /^#/!q; s/^# \{0,1\}//p' "$folder/${0##*/}"
+    done
+}
+
+refuse_argument() {
+    echo "${0##*/}: unknown argument '$1'; --help says which there are" >&2
+    exit 2
+}
+
+accept_arguments() {
+    most=$1
+    shift
+    found=0
+    for argument in "$@"; do
+        case $argument in
+        --help | -h) head_of_command && exit 0 ;;
+        -*) head_of_command | grep -qwFe "${argument%%=*}" || refuse_argument "$argument" ;;
+        *) found=$((found + 1)) && { [ "$most" = any ] || [ "$found" -le "$most" ] || refuse_argument "$argument"; } ;;
+        esac
+    done
+}
 
 # A program from elsewhere is as good as the one from the package: ask for the program where there is one.
 program_of_package() {
@@ -47,9 +76,13 @@ require_packages() {
         exit 1
     fi
     echo "Installing:$missing"
-    # One source of packages that does not answer need not be the one with these.
-    $as_root apt-get update -q || echo "apt-get update failed; going on with the lists that are here" >&2
-    # Both lists are words to be split.
+    mkdir -p build
+    # One source of packages that does not answer need not be the one with these. Both lists are words to be split.
     # shellcheck disable=SC2086
-    $as_root env DEBIAN_FRONTEND=noninteractive apt-get install -q -y --no-install-recommends $missing || exit 1
+    if ! { $as_root apt-get update -q || true
+        $as_root env DEBIAN_FRONTEND=noninteractive apt-get install -q -y --no-install-recommends $missing
+    } >build/packages.log 2>&1; then
+        echo "apt could not install$missing: without a network, install them first (build/packages.log)" >&2
+        exit 1
+    fi
 }
