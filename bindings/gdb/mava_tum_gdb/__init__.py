@@ -1,4 +1,4 @@
-"""Pretty printers of gdb for the records of libmava_tum: what is present, in the form in which people read it."""
+"""Pretty printers of gdb for the records of libmava_tum and the classes over them: what is present, in the form in which people read it."""
 
 from __future__ import annotations
 
@@ -7,6 +7,7 @@ import gdb.printing
 
 from .application_records import ApplicationRecordPrinter
 from .codec_records import CodecRecordPrinter
+from .cpp_layer import cpp_printer
 from .record_tables import APPLICATION_RECORDS, CODEC_RECORDS
 from .single_values import BytesPrinter
 
@@ -23,7 +24,7 @@ class RecordPrinters(gdb.printing.PrettyPrinter):
             return CodecRecordPrinter(tag, value)
         if tag in APPLICATION_RECORDS:
             return ApplicationRecordPrinter(tag, value)
-        return BytesPrinter(value) if tag == "mava_tum_bytes" else None
+        return BytesPrinter(value) if tag == "mava_tum_bytes" else cpp_printer(tag or "", value)
 
 
 def register(objfile: gdb.Objfile | None) -> None:

@@ -69,13 +69,15 @@ def read_or_say_why(value: gdb.Value) -> gdb.Value | str:
 
 
 class BytesPrinter:
-    """Prints a mava_tum_bytes: in hex, and what has the length of an IPv6 address also as such."""
+    """Prints a pointer to bytes and their number, as a mava_tum_bytes has them: in hex, and what has the length of an IPv6
+    address also as such."""
 
-    def __init__(self, value: gdb.Value) -> None:
-        self.value = value
+    def __init__(self, value: gdb.Value, data: str = "data", length: str = "length") -> None:
+        self.data = value[data]
+        self.length = value[length]
 
     def to_string(self) -> str:
-        length = int(self.value["length"])
+        length = int(self.length)
         try:
             content = self.beginning(min(length, shown_elements()))
         except gdb.error as error:
@@ -86,4 +88,4 @@ class BytesPrinter:
     def beginning(self, length: int) -> bytes:
         if not length:
             return b""
-        return bytes(gdb.selected_inferior().read_memory(int(self.value["data"]), length))
+        return bytes(gdb.selected_inferior().read_memory(int(self.data), length))
