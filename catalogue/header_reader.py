@@ -22,6 +22,7 @@ ITEMS = {kind: re.compile(pattern, re.DOTALL) for kind, pattern in {
     "comment": COMMENT,
     "include": r'#include ["<](?P<name>[\w./]+)[">]\n',
     "guard": r"#ifndef (?P<name>\w+_H)\n#define (?P=name)\n",
+    "macro": r"#define MAVA_TUM_VERSION\w* [^\n]+\n",
     "end": r"#endif\s*\Z",
     "extern": r'#ifdef __cplusplus\n(?:extern "C" \{|\})\n#endif\n',
     "export": r"#if !defined\(MAVA_TUM_API\)[^\n]*\n#define MAVA_TUM_API [^\n]+\n#elif [^\n]*\n#define MAVA_TUM_API\n#endif\n",

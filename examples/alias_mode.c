@@ -1,6 +1,7 @@
 /* Decodes a session whose bytes field is large, once copying it and once leaving it in the input, and counts what was
  * asked of the allocator. With the alias bit the input has to outlive the record, and free needs the bit, too.
  * Prints both counts and where the bytes are. */
+#include "mava_tum/presence_bits.h"
 #include "mava_tum/session_messages.h"
 
 #include <stdio.h>
@@ -34,9 +35,10 @@ static uint64_t make_message(uint8_t *wire, uint64_t capacity)
     static uint8_t content[4096];
     static char name[] = "user@example.com";
     memset(content, 0xA5, sizeof content);
-    mava_tum_session_context session = {.field_6 = {content, sizeof content}, .presence_mask = 1 << 5 | 1 << 9};
+    mava_tum_session_context session = {.field_6 = {content, sizeof content},
+        .presence_mask = MAVA_TUM_SESSION_CONTEXT_HAS_FIELD_6 | MAVA_TUM_SESSION_CONTEXT_HAS_SESSION_DATA};
     session.session_data.field_5 = name;
-    session.session_data.presence_mask = 1 << 4;
+    session.session_data.presence_mask = MAVA_TUM_SESSION_DATA_HAS_FIELD_5;
     return mava_tum_session_context_encode_ext(&session, wire, capacity, NULL, NULL, 0);
 }
 

@@ -2,6 +2,7 @@
  * the segments as they are. That works for messages without nested records (docs/alias-and-gather.md).
  * Prints what each segment is, and what the other end decodes. */
 #define _GNU_SOURCE /* writev */
+#include "mava_tum/presence_bits.h"
 #include "mava_tum/subscriber_records.h"
 
 #include <stdio.h>
@@ -58,8 +59,10 @@ int main(void)
 {
     static uint8_t content[content_bytes];
     memset(content, 0x5A, sizeof content);
-    const mava_tum_ppp_data record = {
-        .field_1 = 3, .field_5 = {content, sizeof content}, .field_6 = 9, .presence_mask = 1 << 0 | 1 << 4 | 1 << 5};
+    const mava_tum_ppp_data record = {.field_1 = 3,
+        .field_5 = {content, sizeof content},
+        .field_6 = 9,
+        .presence_mask = MAVA_TUM_PPP_DATA_HAS_FIELD_1 | MAVA_TUM_PPP_DATA_HAS_FIELD_5 | MAVA_TUM_PPP_DATA_HAS_FIELD_6};
     int ends[2];
     if (pipe(ends) != 0) {
         perror("gather_writev: pipe");

@@ -1,6 +1,7 @@
 /* Encodes into a buffer on the stack, which is large enough for most messages, and goes to the heap for the others. One
  * call for most messages, where size_then_encode makes two for all.
  * Prints for a small message and a large one where they were encoded. */
+#include "mava_tum/presence_bits.h"
 #include "mava_tum/statistics.h"
 
 #include <stdio.h>
@@ -39,9 +40,12 @@ static int encode_and_send(const mava_tum_stats *stats)
 
 int main(void)
 {
-    const mava_tum_stats quiet = {.field_1 = 12, .field_2 = 40, .presence_mask = 1 << 0 | 1 << 1};
-    const mava_tum_stats busy = {
-        .field_1 = 4000000000, .field_2 = 900000000, .field_3 = 70000000, .presence_mask = 1 << 0 | 1 << 1 | 1 << 2};
+    enum { both = MAVA_TUM_STATS_HAS_FIELD_1 | MAVA_TUM_STATS_HAS_FIELD_2 };
+    const mava_tum_stats quiet = {.field_1 = 12, .field_2 = 40, .presence_mask = both};
+    const mava_tum_stats busy = {.field_1 = 4000000000,
+        .field_2 = 900000000,
+        .field_3 = 70000000,
+        .presence_mask = both | MAVA_TUM_STATS_HAS_FIELD_3};
     if (!encode_and_send(&quiet) || !encode_and_send(&busy)) {
         fprintf(stderr, "short_buffer: a message was not sent\n");
         return 1;

@@ -1,5 +1,6 @@
 /* Asks how large a message will be, gets exactly that much memory, and encodes into it.
  * Prints the size asked for and the bytes that were written: the same number. */
+#include "mava_tum/presence_bits.h"
 #include "mava_tum/reconciliation.h"
 
 #include <stdio.h>
@@ -13,10 +14,11 @@ static void fill(mava_tum_rec_sess_req *request, mava_tum_rec_session_state *sta
     request->field_1 = 7;
     request->field_3 = states;
     request->field_3_count = count;
-    request->presence_mask = 1 << 0 | 1 << 2; /* field n has bit n-1 */
+    request->presence_mask = MAVA_TUM_REC_SESS_REQ_HAS_FIELD_1 | MAVA_TUM_REC_SESS_REQ_HAS_FIELD_3;
     for (uint32_t i = 0; i < count; ++i)
-        states[i] =
-            (mava_tum_rec_session_state){.field_1 = 100 + i, .field_2 = 1000 + i, .presence_mask = 1 << 0 | 1 << 1};
+        states[i] = (mava_tum_rec_session_state){.field_1 = 100 + i,
+            .field_2 = 1000 + i,
+            .presence_mask = MAVA_TUM_REC_SESSION_STATE_HAS_FIELD_1 | MAVA_TUM_REC_SESSION_STATE_HAS_FIELD_2};
 }
 
 int main(void)

@@ -5,12 +5,14 @@
 
 #include "mava_tum/codec_contract.h"
 #include "mava_tum/feature_records.h"
+#include "mava_tum/presence_bits.h"
 #include "mava_tum/reconciliation.h"
 #include "mava_tum/redundancy_group.h"
 #include "mava_tum/routes.h"
 #include "mava_tum/session_messages.h"
 #include "mava_tum/statistics.h"
 #include "mava_tum/subscriber_records.h"
+#include "mava_tum/version.h"
 
 #include "tum_nal/adapter_contract.h"
 #include "tum_nal/nal_queue.h"

@@ -1,6 +1,7 @@
 // What the pictures show, asked of the library itself: the bytes of a message, and the memory of a decoded one.
 //   picture_facts wire      the message of examples/first_session.c, in hex
 //   picture_facts memory    a session decoded with and without the alias bit: where each member lies and points to
+#include "mava_tum/presence_bits.h"
 #include "mava_tum/session_messages.h"
 #include "tum_nal/nal_session_context.h"
 
@@ -60,17 +61,20 @@ byte_vector session_wire()
     char gold[] = "gold", silver[] = "silver", user[] = "user@example.com";
     uint8_t mark[] = {0xAA, 0xBB, 0xCC, 0xDD};
     mava_tum_subscriber_qos qos[2] = {};
-    qos[0].field_1 = 1, qos[0].field_3 = gold, qos[0].presence_mask = 0b101;
-    qos[1].field_1 = 2, qos[1].field_3 = silver, qos[1].presence_mask = 0b101;
+    qos[0].field_1 = 1, qos[0].field_3 = gold,
+    qos[0].presence_mask = MAVA_TUM_SUBSCRIBER_QOS_HAS_FIELD_1 | MAVA_TUM_SUBSCRIBER_QOS_HAS_FIELD_3;
+    qos[1].field_1 = 2, qos[1].field_3 = silver,
+    qos[1].presence_mask = MAVA_TUM_SUBSCRIBER_QOS_HAS_FIELD_1 | MAVA_TUM_SUBSCRIBER_QOS_HAS_FIELD_3;
     mava_tum_session_context session = {};
     session.feature_mask = 1;
     session.field_6 = {mark, sizeof mark};
     session.subscriber_v4.ipv4_address = 0x110200C0; // 192.0.2.17 in network order
-    session.subscriber_v4.presence_mask = 0b10;
+    session.subscriber_v4.presence_mask = MAVA_TUM_SUBSCRIBER_V4_HAS_IPV4_ADDRESS;
     session.session_data.field_5 = user;
-    session.session_data.presence_mask = 1u << 4;
+    session.session_data.presence_mask = MAVA_TUM_SESSION_DATA_HAS_FIELD_5;
     session.qos = qos, session.qos_count = 2;
-    session.presence_mask = 1u << 4 | 1u << 5 | 1u << 10;
+    session.presence_mask = MAVA_TUM_SESSION_CONTEXT_HAS_FEATURE_MASK | MAVA_TUM_SESSION_CONTEXT_HAS_FIELD_6 |
+                            MAVA_TUM_SESSION_CONTEXT_HAS_QOS;
     byte_vector wire(mava_tum_session_context_encode_ext(&session, nullptr, 0, nullptr, nullptr, 0));
     mava_tum_session_context_encode_ext(&session, wire.data(), wire.size(), nullptr, nullptr, 0);
     return wire;

@@ -96,7 +96,8 @@ std::vector<size_t> widths_of(const std::vector<std::vector<std::string>> &rows)
 } // namespace
 
 session_table::session_table()
-    : m_rows{{"line id", "user", "IPv4", "IPv6 prefixes", "VLANs", "access", "QoS policies", "routes", "bytes"}}
+    : m_rows{{"session_text", "session_name", "ipv4_address", "ipv6_part_3, 6", "vlan_value_1/2", "access",
+          "qos text_3", "routes field_3/4", "bytes"}}
 {
 }
 

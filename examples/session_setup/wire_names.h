@@ -1,5 +1,6 @@
-// What the fields of a session on the wire are: number, name, and what a length-delimited one holds. The wire itself
-// names nothing and tells a text from a record by nothing, so whoever prints it needs this table.
+// What the fields of a session on the wire are: number, name, and what a length-delimited one holds. The names are those
+// of the members of the codec records. The wire itself names nothing and does not tell a text from a record, so a
+// program that prints it needs this table.
 #ifndef SESSION_SETUP_WIRE_NAMES_H
 #define SESSION_SETUP_WIRE_NAMES_H
 

@@ -199,7 +199,7 @@ const command all_commands[] = {
 void declare_all(CLI::App &program, command_options &options)
 {
     program.name(program_name);
-    program.set_version_flag("-V,--version", std::string(program_name) + " " + MAVA_TUM_VERSION);
+    program.set_version_flag("-V,--version", std::string(program_name) + " " + MAVA_TUM_COMMAND_VERSION);
     program.require_subcommand(1);
     program.footer(help::overview);
     for (const command &each : all_commands) {
