@@ -15,17 +15,17 @@ def without_empty(row: dict[str, Any]) -> dict[str, Any]:
     return {key: value for key, value in row.items() if value not in ("", None)}
 
 
-def field_row(field: Field) -> dict[str, Any]:
+def field_row(message: Message, field: Field) -> dict[str, Any]:
     return without_empty({
         "name": field.name, "number": field.number, "kind": FIELD_KINDS.get(field.kind, field.kind),
         "bit": field.number - 1, "bits": field.bits or None, "of": field.of,
-        "address": "ipv4" if field.is_ipv4 else "", "count": field.count})
+        "address": message.address_of(field), "count": field.count})
 
 
 def message_row(message: Message) -> dict[str, Any]:
     """The names of the parameters too: they differ between messages, and are passed by what they are called."""
     return {"c_type": message.c_type,
-            "fields": [field_row(each) for each in message.fields],
+            "fields": [field_row(message, each) for each in message.fields],
             "functions": {end: [name for _, name in function.named_parameters()]
                           for end, function in message.functions.items()}}
 

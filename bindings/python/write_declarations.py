@@ -1,7 +1,7 @@
 """Writes the module `mava_tum._declarations`: the declarations of the public headers in the form that cffi loads
 without a compiler and without parsing C again.
 
-    write_declarations.py <include folder> <file to write>"""
+    write_declarations.py <include folder> <file to write> [<further header>...]"""
 
 from __future__ import annotations
 
@@ -12,12 +12,14 @@ import cffi
 
 sys.path.insert(0, str(Path(__file__).resolve().parents[2] / "catalogue"))
 
-from header_reader import read_headers, without_comments  # noqa: E402  (found by the line above)
+from header_reader import HeaderReader, read_headers, without_comments  # noqa: E402  (found by the line above)
 
 
 def main(arguments: list[str]) -> int:
-    include_folder, output = (Path(each) for each in arguments)
-    texts = [each.text for header in read_headers(include_folder) for each in header.declarations]
+    include_folder, output, *others = (Path(each) for each in arguments)
+    headers = [*read_headers(include_folder),
+               *(HeaderReader().read(each.name, each.read_text(encoding="utf-8")) for each in others)]
+    texts = [each.text for header in headers for each in header.declarations]
     builder = cffi.FFI()
     builder.cdef(without_comments("\n".join(texts)).replace("MAVA_TUM_API ", ""))
     builder.set_source("mava_tum._declarations", None)

@@ -2,6 +2,7 @@
 
     decode, encode            one of the 40 messages, as a dict of the fields that are present
     app_decode, app_encode    the same through one of the 19 adapters, as a dict of the application's record
+    to_json, app_to_json      such a dict with values that JSON has, in the form of the command mava-tum
     app_unsent                which members of such a record are not sent, and why
     messages, adapters        the names that these take
     fields, app_members       what a dict may hold
@@ -15,7 +16,9 @@ from .application_reader import app_decode
 from .application_writer import app_encode
 from .codec_reader import decode
 from .codec_writer import encode
+from ._location import VERSION as __version__
 from .errors import DecodeError, Error, FieldTypeError, FieldValueError, LibraryError, UnknownNameError
+from .json_form import app_to_json, to_json
 from .schema import CONSTANTS as constants
 from .schema import ADAPTERS, APPLICATION_RECORDS, MESSAGES, Field, Member, find_adapter, find_message
 from .unsent_members import app_unsent
@@ -29,16 +32,19 @@ __all__ = [
     "LibraryError",
     "Member",
     "UnknownNameError",
+    "__version__",
     "adapters",
     "app_decode",
     "app_encode",
     "app_members",
+    "app_to_json",
     "app_unsent",
     "constants",
     "decode",
     "encode",
     "fields",
     "messages",
+    "to_json",
 ]
 
 

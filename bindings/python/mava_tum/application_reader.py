@@ -6,7 +6,7 @@ from typing import Any
 
 from .library import ffi, library
 from .schema import APPLICATION_RECORDS, Member, find_adapter
-from .values import APPLICATION_ORDER, from_bytes, to_dotted, to_number, to_text
+from .values import APPLICATION_ORDER, to_dotted, to_number, to_text, wire_bytes
 
 LENGTH_BITS = 32  # of the adapters' length parameter
 
@@ -18,7 +18,7 @@ def app_decode(name: str, data: bytes | bytearray | memoryview, *, dotted: bool 
 
     An adapter reports nothing: of a malformed message the part before the fault arrives. Ask `decode` for a verdict."""
     adapter = find_adapter(name)
-    content = from_bytes("data", data)
+    content = wire_bytes("data", data)
     record = ffi.new(f"{adapter.decode} *")
     length = to_number("length of data", len(content), LENGTH_BITS)
     getattr(library, f"tum_nal_data_gpb_decode_tum_{name}")(ffi.from_buffer("uint8_t[]", content), length, record)

@@ -6,10 +6,10 @@ from typing import Any
 
 from .calls import call_codec
 from .errors import DecodeError
-from .library import ffi, library
+from .library import ffi, inspect_library, library
 from .memory import DEFAULT_LIMIT, Blocks, LimitReached
 from .schema import MESSAGES, RESULTS, Field, Message, find_message
-from .values import CODEC_ORDER, from_bytes, to_dotted, to_text
+from .values import CODEC_ORDER, to_dotted, to_text, wire_bytes
 
 
 def decode(name: str, data: bytes | bytearray | memoryview, *, dotted: bool = False,
@@ -21,7 +21,7 @@ def decode(name: str, data: bytes | bytearray | memoryview, *, dotted: bool = Fa
     message = find_message(name)
     record = ffi.new(f"{message.c_type} *")
     # A copy, unless it is bytes: nobody may change the input while it is read.
-    content = from_bytes("data", data)
+    content = wire_bytes("data", data)
     with Blocks(memory_limit) as blocks, ffi.from_buffer("uint8_t[]", content) as buffer:
         # Aliased: bytes fields need no block, and the input stays where it is until they have been read.
         arguments = {"record": record, "data": buffer, "length": len(buffer), "flags": library.MAVA_TUM_ALIAS,
@@ -34,17 +34,30 @@ def decode(name: str, data: bytes | bytearray | memoryview, *, dotted: bool = Fa
         finally:
             call_codec(message, "free_ext", arguments)
         if result != library.MAVA_TUM_OK:
-            raise _decode_error(message, result, fields, blocks)
+            raise _decode_error(message, result, fields, blocks, content)
     return fields
 
 
-def _decode_error(message: Message, result: int, partial: dict[str, Any], blocks: Blocks) -> DecodeError:
+def _place_of_fault(message: Message, result: int, content: bytes) -> tuple[str | None, int | None]:
+    """The field and the byte, as the inspector's library judges."""
+    inspect = inspect_library()
+    if inspect is None:
+        return None, None
+    verdict = ffi.new("mava_tum_inspect_verdict *")
+    inspect.mava_tum_inspect_judge(message.name.encode(), ffi.from_buffer("uint8_t[]", content), len(content), verdict)
+    if verdict.result != result:  # the message is well formed: memory ran out
+        return None, None
+    return ffi.string(verdict.path).decode(), verdict.offset
+
+
+def _decode_error(message: Message, result: int, partial: dict[str, Any], blocks: Blocks,
+                  content: bytes) -> DecodeError:
     name, text = RESULTS[result]
     if blocks.refused:
         text = "decoding takes more memory than " + (
             "this machine has" if blocks.limit is None else f"memory_limit = {blocks.limit} bytes; pass a larger "
             "limit, or None for no limit, if you trust the sender")
-    return DecodeError(message.name, result, name, text, partial)
+    return DecodeError(message.name, result, name, text, partial, *_place_of_fault(message, result, content))
 
 
 def read_record(message: Message, record: Any, dotted: bool, blocks: Blocks) -> dict[str, Any]:

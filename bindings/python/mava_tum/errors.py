@@ -40,10 +40,15 @@ class DecodeError(Error, ValueError):
     """The bytes are no such message.
 
     `result` is the library's result code, `result_name` what the headers call it, `partial` the fields that were
-    decoded before the fault."""
+    decoded before the fault. `path` is the field with the fault ("qos[2].field_3", "" for the message itself) and
+    `offset` the byte where the fault begins; both are None without the inspector's library, or if memory ran out."""
 
-    def __init__(self, message: str, result: int, result_name: str, text: str, partial: dict[str, Any]) -> None:
-        super().__init__(f"{message}: {result_name} ({result}): {text}")
+    def __init__(self, message: str, result: int, result_name: str, text: str, partial: dict[str, Any],
+                 path: str | None = None, offset: int | None = None) -> None:
+        place = "" if offset is None else f" (at byte {offset}{', in ' + path if path else ''})"
+        super().__init__(f"{message}: {result_name} ({result}): {text}{place}")
+        self.path = path
+        self.offset = offset
         self.message = message
         self.result = result
         self.result_name = result_name

@@ -1,38 +1,52 @@
 """The shared library, loaded once.
 
 The module `_declarations` holds what the headers declare; nothing is compiled here. Which file is loaded: the one that
-the environment variable LIBMAVA_TUM names; the one installed in the same tree as this package; the one that the
-system's loader finds by its SONAME."""
+the environment variable LIBMAVA_TUM names; the one in the folder of this package, as in a wheel; the one installed in
+the same tree as this package; the one that the system's loader finds by its SONAME. The inspector's library, which says
+where a message is malformed, is looked for in the same way (LIBMAVA_TUM_INSPECT), and may be missing."""
 
 from __future__ import annotations
 
+import functools
 import os
 from pathlib import Path
 from typing import Any
 
 from ._declarations import ffi
-from ._location import LIBRARY_FROM_PACKAGE, SONAME
+from ._location import INSPECT_SONAME, LIBRARIES_FROM_PACKAGE, SONAME
 from .errors import LibraryError
 
-__all__ = ["ffi", "library", "load"]
+__all__ = ["ffi", "inspect_library", "library", "load"]
 
 
-def _file_to_load() -> str:
-    chosen = os.environ.get("LIBMAVA_TUM")
+def _file_to_load(variable: str, soname: str) -> str:
+    chosen = os.environ.get(variable)
     if chosen:
         return chosen
-    same_tree = Path(__file__).parent / LIBRARY_FROM_PACKAGE
-    return str(same_tree.resolve()) if same_tree.exists() else SONAME
+    package = Path(__file__).parent
+    for path in (package / soname, package / LIBRARIES_FROM_PACKAGE / soname):
+        if path.exists():
+            return str(path.resolve())
+    return soname
 
 
 def load() -> Any:
     """The library's functions and constants as attributes."""
-    name = _file_to_load()
+    name = _file_to_load("LIBMAVA_TUM", SONAME)
     try:
         return ffi.dlopen(name)
     except OSError as error:
         raise LibraryError(f"{name} cannot be loaded ({error}); install libmava-tum1, or let LIBMAVA_TUM name "
                            "the file") from error
+
+
+@functools.lru_cache(maxsize=None)
+def inspect_library() -> Any | None:
+    """The functions of the inspector's library; None where it is not installed."""
+    try:
+        return ffi.dlopen(_file_to_load("LIBMAVA_TUM_INSPECT", INSPECT_SONAME))
+    except OSError:
+        return None
 
 
 library = load()

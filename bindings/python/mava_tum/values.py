@@ -4,6 +4,7 @@ from __future__ import annotations
 
 import ipaddress
 import operator
+from collections.abc import Mapping
 from typing import Any, Literal
 
 from .errors import FieldTypeError, FieldValueError
@@ -42,8 +43,8 @@ def to_number(path: str, value: Any, bits: int) -> int:
 
 
 def to_number_or_address(path: str, value: Any, bits: int, address: str, order: ByteOrder) -> int:
-    if address == "ipv4" and isinstance(value, str):
-        return from_dotted(path, value, order)
+    if address == "ipv4" and isinstance(value, (str, ipaddress.IPv4Address)):
+        return from_dotted(path, str(value), order)
     return to_number(path, value, bits)
 
 
@@ -52,7 +53,36 @@ def to_text(raw: bytes) -> str:
     return raw.decode("utf-8", "surrogateescape")
 
 
+def tagged_bytes(path: str, value: Any) -> bytes | None:
+    """The bytes of {"hex": "..."} or {"text": "..."}, the forms that JSON has for what is not what it looks like."""
+    if not isinstance(value, Mapping) or len(value) != 1:
+        return None
+    (tag, content), = value.items()
+    if tag not in ("hex", "text") or not isinstance(content, str):
+        return None
+    return from_hex(f"{path}.hex", content) if tag == "hex" else content.encode("utf-8", "surrogateescape")
+
+
+def from_hex(path: str, digits: str) -> bytes:
+    try:
+        return bytes.fromhex(digits)
+    except ValueError:
+        raise FieldValueError(f"{path}: {digits!r} is neither hex digits nor an IPv6 address") from None
+
+
+def from_hex_or_address(path: str, text: str) -> bytes:
+    if ":" not in text:
+        return from_hex(path, text)
+    try:
+        return ipaddress.IPv6Address(text).packed
+    except ValueError:
+        raise FieldValueError(f"{path}: {text!r} is no IPv6 address") from None
+
+
 def from_text(path: str, value: Any) -> bytes:
+    tagged = tagged_bytes(path, value)
+    if tagged is not None:
+        value = to_text(tagged)
     if not isinstance(value, str):
         raise FieldTypeError(f"{path}: takes str, not {type(value).__name__}")
     if "\0" in value:
@@ -64,6 +94,16 @@ def from_text(path: str, value: Any) -> bytes:
 
 
 def from_bytes(path: str, value: Any) -> bytes:
+    """The content of a bytes field: bytes, an IPv6 address, or what JSON has for them."""
+    if isinstance(value, ipaddress.IPv6Address):
+        return value.packed
+    if isinstance(value, str):
+        return from_hex_or_address(path, value)
+    tagged = tagged_bytes(path, value)
+    return wire_bytes(path, value) if tagged is None else tagged
+
+
+def wire_bytes(path: str, value: Any) -> bytes:
     if not isinstance(value, (bytes, bytearray, memoryview)):
         raise FieldTypeError(f"{path}: takes bytes, not {type(value).__name__}")
     return bytes(value)

@@ -38,6 +38,7 @@ ERRORS = (
     raised(mava_tum.encode, "vlan_info", {"field_1": "text"}),
     raised(mava_tum.encode, "vlan_info", {"field_1": -1}),
     raised(mava_tum.decode, "session_context", MALFORMED),
+    mava_tum.DecodeError("vlan_info", -1, "MAVA_TUM_TRUNCATED", "a text", {"field_1": 1}, "field_2", 3),
     raised(lambda: mava_tum.decode("rec_sess_replay_req", bytes.fromhex("22 00"), memory_limit=1)),
     noted(raised(mava_tum.decode, "session_context", MALFORMED)),
 )

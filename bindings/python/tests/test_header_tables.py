@@ -23,10 +23,12 @@ def test_the_tables_hold_all_messages_adapters_and_results() -> None:
 
 def test_addresses_are_known_as_addresses() -> None:
     codec = {(name, field.name) for name, message in MESSAGES.items() for field in message.fields.values()
-             if field.address}
+             if field.address == "ipv4"}
     assert codec == {("subscriber_v4", "ipv4_address"), ("l2tp_data", "field_2"), ("l2tp_data", "field_3"),
                      ("subscriber_li", "field_7"), ("subscriber_route_ipv4", "field_3"),
                      ("subscriber_route_ipv4", "field_5")}
+    assert all(field.kind == {"ipv4": "fixed32", "ipv6": "bytes"}[field.address] for message in MESSAGES.values()
+               for field in message.fields.values() if field.address)
     application = {member.name for members in APPLICATION_RECORDS.values() for member in members.values()
                    if member.address == "ipv4"}
     assert application == {"ipv4_address", "l2tp_ipv4_2", "l2tp_ipv4_3", "intercept_ipv4_address", "field_3", "field_5"}
