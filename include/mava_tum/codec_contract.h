@@ -29,8 +29,9 @@
  *
  * Records
  *   Fields are in the order of their numbers; `presence_mask` is the last member. Field number n owns bit n-1 of the
- *   mask, which has its name in presence_bits.h. A decode sets the bit of each field that it stores. An encode writes a scalar, a bytes field, a text or an
- *   array only if its bit is set. Reserved bits belong to no field; no function modifies them.
+ *   mask; presence_bits.h has a name for each. A decode sets the bit of each field that it stores. An encode writes a
+ *   scalar, a bytes field, a text or an array only if its bit is set. Reserved bits belong to no field; no function
+ *   modifies them.
  *     varint, fixed32   an unsigned integer in host byte order. The four bytes of an IPv4 address are in network
  *                       order on the wire: 192.0.2.1 is 0x010200C0, on every host.
  *     bytes             a `mava_tum_bytes`: pointer and length in bytes. Length 0 is a valid value; the pointer

@@ -13,7 +13,8 @@ IPV6_BYTES = 16
 
 
 def to_json(name: str, fields: Mapping[str, Any]) -> dict[str, Any]:
-    """What `decode` returned, of values that `json.dumps` takes: bytes in hex, addresses as texts. `encode` takes it."""
+    """What `decode` returned, of values that `json.dumps` takes: bytes in hex, addresses as texts. `encode` takes it
+    back."""
     return _record(find_message(name).fields, fields, CODEC_ORDER)
 
 

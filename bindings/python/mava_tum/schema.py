@@ -19,7 +19,8 @@ LIKENESS = 0.5  # from 0 for names without a common letter to 1 for the same nam
 @dataclass(frozen=True)
 class Field:
     """A field of a message. `bits` is the width of a number, `of` the message of a record or of an array's elements,
-    `count` the C member that counts an array, `address` is "ipv4" for numbers and "ipv6" for bytes that are addresses."""
+    `count` the C member that counts an array, `address` is "ipv4" for numbers that are addresses, "ipv6" for
+    bytes."""
 
     name: str
     number: int
