@@ -40,7 +40,7 @@ class DecodeError(Error, ValueError):
     """The bytes are no such message.
 
     `result` is the library's result code, `result_name` what the headers call it, `partial` the fields that were
-    decoded before the fault. `path` is the field with the fault ("qos[2].field_3", "" for the message itself) and
+    decoded before the fault. `path` is the field with the fault ("qos[2].field_3", "#3" of an unknown field) and
     `offset` the byte where the fault begins; both are None without the inspector's library, or if memory ran out."""
 
     def __init__(self, message: str, result: int, result_name: str, text: str, partial: dict[str, Any],

@@ -14,7 +14,7 @@ CASES = [
     ("session_context", "08 07 42 05 0D", -1, "subscriber_v4", 3),
     ("session_context", "5A 03 1A 01 41 08 07 5A 00", -1, "qos", 7),
     ("vlan_info", "0D 01 02 03 04", -3, "field_1", 0),
-    ("vlan_info", "08 01 13", -2, "", 2),
+    ("vlan_info", "08 01 1B", -2, "#3", 2),
 ]
 
 
