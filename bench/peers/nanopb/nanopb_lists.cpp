@@ -1,5 +1,4 @@
 // The messages that are lists: routes, statistics and session states.
-#include "peers/nanopb/nanopb_fields.h"
 #include "peers/nanopb/nanopb_records.h"
 
 namespace bench

@@ -1,4 +1,3 @@
-#include "peers/nanopb/nanopb_fields.h"
 #include "peers/nanopb/nanopb_records.h"
 
 namespace bench

@@ -1,5 +1,4 @@
 // The messages that are lists: routes, statistics and session states.
-#include "peers/protobuf/peer_fields.h"
 #include "peers/protobuf/protobuf_records.h"
 
 namespace bench

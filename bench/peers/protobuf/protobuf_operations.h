@@ -3,7 +3,7 @@
 #define MAVA_TUM_BENCH_PROTOBUF_OPERATIONS_H
 
 #include "peers/harness/suite.h"
-#include "peers/protobuf/peer_language.h"
+#include "peers/protobuf/protobuf_records.h"
 
 #include <google/protobuf/arena.h>
 

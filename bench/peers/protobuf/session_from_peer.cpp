@@ -1,4 +1,3 @@
-#include "peers/protobuf/peer_fields.h"
 #include "peers/protobuf/protobuf_records.h"
 
 // The record is zero before anything is read into it, and an absent field reads as zero: only whole nested messages are

@@ -1,4 +1,3 @@
-#include "peers/protobuf/peer_fields.h"
 #include "peers/protobuf/protobuf_records.h"
 
 namespace bench

@@ -1,5 +1,4 @@
 // The messages that are lists: routes, statistics and session states.
-#include "peers/protobuf_c/protobuf_c_fields.h"
 #include "peers/protobuf_c/protobuf_c_records.h"
 
 namespace bench

@@ -1,4 +1,3 @@
-#include "peers/protobuf_c/protobuf_c_fields.h"
 #include "peers/protobuf_c/protobuf_c_records.h"
 
 namespace bench
