@@ -1,4 +1,4 @@
-/* Encodes a session, decodes it, and prints the size and two values. */
+/* Encodes a session and decodes it. Prints the size and two values. */
 #include "tum_nal/nal_session_context.h"
 
 #include <stdio.h>
