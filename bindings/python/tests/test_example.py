@@ -2,6 +2,7 @@
 
 from __future__ import annotations
 
+import re
 import subprocess
 import sys
 from pathlib import Path
@@ -11,5 +12,6 @@ def test_the_example_prints_what_is_expected(source_folder: Path) -> None:
     run = subprocess.run([sys.executable, source_folder / "examples/python_round_trip.py"], capture_output=True,
                          text=True, check=True)
     expected = (source_folder / "bindings/python/tests/expected_round_trip.txt").read_text(encoding="utf-8")
-    assert run.stdout == expected
+    # The place of a fault is there if the library of the inspector is.
+    assert re.sub(r" \(at byte [^)]*\)", "", run.stdout) == expected
     assert not run.stderr

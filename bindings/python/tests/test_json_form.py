@@ -55,7 +55,7 @@ SESSION = {
 def test_the_command_prints_the_same_json_of_a_message() -> None:
     wire = mava_tum.encode("session_context", SESSION)
     ours = mava_tum.to_json("session_context", mava_tum.decode("session_context", wire))
-    assert run("decode", "--json", "-f", "raw", "session_context", data=wire)["value"] == ours
+    assert run("decode", "--json", "-f", "raw", "session_context", data=wire)["record"] == ours
 
 
 @needs_program
