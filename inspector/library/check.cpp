@@ -95,7 +95,7 @@ public:
     {
         fill_fault(result_.verdict, fault);
         sentence text;
-        text.add(result_.verdict.text).add("; what stands behind it does not arrive (L15)");
+        text.add(result_.verdict.text).add("; the fields after it do not arrive (L15)");
         tell({MAVA_TUM_INSPECT_FAULT, fault.offset, 0, 0, result_.verdict.path, text.c_str()});
     }
 

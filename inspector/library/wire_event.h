@@ -44,7 +44,7 @@ struct note_set {
     }
 };
 
-// One tag and what stands behind it.
+// A tag and its value.
 struct occurrence {
     path_step path;                    // valid during the call that it comes with
     const message_description *record; // that it stands in

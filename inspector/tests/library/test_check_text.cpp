@@ -57,7 +57,7 @@ byte_vector empty_qos(uint32_t elements)
 INSTANTIATE_TEST_SUITE_P(inspect_check, every_finding,
     testing::Values(
         found_once{"session_context", bytes_of("08 07 10 08 1D"), MAVA_TUM_INSPECT_FAULT, "field_3", 4, 0, 0,
-            "`field_3` is fixed32 instead of varint at byte 4: result -3; what stands behind it does not arrive (L15)"},
+            "`field_3` is fixed32 instead of varint at byte 4: result -3; the fields after it do not arrive (L15)"},
         found_once{"session_context", empty_qos(9), MAVA_TUM_INSPECT_LIST_CUT, "qos", 0, 9, 8,
             "`qos` has 9 elements at byte 0, of which 8 arrive in `qos` (L17)"},
         found_once{"session_context", empty_qos(257), MAVA_TUM_INSPECT_LIST_CUT, "qos", 0, 257, 1,
