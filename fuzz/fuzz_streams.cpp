@@ -1,9 +1,9 @@
 // Do the messages of a stream come back from tum_nal/message_stream.h, whatever their lengths and wherever it is cut?
 // An input, of any bytes:
-//   byte 0      bit 0: the rest is sent as messages (set) or is the stream itself; the other bits: the limit
+//   byte 0      bit 0: the rest is sent as messages (set) or is the stream itself; the other bits, times 8: the limit
 //   byte 1      how many bytes of cuts follow, modulo 16
 //   cuts        the sizes in which the stream arrives, again and again; none: all at once
-//   the rest    the stream; or, for each message, a byte with its length and what is there of it
+//   the rest    the stream; or, for each message, a byte with a fourth of its length, and as much of it as follows
 #include "fuzz_target.h"
 #include "tum_nal/message_stream.h"
 
@@ -167,7 +167,7 @@ byte_vector sent(byte_span messages)
 {
     byte_vector stream;
     while (!messages.empty()) {
-        const std::size_t length = std::min<std::size_t>(messages[0], messages.size() - 1);
+        const std::size_t length = std::min<std::size_t>(messages[0] * 4U, messages.size() - 1);
         uint8_t front[TUM_NAL_MESSAGE_LENGTH_BYTES];
         tum_nal_message_stream_put_length(front, static_cast<uint32_t>(length));
         stream.insert(stream.end(), front, front + sizeof front);
@@ -183,7 +183,7 @@ bool check_input(byte_span bytes, depth how)
 {
     if (bytes.size() < 2 || bytes.size() - 2 < bytes[1] % 16U)
         return false;
-    const uint32_t limit = bytes[0] / 2;
+    const uint32_t limit = bytes[0] / 2 * 8U; // lengths of two octets
     const byte_span cuts = bytes.subspan(2, bytes[1] % 16U);
     const byte_span rest = bytes.subspan(2 + cuts.size());
     const byte_vector stream = bytes[0] % 2 == 1 ? sent(rest) : byte_vector(rest.begin(), rest.end());
