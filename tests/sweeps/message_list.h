@@ -14,11 +14,11 @@
 namespace mava_tum_test
 {
 
-// Under the address sanitizer each step takes ten times as long: one in so many is taken.
+// Under the address sanitizer, each step takes ten times as long: the sweeps divide the number of their steps by this.
 #if defined(__SANITIZE_ADDRESS__)
-constexpr uint64_t sparing = 10;
+constexpr uint64_t work_divisor = 10;
 #else
-constexpr uint64_t sparing = 1;
+constexpr uint64_t work_divisor = 1;
 #endif
 
 // Of the catalogue are the name, the size of the record and the exported functions; the fields are those of

@@ -19,7 +19,7 @@ namespace
 {
 
 constexpr uint64_t first_seed = 104729;
-constexpr uint64_t input_count = 20000 / sparing;
+constexpr uint64_t input_count = 20000 / work_divisor;
 
 class hostile_input : public testing::TestWithParam<message>
 {
