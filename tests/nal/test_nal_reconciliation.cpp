@@ -135,7 +135,7 @@ TEST(nal_reconciliation, each_row_of_a_states_request_is_sent_and_received)
         {"nothing: the numbers are always sent", [](states_request &) {}, "08 00 10 00"},
         {"field 1", [](states_request &r) { r.field_1 = 300; }, "08 AC 02 10 00"},
         {"field 2", [](states_request &r) { r.field_2 = 65535; }, "08 00 10 FF FF 03"},
-        {"a state, all of which is always sent", [](states_request &r) { r.field_3_count = 1; },
+        {"a state: all its fields are always sent", [](states_request &r) { r.field_3_count = 1; },
             "08 00 10 00 1A 06 08 00 10 00 18 00"},
         {"a state",
             [](states_request &r) {

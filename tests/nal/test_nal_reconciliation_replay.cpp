@@ -111,7 +111,7 @@ TEST(nal_reconciliation_replay, each_row_of_an_answer_is_sent_and_received)
     expect_both_ways<replay_answer>({
         {"nothing: the numbers are always sent", [](replay_answer &) {}, "08 00 28 00"},
         {"field 1", [](replay_answer &r) { r.field_1 = 300; }, "08 AC 02 28 00"},
-        {"a failure, all of which is always sent", [](replay_answer &r) { r.field_2_count = 1; },
+        {"a failure: all its fields are always sent", [](replay_answer &r) { r.field_2_count = 1; },
             "08 00 12 06 08 00 10 00 1A 00 28 00"},
         {"a failure",
             [](replay_answer &r) {

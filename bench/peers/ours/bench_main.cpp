@@ -6,8 +6,8 @@
 //                                     slices (stopwatch.h)
 //   time    milliseconds of a sample  operation, side, nanoseconds per call on the first message
 //   cold    calls                     operation, side, nanoseconds of a call with warm and with cold caches
-// The seed decides over the order of operations and sides. Every operation is checked on every message before it is
-// timed: if one does not agree with the corpus, the program exits with 1 and has timed nothing of that name.
+// Operations and sides run in an order that is drawn from the seed. Before an operation is timed, it is checked on
+// every message: if one result differs from the corpus, the program exits with 1 and prints no time of it.
 #include "peers/harness/peer_program.h"
 #include "peers/harness/stopwatch.h"
 #include "peers/ours/corpus_content.h"

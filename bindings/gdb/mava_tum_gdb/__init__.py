@@ -1,4 +1,4 @@
-"""Pretty printers of gdb for the records of libmava_tum and the classes over them: what is present, in the form in which people read it."""
+"""Pretty printers of gdb for the records of libmava_tum and the C++ classes over them: the present fields."""
 
 from __future__ import annotations
 

@@ -69,8 +69,8 @@ def read_or_say_why(value: gdb.Value) -> gdb.Value | str:
 
 
 class BytesPrinter:
-    """Prints a pointer to bytes and their number, as a mava_tum_bytes has them: in hex, and what has the length of an IPv6
-    address also as such."""
+    """Prints bytes, given by a pointer and a length such as those of mava_tum_bytes: in hex, and 16 bytes also as an IPv6
+    address."""
 
     def __init__(self, value: gdb.Value, data: str = "data", length: str = "length") -> None:
         self.data = value[data]

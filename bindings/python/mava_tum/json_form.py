@@ -49,7 +49,7 @@ def _bytes_text(value: bytes, is_address: bool) -> str:
 
 
 def _text(value: str) -> str | dict[str, str]:
-    """A text, unless JSON cannot hold it as one: its bytes are no UTF-8, or a zero byte is among them."""
+    """The text; as bytes in hex if they are no UTF-8, which JSON cannot hold."""
     content = value.encode("utf-8", "surrogateescape")
     try:
         content.decode("utf-8")
