@@ -17,7 +17,7 @@ from plan import OPERATIONS, SIDES, SUMMARY, WORKLOAD_OF_NAME
 from run_cold import cold_table
 from scale_table import replay_rows, verdict_rows
 from svg_plot import write_plots
-from tables import fenced, fill, markdown, markdown_of_words, page_rows, summary_rows, widest_spread
+from tables import fenced, fill, markdown, markdown_of_words, page_rows, spread_sentence, summary_rows
 
 ROOT = pathlib.Path(__file__).resolve().parents[2]
 PAGES = (ROOT / "README.md", ROOT / "docs" / "benchmarks.md", ROOT / "bench" / "README.md")
@@ -38,7 +38,7 @@ def _run_blocks(results_folder):
     description, _, results = read_run(results_folder / "run.json")
     yield "machine", _machine(description)
     yield "summary", markdown(summary_rows(results))
-    yield "spread", f"The quartiles of a figure are at most {widest_spread(results):.0%} of it apart."
+    yield "spread", spread_sentence(results)
     for operation in (*SUMMARY, "duplicate"):
         yield operation.replace("_", "-"), markdown(page_rows(results, operation, OTHERS))
     verdicts = judge(results)

@@ -103,6 +103,10 @@ def page_rows(results, operation, sides):
     return rows
 
 
-def widest_spread(results):
-    """The share of its median that the quartiles of a result lie apart, of the widest."""
-    return max((result.upper - result.lower) / result.ratio for result in results)
+def spread_sentence(results):
+    """How far apart the quartiles of the figures lie, as a share of their medians."""
+    widths = sorted((result.upper - result.lower) / result.ratio for result in results)
+    widest = max(results, key=lambda result: (result.upper - result.lower) / result.ratio)
+    return (f"The quartiles of a figure are at most {widths[len(widths) // 2]:.0%} of it apart for half of the figures, and\n"
+            f"{widths[9 * len(widths) // 10]:.0%} for nine of ten. The widest: {widest.lower:.2f} to {widest.upper:.2f}, "
+            f"{widest.operation.replace('_', ' ')} of `{widest.workload}`.")
