@@ -199,7 +199,8 @@ TEST(catalogue, the_four_functions_of_a_message_drop_the_arguments_that_it_does_
 
 TEST(catalogue, an_adapter_converts_through_the_table_what_it_converts_by_name)
 {
-    tum_nal_data_rec_res sent = {7, "a", 9}, received;
+    static const tum_nal_data_rec_res sent = {7, "a", 9}; // static: the bytes between its members are zero
+    tum_nal_data_rec_res received;
     uint8_t wire[TUM_NAL_REC_START_RES_MAX_SIZE];
     const adapter &of = *find_adapter("rec_start_res");
     const uint64_t size = of.encode(&sent, wire, sizeof wire);
