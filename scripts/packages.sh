@@ -2,10 +2,10 @@
 # Sourced by the commands, in the project's folder: their arguments, and the Debian packages that they need.
 #   accept_arguments <most>|any "$@"
 # --help prints the comment at the head of the command. Options that this comment does not name, and more than <most>
-# other arguments, are refused with exit status 2. To be called before anything is installed.
+# other arguments, are refused with exit status 2. Call it before anything is installed.
 #   require_packages <package>...
-# Installs what is missing through apt where that is allowed (as root, or by sudo without a password); otherwise prints
-# the command to run and exits with 1. What apt says goes to build/packages.log.
+# Installs missing packages with apt as root or by sudo without a password; otherwise prints the command to run and
+# exits with 1. The output of apt is in build/packages.log.
 
 # The comment below the first line of the command, without its marks.
 head_of_command() {
@@ -32,7 +32,7 @@ accept_arguments() {
     done
 }
 
-# A program from elsewhere is as good as the one from the package: ask for the program where there is one.
+# A program need not come from the package: look for the program, if the package has one.
 program_of_package() {
     case $1 in
     cmake) echo cmake ;;
@@ -77,7 +77,7 @@ require_packages() {
     fi
     echo "Installing:$missing"
     mkdir -p build
-    # One source of packages that does not answer need not be the one with these. Both lists are words to be split.
+    # An unreachable source may not be the one with these packages: continue. Both lists are words to be split.
     # shellcheck disable=SC2086
     if ! { $as_root apt-get update -q || true
         $as_root env DEBIAN_FRONTEND=noninteractive apt-get install -q -y --no-install-recommends $missing
