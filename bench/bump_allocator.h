@@ -1,4 +1,4 @@
-// The cheapest allocator a receiver can give a decoder: a block that is handed out front to back and taken back whole.
+// The fastest allocator for a decoder: one block, given out from front to back and released as a whole.
 #ifndef MAVA_TUM_BENCH_BUMP_ALLOCATOR_H
 #define MAVA_TUM_BENCH_BUMP_ALLOCATOR_H
 
@@ -9,17 +9,17 @@
 namespace bench
 {
 
-// On a cache line of its own: two threads' allocators side by side on one line slow each other.
+// On a cache line of its own: two threads' allocators on one line slow each other down.
 class alignas(64) bump_allocator
 {
 public:
-    // The block is not touched before it is handed out: pages that nobody needs cost nothing.
+    // The block is not written before use: unused pages cost nothing.
     explicit bump_allocator(uint64_t block_bytes = 256 * 1024)
         : block_bytes_(block_bytes), block_(new unsigned char[block_bytes])
     {
     }
 
-    // Everything handed out before is void from here on.
+    // Invalidates everything that was allocated before.
     void reset()
     {
         used_bytes_ = 0;
@@ -36,7 +36,7 @@ public:
         return static_cast<bump_allocator *>(allocator)->take(size);
     }
 
-    // The release callback: single blocks are not taken back.
+    // The release callback does nothing.
     static void release(void *, void *) {}
 
 private:
@@ -50,7 +50,7 @@ private:
         return taken;
     }
 
-    // Which `new` grants, too.
+    // The same alignment as `new`.
     static constexpr uint64_t alignment = alignof(std::max_align_t);
 
     uint64_t used_bytes_ = 0;

@@ -1,7 +1,7 @@
 # Sourced by the commands of the bench, from the project's root.
 #   build_for_bench <target>
-# Installs what is missing, builds the target for release, and sets `build` and `driver` to where the programs and the
-# scripts are. MAVA_TUM_BENCH_BUILD names another build folder than build/bench.
+# Installs missing packages, builds the target for release, and sets `build` and `driver` to the folders of the programs
+# and scripts. MAVA_TUM_BENCH_BUILD names another build folder than build/bench.
 
 build_for_bench() {
     require_packages cmake g++ ninja-build python3 libprotobuf-dev protobuf-compiler libprotozero-dev \

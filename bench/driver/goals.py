@@ -1,10 +1,10 @@
-"""The project's goals for its speed beside what was measured. Goals, not assertions: nothing fails over them."""
+"""The project's goals for its speed, compared with the measurements. A missed goal is no failure."""
 
 from dataclasses import dataclass
 
 from plan import OPERATIONS, WORKLOAD_OF_NAME
 
-# Times as fast as the side that is named, at least. W1 to W5.
+# At least how many times as fast as the named side. W1 to W5.
 AT_LEAST = {
     ("decode", "ours bump", "protobuf reused"): {
         "realistic": (2.8, 2.8, 2.8, 2.7, 2.3), "random": (2.0, 2.0, 2.5, 2.0, 2.2), "fixed": (2.4, 2.6, 3.0, 2.1, 2.2),
@@ -19,7 +19,7 @@ AT_LEAST = {
         "realistic": (2.9, 3.8, 4.5, 2.7, 2.5), "random": (2.3, 2.8, 4.1, 2.3, 2.2), "fixed": (2.8, 3.8, 4.6, 2.4, 2.0),
     },
 }
-# The heap bounds these: at most so many times as long as their heap calls alone. W1 to W3.
+# Bound by the heap: at most how many times as long as the heap calls alone. W1 to W3.
 AT_MOST = {
     ("decode", "ours calloc", "heap calls"): {"realistic": (1.5, 1.5, 1.5), "random": (1.5, 1.5, 1.5)},
     ("duplicate", "ours", "heap calls"): {"realistic": (1.5, 1.5, 1.5), "random": (1.5, 1.5, 1.5)},
@@ -54,7 +54,7 @@ def _verdict(results, goal, content, workload, bar, at_most):
 
 
 def judge(results):
-    """One verdict for each bar of each goal."""
+    """One verdict for each limit of each goal."""
     return [
         _verdict(results, goal, content, workload, bar, goals is AT_MOST)
         for goals in (AT_LEAST, AT_MOST)

@@ -1,11 +1,10 @@
 #!/usr/bin/env python3
-"""Counts the instructions of each operation with callgrind and compares them with those kept in the tree.
+"""Counts the instructions of each operation with callgrind and compares them with bench/instructions.tsv.
 
-Judged are the instructions in our library, and the calls of the heap: exit code 1 if either is more than 3 % above the
-kept count. With another compiler, other flags, another C library or another processor than those of the kept counts
-nothing is judged: exit code 77, which test runners count as skipped. The instructions in the C library (copies, string
-lengths, heap) are shown only: the cost of a heap call depends on the calls before it. The bench's own instructions are
-not counted.
+Exit code 1 if the instructions in our library, or the calls of the heap, are more than 3 % above the kept count. If
+compiler, flags, C library or processor are not those of the kept counts, it judges nothing: exit code 77, which test
+runners count as skipped. The instructions in the C library (copies, string lengths, heap) are shown only: the cost of a
+heap call depends on the calls before it. The bench's own instructions are not counted.
 """
 
 import argparse
@@ -36,7 +35,8 @@ def environment_of(program):
 
 
 class Dump:
-    """One dump of callgrind, as far as it is of interest here. Names stand where they occur first, then numbers."""
+    """The parts of a callgrind dump that are used here. A name is written at its first occurrence; later, its
+    number."""
 
     def __init__(self, text):
         self.costs = collections.Counter()  # instructions by object file, callees not included
@@ -86,7 +86,7 @@ def dumps_of(program):
     """{(workload, operation, side): Dump}"""
     with tempfile.TemporaryDirectory(prefix="mava_tum_bench_") as directory:
         command = ["valgrind", "--tool=callgrind", "--quiet", "--callgrind-out-file=" + directory + "/dump", program]
-        # Nothing else from outside: the environment moves the stack, and with it the alignment of copies.
+        # An empty environment otherwise: its size moves the stack, and with it the alignment of copies.
         clean = {"PATH": os.environ["PATH"], "GLIBC_TUNABLES": PLAIN_C_LIBRARY, "LC_ALL": "C"}
         subprocess.run(command, env=clean, check=True)
         dumps = {}
@@ -128,7 +128,7 @@ def is_dearer(new, old):
 
 
 def compare(counts, kept):
-    """Rows of the table, and the operations that are too dear."""
+    """Rows of the table, and the operations above the limit."""
     rows = [["operation", "library", "was", "", "heap calls", "was", "", "C library", "was", ""]]
     dearer = []
     for key in [*counts, *(key for key in kept if key not in counts)]:

@@ -1,6 +1,6 @@
-"""Where and with what a run was made: figures without this say nothing.
+"""The machine, compilers and commit of a run.
 
-  machine.py <load> <seconds>    waits until the load of the last minute is below a limit; exit code 1 if it never is
+  machine.py <load> <seconds>    waits for a load below the limit in the last minute; exit code 1 without it
 """
 
 import os
@@ -21,7 +21,7 @@ def _processor():
     return platform.machine()
 
 
-# What a change in makes the library another one than the commit's.
+# A change below these makes the library differ from the commit.
 LIBRARY = ("src", "include", "cmake", "CMakeLists.txt")
 
 
@@ -33,7 +33,7 @@ def _git(*words):
 
 
 def _commit():
-    """The one checked out, and whether the library has changes that are in no commit. A copy without git has none."""
+    """The checked-out commit, and whether the library has uncommitted changes. None without git."""
     changed = " with changes" if _git("status", "--porcelain", "--", *LIBRARY) else ""
     return (_git("rev-parse", "--short", "HEAD") or "unknown") + changed
 
@@ -53,7 +53,7 @@ def _flags(cache, language):
 
 
 def _options():
-    """Those the user gave: the scripts put --build and its folder before them, and files are named without folders."""
+    """The user's arguments: without the --build and folder that the scripts add, and files without their folders."""
     given = sys.argv[1:]
     if given[:1] == ["--build"]:
         given = given[2:]
@@ -61,7 +61,7 @@ def _options():
 
 
 def describe(command, build, versions):
-    """`command` is the script that the user called; where it built and stands is nobody's business."""
+    """`command` is the script that the user called, without its folder."""
     cache = _cache_entries(build)
     return {
         "commit": _commit(),

@@ -7,7 +7,7 @@ from dataclasses import asdict, dataclass
 
 
 def significant(value):
-    """Four digits: more is noise, and makes files long."""
+    """Four digits; more are noise."""
     rounded = float(f"{value:.4g}")
     return int(rounded) if rounded >= 1000 else rounded
 
@@ -20,7 +20,7 @@ def quartiles(values):
 
 
 def spread(values):
-    """How far the middle half of the values lies apart, as a share of their median."""
+    """The distance of the quartiles, as a share of the median."""
     lower, middle, upper = quartiles(values)
     return (upper - lower) / middle
 
@@ -34,7 +34,7 @@ class Result:
     operation: str
     ours: str
     other: str
-    ours_nanoseconds: float  # per session, the median of all pairs; so the next
+    ours_nanoseconds: float  # per session, the median of all pairs; the next, too
     other_nanoseconds: float
     lower: float  # quartile; how many times as fast ours is, by pairs
     ratio: float  # median

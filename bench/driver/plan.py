@@ -2,7 +2,7 @@
 
 from dataclasses import dataclass
 
-# In the order of the columns. Only the fixed set is one message, which the branch predictor learns.
+# In the order of the columns. The fixed set has one message, which the branch predictor learns.
 SETS = ("realistic", "random", "fixed")
 
 
@@ -12,7 +12,7 @@ class Workload:
     name: str
     sets: tuple = ("fixed",)
     messages: int = 20_000  # in a measurement, each once
-    sessions: int = 1  # in a message; times are given per session
+    sessions: int = 1  # in a message; times are per session
 
     @property
     def title(self):
@@ -45,7 +45,7 @@ OPERATIONS = {
     "read": "read some fields of a decoded session",
 }
 
-# Those of the summary, with the side that the library is compared with there.
+# The operations of the summary, with the side to compare with.
 SUMMARY = {
     "decode": "protobuf reused", "encode": "protobuf reused",
     "encode_adapter": "protobuf reused", "decode_adapter": "protobuf reused",

@@ -1,8 +1,8 @@
 #!/usr/bin/env python3
 """Shows where the instructions of an operation go: a table for each workload, a row for each function.
 
-Callees are not included in a row. Functions of the bench itself are left out, as in instructions.py; so are rows beyond
-nine tenths of the sum, which one row adds up.
+A row does not include callees. Functions of the bench are left out, as in instructions.py. The rows beyond nine tenths
+of the sum are added up in one row.
 """
 
 import re
@@ -14,7 +14,7 @@ SHOWN_SHARE = 0.9
 
 
 def short_name(function):
-    """Without result, parameters and our namespace: what it is called in the source."""
+    """The name without result, parameters and namespace."""
     name = re.sub(r"\bmava_tum::", "", function)
     depth = 0
     for position, letter in enumerate(name):
@@ -22,7 +22,7 @@ def short_name(function):
         if letter == "(" and depth == 0:
             name = name[:position]
             break
-    # What stands before the name, the result, ends with the last space outside of the brackets.
+    # The result ends at the last space outside of brackets; the name follows.
     depth = 0
     for position in range(len(name) - 1, -1, -1):
         depth += {">": 1, "<": -1}.get(name[position], 0)

@@ -7,7 +7,7 @@ import sys
 
 
 class Disagreement(Exception):
-    """Bytes or records of an implementation are not ours: there is nothing to compare."""
+    """Bytes or records of an implementation differ from ours: no comparison is possible."""
 
 
 class Programs:
@@ -18,7 +18,7 @@ class Programs:
         return [peer for peer in peers if peer == "ours" or (self._directory / f"mava_tum_bench_{peer}.so").exists()]
 
     def link_orders(self):
-        """The folders of builds of the library that differ in the order of their objects."""
+        """The folders of the builds of the library with different link orders."""
         orders = [self._directory.parent / "src", self._directory / "other_order"]
         for order in orders:
             loaded = self._output(["mava_tum_bench", "--versions", "ours"], order).splitlines()[0]
@@ -38,7 +38,7 @@ class Programs:
         return float(size[1]), rows
 
     def rows(self, program, arguments):
-        """What one of the other programs prints."""
+        """The output of one of the other programs."""
         return self._rows([f"mava_tum_bench_{program}", *arguments])
 
     def _rows(self, command, order=None):

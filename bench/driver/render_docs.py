@@ -1,8 +1,7 @@
 #!/usr/bin/env python3
-"""Writes what was measured into README.md, docs/benchmarks.md and bench/README.md, and the plot: no figure there is
-typed by hand.
+"""Writes the measured tables into README.md, docs/benchmarks.md and bench/README.md, and the plot.
 
-  render_docs.py <folder of the results>    what bench/publish left there, and bench/instructions.tsv
+  render_docs.py <folder of the results>    the files that bench/publish wrote, and bench/instructions.tsv
 """
 
 import json
@@ -23,7 +22,7 @@ ROOT = pathlib.Path(__file__).resolve().parents[2]
 PAGES = (ROOT / "README.md", ROOT / "docs" / "benchmarks.md", ROOT / "bench" / "README.md")
 PLOTS = ROOT / "docs" / "benchmarks"
 SHOWN_MESSAGES = 5
-# proto2 with a new message differs from proto3 with one as the reused ones differ.
+# Without proto2 with a new message: it differs from proto3 as the reused ones do.
 OTHERS = [side for side in SIDES if side.startswith(("proto", "nanopb")) and side != "proto2 new"]
 
 
@@ -76,7 +75,7 @@ def _instruction_block():
 
 
 def largest(sizes):
-    """Of a table of sizes the title, the largest messages and the sums; scripts/message_sizes prints all."""
+    """The title, the largest messages and the sums of a table of sizes; scripts/message_sizes prints all rows."""
     lines = sizes.splitlines()
     sums = next(number for number, line in enumerate(lines) if re.match(r"\d+ messages ", line))
     return "\n".join([*lines[:1 + SHOWN_MESSAGES], "...", *lines[sums:]])

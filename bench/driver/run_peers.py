@@ -1,9 +1,9 @@
 #!/usr/bin/env python3
 """Measures the library beside other implementations, on messages that do not repeat.
 
-A process measures one corpus: realistic and random messages are each used once per comparison, and the next process
-has messages of other numbers. In a process all implementations take turns (bench/peers/harness/stopwatch.h). Half of
-the processes load a build of the library whose objects are linked in another order.
+A process measures one corpus: realistic and random messages are each used once per comparison, and the next process has
+other messages. In a process all implementations take turns (bench/peers/harness/stopwatch.h). Half of the processes
+load a build of the library whose objects are linked in another order.
 """
 
 import argparse

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Shows how the library's cost grows: with the sessions in a message, with a second thread, with the worst inputs."""
+"""Measures growth: with the number of sessions in a message, with a second thread, with the worst inputs."""
 
 import argparse
 import collections

@@ -1,4 +1,4 @@
-"""The claims about scale, with what was measured: tables, exponents and verdicts."""
+"""The claims about growth and their measurements: tables, exponents and verdicts."""
 
 import collections
 import math
@@ -18,14 +18,14 @@ GROWING = {
     "decode": "decoders", "decode adapter": "decode adapters", "encode": "encoders of the deepest nesting",
 }
 
-# The exponent is fitted over the largest sizes: in small inputs the fixed cost of a call still shows.
+# The exponent is fitted over the largest sizes: in small inputs, the fixed cost of a call matters.
 FITTED_SIZES = 6
-# Data that leave a cache on the way make the slope steeper, too; the next worse law, n times its root, would show 1.5.
+# Data that leave a cache make the slope steeper, too. The next worse growth, n times its root, would have 1.5.
 LINEAR_UP_TO = 1.25
 
 
 class Growth:
-    """The shortest time of all rounds for each point: what others on the machine add is no growth."""
+    """The shortest time of all rounds for each point: other processes can only add time."""
 
     def __init__(self):
         self._points = collections.defaultdict(dict)
@@ -40,7 +40,7 @@ class Growth:
 
 
 def exponent(points):
-    """1 where the time is proportional to the size, 2 where it is to the square."""
+    """1 if the time is proportional to the size, 2 if to its square."""
     fitted = points[-FITTED_SIZES:]
     sizes = [math.log(size) for size, _ in fitted]
     times = [math.log(time) for _, time in fitted]
@@ -69,7 +69,7 @@ def judged(growth):
 
 
 def worst_by_message(series, operation):
-    """A row per message: of all its kinds of input the highest exponent, and the dearest byte."""
+    """A row per message: the highest exponent of all kinds of input, and the most expensive byte."""
     messages = {}
     for entry in series:
         if entry["operation"] == operation:

@@ -73,7 +73,7 @@ def write_plots(results, directory):
     drawing.write(directory / "times-protobuf.svg")
 
 
-# Of the plots of growth.
+# For the plots of growth.
 HEIGHT, BOTTOM = 520, 470
 AXIS, EDGE, HEAD = 80, 30, 84
 KIND_COLOURS = (
@@ -96,7 +96,7 @@ class LogScale:
 
 
 def _kind(entry):
-    """Without the field it is about."""
+    """The kind of input, without the field."""
     return re.sub(r" (of field \d+|\d+ deep)", "", entry["kind"])
 
 
@@ -135,7 +135,7 @@ def _axes(drawing, across, up):
 
 
 def _guides(drawing, across, up, points):
-    """Below all lines, how a time grows with the length and with its square."""
+    """Below all lines: linear and quadratic growth, for comparison."""
     least = min(time for size, time in points if size >= 4096) * 0.8
     for power, name in ((1, "linear"), (2, "square")):
         size = 4096

@@ -1,4 +1,4 @@
-"""Results as tables of text: for the terminal, for a page, and the places in a page where generated text belongs."""
+"""Results as tables of text: for the terminal and for pages, and the insertion of generated text into pages."""
 
 import re
 
@@ -104,7 +104,7 @@ def page_rows(results, operation, sides):
 
 
 def spread_sentence(results):
-    """How far apart the quartiles of the figures lie, as a share of their medians."""
+    """The distances of the quartiles, as shares of the medians."""
     widths = sorted((result.upper - result.lower) / result.ratio for result in results)
     widest = max(results, key=lambda result: (result.upper - result.lower) / result.ratio)
     return (f"The quartiles of a figure are at most {widths[len(widths) // 2]:.0%} of it apart for half of the figures, and\n"

@@ -11,7 +11,7 @@ namespace
 using mava_tum_model::field;
 using mava_tum_model::message;
 
-// The field numbers from a message down to the text or bytes field that lies deepest in it.
+// The field numbers from a message down to its deepest text or bytes field.
 std::optional<std::vector<uint32_t>> deepest_value(const message &of)
 {
     std::optional<std::vector<uint32_t>> deepest;
@@ -34,7 +34,7 @@ const field &field_of(const message &of, uint32_t number)
     return *std::ranges::find(of.fields, number, &field::number);
 }
 
-// How many steps of the path lie before the end of its first array; 0 if there is none.
+// The number of steps of the path up to its first array, inclusive; 0 if there is none.
 size_t steps_to_elements(const message &of, const std::vector<uint32_t> &path)
 {
     const message *at = &of;
@@ -47,7 +47,7 @@ size_t steps_to_elements(const message &of, const std::vector<uint32_t> &path)
     return 0;
 }
 
-// One element of the array, and in it one record in another down to the value.
+// One element of the array, with the nested records down to the value.
 wire_bytes element(const std::vector<uint32_t> &path, size_t array_step)
 {
     wire_bytes wire = {'a', 'b', 'c'};

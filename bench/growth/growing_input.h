@@ -1,4 +1,4 @@
-// Messages that can be made as long as wanted, to see how a call's time grows with their length.
+// Messages of any length, to measure how a call's time grows with it.
 #ifndef MAVA_TUM_BENCH_GROWING_INPUT_H
 #define MAVA_TUM_BENCH_GROWING_INPUT_H
 
@@ -10,8 +10,8 @@
 namespace bench
 {
 
-// `head`, then `unit` again and again, then `tail`. Where `nesting` names fields, all of it is the content of the last
-// of them, which is inside the one before, and so on.
+// `head`, then `unit` repeated, then `tail`. If `nesting` names fields, this is the content of the last one, which is
+// nested in the one before, and so on.
 struct growing_input {
     std::string kind;
     wire_bytes head;
@@ -20,7 +20,7 @@ struct growing_input {
     std::vector<uint32_t> nesting;
 };
 
-// As long as `bytes` or, by less than a unit and the nesting, longer.
+// At least `bytes` long; longer by less than one unit and the nesting.
 inline wire_bytes input_of(const growing_input &input, size_t bytes)
 {
     wire_bytes wire = input.head;
@@ -36,11 +36,11 @@ inline wire_bytes input_of(const growing_input &input, size_t bytes)
     return wire;
 }
 
-// The inputs that make a decoder work hardest for each byte.
+// The inputs that are most expensive to decode per byte.
 std::vector<growing_input> worst_inputs(const mava_tum_model::message &of);
 
-// Messages that nest as deeply as they can: one value that grows at the bottom, and elements that each go to the
-// bottom.
+// Messages of the deepest nesting: one innermost value that grows, and elements that are each nested to the innermost
+// level.
 std::vector<growing_input> deepest_inputs(const mava_tum_model::message &of);
 
 } // namespace bench

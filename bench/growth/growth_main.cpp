@@ -1,7 +1,7 @@
-// Prints how long calls take on ever longer inputs:
+// Prints the time of calls on inputs of growing length:
 //   mava_tum_bench_growth <largest input in bytes> <milliseconds per sample>
 // A line per measurement: operation, message, kind of input, bytes of input, nanoseconds; separated by tabs. Exits with
-// 1 when a call does not go through the whole of its input.
+// 1 if a call does not read its whole input.
 #include "growth/growing_input.h"
 #include "growth/measured_call.h"
 #include "peers/harness/stopwatch.h"
@@ -18,7 +18,7 @@ using mava_tum_model::library_message;
 using mava_tum_model::message;
 
 constexpr size_t doublings = 9;
-// What a decode writes stays in the caches: to see its own growth, not that of cache misses.
+// The output of a decode stays in the caches, so that growth by cache misses is not measured.
 constexpr uint64_t most_memory = 8 * 1024 * 1024;
 constexpr unsigned samples = 3;
 
@@ -48,7 +48,7 @@ private:
     std::exit(1);
 }
 
-// Zero if the call does not go through.
+// Zero if the call does not read its whole input.
 size_t largest_input(const limits &within, const growing_input &input, measured_call &probe)
 {
     constexpr size_t probed_bytes = 4096;
@@ -74,7 +74,7 @@ void measure(const char *operation, const char *name, const growing_input &input
     }
 }
 
-// Null: none carries the message.
+// Null: no adapter carries the message.
 const mava_tum_catalogue::adapter *first_adapter_of(const library_message &carried)
 {
     for (const mava_tum_catalogue::adapter &adapter : mava_tum_catalogue::all_adapters())

@@ -7,7 +7,7 @@ namespace
 
 using mava_tum_model::library_message;
 
-// Address space, not memory: only what is handed out is ever touched.
+// Address space, not memory: only allocated parts are written.
 constexpr uint64_t arena_bytes = uint64_t{1} << 30;
 
 class record_memory
@@ -109,7 +109,7 @@ public:
     {
     }
 
-    // An adapter does not tell whether it went through: the codec's decode of the same input does.
+    // An adapter does not report whether it read its whole input: the codec's decode of the same input does.
     bool prepare(const wire_bytes &wire) override
     {
         wire_ = &wire;

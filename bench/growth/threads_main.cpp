@@ -1,8 +1,8 @@
-// Prints what two threads do in the time of one:
+// Prints how many calls two threads make in the time of one:
 //   mava_tum_bench_threads <milliseconds per sample> <samples>
 // A line per operation of the typical session: operation, side, calls of one thread in a microsecond, how many times as
-// many two make, and the same by the processor time that they had (which a machine that is busy elsewhere does not
-// spoil); separated by tabs. Each thread has its records, messages and buffers to itself.
+// many two make, and the same by processor time (which other processes affect less); separated by tabs. Each thread has
+// its own records, messages and buffers.
 #include "peers/harness/peer_program.h"
 #include "peers/harness/workload_names.h"
 #include "peers/ours/corpus_content.h"
@@ -62,8 +62,8 @@ rates run_for(timed_operation &operation, double seconds)
     return {static_cast<double>(calls) / taken * 1e-9, static_cast<double>(calls) / processor_taken * 1e-9};
 }
 
-// A thread that makes its own input, and measures on it when told to. Whatever it touches is from its own part of the
-// heap: on a cache line that holds something of two threads, each would wait for the other.
+// A thread that makes its own input, and measures on request. Its memory is from its own part of the heap: two threads
+// that share a cache line would slow each other down.
 class worker
 {
 public:
@@ -87,7 +87,7 @@ public:
         return input_->operations.operations();
     }
 
-    // Starts when `together` threads have counted themselves into `ready`.
+    // Starts when `ready` has reached `together`.
     void begin(timed_operation &operation, double seconds, std::atomic<size_t> &ready, size_t together)
     {
         operation_ = &operation;
@@ -148,7 +148,7 @@ double median(std::vector<double> values)
     return values[values.size() / 2];
 }
 
-// One and two threads take turns, so that a slow moment of the machine meets both.
+// One and two threads take turns, so that a slow moment of the machine affects both.
 void compare(worker &first, worker &second, size_t operation, double seconds, int samples)
 {
     std::vector<double> one;

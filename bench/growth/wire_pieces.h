@@ -1,4 +1,4 @@
-// Wire bytes in the shortest form and in longer ones, for inputs that are meant to be expensive.
+// Wire bytes in the shortest form and in longer ones, for expensive inputs.
 #ifndef MAVA_TUM_BENCH_WIRE_PIECES_H
 #define MAVA_TUM_BENCH_WIRE_PIECES_H
 
@@ -17,7 +17,7 @@ inline constexpr uint32_t fixed64_type = 1;
 inline constexpr uint32_t delimited_type = 2;
 inline constexpr uint32_t fixed32_type = 5;
 
-// In at least `least_bytes` bytes: more than the value needs make it an over-long varint.
+// In at least `least_bytes` bytes; if that is more than the value needs, it is an over-long varint.
 inline void append_varint(wire_bytes &wire, uint64_t value, size_t least_bytes = 1)
 {
     for (size_t written = 1; value >= 0x80 || written < least_bytes; ++written, value >>= 7)
@@ -58,7 +58,7 @@ inline bool is_text_or_bytes(const mava_tum_model::field &member)
     return member.kind == mava_tum_model::field_kind::text || member.kind == mava_tum_model::field_kind::bytes;
 }
 
-// A second one of those that own a block is an error; these may come again and again.
+// These may be repeated; a second occurrence of a kind that owns a block is an error.
 inline bool may_repeat(const mava_tum_model::field &member)
 {
     return !is_array(member) && !is_text_or_bytes(member);

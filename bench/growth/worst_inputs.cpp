@@ -18,7 +18,7 @@ enum class order { ascending, descending };
 
 wire_bytes content_of(const message &of, order in, bool all_fields);
 
-// A small value: what is expensive here is to find the field.
+// A small value: here, the search for the field is expensive.
 void append_field(wire_bytes &wire, const field &member, order in)
 {
     switch (member.kind) {
@@ -43,7 +43,7 @@ void append_field(wire_bytes &wire, const field &member, order in)
     }
 }
 
-// Every field once, or every field that may come again.
+// Every field once, or every field that may be repeated.
 wire_bytes content_of(const message &of, order in, bool all_fields)
 {
     std::vector<const field *> members;

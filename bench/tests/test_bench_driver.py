@@ -71,7 +71,7 @@ def results_of(pairs, workload=TYPICAL, content="realistic", sides=("decode", "o
 
 class PairsOfSlices(unittest.TestCase):
     def test_the_ratio_is_the_median_of_the_ratios_of_pairs(self):
-        # A slow moment met both sides of the last pair: the ratio of the median times would be 1.5.
+        # A slow moment affected both sides of the last pair; the ratio of the median times would be 1.5.
         (result,) = results_of([(0, 100, 200), (0, 200, 300), (0, 1000, 3000)])
         self.assertEqual((result.ratio, result.ours_nanoseconds, result.other_nanoseconds), (2, 200, 300))
 

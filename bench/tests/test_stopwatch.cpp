@@ -11,7 +11,7 @@ constexpr uint64_t messages = 1000;
 constexpr uint64_t warming = 50;
 constexpr double slice = 20e3; // nanoseconds
 
-// Notes who called which message when, and takes some time for it.
+// Records each call's side and message, and takes some time.
 class recorded_operation final : public bench::timed_operation
 {
 public:
@@ -65,7 +65,7 @@ TEST_F(time_pairs_test, both_sides_use_the_same_messages)
         ++sides[call.message];
     for (const auto &[message, count] : sides)
         EXPECT_EQ(count, 2) << "message " << message;
-    // All but those that make no whole pair.
+    // All messages except those that make no whole pair.
     EXPECT_GT(sides.size(), (messages + warming) * 7 / 8);
 }
 

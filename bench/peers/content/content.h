@@ -18,8 +18,8 @@
 namespace bench
 {
 
-// Pseudo-random values that are the same on every machine: a message is known by its set and its number.
-// SplitMix64: short, good enough for content, and independent of the standard library's distributions.
+// Pseudo-random values that are the same on every machine: set and number define a message. SplitMix64, because the
+// standard library's distributions differ.
 class random_source
 {
 public:
@@ -44,7 +44,7 @@ public:
         return bits() % 100 < percent;
     }
 
-    // Not zero, and of 1 to `most_bits` bits, each width as likely as the others: a varint of any size.
+    // Not zero, of 1 to `most_bits` bits, each width with the same probability.
     uint64_t of_any_width(unsigned most_bits)
     {
         const unsigned width = static_cast<unsigned>(between(1, most_bits));
@@ -56,10 +56,10 @@ private:
     uint64_t state_;
 };
 
-// Both ways whole: the record that an encode adapter sends is the one that a decode adapter fills.
+// Symmetric: the decode adapter fills the same record that the encode adapter sent.
 
-// A broadband session as most are: PPP in two VLANs, IPv4 and IPv6, two QoS entries, an access list, a path check, an
-// MTU, accounting. Some fifty fields, eight texts, about 350 bytes.
+// A typical broadband session: PPP in two VLANs, IPv4 and IPv6, two QoS entries, an access list, a path check, an MTU,
+// accounting. About fifty fields, eight texts, 350 bytes.
 void fill_typical_session(tum_nal_data_session_context &record);
 
 // Every member that can travel, in its longest usual form: eight QoS entries with six texts each, four routes of each

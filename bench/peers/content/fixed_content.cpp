@@ -41,7 +41,7 @@ constexpr uint32_t ipv4_documentation_net_2 = 0xC6336400; // 198.51.100.0
 constexpr uint32_t ipv4_documentation_net_3 = 0xCB007100; // 203.0.113.0
 
 // Texts stay within the 32 and 64 characters that a received route keeps; field 8 stays zero in IPv4 routes, where a
-// non-zero one would be sent in the place of field 7.
+// non-zero one would be sent as field 7.
 void fill_ipv4_route(tum_nal_data_ipv4_route &route, unsigned number)
 {
     route.field_1 = number + 1;

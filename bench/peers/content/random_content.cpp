@@ -31,14 +31,14 @@ void maybe_bytes(random_source &random, uint8_t (&array)[Bytes])
         std::generate_n(array, Bytes, [&random] { return static_cast<uint8_t>(random.bits()); });
 }
 
-// Texts of a typical session are short, whatever their arrays could hold.
+// Texts of a typical session are short, also in long arrays.
 struct session_limits {
     uint32_t features;
     uint8_t qos_entries;
     size_t longest_text;
 };
 
-// How many of `slots` are taken when each is present or not.
+// A random count of used slots.
 uint8_t some_slots(random_source &random, unsigned slots)
 {
     uint8_t taken = 0;
@@ -233,7 +233,7 @@ void randomise_block(random_source &random, tum_nal_data_stats_block &block)
 
 } // namespace
 
-// What a fixed message of the same name may have, a random one may have too: the features are taken from there.
+// The features are those of the fixed message of the same name.
 void fill_random_typical_session(random_source &random, tum_nal_data_session_context &record)
 {
     tum_nal_data_session_context typical = {};

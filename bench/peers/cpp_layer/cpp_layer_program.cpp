@@ -1,4 +1,4 @@
-// The library through its C++ layer: the cost of the layer, beside plain C calls.
+// The library through its C++ layer, to compare with plain C calls.
 #include "bump_allocator.h"
 #include "peers/harness/peer_program.h"
 #include "peers/harness/workload_names.h"
@@ -23,7 +23,7 @@ std::vector<Owner> decoded_corpus(const corpus &content)
     return records;
 }
 
-// `with_record` lends a record, which is new, to its argument.
+// `with_record` calls its argument with a new record.
 template <class WithRecord>
 void add_decode_side(suite &operations, const char *side, WithRecord with_record)
 {
@@ -39,7 +39,7 @@ void add_decode_side(suite &operations, const char *side, WithRecord with_record
             size_t i) { return with_record(i, [](const auto &record, tum::result) { return record.encode(); }); });
 }
 
-// From the heap and back to it; from a block that is taken back whole, through callbacks and as a memory resource.
+// Memory from the heap; from a block that is released as a whole, through callbacks and as a memory resource.
 template <class Owner>
 void add_decode(suite &operations)
 {
@@ -94,7 +94,7 @@ void add_duplicate(suite &operations)
         [records](size_t i) { return (*records)[i].clone()->encode(); });
 }
 
-// What a program reads of a session: numbers, texts, a nested record, a list.
+// Reads numbers, texts, a nested record and a list of a session.
 uint64_t read_by_members(const mava_tum_session_context &session)
 {
     uint64_t sum = (session.presence_mask & 1U << 4) != 0 ? session.feature_mask : 0;

@@ -1,4 +1,4 @@
-// What all peers need to move texts, byte arrays and IPv4 addresses out of and into application records.
+// Copies texts, byte arrays and IPv4 addresses from and to application records, for all implementations.
 #ifndef MAVA_TUM_BENCH_APPLICATION_FIELDS_H
 #define MAVA_TUM_BENCH_APPLICATION_FIELDS_H
 
@@ -10,7 +10,7 @@
 namespace bench
 {
 
-// Received texts of routes are cut to these sizes, NUL included, although the arrays are larger.
+// Received texts of routes are truncated to these sizes, NUL included, although the arrays are larger.
 inline constexpr size_t short_route_text_limit = 33;
 inline constexpr size_t long_route_text_limit = 65;
 

@@ -1,5 +1,4 @@
-// What all sides of a measurement work on: the messages of one workload, one set of content and one window of its
-// numbers, made with our library.
+// The messages of a measurement: one workload, one set of content and one range of numbers, made with our library.
 #ifndef MAVA_TUM_BENCH_CORPUS_H
 #define MAVA_TUM_BENCH_CORPUS_H
 
@@ -18,16 +17,16 @@ namespace bench
 using byte_view = std::span<const uint8_t>;
 
 struct corpus {
-    std::string workload; // for instance "typical_session": decides over the message
+    std::string workload; // for instance "typical_session": defines the message
     std::string set;      // "fixed", "realistic" or "random"
 
     std::vector<std::vector<uint8_t>> wires;
 
-    // One application record per message, what a sender starts from; none where the workload has no adapter.
+    // One application record per message, the sender's input; none if the workload has no adapter.
     std::vector<uint8_t> sent;
 
-    // The record that our decode adapter makes of message `i`; valid until the next call. Not the one that was sent:
-    // not all members travel.
+    // The record that our decode adapter makes of message `i`; valid until the next call. Not equal to the sent record:
+    // not all members are sent.
     std::function<byte_view(size_t i)> received;
 
     size_t message_count() const

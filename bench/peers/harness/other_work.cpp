@@ -10,7 +10,7 @@ namespace
 
 constexpr uint64_t cache_line_bytes = 64;
 
-// A piece of code of its own for each number, on cache lines of its own, with a branch that depends on the data.
+// For each number, other code on other cache lines, with a branch that depends on the data.
 template <uint64_t Number>
 [[gnu::noinline, gnu::aligned(cache_line_bytes)]] uint64_t piece_of_code(uint64_t value)
 {

@@ -1,6 +1,5 @@
-// What a process does between two calls of a codec, as far as caches notice: it walks other data and runs other code.
-// Afterwards nothing of the codec is left in the first two levels of caches, and little in the branch predictors; the
-// last level may still hold it.
+// Simulates a process between two calls of a codec: reads other data and runs other code. Afterwards, the first two
+// levels of caches hold nothing of the codec, and the branch predictors little; the last level may still hold it.
 #ifndef MAVA_TUM_BENCH_OTHER_WORK_H
 #define MAVA_TUM_BENCH_OTHER_WORK_H
 
@@ -13,7 +12,7 @@ namespace bench
 class other_work
 {
 public:
-    // More than the second-level caches of today's processors, of data; more than any first-level cache, of code.
+    // More data than the second-level caches of current processors, more code than any first-level cache.
     static constexpr uint64_t data_bytes = 6 * 1024 * 1024;
     static constexpr uint64_t code_bytes = 128 * 1024; // at least
 

@@ -1,5 +1,5 @@
-// What a peer provides. peer_module.cpp makes a module of it, which the program loads: so all peers run in one process
-// and take turns there, and no peer's names meet another's.
+// The interface of an implementation. peer_module.cpp makes a module of it, which the program loads. So all
+// implementations run in turns in one process, without conflicts of names.
 #ifndef MAVA_TUM_BENCH_PEER_PROGRAM_H
 #define MAVA_TUM_BENCH_PEER_PROGRAM_H
 
@@ -11,8 +11,8 @@ namespace bench
 // For the head of the table, for instance "protobuf C++ 3.21.12".
 std::string peer_version();
 
-// Adds the peer's operations for the corpus of `operations`, none where it has none for its workload. What they work on
-// lives as long as they do.
+// Adds the implementation's operations for the corpus of `operations`; none if it does not support the workload. Their
+// data live as long as the operations.
 void add_operations(suite &operations);
 
 struct peer_program {

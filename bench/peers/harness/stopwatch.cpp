@@ -38,7 +38,7 @@ double single_call_nanoseconds(timed_operation &operation)
     return clock_nanoseconds() - begin;
 }
 
-// What taking the time takes.
+// The time of reading the clock.
 class no_operation final : public timed_operation
 {
 public:
@@ -70,7 +70,7 @@ double run_nanoseconds(timed_operation &operation, size_t first, uint64_t calls)
     return processor_nanoseconds() - begin;
 }
 
-// Doubles until the time is long enough to be trusted, which also warms up the operation.
+// Doubles the number of calls until the time is long enough. This also warms up the operation.
 uint64_t calls_of_a_sample(timed_operation &operation, double sample_nanoseconds)
 {
     uint64_t calls = 1;
@@ -83,7 +83,7 @@ uint64_t calls_of_a_sample(timed_operation &operation, double sample_nanoseconds
     return std::max<uint64_t>(1, static_cast<uint64_t>(wanted));
 }
 
-// Both sides' calls of the warming messages, which also show how many calls fill a slice.
+// Both sides call the warm-up messages. This also measures how many calls fill a slice.
 uint64_t calls_of_a_slice(timed_operation &first, timed_operation &second, const pair_window &window)
 {
     constexpr uint64_t fewest_pairs = 8;

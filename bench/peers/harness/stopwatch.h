@@ -1,5 +1,5 @@
-// Times operations: two in turns, one by itself, or single calls with cold caches. The first two by the thread's own
-// processor time: others on the machine slow it down, but are not counted.
+// Times operations: two in turns, one by itself, or single calls with cold caches. The first two by the thread's
+// processor time, which does not count other processes.
 #ifndef MAVA_TUM_BENCH_STOPWATCH_H
 #define MAVA_TUM_BENCH_STOPWATCH_H
 
@@ -29,10 +29,10 @@ struct pair_window {
     double slice_nanoseconds; // how long one side runs before it is the other's turn
 };
 
-// Has the two sides take turns, and calls each of them once for every message: a pair of slices is two neighbours in
-// the row of messages, of which in a first pass one side takes the left and the other the right, and in a second pass
-// the other way round. The sides swap places from pair to pair (left-right, right-left), so that what changes slowly
-// meets both alike.
+// The two sides take turns; each is called once for every message. A pair of slices is two neighbours in the row of
+// messages. In the first pass, one side takes the left slice and the other the right one; in the second pass, they
+// swap. The order also changes from pair to pair (left-right, right-left), so that slow changes of the machine affect
+// both sides.
 std::vector<pair_times> time_pairs(timed_operation &first, timed_operation &second, const pair_window &window);
 
 struct single_call {
@@ -40,13 +40,13 @@ struct single_call {
     double cold; // of one call after other work; see other_work.h
 };
 
-// Times calls on message 0 one by one, by the clock: the thread's own time is too coarse for that.
+// Times calls on message 0 one by one, by the clock: the resolution of the thread's time is too low.
 class single_call_timer
 {
 public:
     explicit single_call_timer(unsigned calls);
 
-    // Medians, less what taking the time takes.
+    // Medians, less the time of reading the clock.
     single_call time(timed_operation &operation) const;
 
 private:

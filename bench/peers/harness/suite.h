@@ -1,8 +1,8 @@
-// The operations that a peer offers for one corpus. Each is added with the call that is timed, and that very call is
-// checked against the corpus first: an operation whose output is not ours is never timed.
+// The operations that a peer offers for one corpus. Each is added with the call that is timed. The same call is first
+// checked against the corpus: an operation with another output than ours is never timed.
 //
-// A call takes the number of a message. An operation has a name ("encode"), and a side: who does it, and how
-// ("protobuf reused").
+// A call takes the number of a message. An operation has a name ("encode") and a side, which is an implementation and
+// its method ("protobuf reused").
 #ifndef MAVA_TUM_BENCH_SUITE_H
 #define MAVA_TUM_BENCH_SUITE_H
 
@@ -16,7 +16,7 @@
 namespace bench
 {
 
-// The compiler must assume that the value, and all memory, is looked at.
+// The compiler must assume that the value and all memory are read.
 template <class Value>
 void keep(const Value &value)
 {
@@ -28,7 +28,7 @@ class timed_operation
 public:
     virtual ~timed_operation() = default;
 
-    // Calls once for each message from number `first` on, and goes on from number 0 after the last.
+    // Calls once for each message from number `first`, and continues with number 0 after the last.
     virtual void run(size_t first, uint64_t calls) = 0;
 
     std::string name;
@@ -46,14 +46,14 @@ public:
         return content_;
     }
 
-    // A peer asks before it makes what only this operation works on.
+    // Whether an operation is wanted, before its data are made.
     bool wants(const std::string &name) const
     {
         return only_.empty() || name == only_;
     }
 
-    // `call` returns whether it succeeded. What it leads to is checked by `wire_after`, which returns the bytes that
-    // the peer writes from the outcome of the same work; they have to be the message's.
+    // `call` returns whether it succeeded. Its outcome is checked by `wire_after`: it does the same work and encodes
+    // the result, which must have the bytes of the message.
     template <class Call, class WireAfter>
     void add(const char *name, const char *side, Call call, WireAfter wire_after)
     {
@@ -61,7 +61,7 @@ public:
         keep_operation(name, side, std::move(call));
     }
 
-    // `call` returns the bytes it wrote; they have to be the message's.
+    // `call` returns the bytes that it wrote; they must be those of the message.
     template <class Call>
     void add_encode(const char *name, const char *side, Call call)
     {
@@ -69,7 +69,7 @@ public:
         keep_operation(name, side, [call = std::move(call)](size_t i) mutable { return call(i).size(); });
     }
 
-    // `call` returns the application record it filled; it has to be the one that our adapter fills.
+    // `call` returns the application record that it filled; it must be equal to ours.
     template <class Call>
     void add_decode_adapter(const char *side, Call call)
     {
@@ -77,7 +77,7 @@ public:
         keep_operation("decode_adapter", side, [call = std::move(call)](size_t i) mutable { return &call(i); });
     }
 
-    // For work whose outcome is no message and no record: the floors. `call` returns whether it succeeded.
+    // For lower bounds, such as heap calls alone, which have no message or record. `call` returns whether it succeeded.
     template <class Call>
     void add_floor(const char *name, const char *side, Call call)
     {
@@ -85,7 +85,7 @@ public:
         keep_operation(name, side, std::move(call));
     }
 
-    // Empty, or where an operation first disagreed with the corpus, told for a person.
+    // Empty, or a description of the first difference from the corpus.
     const std::string &first_disagreement() const
     {
         return disagreement_;
@@ -128,7 +128,7 @@ private:
         operations_.push_back(std::move(operation));
     }
 
-    // `difference_of` returns an empty string for a message that is as it has to be.
+    // `difference_of` returns an empty string for a correct message.
     void check(const char *name, const char *side, const std::function<std::string(size_t)> &difference_of);
 
     std::string wire_difference(size_t i, byte_view written) const;

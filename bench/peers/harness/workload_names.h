@@ -1,4 +1,4 @@
-// The workloads by name, and which message each of them sends.
+// The workloads by name, and the message of each.
 #ifndef MAVA_TUM_BENCH_WORKLOAD_NAMES_H
 #define MAVA_TUM_BENCH_WORKLOAD_NAMES_H
 

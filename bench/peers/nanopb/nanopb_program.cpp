@@ -1,6 +1,6 @@
-// nanopb: structures of fixed size, filled and read by a table of fields. Nothing is allocated, so nothing is freed,
-// and a duplicate is an assignment. A message that is larger than its structure cannot be had: no replay of more than
-// one session, and no large bytes.
+// nanopb: structures of fixed size, filled and read with a table of fields. Nothing is allocated or freed, and a
+// duplicate is an assignment. Messages that are larger than the structure are not supported: no replay of more than one
+// session, and no large bytes.
 #include "peers/harness/peer_program.h"
 #include "peers/harness/workload_names.h"
 #include "peers/nanopb/nanopb_records.h"

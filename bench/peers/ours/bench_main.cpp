@@ -1,4 +1,5 @@
-// Measures operations of the library and of its peers, whose modules stand beside the program, in one process:
+// Measures operations of the library and of other implementations, whose modules are beside the program, in one
+// process:
 //   mava_tum_bench --versions <peer>...
 //   mava_tum_bench <task> <workload> <set> <first number> <messages> <seed> <amount> <operation>,... <peer>...
 // Tasks, what their amount is, and what they print, a line each, separated by tabs:
@@ -54,7 +55,7 @@ peer_program load_peer(const std::string &directory, const std::string &name)
     return *static_cast<const peer_program *>(program);
 }
 
-// Of ours, the side that does the same as the other: with the heap where the other uses the heap.
+// Our side that works like the other one: with the heap if the other uses the heap.
 const char *our_side_against(const timed_operation &other)
 {
     if (other.name != "decode")
@@ -66,7 +67,7 @@ const char *our_side_against(const timed_operation &other)
     return "ours bump";
 }
 
-// A fixed message can be called as often as two dozen pairs of slices take.
+// A fixed message is repeated for 24 pairs of slices.
 pair_window window_of_fixed(timed_operation &first, timed_operation &second, double slice_nanoseconds)
 {
     const double taken = time_operation(first, {1, 1e6}) + time_operation(second, {1, 1e6});
@@ -118,7 +119,7 @@ void print_cold_times(const suite &operations, request &asked)
     }
 }
 
-// What only this operation works on is made here, and gone afterwards.
+// The data of this operation exist only in this block.
 void measure(const corpus &content, const std::string &operation, request &asked)
 {
     suite operations(content, operation);
@@ -165,7 +166,7 @@ int run(const std::string &directory, const std::vector<std::string> &arguments)
     return 0;
 }
 
-// Which file of the library is loaded: the builds differ in the order of their objects.
+// The loaded file of the library: the builds differ in their link order.
 std::string library_file()
 {
     Dl_info found = {};

@@ -66,7 +66,7 @@ std::vector<uint8_t> typical_session_wire()
     return wire;
 }
 
-// All sessions are the typical one, so that the cost per session compares with that of a session alone.
+// All sessions are the typical one, so that the cost per session can be compared with one session alone.
 void add_replay(corpus &content, uint64_t session_count)
 {
     const std::vector<uint8_t> wire = typical_session_wire();
@@ -87,8 +87,8 @@ void add_replay(corpus &content, uint64_t session_count)
     mava_tum_session_context_free_ext(&session, release_allocated, nullptr, MAVA_TUM_ALIAS);
 }
 
-// A session of its numbers and 64 KiB in its one field of no fixed size. No nested records: encoding in pieces leaves
-// the bytes fields out of their lengths, and what it writes is then no message.
+// A session with its numbers and 64 KiB in its bytes field. No nested records: gather output does not count bytes
+// fields in their lengths, so its segments would be no message.
 void add_large_bytes(corpus &content)
 {
     std::vector<uint8_t> large(64 * 1024);

@@ -13,8 +13,8 @@ struct message_window {
     uint64_t count;
 };
 
-// Fills in the messages of the workload and set that `content` names: what is in a message depends on workload, set and
-// number only. Returns false if there are none of that name. `content` must not be moved afterwards.
+// Fills in the messages of the workload and set of `content`. A message depends on workload, set and number only.
+// Returns false if the name does not exist. `content` must not be moved afterwards.
 bool fill_corpus(corpus &content, const message_window &numbers);
 
 } // namespace bench

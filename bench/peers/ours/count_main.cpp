@@ -1,6 +1,6 @@
 // Runs each operation of the fixed workloads W1 to W6 once under callgrind, which is asked for a dump after each:
 //   valgrind --tool=callgrind mava_tum_bench_count
-//   mava_tum_bench_count --environment    what the counts depend on beside our code
+//   mava_tum_bench_count --environment    prints what the counts depend on besides our code
 #include "peers/harness/peer_program.h"
 #include "peers/harness/workload_names.h"
 #include "peers/ours/corpus_content.h"

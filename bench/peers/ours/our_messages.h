@@ -1,5 +1,4 @@
-// The library's messages that are measured: for each, its types and functions under names they share, so that the
-// operations are written once.
+// The measured messages: types and functions of each under common names, so that the operations are written once.
 #ifndef MAVA_TUM_BENCH_OUR_MESSAGES_H
 #define MAVA_TUM_BENCH_OUR_MESSAGES_H
 

@@ -1,4 +1,4 @@
-// What is measured of ours: the codec functions, and the adapters.
+// Our measured operations: the codec functions and the adapters.
 #ifndef MAVA_TUM_BENCH_OUR_OPERATIONS_H
 #define MAVA_TUM_BENCH_OUR_OPERATIONS_H
 
@@ -13,7 +13,7 @@
 namespace bench
 {
 
-// The callbacks of a caller who has nothing better than the C library's heap.
+// Callbacks for the heap of the C library.
 inline void *allocate_zeroed(uint64_t size, void *)
 {
     return std::calloc(1, size);
@@ -31,7 +31,7 @@ inline our_allocator of_bump(bump_allocator &memory)
     return {bump_allocator::allocate, bump_allocator::release, &memory};
 }
 
-// Enough for all blocks of records whose wire has `wire_bytes` bytes, as long as they are not made of empty elements.
+// Enough for all blocks of records whose wire has `wire_bytes` bytes, unless they consist of empty elements.
 inline uint64_t bump_bytes_for(uint64_t wire_bytes)
 {
     return 64 * 1024 + 16 * wire_bytes;
@@ -93,8 +93,7 @@ void add_decode(suite &operations, uint32_t flags)
         [=](size_t i) { return wire_after(i, heap); });
 }
 
-// Into a buffer with room to spare, into one of exactly the size, and the question for the size. The floor: a copy of
-// the wire.
+// Into a large buffer, into one of exactly the size, and a size request. Lower bound: a copy of the wire.
 template <class Codec>
 void add_encode(suite &operations)
 {
@@ -160,7 +159,7 @@ private:
     }
 };
 
-// The heap's share of an operation: the calls that it makes for each message, and nothing else.
+// Makes only the heap calls of an operation.
 inline void add_heap_floor(suite &operations, const char *operation, std::vector<std::vector<uint64_t>> block_sizes)
 {
     auto blocks = std::make_shared<std::vector<void *>>();
@@ -209,7 +208,7 @@ void add_codec(suite &operations)
     add_heap_floors<Codec>(operations);
 }
 
-// Decoding as the example decode_into_arena does it: with its arena, which is reset instead of freeing the record.
+// Decodes as the example decode_into_arena: its arena is reset instead of freeing the record.
 template <class Codec>
 void add_arena_decode(suite &operations, uint32_t flags)
 {
@@ -234,7 +233,7 @@ void add_arena_decode(suite &operations, uint32_t flags)
     });
 }
 
-// Encoding in pieces: a bytes field is not copied, its piece points at the record's memory.
+// Gather output: a bytes field is not copied, its segment points at the record's memory.
 inline void add_gathering_encode(suite &operations)
 {
     struct output {

@@ -6,7 +6,7 @@ namespace bench
 namespace
 {
 
-// What both families hold alike.
+// The members that routes of both families have.
 template <class Route, class Message>
 void fill_common(const Route &route, Message &message)
 {

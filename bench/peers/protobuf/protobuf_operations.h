@@ -10,7 +10,7 @@
 namespace bench
 {
 
-// A protobuf arena at its best: one block of the caller's, large enough, used again for each message.
+// The fastest use of a protobuf arena: one large block of the caller, reused for each message.
 class peer_arena
 {
 public:
@@ -41,8 +41,7 @@ private:
     google::protobuf::Arena arena_;
 };
 
-// Where a protobuf user takes the message from that a call works on: a new one, one that is used again, or one on an
-// arena. `with` lends it to the call and takes it back.
+// The message of a call: a new one, a reused one, or one on an arena. `with` calls its argument with it.
 template <class Message>
 class new_message
 {
@@ -67,7 +66,7 @@ public:
 
     explicit reused_message(size_t /*arena_bytes*/) {}
 
-    // Parsing and copying clear the message themselves; who fills it clears it first.
+    // Parsing and copying clear the message themselves; clear it before filling it.
     template <class Call>
     auto with(Call call)
     {
@@ -104,7 +103,7 @@ bool parse(Message &message, const std::vector<uint8_t> &wire)
     return message.ParseFromArray(wire.data(), static_cast<int>(wire.size()));
 }
 
-// As SerializeToArray does it, which does not tell the size.
+// As SerializeToArray, which does not return the size.
 template <class Message>
 byte_view serialize(const Message &message, std::vector<uint8_t> &buffer)
 {
@@ -159,7 +158,7 @@ void add_decode(suite &operations)
         });
 }
 
-// One message is read as fast as another: only the reused one is timed.
+// The kind of message does not affect reading: only the reused one is timed.
 template <class Message>
 void add_encode(suite &operations)
 {

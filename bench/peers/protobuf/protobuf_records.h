@@ -19,7 +19,7 @@ namespace bench
 {
 
 // The same sources make two modules: the messages are generated as proto3 for the one, as proto2 for the other. The
-// runtime knows messages by their names, so those of proto2 are in a package of their own.
+// runtime identifies messages by their names, so those of proto2 have their own package.
 #ifdef MAVA_TUM_BENCH_PROTO2
 namespace peer = peer_proto2;
 #define MAVA_TUM_BENCH_PROTOBUF_SIDE "proto2"
@@ -31,7 +31,7 @@ inline constexpr const char *peer_language = "proto3";
 inline constexpr bool peer_uses_arena = true;
 #endif
 
-// How the protobuf side moves texts and byte arrays between an application record and a message.
+// Copies texts and byte arrays between an application record and a message.
 
 // The generated set_...(const char *) builds a temporary string; assigning to the mutable one reuses its capacity.
 inline void assign_text(std::string *target, const char *text)

@@ -1,7 +1,7 @@
 #include "peers/protobuf/protobuf_records.h"
 
-// The record is zero before anything is read into it, and an absent field reads as zero: only whole nested messages are
-// tested for presence, which is the faster way.
+// The record is zero at first, and an absent field reads as zero. So only nested messages are tested for presence,
+// which is faster.
 namespace bench
 {
 namespace

@@ -1,5 +1,5 @@
-// protobuf-c: unpacked messages are trees of blocks from an allocator, the C library's or one that is reset. There is
-// no function for a duplicate, so there is no such operation.
+// protobuf-c: unpacked messages are trees of blocks from the heap or from an allocator that is reset. It has no
+// function for a duplicate.
 #include "bump_allocator.h"
 #include "peers/harness/peer_program.h"
 #include "peers/harness/workload_names.h"
@@ -15,7 +15,7 @@ namespace
 constexpr const char *malloc_side = "protobuf-c malloc";
 constexpr const char *bump_side = "protobuf-c bump";
 
-// What is generated for a message, under names that all share.
+// The generated functions of a message, under common names.
 template <class Message, auto Init, auto Unpack, auto Size, auto Pack, auto Free>
 struct generated {
     using message = Message;
@@ -62,7 +62,7 @@ public:
     }
 };
 
-// Takes the blocks back all at once.
+// Releases all blocks at once.
 class bump_memory
 {
 public:
@@ -161,7 +161,7 @@ void add_codec(suite &operations)
         [unpacked, buffer](size_t i) { return pack<Generated>(*unpacked->messages[i], *buffer); });
 }
 
-// Filling allocates nothing: one side does.
+// Filling allocates nothing, so one side is enough.
 template <class Generated, class Application, class Parts>
 void add_encode_adapter(suite &operations)
 {

@@ -1,5 +1,5 @@
-// Application records to and from protobuf-c's messages, by the rules of the adapters. A message is a tree of pointers:
-// the nested messages of one that is filled lie in a structure of parts beside it, so that nothing is allocated.
+// Application records to and from protobuf-c's messages, by the rules of the adapters. A message is a tree of pointers.
+// The nested messages are in a structure of parts beside it, so that filling allocates nothing.
 #ifndef MAVA_TUM_BENCH_PROTOBUF_C_RECORDS_H
 #define MAVA_TUM_BENCH_PROTOBUF_C_RECORDS_H
 
@@ -15,8 +15,7 @@
 namespace bench
 {
 
-// How the protobuf-c peer sets fields of messages that it only borrows for one call, and reads fields that may be
-// absent.
+// Sets fields without copying their content, and reads fields that may be absent.
 
 template <class Field, class Value>
 void put(protobuf_c_boolean &has, Field &field, Value value)
@@ -32,7 +31,7 @@ void put_nonzero(protobuf_c_boolean &has, Field &field, Value value)
         put(has, field, value);
 }
 
-// The message points at the record's own text: packing only reads it, whatever the generated member's type says.
+// The message points at the record's text: packing only reads it, although the generated member is not const.
 inline void put_text_always(char *&field, const char *text)
 {
     field = const_cast<char *>(text);
@@ -73,7 +72,7 @@ void take_bytes(uint8_t (&array)[Bytes], const ProtobufCBinaryData &field)
         copy_bytes(array, field.data, field.len);
 }
 
-// As many elements as there is room for.
+// At most as many elements as there are slots.
 template <class Count, class Entry, size_t Slots>
 Count slots_taken(size_t received, const Entry (&)[Slots])
 {

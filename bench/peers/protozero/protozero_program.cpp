@@ -1,5 +1,4 @@
-// protozero: no messages in between, written and read by hand. So there are adapters only: nothing to decode into, to
-// encode from or to duplicate.
+// protozero: fields are read and written by hand, without message objects. So it has adapter operations only.
 #include "peers/harness/peer_program.h"
 #include "peers/harness/workload_names.h"
 #include "peers/protozero/protozero_records.h"

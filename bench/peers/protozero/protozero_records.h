@@ -14,13 +14,13 @@
 namespace bench
 {
 
-// What the protozero peer writes and reads with: a writer into a buffer of fixed size, and the moves of single fields.
+// A writer into a buffer of fixed size, and functions for single fields.
 
 using output_buffer = protozero::fixed_size_buffer_adaptor;
 using writer = protozero::basic_pbf_writer<output_buffer>;
 using protozero::pbf_reader;
 
-// A nested message that receives nothing is taken back; the adapters send it, empty.
+// A nested message without fields is removed again; the adapters send it empty.
 template <class Write>
 void write_even_if_empty(output_buffer &buffer, writer &parent, uint32_t tag, Write write)
 {
