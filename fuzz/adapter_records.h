@@ -20,7 +20,7 @@ constexpr const adapter &adapter_at(std::size_t index)
     return mava_tum_catalogue::all_adapters()[index];
 }
 
-// Makes a record to send from a received one, which may have its members in another order.
+// Makes a record to send from a received one; their members may be in different orders.
 inline void make_record_to_send(const adapter &of, uint8_t *sent, const uint8_t *received)
 {
     using mava_tum_catalogue::record_member;

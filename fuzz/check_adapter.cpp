@@ -24,7 +24,7 @@ using namespace mava_tum_model;
 constexpr std::size_t largest_application_record = 17620;
 constexpr std::size_t largest_codec_record = 656;
 
-// On the sides of what a buffer may receive.
+// Guard bytes before and after the buffer.
 constexpr std::ptrdiff_t guard_bytes = 16;
 constexpr uint8_t untouched = 0xEE;
 
@@ -51,7 +51,7 @@ const adapter_layouts &layouts_of_adapter(std::size_t index)
     return layouts[index];
 }
 
-// What a short check does after the first decode: one of these.
+// The operation of a short check after the first decode.
 enum part : uint64_t { part_none, part_send, part_cut, part_count };
 
 class adapter_check
@@ -88,14 +88,14 @@ private:
     std::size_t calls_of_encodes_ = 0;
     uint64_t part_ = part_count;
 
-    // Kept from check to check: the largest records fill several pages.
+    // Reused by all checks: the largest records fill several pages.
     static inline std::vector<uint8_t> received_;
     static inline std::vector<uint8_t> expected_;
     static inline std::vector<uint8_t> before_send_;
     static inline std::vector<uint8_t> sent_bytes_;
 };
 
-// Every byte: also those that the adapter has to clear.
+// Compares every byte, also those that the adapter must clear.
 std::string adapter_check::compare_received(const uint8_t *codec_record)
 {
     const uint32_t size = layouts_.received->extent.bytes;
@@ -128,7 +128,7 @@ std::string adapter_check::receive()
     return compare_received(codec_record);
 }
 
-// Texts must keep their NUL: bytes that are zero stay so, others become anything.
+// Texts must keep their NUL: zero bytes stay, others become random.
 void adapter_check::place_record_to_send()
 {
     sent_ = before_the_page(adapter_.sent->size_bytes);
@@ -149,7 +149,7 @@ uint64_t adapter_check::encode(uint8_t *buffer, uint64_t capacity)
     return size;
 }
 
-// Into exactly the size that is needed, or a part of it, or more.
+// Into exactly the needed size, less or more.
 std::string adapter_check::send()
 {
     before_send_.assign(sent_, sent_ + adapter_.sent->size_bytes);
@@ -214,7 +214,7 @@ bool read_adapter_case(std::span<const uint8_t> bytes, adapter_case &read)
     if (bytes.size() < header_bytes)
         return false;
     read.adapter_index = bytes[0] % adapter_count;
-    // Bytes 1 to 3 mean something to fuzz_messages only. The lowest byte first, on every machine.
+    // Only fuzz_messages uses bytes 1 to 3. Little-endian on every machine.
     read.seed = bytes[4] | uint32_t{bytes[5]} << 8 | uint32_t{bytes[6]} << 16 | uint32_t{bytes[7]} << 24;
     read.wire = bytes.subspan(header_bytes);
     return true;

@@ -1,4 +1,4 @@
-// One input through one adapter, both ways.
+// One input through one adapter, in both directions.
 #pragma once
 
 #include "adapter_records.h"
@@ -22,13 +22,12 @@ struct adapter_case {
     bool every_part = true; // otherwise one of the operations after the first decode, chosen by `seed`
 };
 
-// Eight bytes that say how, then the wire. Shorter input is no case.
+// Eight bytes of choices, then the wire. Shorter input is no case.
 bool read_adapter_case(std::span<const uint8_t> bytes, adapter_case &read);
 
-// Empty if all of this holds, otherwise what does not:
-// receiving: nothing outside the record is touched, and every byte of it is the one that the model predicts; sending:
-// the record is only read, and the size and the bytes, into a buffer of any capacity, are those that the model
-// predicts; both: no allocator is called.
+// Empty if all of this holds, otherwise a description of the difference: receiving: nothing outside the record is
+// touched, and every byte of it is the one that the model predicts; sending: the record is only read, and the size and
+// the bytes, into a buffer of any capacity, are those that the model predicts; both: no allocator is called.
 std::string check_adapter(const adapter_case &checked);
 
 } // namespace mava_tum_fuzz

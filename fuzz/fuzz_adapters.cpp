@@ -1,4 +1,4 @@
-// Do the 19 adapters receive and send what the model predicts, keep to their record, and call no allocator?
+// Do the 19 adapters receive and send what the model predicts, stay inside their record, and call no allocator?
 #include "check_adapter.h"
 #include "fuzz_target.h"
 

@@ -1,5 +1,5 @@
-// Do the messages of a stream come back from tum_nal/message_stream.h, whatever their lengths and wherever it is cut?
-// An input, of any bytes:
+// Does tum_nal/message_stream.h return the messages of a stream, for all lengths and all parts in which the stream
+// arrives? An input, of any bytes:
 //   byte 0      bit 0: the rest is sent as messages (set) or is the stream itself; the other bits, times 8: the limit
 //   byte 1      how many bytes of cuts follow, modulo 16
 //   cuts        the sizes in which the stream arrives, again and again; none: all at once
@@ -29,7 +29,7 @@ void expect(bool holds, const char *what)
     std::abort();
 }
 
-// A block of exactly this size, so that address sanitizers see the first byte too many; no block for none.
+// A block of exactly this size, so that the address sanitizer detects every access behind it; no block for size 0.
 class exact_block
 {
 public:
@@ -55,10 +55,10 @@ private:
     std::size_t size_;
 };
 
-// What a stream holds: computed from the whole of it, without the functions in question.
+// The content of a stream, computed from the whole of it without the tested functions.
 struct expected_stream {
     std::vector<byte_vector> messages;
-    std::size_t taken = 0; // when the last result was given: all, or up to the length that is refused
+    std::size_t taken = 0; // at the last result: all, or up to the rejected length
     bool refused = false;
     bool may_end = false;
 };
@@ -86,7 +86,7 @@ expected_stream read_whole(byte_span stream, uint32_t limit)
     return result;
 }
 
-// The receiving side, and what it got.
+// The receiver and its results.
 class receiver
 {
 public:
@@ -95,7 +95,7 @@ public:
         tum_nal_message_stream_init(&stream_, buffer_.data(), limit);
     }
 
-    // What arrives may lie anywhere; of nothing there is no address.
+    // A part can be at any address; an empty part has a null pointer.
     void take(byte_span arrival)
     {
         const exact_block block(arrival);
@@ -140,7 +140,7 @@ private:
     std::vector<byte_vector> received_;
 };
 
-// A cut of 0 is an arrival of nothing, and one of 1 byte.
+// A cut of 0 is an empty arrival, then one of 1 byte.
 void check_cut_stream(byte_span stream, byte_span cuts, uint32_t limit)
 {
     receiver receives(limit);

@@ -1,4 +1,4 @@
-// What a target is made of: the question (fuzz_<question>.cpp), the mutator, and an engine or replay_main.cpp.
+// The parts of a target: the question (fuzz_<question>.cpp), the mutator, and an engine or replay_main.cpp.
 #pragma once
 
 #include "model/message_tables.h"
@@ -16,7 +16,7 @@ const mava_tum_model::message &message_of_input(uint8_t first_byte);
 // The engine checks one operation after the decode in each execution; a replay also checks all of them.
 enum class depth { one_part, every_part };
 
-// Stops the program, with a description, where the library does something else than the model. False: not a case.
+// Stops the program with a description if the library differs from the model. Returns false if the input is no case.
 bool check_input(std::span<const uint8_t> bytes, depth how);
 
 } // namespace mava_tum_fuzz

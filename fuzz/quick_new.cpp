@@ -1,6 +1,6 @@
-// operator new for what is not watched: the vectors and strings of the model, of the mutator and of the engine. The
-// sanitizer's allocator takes most of an execution otherwise. What the library gets stays with the sanitizer: its
-// blocks come from malloc, and the input from new[].
+// operator new for code that is not instrumented: the vectors and strings of the model, the mutator and the engine. The
+// sanitizer's allocator would take most of an execution. The library's memory stays with the sanitizer: its blocks come
+// from malloc, the input from new[].
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
@@ -14,7 +14,7 @@ constexpr std::size_t list_count = 65;
 constexpr std::size_t slab_bytes = std::size_t{1} << 18;
 constexpr std::size_t not_listed = SIZE_MAX;
 
-// Stands before each block; the block is as aligned as malloc's.
+// Precedes each block; the block is aligned like those of malloc.
 struct alignas(16) block_header {
     std::size_t list;
     block_header *next;

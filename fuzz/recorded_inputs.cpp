@@ -59,7 +59,7 @@ std::vector<std::vector<uint8_t>> read_inputs(const std::string &path)
 void write_file(const std::string &path, std::span<const uint8_t> bytes)
 {
     std::FILE *const file = open_file(path, "wb");
-    // An empty input has no address, and fwrite() wants one.
+    // An empty input has a null pointer, which fwrite() does not accept.
     const bool is_complete = bytes.empty() || std::fwrite(bytes.data(), 1, bytes.size(), file) == bytes.size();
     if (std::fclose(file) != 0 || !is_complete)
         stop(path, "cannot be written");

@@ -1,5 +1,5 @@
-// Inputs in files, by the C library alone: under the memory sanitizer the C++ runtime library is not instrumented, and
-// what its streams write counts as never written.
+// Inputs in files, with the C library only: under the memory sanitizer, the C++ runtime is not instrumented, so the
+// output of its streams would count as uninitialised.
 #pragma once
 
 #include <cstdint>

@@ -1,6 +1,6 @@
-// Runs a target over inputs, without an engine: replay_<question> FILE...
-// FILE.packed has many inputs (packed_inputs.h); any other file is one. A target stops the program at the first input
-// that it finds wrong. No input at all is an error too. No stream: see recorded_inputs.h.
+// Runs a target over inputs, without an engine: replay_<question> FILE... FILE.packed has many inputs
+// (packed_inputs.h); any other file is one. A target stops the program at the first input with a difference. No input
+// is an error, too. No C++ stream: see recorded_inputs.h.
 #include "fuzz_target.h"
 #include "recorded_inputs.h"
 
@@ -11,7 +11,7 @@
 namespace
 {
 
-// The copy ends where the block ends, so that address sanitizers see the first byte too many.
+// The copy ends where its block ends, so that the address sanitizer detects every access behind it.
 void replay(std::span<const uint8_t> bytes)
 {
     const std::unique_ptr<uint8_t[]> exact(new uint8_t[bytes.size()]);

@@ -50,7 +50,7 @@ TEST_P(every_adapter, receives_and_sends_mutated_inputs_as_the_model_predicts)
     }
 }
 
-// Lists longer than their arrays, and than a count in 8 bits.
+// Lists that are longer than their arrays, and longer than an 8-bit count.
 TEST_P(every_adapter, receives_lists_that_do_not_fit_as_the_model_predicts)
 {
     for (const uint32_t elements : {9u, 51u, 257u})

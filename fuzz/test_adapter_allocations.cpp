@@ -1,5 +1,5 @@
 // No adapter calls an allocator, on any input: all inputs of the corpus, messages of all kinds, mutated ones, and lists
-// that a decode into memory of their own would need hundreds of megabytes for.
+// that would need hundreds of megabytes in a codec record.
 #include "adapter_records.h"
 #include "check_adapter.h"
 #include "model/wire_maker.h"
@@ -21,7 +21,7 @@ namespace
 using namespace mava_tum_model;
 using mava_tum_test::heap_calls_of;
 
-// Receives the wire, and sends what came.
+// Decodes the wire and encodes the result.
 std::size_t calls_of(const adapter &tested, const wire_bytes &wire)
 {
     alignas(8) static uint8_t received[17620], sent[17620];
@@ -51,7 +51,7 @@ std::string name_of(const testing::TestParamInfo<std::size_t> &info)
 
 INSTANTIATE_TEST_SUITE_P(of, adapter_allocations, testing::Range(std::size_t{0}, adapter_count), name_of);
 
-// Through a pointer that the compiler does not follow: it would take out a block that nobody uses.
+// Through a volatile pointer: the compiler would remove an unused block.
 template <class Function>
 Function *opaque(Function *function)
 {
@@ -115,7 +115,7 @@ TEST_P(adapter_allocations, none_on_mutated_messages)
     }
 }
 
-// Of a replay request, field 4: half a million sessions.
+// Field 4 of a replay request: half a million sessions.
 TEST_P(adapter_allocations, none_on_a_megabyte_of_empty_elements)
 {
     constexpr std::size_t megabyte = 1 << 20;

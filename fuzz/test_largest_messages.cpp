@@ -1,5 +1,5 @@
-// The sizes that the headers give for buffers, TUM_NAL_..._MAX_SIZE: the largest record of each adapter, made from the
-// model's tables, has a message of just that size.
+// TUM_NAL_..._MAX_SIZE of the headers: the largest record of each adapter, made from the model's tables, has a message
+// of exactly that size.
 #include "check_adapter.h"
 #include "model/application_layout.h"
 #include "model/raw_memory.h"
@@ -17,8 +17,8 @@ namespace
 
 using namespace mava_tum_model;
 
-// Calls `visit` with each member that has a content of its own and the place where it stands, those of parts and of all
-// elements of lists too. A list of texts is as many texts.
+// Calls `visit` with each member that has a value and its place, also in parts and in all elements of lists. A list of
+// texts counts as single texts.
 template <class visitor>
 void for_each_leaf(const application_layout &layout, uint8_t *record, const visitor &visit)
 {
@@ -36,7 +36,7 @@ void for_each_leaf(const application_layout &layout, uint8_t *record, const visi
     });
 }
 
-// All bits of every number, all slots of every list, texts that leave room for nothing but their NUL.
+// All bits of every number, all slots of every list, texts of the largest length.
 void fill(const slot &member, uint8_t *at)
 {
     switch (member.kind) {
@@ -57,7 +57,7 @@ uint64_t size_of(const adapter &tested, const uint8_t *record)
     return tested.encode(record, nullptr, 0);
 }
 
-// What a number selects by its value, as the kind of a session does, may be worth more than its own bytes.
+// A value such as the kind of a session selects other members, which may have more bytes than the value itself.
 void choose_number(const adapter &tested, const uint8_t *record, const slot &member, uint8_t *at)
 {
     for (uint64_t number = 0; number < 16; ++number) {

@@ -1,4 +1,4 @@
-// Tells the engine what wire bytes look like: most changes are of fields, not of bytes.
+// A mutator that knows the wire format: most changes are of fields, not of bytes.
 #include "fuzz_target.h"
 #include "model/random_source.h"
 #include "model/wire_maker.h"
@@ -19,9 +19,9 @@ namespace
 using namespace mava_tum_model;
 
 constexpr std::size_t header_bytes = 8;
-constexpr std::size_t long_input_bytes = 4096; // where inputs may be longer than this, some become so
+constexpr std::size_t long_input_bytes = 4096; // if longer inputs are allowed, some are made longer than this
 
-// The first byte chooses the message and stays mostly, so that the wire still means something.
+// The first byte selects the message. It seldom changes, so that the wire still fits the message.
 void change_header(uint8_t *data, random_source &random)
 {
     const std::size_t index = random.one_in(8) ? 0 : 1 + random.below(header_bytes - 1);
