@@ -1,8 +1,8 @@
 # shellcheck shell=bash
 # Sourced by the checks, which keep what their builds print in a file.
 
-# logged <log> <command...>: the command's output goes to the end of the log, of which the last lines are shown when it
-# fails: a check that stops without a word does not say what to mend.
+# logged <log> <command...>: appends the command's output to the log. If the command fails, prints the last lines of the
+# log.
 logged() {
     local log=$1 status=0
     shift

@@ -11,7 +11,7 @@
 # and exports what the programs read from their environment.
 readonly all_platforms=(address undefined memory thread valgrind i686 aarch64 s390x)
 
-# Without the optimisations that would remove what a sanitizer is to look at. All others are optimised as for release.
+# Without optimisations that would remove what a sanitizer checks. All others are optimised as for release.
 readonly clang=(-DCMAKE_C_COMPILER=clang-19 -DCMAKE_CXX_COMPILER=clang++-19
     "-DCMAKE_C_FLAGS_RELWITHDEBINFO=-O1 -g1" "-DCMAKE_CXX_FLAGS_RELWITHDEBINFO=-O1 -g1")
 
@@ -30,10 +30,10 @@ platform_undefined() {
     export UBSAN_OPTIONS=print_stacktrace=1
 }
 
-# The C++ runtime library is not instrumented: what it writes would count as never written, and the first stream that
-# googletest opens would end each program. So the programs are others, which use no stream: they compare the library
-# with the model, and the comparison reads every byte that comes out. Templates of the runtime library are compiled into
-# them. The GoogleTest programs are asked the same question by valgrind.
+# The C++ runtime library is not instrumented: its output would count as uninitialised, and the first stream of
+# googletest would end the program. So other programs run, without streams: they compare the library with the model, and
+# read every byte of its output. Templates of the runtime library are compiled into them. For the GoogleTest programs,
+# valgrind makes the same check.
 platform_memory() {
     packages=(clang-19 libclang-rt-19-dev)
     configure=("${clang[@]}")

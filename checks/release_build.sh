@@ -1,7 +1,7 @@
 # shellcheck shell=bash
 # Sourced by the checks of the library as it is released, which share one build of it.
 
-# build_release <folder> <target>...: what it prints goes to <folder>.log.
+# build_release <folder> <target>...: its output is in <folder>.log.
 build_release() {
     local folder=$1
     shift

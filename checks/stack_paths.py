@@ -3,12 +3,12 @@
     stack_paths.py <limit in bytes> <file with the exported names> <folder that g++ compiled the library into, with
         -fcallgraph-info=su -save-temps=obj>
 
-Prints "<bytes> <name>" for each export. Exits with 1 and says why when a path comes back to itself, when a frame has
-no bound, when an export is missing from the graph, or when a figure is above the limit.
+Prints "<bytes> <name>" for each export. Exits with 1 and the reason if there is a recursion, a frame without a bound,
+an export that the graph does not have, or a figure above the limit.
 
-What libc and the caller's callbacks take is not counted: the path ends where they are called. A call through a pointer
-may also reach a function of the library, whose address some function on the path has taken: it is taken to reach each
-of those, but for the ones that the path has come through already.
+The stack of libc and of the caller's callbacks is not counted: the path ends at their call. A call through a pointer
+may reach each function of the library whose address a function on the path has taken, except those that are already on
+the path.
 """
 
 import pathlib
@@ -17,7 +17,7 @@ import sys
 
 NODE = re.compile(r'^node: \{ title: "([^"]*)" label: "([^"]*)"( shape : ellipse)? \}$')
 EDGE = re.compile(r'^edge: \{ sourcename: "([^"]*)" targetname: "([^"]*)"')
-# "dynamic,bounded" is a frame that pushes the arguments of a call: its size is known. "dynamic" is one that is not.
+# The size of a "dynamic,bounded" frame is known (it pushes arguments of a call), that of a "dynamic" frame is not.
 FRAME = re.compile(r'\\n(\d+) bytes \((static|dynamic,bounded|dynamic)\)')
 
 LABEL = re.compile(r'^([A-Za-z_][\w.$]*):')
@@ -26,7 +26,7 @@ ADDRESS = re.compile(r'^\s+(?:lea|mov)q\s+([A-Za-z_][\w.$]*)(?:@GOTPCREL)?\(%rip
 TABLE = re.compile(r'^\s+\.(?:quad|long)\s+([A-Za-z_][\w.$]*)')
 
 POINTER_CALL = "__indirect_call"
-# Where a path leaves the library. The first two do not return.
+# Functions outside of the library. The first two do not return.
 LIBC = {
     "__assert_fail", "__stack_chk_fail", "memcmp", "memcpy", "memmove", "memset", "strlen", "strnlen",
 }
@@ -37,7 +37,7 @@ class Refused(Exception):
 
 
 class Graph:
-    """Frames, calls and taken addresses. A function of one source only is known by "<source>:<name>"."""
+    """Frames, calls and taken addresses. A static function has the name "<source>:<name>"."""
 
     def __init__(self, folder):
         self.frames, self.calls, self.taken = {}, {}, {}
@@ -55,7 +55,7 @@ class Graph:
                 self.frames[node[1]] = max(frame_bytes(node[1], node[2]), self.frames.get(node[1], 0))
 
     def read_assembly(self, source, text):
-        """Which functions are one under several names, and whose address is taken by whom."""
+        """The aliases of functions, and which function takes whose address."""
         function = None
         for line in text.splitlines():
             if label := LABEL.match(line):
@@ -96,7 +96,7 @@ class Paths:
         self.known = {}
 
     def deepest(self, name, path=(), handed=frozenset()):
-        """The most bytes that stand on the stack from the entry of `name` on. `handed`: the addresses taken so far."""
+        """The most bytes on the stack from the entry of `name`. `handed`: the addresses taken so far."""
         if name in path:
             raise Refused("recursion: " + " -> ".join(path[path.index(name):] + (name,)))
         if name in LIBC:

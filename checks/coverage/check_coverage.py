@@ -1,15 +1,14 @@
 #!/usr/bin/env python3
-"""Compares a coverage report with the list of what may stay uncovered.
+"""Compares a coverage report with the list of allowed uncovered places.
 
     check_coverage.py <report of llvm-cov show> <project root> <exceptions.tsv>
 
-Prints the figures of each file below src/ and include/, every place that is not covered, and as the last line the
-figures in all. Exits with 1 when something that is not listed is uncovered, or something listed is covered or gone.
+Prints the figures of each file below src/ and include/, every uncovered place, and as the last line the totals. Exits
+with 1 if an uncovered place is not listed, or a listed one is covered or does not exist.
 
 A row of the list: kind (function, line, branch or condition), file, the source from the place to the end of its line,
-the way that a branch never goes (or -), and the reason. Source text and not numbers, so that the list survives edits; a
-row stands for one place. A function of which no line was executed is one place, named by its last line before the
-brace."""
+the way that a branch never goes (or -), and the reason. Source text, not line numbers, so that the list survives edits;
+a row is one place. A function without an executed line is one place, named by its last line before the brace."""
 
 import sys
 from collections import Counter
@@ -32,7 +31,7 @@ def lines_of_block(source, first):
 
 
 def untouched_functions(coverage, source):
-    """The lines of each function that never ran: they are one place, not many."""
+    """The lines of each function that never ran: they count as one place."""
     for line, covered in sorted(coverage.lines.items()):
         if covered or source_from(source, line, 1) != "{":
             continue
@@ -76,7 +75,7 @@ def figure(places):
 
 
 def percent(covered, count):
-    # Cut, not rounded: 100.00 is said of all and of nothing less.
+    # Truncated, not rounded: 100.00 means all.
     hundredths = 10000 * covered // count if count else 10000
     return f"{hundredths // 100}.{hundredths % 100:02d} % ({covered} of {count})"
 
@@ -86,7 +85,7 @@ def print_row(name, cells):
 
 
 def measured(files, root):
-    """Name below the root, and coverage, of what is the library's."""
+    """Path below the root and coverage of each file of the library."""
     for path, coverage in sorted(files.items()):
         name = path.removeprefix(f"{root}/")
         if name.startswith(("src/", "include/")):
@@ -109,7 +108,7 @@ def gather(files, root):
 
 
 def compare(uncovered, listed):
-    """Prints what is on one side only; returns how much that is."""
+    """Prints the places that only one side has; returns their number."""
     left = listed.copy()
     unlisted = 0
     for key, line in uncovered:

@@ -1,12 +1,12 @@
-"""What `llvm-cov show -show-branches=count -show-mcdc` says, gathered by place in the source.
+"""Reads the output of `llvm-cov show -show-branches=count -show-mcdc`, by place in the source.
 
 A template counts once: its instantiations are copies of one place, and so are the copies that a fold expression makes
-of its pattern. A line was executed, a branch went one way, when some copy did. A condition is covered when in some copy
-its independence was shown (a pair of executions in which it alone decided): the union of the pairs, never a pair whose
-halves come from two copies. What the compiler folds to a constant in every copy is no branch and no condition.
+of its pattern. A line or branch is covered if it is covered in one copy. A condition is covered if one copy has a pair
+of executions in which it alone decided; a pair from two copies does not count. A constant in every copy is no branch
+and no condition.
 
-The report has to show instantiations on their own too: where they differ in shape, the merged view takes a line that one
-of them discards for one that never ran."""
+The report must show each instantiation, too: if they differ in shape, the merged view shows a line that one of them
+discards as never executed."""
 
 import re
 from dataclasses import dataclass, field

@@ -1,5 +1,5 @@
-// Only in builds with coverage counters: a process that ends by an assertion writes its counters first, so that what it
-// executed counts. The report and the abort are libc's own.
+// Only in builds with coverage counters: a process that ends by an assertion writes its counters first. The report and
+// the abort are those of libc.
 #include <assert.h> // declares __assert_fail
 #include <dlfcn.h>
 

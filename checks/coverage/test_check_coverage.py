@@ -1,4 +1,4 @@
-"""Small reports that the check must accept, and ones that it must refuse."""
+"""Small reports that the check must accept, and others that it must reject."""
 
 import contextlib
 import io

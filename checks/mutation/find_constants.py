@@ -1,12 +1,12 @@
-"""Finds what only a compiler sees, and can therefore only be mutated by building again: constants, what functions of
-constants compute (COMPILED_FUNCTIONS), and template arguments.
+"""Finds compile-time code, each mutant of which needs a build: constants, the functions that compute them
+(COMPILED_FUNCTIONS), and template arguments.
 
 In an expression: a whole number one higher or lower, an operator exchanged for its counterpart, a truth value or a
 condition negated. In the rows of src/nal: a field number one higher, a limit one higher or lower, a condition left out,
 one of several conditions or values left out, a condition added where zeros and empty texts are sent, one direction made
 both.
 
-What only fails to compile stays: assertions, and the numbers in field lists, which have to run from 1 without a gap.
+Without mutants: assertions and the numbers in field lists, because a change does not compile.
 """
 import hashlib
 import os
@@ -41,7 +41,7 @@ class Edit:
     end: int
     text: str
     key: str
-    within: str  # of the declaration's text, to see whether it has changed
+    within: str  # of the declaration's text, to detect changes
     line: int
 
 
@@ -50,7 +50,7 @@ def blanked(found):
 
 
 def without_comments(text):
-    """Comments, texts and what other processors compile blanked, so that positions stay."""
+    """With comments, texts and code for other processors blanked, so that positions stay."""
     text = re.sub(r'//[^\n]*|"(?:[^"\\\n]|\\.)*"', blanked, text)
     return re.sub(r"^#else\n.*?(?=^#endif)", blanked, text, flags=re.M | re.S)
 
@@ -98,7 +98,7 @@ def mutants_of_expression(text, start, end):
 
 @dataclass
 class TemplateId:
-    """`name<arguments>`, each argument from where to where."""
+    """`name<arguments>`, with the start and end of each argument."""
     name: str
     start: int
     end: int
@@ -106,7 +106,7 @@ class TemplateId:
 
 
 def template_ids(text, start, end):
-    """All of them, also those inside of others."""
+    """All templates, also those inside of others."""
     for found in TEMPLATE_NAME.finditer(text, start, end):
         opening = found.end() - 1
         close = closing(text, opening)
@@ -155,7 +155,7 @@ def functions(text):
 
 
 def declarations(text, with_rows):
-    """(name, start, end, what is mutated in it)."""
+    """(name, start, end, the mutated text in it)."""
     for name, start, end in functions(text):
         yield name, start, end, mutants_of_expression
     for found in CONSTANT.finditer(text):
@@ -182,7 +182,7 @@ def scopes(text):
 
 
 def find_edits(path, name):
-    """The edits of one file; `name` is the file's for people."""
+    """The edits of one file; `name` is its name in reports."""
     with open(path, encoding="latin-1") as stream:
         original = stream.read()
     text = without_comments(original)

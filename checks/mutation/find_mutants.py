@@ -1,10 +1,10 @@
 """Finds the places of a C++ source that can be mutated, in clang's syntax tree.
 
-A mutant is one small change: a comparison turned round or moved by one, an operator exchanged for its counterpart, a
-whole number one higher or lower, a condition or truth value negated, a call or an assignment left out, a return of the
-empty value. Only what runs is changed. Constants, what computes them and template arguments are find_constants.py's;
-array bounds, static_assert and `if constexpr` stay, and so does the number in `return {nullptr, 0}`: beside a null
-position there is no value. A template is one place, however many messages instantiate it.
+A mutant is one small change: a comparison inverted or moved by one, an operator exchanged for its counterpart, a whole
+number one higher or lower, a condition or truth value negated, a call or an assignment left out, a return of the empty
+value. Only run-time code is changed. find_constants.py has constants, their computation and template arguments. Array
+bounds, static_assert and `if constexpr` stay, and so does the number in `return {nullptr, 0}`, because a null position
+has no value. A template is one place for all its instantiations.
 """
 import hashlib
 import re
@@ -40,8 +40,8 @@ class Site:
     end: int
     before: str
     after: str
-    changes: list  # what each mutant does, for people; their numbers follow each other
-    within: str  # of the function's text, to see whether it has changed
+    changes: list  # the description of each mutant; their numbers are consecutive
+    within: str  # of the function's text, to detect changes
     operator: tuple = None
     first: int = 0
     dropped: bool = False
@@ -68,7 +68,7 @@ class Finder:
     # ---- walking ----
 
     def visit(self, cursor):
-        """Dispatches on what the cursor is; whatever is not named here only has children."""
+        """Dispatches on the kind of the cursor; for other kinds, only visits the children."""
         kind = cursor.kind
         if kind in SKIPPED or (kind in FUNCTIONS and cursor.spelling in COMPILED_FUNCTIONS):
             return
@@ -103,7 +103,7 @@ class Finder:
         self.function, self.within = outer
 
     def visit_variable(self, cursor):
-        """Only what initialises it, and only where that is not a constant."""
+        """Only the initialiser, if it is not a constant."""
         name = cursor.location.offset
         if re.search(r"\bconstexpr\b", self.text[cursor.extent.start.offset:name]):
             return
@@ -141,7 +141,7 @@ class Finder:
         return cursor.kind == CursorKind.UNARY_OPERATOR and self.text_of(cursor)[:2] in STEPS
 
     def leave_early(self, cursor):
-        """return: with the empty value instead, unless it is that already or a literal, which has mutants itself."""
+        """A return gets the empty value, unless it has it already or is a literal, which has its own mutants."""
         value = re.sub(r"^return\s*", "", self.text_of(cursor)).strip()
         if value == "" or OWN_MUTANT_OR_EMPTY.fullmatch(value):
             return
@@ -200,7 +200,7 @@ class Finder:
         self.visit_children(cursor)
 
     def operator_of(self, cursor):
-        """The operator's spelling and where it stands: between the two operands."""
+        """The operator's text and position between the two operands."""
         left, right = list(cursor.get_children())[:2]
         gap_start = left.extent.end.offset
         match = re.compile(r"[^\s\w]+").search(self.text, gap_start, right.extent.start.offset)
@@ -213,7 +213,7 @@ class Finder:
             self.add(cursor, f"mut::{name}({{0}}, ", ")", [f"{spelling} -> {other}" for other in others],
                      (start, end, ","))
         elif spelling in LOGICAL:
-            # By the negation of all three: exchanged without writing either operand twice.
+            # Negating all three exchanges the operator without a copy of an operand.
             flip = ") != mut::is({0}))"
             self.add(cursor, "(((mut::truth(", flip + ") != mut::is({0}))", [f"{spelling} -> {LOGICAL[spelling]}"],
                      (start, end, f"{flip} {spelling} (mut::truth("))
@@ -237,12 +237,12 @@ class Finder:
 
     def mutate_number(self, cursor):
         is_template_argument = self.text[cursor.extent.start.offset - 1] == "<"
-        if self.text_of(cursor)[:1].isdigit() and not is_template_argument:  # nor one that a macro wrote
+        if self.text_of(cursor)[:1].isdigit() and not is_template_argument:  # nor one from a macro
             self.add(cursor, "mut::literal({0}, ", ")", ["+ 1", "- 1"])
 
 
 def find_sites(source, files, arguments):
-    """The sites of those of `files` (absolute path -> name for people) that `source` includes."""
+    """The sites in those of `files` (absolute path -> name in reports) that `source` includes."""
     unit = Index.create().parse(source, args=arguments)
     errors = [d for d in unit.diagnostics if d.severity >= 3]
     if errors:
@@ -259,7 +259,7 @@ def find_sites(source, files, arguments):
 
 
 def top_level(cursor):
-    """What stands in the file's namespaces, which have no part in a function's name."""
+    """The declarations in the file's namespaces, which are not part of a function's name."""
     for child in cursor.get_children():
         if child.kind in (CursorKind.NAMESPACE, CursorKind.LINKAGE_SPEC):
             yield from top_level(child)

@@ -1,11 +1,10 @@
-"""Builds the test programs with other sources of the library than those of the ordinary build, or with other flags: the
-switched mutants, those that are built one at a time (the edits of find_constants.py), and both under the address
-sanitizer.
+"""Builds the test programs with changed sources of the library, or with other flags: the switched mutants, those that
+are built one at a time (the edits of find_constants.py), and both under the address sanitizer.
 
-Only what is made from src/ is compiled here; a program takes the rest from the ordinary build. For a mutant that is
-built, what is made from the edited file is compiled once more, in a folder of its own, with the edited file laid over
-the original (-ivfsoverlay). So the sanitizer watches the library, its stack and all blocks, but no array on the stack
-of a test that knows nothing of src/.
+Only objects made from src/ are compiled here; the others come from the ordinary build. For a mutant that is built, the
+objects of the edited file are compiled again in another folder, with the edited file over the original (-ivfsoverlay).
+So the sanitizer checks the library, its stack and all blocks, but no array on the stack of a test that does not include
+src/.
 """
 import functools
 import json
@@ -20,8 +19,7 @@ from concurrent.futures import ThreadPoolExecutor
 from test_programs import programs_of
 
 DOES_NOT_COMPILE = "the compiler"
-# Mutants make constants variable, which braces do not take without a word. Not optimised: the compiler takes longer
-# than the programs.
+# Mutants make constants variable, which is narrowing in braces. Not optimised: compiling takes longer than running.
 COMPILER, FLAGS = "clang++-19", ["-O0", "-g0", "-w", "-Wno-c++11-narrowing"]
 LINKER = "-fuse-ld=lld"
 STATIC_LIBRARY = "src/libmava_tum.a"
@@ -31,7 +29,8 @@ PRECOMPILED = re.compile(r"-Winvalid-pch|-include \S+\.hxx")
 
 
 class Commands:
-    """What ninja knows of the ordinary build of `source`: the commands, and what of src/ each object is made from."""
+    """The ordinary build of `source` as ninja describes it: the commands, and the files of src/ that each object
+    depends on."""
 
     def __init__(self, build, source):
         self.build, self.source = build, source
@@ -66,14 +65,14 @@ class Folder:
 
     def __init__(self, commands, tree, path, flags):
         self.commands, self.tree, self.path, self.flags = commands, tree, path, flags
-        self.objects = {}  # object of the build -> the one here
+        self.objects = {}  # object of the build -> object here
 
     def run(self, words):
         with open(os.path.join(self.path, "log"), "ab") as log:
             return subprocess.run(words, cwd=self.commands.build, check=False, stdout=log, stderr=log).returncode == 0
 
     def compile(self, target, source=None):
-        """The object here; None when it does not compile."""
+        """The object; None if it does not compile."""
         made = os.path.join(self.path, target.replace("/", "."))
         if os.path.exists(made):
             return made
@@ -87,7 +86,7 @@ class Folder:
         return made if self.run([*words, *self.flags]) else None
 
     def compile_library(self, objects):
-        """All of them at once, as one source."""
+        """All of them, compiled as one source."""
         source = os.path.join(self.path, "library.cpp")
         with open(source, "w", encoding="latin-1") as stream:
             for each in objects:
@@ -98,7 +97,7 @@ class Folder:
         return made is not None
 
     def link(self, target, others):
-        """The program, with the objects of here, or else of `others`, or else of the build."""
+        """The program, with objects from here, else from `others`, else from the build."""
         program = os.path.join(self.path, target)
         words = self.commands.link_words(target)
         words[words.index("-o") + 1] = program
@@ -111,7 +110,7 @@ class Builder:
     """The programs with the sources of the copy `name`, and with its mutants."""
 
     def __init__(self, work, name, corpus, version, sanitized=False):
-        """`version` is of the sources: what was built of another is built again."""
+        """`version` is that of the sources: objects of another version are built again."""
         build = os.path.join(work, "build")
         self.commands = Commands(build, os.path.join(work, "plain"))
         self.tree = os.path.join(work, name)
@@ -123,7 +122,7 @@ class Builder:
         self.folder = os.path.join(work, f"{name}.{'address' if sanitized else 'objects'}.{version[:12]}")
 
     def stale_objects(self, program, files=None):
-        """Those of a program, without the library's, that are made from one of the files; from any of src/."""
+        """A program's objects (not the library's) that depend on one of the files, or on any of src/."""
         return [word for word in self.commands.link_words(program.target)
                 if word not in self.library and self.is_made_from(word, files)]
 
@@ -132,7 +131,7 @@ class Builder:
         return bool(sources & files if files is not None else sources)
 
     def prepare(self):
-        """Builds everything with nothing mutated, unless it is there already."""
+        """Builds everything without a mutant, unless it exists."""
         os.makedirs(self.folder, exist_ok=True)
         folder = Folder(self.commands, self.tree, self.folder, self.flags)
         stale = {*self.library, *(each for program in self.programs for each in self.stale_objects(program))}
@@ -148,7 +147,7 @@ class Builder:
             program.command[0] = path
 
     def order(self, files):
-        """First those that need nothing but the library compiled, and have killed mutants of the same folder."""
+        """First the programs that need only the library compiled, and have killed mutants of the same folder."""
         folder = os.path.dirname(min(files))
         return sorted(self.programs, key=lambda program: (program.is_slow, len(self.stale_objects(program, files)),
                                                           -self.kills[program.name, folder]))
@@ -161,7 +160,7 @@ class Builder:
 
     def killer_of(self, changed):
         """The name of the program that fails, or does not build, with the changed files (path -> text);
-        DOES_NOT_COMPILE where the library does not; None."""
+        DOES_NOT_COMPILE if the library does not compile; otherwise None."""
         files = set(changed)
         with tempfile.TemporaryDirectory() as path:
             folder = Folder(self.commands, self.tree, path, [*self.flags, *self.overlay(changed, path)])

@@ -1,6 +1,6 @@
-"""The operators and what each is exchanged for."""
+"""The operators and their replacements."""
 
-# operator -> (function of mutant_switch.h, what each of its mutants does)
+# operator -> (function of mutant_switch.h, description of each of its mutants)
 BINARY = {
     "==": ("equal", ["!="]), "!=": ("unequal", ["=="]),
     "<": ("less", [">=", "<="]), "<=": ("less_or_equal", [">", "<"]),

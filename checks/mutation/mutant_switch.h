@@ -1,7 +1,7 @@
-// Put in front of every mutated source. All mutants stand in one build; the environment says which of them is alive:
+// Included in every mutated source. All mutants are in one build; the environment selects one:
 //     MUTANT=<number>         this one; none when it is not set
 //     MUTANT_TRACE=<file>     none; byte n of the file becomes 1 when the place of mutant n is reached
-// What the compiler evaluates while it compiles is never mutated.
+// Compile-time code is never mutated.
 #pragma once
 
 #include <cstdlib>
@@ -67,7 +67,7 @@ constexpr Value literal(unsigned first, Value value)
     return is(first) ? static_cast<Value>(value + 1) : is(first + 1) ? static_cast<Value>(value - 1) : value;
 }
 
-// Comparisons: mutant `first` is the opposite; where there is a boundary, `first + 1` moves it by one.
+// Comparisons: mutant `first` is the opposite; `first + 1` moves the boundary by one, if there is one.
 template <class A, class B>
 constexpr bool equal(unsigned first, A a, B b)
 {
@@ -104,7 +104,7 @@ constexpr bool greater_or_equal(unsigned first, A a, B b)
     return is(first) ? a < b : is(first + 1) ? a > b : a >= b;
 }
 
-// The constraint keeps the error of a mutant that no compiler takes (a sum of two pointers) at its place.
+// The constraint reports a mutant that does not compile (a sum of two pointers) at its place.
 template <class A, class B>
     requires requires(A a, B b) { true ? a - b : a + b; }
 constexpr auto plus(unsigned mutant, A a, B b)

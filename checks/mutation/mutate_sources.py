@@ -1,10 +1,10 @@
 #!/usr/bin/env python3
-"""Puts every mutant that can be chosen while a program runs into a copy of the tree, at once: see mutant_switch.h.
+"""Writes all mutants of run-time code into one copy of the tree: see mutant_switch.h.
 
     mutate_sources.py <copy of the project> <mutants.json>
 
-Rewrites the sources in the copy, drops what no compiler takes, and writes down what each mutant is. So it does for the
-mutants that are built one at a time (find_constants.py), which stay out of the copy.
+Rewrites the sources in the copy, drops mutants that do not compile, and writes the description of each mutant. Also
+describes the mutants that are built one at a time (find_constants.py), which are not in the copy.
 """
 import glob
 import json
@@ -20,9 +20,9 @@ import find_mutants
 
 COMPILER = "clang++-19"
 SWITCH = os.path.join(os.path.dirname(os.path.abspath(__file__)), "mutant_switch.h")
-# The lists of fields in src/messages have no mutants: what differs there does not compile.
+# The lists of fields in src/messages have no mutants: a change there does not compile.
 MUTATED = ["src/codec/*.h", "src/codec/*.cpp", "src/messages/*.cpp", "src/nal/*.h", "src/nal/*.cpp"]
-# Each template is seen in the sources that instantiate it.
+# Templates are read through the sources that instantiate them.
 COMPILED = ["src/*/*.cpp"]
 
 
@@ -35,7 +35,7 @@ def expand(root, patterns):
 
 
 def find_all(root, files):
-    """path -> sites. A header may be read through many sources; its first reading is as good as any."""
+    """path -> sites. A header that many sources include is read once."""
     found = {}
     for source in expand(root, COMPILED):
         left = {path: name for path, name in files.items() if path not in found}
@@ -54,8 +54,8 @@ def number_sites(found):
 
 
 def edits_of(sites):
-    """(from, to, text) in the order in which they are written. At one position what ends there comes first, the
-    innermost first; then what starts there, the outermost first."""
+    """(from, to, text) in the order in which they are written. At one position, ends come before starts; ends with the
+    innermost first, starts with the outermost first."""
     edits = []
     for order, site in enumerate(sites):
         if site.dropped:
@@ -70,7 +70,7 @@ def edits_of(sites):
 
 
 def without_forced_inlining(text):
-    """Mutants make functions large: inlined everywhere, they would take a compiler an hour. Same length, so that
+    """Without forced inlining: mutants make functions large, and a compiler would take an hour. Same length, so that
     positions stay."""
     for attribute in (r"\[\[gnu::(?:always_inline|flatten)\]\]", r", gnu::(?:always_inline|flatten)(?=[],])"):
         text = re.sub(attribute, lambda found: " " * len(found.group()), text)
@@ -78,7 +78,8 @@ def without_forced_inlining(text):
 
 
 def rewrite(path, text, sites):
-    """Writes the mutated file. Returns (position in it, position in the original) pairs, to find errors again."""
+    """Writes the mutated file. Returns pairs (position in it, position in the original), to map the compiler's
+    errors."""
     pieces, positions, written, at = [], [], 0, 0
 
     def put(piece, original):
@@ -99,7 +100,7 @@ def rewrite(path, text, sites):
 
 
 def errors_of(root, source):
-    """(file, line, column) of each error, and of the place that instantiated the function it is in."""
+    """(file, line, column) of each error, and of the place that instantiated its function."""
     command = [COMPILER, "-fsyntax-only", "-ferror-limit=0", "-Wno-c++11-narrowing",
                *arguments_in(root), source]
     output = subprocess.run(command, capture_output=True, text=True, check=False).stderr
@@ -116,7 +117,7 @@ def original_position(path, positions, line, column):
 
 
 def drop_at(sites, at):
-    """Drops the innermost site around the position. False when there is none."""
+    """Drops the innermost site around the position. False if there is none."""
     around = [site for site in sites if not site.dropped and site.start <= at <= site.end]
     if not around:
         return False
@@ -125,7 +126,7 @@ def drop_at(sites, at):
 
 
 def drop_what_does_not_compile(root, found, texts):
-    """Writes the files again and again until all compile."""
+    """Writes the files until all compile."""
     with ThreadPoolExecutor(int(os.environ.get("MUTATION_JOBS", os.cpu_count()))) as pool:
         while True:
             positions = {path: rewrite(path, texts[path], sites) for path, sites in found.items()}
@@ -146,7 +147,7 @@ def drop_what_does_not_compile(root, found, texts):
 
 
 def describe(found, texts):
-    """number -> what people need to know; `key` stays the same when lines move."""
+    """number -> description; `key` does not depend on line numbers."""
     mutants, seen = {}, {}
     for path, sites in found.items():
         for site in sites:
@@ -162,7 +163,7 @@ def describe(found, texts):
 
 
 def describe_built(files, first):
-    """The same of what is built one at a time, with the edit."""
+    """The same for the mutants that are built one at a time, with the edit."""
     edits = [edit for path, name in files.items() for edit in find_constants.find_edits(path, name)]
     return {number: {"key": edit.key, "file": edit.file, "line": edit.line, "within": edit.within,
                      "edit": {"file": edit.file, "start": edit.start, "end": edit.end, "text": edit.text}}

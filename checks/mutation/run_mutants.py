@@ -5,23 +5,22 @@
     run_mutants.py sanitize <work folder>
     run_mutants.py report <work folder> <survivors.md>
 
-The work folder holds what scripts/check/mutation_score made: mutants.json, and two copies of the project: `source`,
-with the mutants that can be chosen while a program runs, and `plain`, without mutants, built in `build`.
+The work folder has the files of scripts/check/mutation_score: mutants.json, and two copies of the project: `source`,
+with the switched mutants, and `plain`, without mutants, built in `build`.
 
-run: each program runs once with nothing mutated, and notes which mutants it reaches. Each mutant is run through the
-programs that reach it, the fast ones first, until one fails: it is killed. What only a compiler sees is built
-(mutant_builder.py) and run through all programs; what does not compile is no mutant. A program that takes much longer
-than it should counts as failed. What no program fails for has survived.
+run: each program runs once without a mutant, and records which mutants it reaches. For each mutant, the programs that
+reach it run, the fast ones first, until one fails: the mutant is killed. A mutant of compile-time code is built
+(mutant_builder.py) and all programs run; what does not compile is no mutant. A program that takes much longer than
+usual counts as failed. A mutant for which no program fails is a survivor.
 
-sanitize: every survivor is run through the same programs once more, under the address sanitizer: what fails there is
-unsafe, and needs a test.
+sanitize: for every survivor, the same programs run once more under the address sanitizer. If one fails, the mutant
+needs a test.
 
-report: every other survivor has to be listed with a reason.
+report: every other survivor must be listed with a reason.
 
-With --again, results of earlier runs are taken over: all of the same sources and tests, which is how to go on after
-MUTATION_END, seconds since 1970, after which no further mutant is begun; and from others, what was killed, if the
-function that the mutant is in has not changed since. --only tries the mutants whose description the pattern is found
-in.
+--again keeps results of earlier runs: all results for the same sources and tests, and from other sources the killed
+mutants whose function has not changed. No mutant is started after MUTATION_END (seconds since 1970); continue with
+--again. --only tries the mutants whose description contains the pattern.
 """
 import argparse
 import hashlib
@@ -40,7 +39,7 @@ LEAST_SHARE = 0.95
 
 
 class Switched:
-    """The mutants of one build, chosen by the environment."""
+    """The mutants of one build, selected by the environment."""
 
     def __init__(self, builder):
         builder.prepare()
@@ -58,8 +57,8 @@ class Switched:
 
 
 class Results:
-    """What is known of each mutant, saved on the way. By its description, with the text of the function that it is in,
-    so that a later run can tell whether it still holds."""
+    """The results so far, saved after each mutant. The key is the mutant's description with the text of its function,
+    so that a later run can detect a change."""
 
     def __init__(self, path, mutants, version):
         self.path, self.mutants, self.version = path, mutants, version
@@ -109,7 +108,7 @@ class Results:
 
 
 def run_all(killer, numbers, add, results):
-    """Gives each mutant to `killer`, and what that returns to `add`, until the time is over."""
+    """Calls `killer` with each mutant, and `add` with its result, until the time is over."""
     def run_one(number):
         if not results.is_over():
             add(number, killer(results.mutants[number]))
@@ -121,13 +120,13 @@ def run_all(killer, numbers, add, results):
 
 
 def read_survivors(path):
-    """The descriptions in the list: each in a line of its own, as an item in backquotes."""
+    """The descriptions in the list: each in its own line, as an item in backquotes."""
     with open(path, encoding="utf-8") as stream:
         return set(re.findall(r"^- `(.*)`$", stream.read(), re.M))
 
 
 def print_survivors(results, listed):
-    """Returns whether the list says the same: of what was run, where not all was."""
+    """Returns whether the list has the same survivors; compares only mutants that have run."""
     survivors = {results.mutants[number]["key"]: number for number in results.survivors()}
     unsafe = {key for key, number in survivors.items() if results.known[number].get("unsafe")}
     unlisted = sorted(set(survivors) - listed - unsafe)
@@ -145,7 +144,7 @@ def print_survivors(results, listed):
 
 
 def report(results, listed):
-    """Prints what survived and the score. Returns whether all is well."""
+    """Prints the survivors and the score. Returns whether the check passes."""
     counted = results.compiled()
     killers = [result["killer"] for result in counted.values() if result["killer"]]
     for name in sorted(set(killers)):
@@ -163,7 +162,7 @@ def report(results, listed):
 
 
 def run_switched(switched, numbers, results):
-    """Most mutants are killed at once: only what is left goes through the slow programs."""
+    """Fast programs kill most mutants: only the others need the slow programs."""
     quick = [program for program in switched.programs if not program.is_slow]
     slow = [program for program in switched.programs if program.is_slow]
     left = []
@@ -180,7 +179,7 @@ def run_switched(switched, numbers, results):
 
 
 def split(results, numbers):
-    """Those to be chosen while a program runs, and those to be built."""
+    """The switched mutants, and those to be built."""
     return ([number for number in numbers if "edit" not in results.mutants[number]],
             [number for number in numbers if "edit" in results.mutants[number]])
 
@@ -200,7 +199,7 @@ def run(options, results):
 
 
 def sanitize(options, results):
-    """Every survivor, unless it was on these sources."""
+    """Every survivor that has not run on these sources."""
     chosen, built = split(results, [n for n in results.survivors() if "unsafe" not in results.known[n]])
     if chosen and not results.is_over():
         switched = Switched(Builder(options.work, "source", options.corpus, results.version, sanitized=True))

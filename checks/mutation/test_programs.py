@@ -1,10 +1,10 @@
-"""The test programs that mutants are run through."""
+"""The test programs that run for each mutant."""
 import os
 import resource
 import subprocess
 import threading
 
-# A part of a program is named by its filter.
+# A filter names a part of a program.
 QUICK = ["fuzz/replay_messages", "fuzz/replay_adapters", "tests/test_codec", "tests/test_messages",
          "tests/test_leniency", "tests/nal/test_nal -*_sweeps.*:*_bad_input.*", "tests/interop/test_interop"]
 SLOW = ["fuzz/test_adapter_agreement", "tests/model/test_model", "tests/nal/test_nal *_sweeps.*:*_bad_input.*",
@@ -31,11 +31,11 @@ class Program:
         self.lock = threading.Lock()
 
     def run(self, variables, cpu_seconds, path=None):
-        """The exit code; not 0 as well when the time is up."""
+        """The exit code; not 0 if the time is over."""
         def limit():
             resource.setrlimit(resource.RLIMIT_CPU, (cpu_seconds, cpu_seconds))
             resource.setrlimit(resource.RLIMIT_CORE, (0, 0))
-            if not self.sanitized:  # the sanitizer reserves more than there is
+            if not self.sanitized:  # the sanitizer reserves more than the memory
                 resource.setrlimit(resource.RLIMIT_AS, (MEMORY_BYTES, MEMORY_BYTES))
         try:
             return subprocess.run([path or self.command[0], *self.command[1:]], env={**os.environ, **variables},
@@ -45,8 +45,8 @@ class Program:
             return 1
 
     def measure(self):
-        """Notes how long it takes with nothing mutated, and which switched mutants it reaches, unless that is beside it
-        already."""
+        """Records the time without a mutant and the switched mutants that the program reaches, unless the file
+        exists."""
         notes = f"{self.command[0]}.{self.name.replace('*', 'all')}"
         with self.lock:
             if self.seconds is not None:
@@ -75,7 +75,7 @@ class Program:
         return self.reached is None or number in self.reached
 
     def fails(self, variables, path=None):
-        """Also when it takes much longer than it should. `path`: of the same program, built otherwise."""
+        """Also if it takes much longer than usual. `path`: the same program in another build."""
         self.measure()
         return self.run(variables, int(3 * self.seconds) + 3, path) != 0
 

@@ -1,5 +1,5 @@
-// Are the exact path and the varints that are proved those of the library? Every capacity, values and payloads at the
-// edges, positions that wrap around: the same position, and the same bytes in the buffer and around it.
+// Does the proved C of the exact path and the varints do the same as the library? Every capacity, values and payloads
+// at the edges, positions that wrap around: the same position, and the same bytes in the buffer and around it.
 #include "codec/exact_writer.h"
 #include "codec/wire_write.h"
 #include "support/guarded_buffer.h"
@@ -34,7 +34,7 @@ field_tag proved_tag(mava_tum::field_tag tag)
     return {tag.bytes, tag.length};
 }
 
-// The same calls of both.
+// The same calls for both.
 struct script {
     std::function<void(library_writer &)> library;
     std::function<void(proved_writer &)> proved;
@@ -156,7 +156,7 @@ TEST(proof_exact_writer, varints_have_the_size_and_the_bytes_of_the_library)
     }
 }
 
-// All eight bytes of the word, also those behind the varint.
+// All eight bytes of the word, also those after the varint.
 TEST(proof_exact_writer, counters_are_put_as_by_the_library)
 {
     for (const uint64_t value : edge_values()) {

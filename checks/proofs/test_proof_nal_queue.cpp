@@ -1,5 +1,5 @@
-// Is the queue that is proved that of the library? Every sequence of operations on two queues and three nodes: the same
-// results, refusals, links and counts.
+// Does the proved C of the queue do the same as the library? Every sequence of operations on two queues and three
+// nodes: the same results, refusals, links and counts.
 extern "C" {
 #include "proof_nal_queue.h"
 }
@@ -47,7 +47,7 @@ struct implementation {
 constexpr implementation library = {nal_queue_enqueue, nal_queue_dequeue, nal_queue_delete};
 constexpr implementation proved = {proof_queue_enqueue, proof_queue_dequeue, proof_queue_delete};
 
-// All that can be seen: links as numbers of nodes, and what the last operation returned.
+// The visible state: links as numbers of nodes, and the result of the last operation.
 using observation = std::array<int64_t, 3 * queue_count + 2 * node_count + 1>;
 
 class world
@@ -85,7 +85,7 @@ public:
     }
 
 private:
-    // 1 when the node was refused.
+    // 1 if the node was refused.
     int64_t enqueue(nal_queue_t *queue, nal_queue_node_t *node)
     {
         if (setjmp(refused) != 0)

@@ -1,5 +1,5 @@
-// Are the reads that are proved the reads of the library? Every input of up to 3 bytes, and longer ones at the edges:
-// the same position, value and result, with the input directly before an inaccessible page.
+// Does the proved C of the reads do the same as the library? Every input of up to 3 bytes, and longer ones at the
+// edges: the same position, value and result, with the input directly before an inaccessible page.
 #include "codec/array_run.h"
 #include "codec/read_varint64.h"
 #include "codec/skip_unknown_field.h"
@@ -26,7 +26,7 @@ namespace
 
 constexpr std::size_t longest_bytes = 64;
 
-// An input at the end of its memory.
+// An input that ends directly before an inaccessible page.
 class input
 {
 public:
@@ -36,7 +36,7 @@ public:
         std::copy(bytes.begin(), bytes.end(), end() - length_);
     }
 
-    // The lowest byte of `number` first.
+    // `number` in little-endian order.
     void assign(uint32_t number, std::size_t length)
     {
         length_ = length;
@@ -136,7 +136,7 @@ bool same_reads(const uint8_t *at, const uint8_t *end)
            same_skips(at, end) && same_runs(at, end, 1) && same_runs(at, end, 0);
 }
 
-// Each tail of the bytes too.
+// Also from each later byte.
 void expect_same_reads(input &given, const byte_vector &bytes)
 {
     given.assign(bytes);
