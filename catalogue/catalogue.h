@@ -1,5 +1,5 @@
-// Every message of the library, every application record and every adapter, from the public headers: as tables, for
-// programs that are told at run time which one they have before them, and as types.
+// Every message, application record and adapter of the public headers: as types, and as tables for programs that select
+// one at run time.
 #pragma once
 
 #include "catalogue_rows.h"
@@ -30,7 +30,7 @@ constexpr const record_layout &layout_of()
     return tables::records[record_place<Record>];
 }
 
-// Null: there is none. `name` is without mava_tum_.
+// Null if there is none. `name` is without mava_tum_.
 constexpr const message *find_message(std::string_view name)
 {
     for (const message &each : all_messages())
@@ -39,7 +39,7 @@ constexpr const message *find_message(std::string_view name)
     return nullptr;
 }
 
-// Null: there is none. `name` is as in tum_nal_data_gpb_encode_tum_<name>.
+// Null if there is none. `name` is as in tum_nal_data_gpb_encode_tum_<name>.
 constexpr const adapter *find_adapter(std::string_view name)
 {
     for (const adapter &each : all_adapters())

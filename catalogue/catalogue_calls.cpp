@@ -1,4 +1,4 @@
-// The functions of every message, called in one shape.
+// Calls the functions of every message with the same parameters.
 #include "catalogue.h"
 #include "mava_tum/cpp/codec_calls.hpp"
 
@@ -37,7 +37,7 @@ void message_calls<Record>::free(void *record, mava_tum_release_fn release_fn, v
     call_codec(message_row<Record>::release, static_cast<Record *>(record), release_fn, release_ctx, flags);
 }
 
-// Brings the functions of all messages into this object.
+// Instantiates the functions of all messages in this object.
 [[gnu::used]] static const message *const every_message = tables::messages;
 
 } // namespace mava_tum_catalogue

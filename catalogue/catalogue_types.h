@@ -1,4 +1,4 @@
-// What the catalogue says of a message, of an application record and of an adapter.
+// The catalogue's types: messages, application records, adapters.
 #pragma once
 
 #include "mava_tum.h"
@@ -16,8 +16,8 @@ namespace mava_tum_catalogue
 
 enum class field_kind : uint8_t { varint, fixed32, bytes, text, record, record_array, text_array };
 
-// How a value that is an address is to be shown. IPv4: every fixed32 field, four bytes that stand on the wire in
-// network order. IPv6: bytes; a value of another length than 16 (L13) is no address to show.
+// How to show an address. IPv4: every fixed32 field; its four bytes on the wire are in network order. IPv6: bytes; a
+// value whose length is not 16 (L13) is not shown as an address.
 enum class address_kind : uint8_t { none, ipv4, ipv6 };
 
 struct message;
@@ -33,8 +33,8 @@ struct field {
     const message *nested;     // record, record_array; else null
 };
 
-// The four functions have one shape for all messages: arguments that a message's own function does not take are
-// dropped.
+// The four functions have the same parameters for all messages; arguments that a message's own function does not have
+// are dropped.
 struct message {
     const char *name; // as in mava_tum_<name>
     std::size_t record_bytes;
@@ -56,8 +56,8 @@ struct message {
 template <class Record>
 struct message_row;
 
-// A message's functions in that shape. They are compiled once, in catalogue_calls.cpp: in each file that looks at the
-// tables they took longer than the rest of it.
+// A message's functions with these parameters. They are compiled once, in catalogue_calls.cpp, because they take long
+// to compile.
 template <class Record>
 struct message_calls {
     static int32_t decode(void *record, const uint8_t *data, uint64_t length, mava_tum_alloc_fn alloc_fn,
@@ -120,7 +120,7 @@ enum class limit_kind : uint8_t {
     texts   // elements; of each, `text_characters` characters are taken
 };
 
-// What takes a field of a message, and how much of it.
+// The member that receives a field of a message, and how much of the value.
 struct member_limit {
     uint32_t number; // of the field in its message
     limit_kind kind;

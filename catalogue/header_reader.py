@@ -1,8 +1,7 @@
 """Reads the public headers: every declaration, with the comments that belong to it.
 
-The headers are written in one way, and the reader knows no other: it stops, with file and line, at the first thing that
-it does not know. It takes nothing on trust for long: the compiler sees every type and member again that it found
-(docs/decisions/0011-one-catalogue.md)."""
+The headers use few constructs. At any other, the reader stops with file and line. The compiler checks every type and
+member again that it found (docs/decisions/0011-one-catalogue.md)."""
 
 from __future__ import annotations
 
@@ -10,13 +9,13 @@ import re
 from dataclasses import dataclass, field
 from pathlib import Path
 
-# Public headers of which the library exports nothing.
+# Public headers without exported functions.
 NOT_OF_THE_LIBRARY = {"tum_nal/message_stream.h"}
 
 COMMENT = r"/\*(?:(?!\*/).)*\*/"
 DIVIDER = re.compile(r"/\* ---- (\w+) -+ \*/")
 
-# What may stand in a header. A pattern without groups declares nothing.
+# The constructs of a header. A pattern without groups declares nothing.
 ITEMS = {kind: re.compile(pattern, re.DOTALL) for kind, pattern in {
     "space": r"\s+",
     "comment": COMMENT,
@@ -39,12 +38,12 @@ PARAMETER = re.compile(r"(?P<type>(?:const )?\w+ \**)(?P<name>\w+)")
 
 
 class HeaderError(Exception):
-    """A header says something that is not understood here."""
+    """A header has a construct that the reader does not know."""
 
 
 @dataclass(frozen=True)
 class Member:
-    """A member of a record. `comment` is the one behind it, on one line; `sizes` are those of an array."""
+    """A member of a record. `comment` follows it, on one line; `sizes` are those of an array."""
 
     name: str
     c_type: str
@@ -55,7 +54,7 @@ class Member:
 
 @dataclass(frozen=True)
 class Declaration:
-    """`comment` is the one just above it, as in the header, `divider` the title of the part of the header."""
+    """`comment` is directly above it, as in the header; `divider` is the title of the part of the header."""
 
     name: str
     comment: str
@@ -136,7 +135,7 @@ class Header:
 
 
 def plain_text(comment: str) -> str:
-    """What a comment says, on one line."""
+    """The text of a comment, on one line."""
     text = re.sub(r"^/\*|\*/$|^\s*\*(?!/)", "", comment, flags=re.MULTILINE)
     return " ".join(text.split())
 
@@ -191,7 +190,7 @@ class HeaderReader:
         raise HeaderError(f"{self.place(path, text, position)}: this is not understood: {line}")
 
     def take(self, kind: str, found: re.Match[str], above: str, header: Header) -> str:
-        """Adds what was found to the header. Returns the comment that what follows may have above it."""
+        """Adds the declaration to the header. Returns the comment that may belong to the next one."""
         text = found.group()
         if kind == "space":
             return above if text == "\n" else ""
@@ -246,8 +245,8 @@ class HeaderReader:
 
 
 def read_headers(folder: Path, first: str = "mava_tum.h") -> list[Header]:
-    """`first` in `folder` and all that it includes, each after what it includes. A header that is not among them is
-    refused."""
+    """`first` in `folder` and all headers that it includes, in the order of their dependencies. Another header is an
+    error."""
     reader = HeaderReader()
     headers: dict[str, Header] = {}
 

@@ -1,4 +1,4 @@
-"""The tables that programs in Python read, of the module and of the printers of gdb."""
+"""The tables for the Python module and the printers of gdb."""
 
 from __future__ import annotations
 
@@ -23,7 +23,7 @@ def field_row(message: Message, field: Field) -> dict[str, Any]:
 
 
 def message_row(message: Message) -> dict[str, Any]:
-    """The names of the parameters too: they differ between messages, and are passed by what they are called."""
+    """The names of the parameters, too: they differ between messages, and arguments are passed by name."""
     return {"c_type": message.c_type,
             "fields": [field_row(message, each) for each in message.fields],
             "functions": {end: [name for _, name in function.named_parameters()]
@@ -43,7 +43,7 @@ def member_row(member: ApplicationMember) -> dict[str, Any]:
 
 
 def result_text(constant: Constant) -> str:
-    """Success needs no words."""
+    """Without success."""
     return plain_text(constant.comment).rstrip(".") if constant.value else ""
 
 

@@ -1,5 +1,5 @@
-"""What the public headers say about messages, adapters and application records, as tables. The comment beside a member
-says what the compiler does not know of it: number, kind and bit of a field, where a member is received from."""
+"""Messages, adapters and application records of the public headers, as tables. The comment beside a member has what its
+declaration does not: number, kind and bit of a field, the field that a member is received from."""
 
 from __future__ import annotations
 
@@ -21,7 +21,7 @@ CARRIED = re.compile(r"(?:one|the) (\w+) message\b")
 NUMBER = re.compile(r"(\d+)(?: to \d+)?(?::|$)")
 LIST_OF_MESSAGES = re.compile(r"^ \* +messages +header\n(.*?)\n \*\n", re.DOTALL | re.MULTILINE)
 
-# What the headers call a kind -> its C type ("" stands for the record of any message), its pointers.
+# The name of a kind in the headers -> its C type ("": the record of any message), its pointers.
 KINDS = {
     "varint": ("uint32_t", 0),
     "64-bit varint": ("uint64_t", 0),
@@ -32,8 +32,8 @@ KINDS = {
     "array of records": ("", 1),
     "array of texts": ("char", 2),
 }
-# Which bytes fields hold IPv6 addresses: neither the wire nor the headers tell. Those that arrive in an application
-# record arrive in 16 bytes there, and a test compares. The others are identifiers, or nobody's (L26).
+# The bytes fields that hold IPv6 addresses: neither the wire nor the headers show it. In application records, they have
+# 16 bytes; a test compares. The others are identifiers, or have no member (L26).
 IPV6_FIELDS = {
     "subscriber_v6": (2, 3, 4, 6), "l2tp_data": (4, 5), "subscriber_li": (8,), "subscriber_route_ipv6": (3, 5)}
 NUMBER_KINDS = ("varint", "64-bit varint", "fixed32")
@@ -42,8 +42,8 @@ ARRAY_KINDS = ("array of records", "array of texts")
 
 @dataclass(frozen=True)
 class Field:
-    """A field of a message: `c_type` is its member's without pointers, `count` the member that counts an array, `note`
-    what its comment says behind the bit."""
+    """A field of a message: `c_type` is that of its member without pointers, `count` the member that counts an array,
+    `note` the text of its comment after the bit."""
 
     number: int
     name: str
@@ -68,7 +68,7 @@ class Field:
 
 @dataclass(frozen=True)
 class Message:
-    """`functions` by the end of their names, as in FUNCTIONS."""
+    """`functions` by the ends of their names, as in FUNCTIONS."""
 
     c_type: str
     summary: str
@@ -91,7 +91,7 @@ class Message:
 class ApplicationMember:
     """A member of an application record. `kind` is number, numbers, bytes, text, texts, record or records; `address`
     ipv4, ipv6 or ""; `count` the member that counts the elements of an array. `number` is that of the field that it is
-    received from, of an array of numbers the first; 0: it is not received, or the header does not say from where."""
+    received from, of an array of numbers the first; 0 if it is not received or the header does not name the field."""
 
     declared: Member
     kind: str
@@ -136,7 +136,7 @@ class Library:
         return [self.messages[name] for name in documented_messages(self)]
 
     def adapters_in_documented_order(self) -> list[Adapter]:
-        """By header, in the order of the first message that each carries."""
+        """Adapters by header, in the order of the first message that each carries."""
         places = {message.name: place for place, message in enumerate(self.in_documented_order())}
         groups: dict[str, list[Adapter]] = {}
         for header in self.headers:
@@ -146,7 +146,7 @@ class Library:
         return [each for group in in_order for each in group]
 
     def messages_with(self, *kinds: str) -> set[str]:
-        """The messages that have a field of such a kind, at any depth."""
+        """The messages that have a field of this kind, at any depth."""
         found: set[str] = set()
         for message in self.messages.values():
             if any(each.kind in kinds or each.of in found for each in message.fields):
@@ -210,7 +210,7 @@ def describe_message(record: Record, header: Header) -> Message:
 
 
 def messages_in(headers: list[Header]) -> dict[str, Message]:
-    """A record is that of a message if it has functions of its own."""
+    """A record belongs to a message if it has its own functions."""
     messages = {}
     for header in headers:
         decoded = {each.name.removesuffix("_decode_ext") for each in header.functions}
@@ -220,7 +220,7 @@ def messages_in(headers: list[Header]) -> dict[str, Message]:
 
 
 def full_name(name: str, before: str, known: dict[str, Message]) -> str:
-    """The list shortens a name that begins like the one before it: subscriber_qos, _acl."""
+    """In the list, `_acl` after `subscriber_qos` means `subscriber_acl`."""
     if not name.startswith("_"):
         return name
     parts = before.split("_")

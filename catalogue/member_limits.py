@@ -1,4 +1,4 @@
-"""Which fields of a message arrive in which members of an application record, and how much of each fits there."""
+"""For each field of a message, the member of the application record that receives it, and the limit of its value."""
 
 from __future__ import annotations
 
@@ -10,12 +10,12 @@ from library_tables import RECORD_PREFIX, ApplicationMember, Library, Message
 
 SESSION = RECORD_PREFIX + "session_context"
 
-# The members of a session have the number of their field in their names, and its record in what they begin with.
+# Members of a session have the field number in their names, and begin with the name of its record.
 SESSION_PARTS = {
     "ipv4": (8,), "ipv6": (9,), "session_data": (10,), "ppp": (10, 3), "l2tp": (10, 4), "vlan": (10, 10), "acl": (12,),
     "redirect": (13,), "intercept": (14,), "urpf_1": (15,), "urpf_2": (16,), "icmp_1": (17,), "icmp_2": (18,),
     "mtu_1": (19,), "mtu_2": (20,), "mtu_3": (21,), "accounting": (22,), "session": ()}
-# These do not.
+# The exceptions.
 SESSION_MEMBERS = {
     "feature_mask": (5,), "ipv4_address": (8, 2), "ppp_identifier": (10, 3, 5), "l2tp_kind": (10, 4, 1),
     "l2tp_name": (10, 4, 19), "session_name": (10, 5), "session_identifier": (10, 6), "session_label": (10, 7),
@@ -24,9 +24,9 @@ SESSION_MEMBERS = {
     "icmp_2_value": (18, 1), "mtu_1_value": (19, 1), "mtu_2_value": (20, 1), "mtu_3_value": (21, 1),
     "accounting_flags": (22, 1), "qos": (11,), "ipv4_routes": (23,), "ipv6_routes": (24,)}
 
-# L24: arrives only when this field of the same record is there too.
+# L24: arrives only if this field of the same record is present, too.
 ONLY_WITH = {"ipv6_value_5": 3, "ipv6_value_7": 6}
-# L22: texts that are cut before their array ends, by the size of the array.
+# L22: texts that are truncated before the end of their array, by the size of the array.
 CHARACTERS = {36: 32, 68: 64}
 
 KINDS = {"numbers": "number", "ipv6": "bytes", "records": "list"}
@@ -34,8 +34,8 @@ KINDS = {"numbers": "number", "ipv6": "bytes", "records": "list"}
 
 @dataclass
 class Limit:
-    """What takes field `number`: a member, of an array of numbers one element, or, without a member, the members that
-    take the fields of the nested record."""
+    """The receiver of field `number`: a member, an element of an array of numbers, or, without a member, the members
+    that receive the fields of the nested record."""
 
     number: int
     member: ApplicationMember | None = None
@@ -80,7 +80,7 @@ def limits_of(c_type: str, members: list[ApplicationMember]) -> list[Limit]:
 
 
 class LimitWriter:
-    """Writes the limits of each record that is received as rows of C++, what is inside of it before it."""
+    """Writes the limits of each received record as rows of C++; nested records come first."""
 
     def __init__(self, library: Library) -> None:
         self.library = library

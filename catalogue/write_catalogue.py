@@ -1,4 +1,4 @@
-"""Writes what the public headers say of messages, adapters and application records, as tables for programs in C++
+"""Writes the messages, adapters and application records of the public headers as tables for programs in C++
 (catalogue_rows.h) and in Python (header_tables.json).
 
     write_catalogue.py <include folder> <output folder>"""
