@@ -1,8 +1,8 @@
-# What `cmake --install` puts where. Two components: runtime is what a program needs to run, development what it takes to
-# build one. The files name each other by relative paths, so that the tree can be moved as a whole.
+# Rules of `cmake --install`. Two components: `runtime` to run a program, `development` to build one. The files use
+# relative paths, so the installed tree can be moved.
 include(CMakePackageConfigHelpers)
 
-# For the loader, and for whoever gets the library without its sources.
+# For the loader, and for users without the sources.
 if(BUILD_SHARED_LIBS)
     install(TARGETS mava_tum_shared
         EXPORT mava_tum-targets
@@ -30,7 +30,7 @@ install(FILES
     "${PROJECT_BINARY_DIR}/mava_tum-config-version.cmake"
     DESTINATION "${package_folder}" COMPONENT development)
 
-# For pkg-config. Relative to where mava_tum.pc lies, unless somebody wants a folder outside the prefix.
+# For pkg-config. Relative to the folder of mava_tum.pc, unless a folder is outside the prefix.
 set(MAVA_TUM_PC_PREFIX "${CMAKE_INSTALL_PREFIX}")
 if(NOT IS_ABSOLUTE "${CMAKE_INSTALL_LIBDIR}")
     file(RELATIVE_PATH way_to_prefix "/${CMAKE_INSTALL_LIBDIR}/pkgconfig" "/")

@@ -15,7 +15,7 @@ if(NOT Python3_Interpreter_FOUND)
 endif()
 
 set(MAVA_TUM_MANUAL_PAGES "${PROJECT_BINARY_DIR}/man")
-# Without its cache of compiled modules, which would lie in the source folder.
+# Without a cache of compiled modules, which would be in the source folder.
 set(make_manual_pages Python3::Interpreter -B "${page_maker}" "${PROJECT_SOURCE_DIR}" "${MAVA_TUM_MANUAL_PAGES}")
 set(page_release ${PROJECT_VERSION} ${MAVA_TUM_RELEASE_DATE})
 file(GLOB_RECURSE page_sources CONFIGURE_DEPENDS

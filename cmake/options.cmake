@@ -4,7 +4,7 @@ if(PROJECT_IS_TOP_LEVEL)
     option(BUILD_SHARED_LIBS "Build the shared library; otherwise mava_tum::mava_tum is the static one" ON)
     option(BUILD_TESTING "Build the tests" ON)
 elseif(NOT DEFINED BUILD_SHARED_LIBS)
-    set(BUILD_SHARED_LIBS ON) # in this folder: the cache is the parent's
+    set(BUILD_SHARED_LIBS ON) # in this folder: the cache belongs to the parent
 endif()
 if(MAVA_TUM_LINK_STATIC)
     message(DEPRECATION "MAVA_TUM_LINK_STATIC: use BUILD_SHARED_LIBS=OFF")

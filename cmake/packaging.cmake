@@ -1,7 +1,7 @@
-# What concerns the installed tree as a whole. Last, since it asks which components there are.
+# Rules for the installed tree as a whole. Included last, because they need the list of components.
 
-# `cmake --install . --component <name>` would do nothing, and say nothing, for a component that does not exist. CMake
-# runs this code for whatever name it is given.
+# Without this, `cmake --install . --component <name>` would silently do nothing for a component that does not exist.
+# CMake runs this code for every name.
 get_cmake_property(components COMPONENTS)
 list(REMOVE_ITEM components Unspecified)
 list(JOIN components ", " components_text)

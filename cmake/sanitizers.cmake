@@ -1,4 +1,4 @@
-# Instrumented builds: everything in the tree is built alike, library, tests and examples.
+# Instrumented builds: library, tests and examples have the same flags.
 if(MAVA_TUM_SANITIZE)
     set(sanitizers "${MAVA_TUM_SANITIZE}")
     if(sanitizers MATCHES "^(ON|TRUE|YES|1)$")

@@ -1,4 +1,4 @@
-# What this build has and what it leaves out, printed at the end of configuring.
+# Prints at the end of configuring what this build has and what it leaves out.
 
 # mava_tum_is_built(<part>)
 function(mava_tum_is_built part)

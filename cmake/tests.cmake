@@ -1,4 +1,4 @@
-# The tests and what fuzzing shares with them. They are about the whole tree.
+# The tests, and the code that the fuzzers share with them. They need the whole tree.
 if(NOT BUILD_TESTING)
     mava_tum_is_left_out("tests" "BUILD_TESTING is OFF")
     return()

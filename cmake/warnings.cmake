@@ -1,8 +1,7 @@
-# Warnings are on for whoever works on this project and are errors only in the developer preset: a newer compiler with
-# a new warning must not stop somebody who merely builds the library.
+# Warnings are errors in the developer preset only: a new warning of a newer compiler must not stop a user's build.
 
-# For the library itself: narrowing must be written down, since the codec is all about widths. clang counts a change of
-# sign as a conversion and g++ does not; here both mean narrowing.
+# For the library: narrowing must be explicit. clang counts a change of sign as a conversion, g++ does not; with these
+# options both mean narrowing.
 function(mava_tum_library_warnings target)
     target_compile_options(${target} PRIVATE
         -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wno-sign-conversion -Wcast-qual -Wold-style-cast -Wundef -Wvla)

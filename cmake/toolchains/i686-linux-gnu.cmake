@@ -1,5 +1,5 @@
-# 32-bit x86 by Debian's g++-i686-linux-gnu. An x86-64 kernel runs the programs by itself, once they name the loader and
-# the libraries where the cross compiler's packages put them.
+# 32-bit x86 by Debian's g++-i686-linux-gnu. An x86-64 kernel runs the programs, if they name the loader and the
+# libraries of the cross compiler's packages.
 set(triplet i686-linux-gnu)
 include("${CMAKE_CURRENT_LIST_DIR}/debian_cross.cmake")
 set(CMAKE_EXE_LINKER_FLAGS_INIT
