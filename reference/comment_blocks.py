@@ -1,6 +1,6 @@
-"""The text of a comment in a public header, as blocks that a page can be made of.
+"""The text of a comment in a public header, as blocks for a page.
 
-The headers are written for whoever opens them, without marks for a tool; what a line is shows in how it is indented:
+The headers have no marks for a tool; the indentation of a line shows what it is:
 
     Heading                        text at the margin, without a full stop, above indented text
       Text of a paragraph, which
@@ -12,7 +12,7 @@ The headers are written for whoever opens them, without marks for a tool; what a
 import re
 from dataclasses import dataclass, field
 
-DEEP = 4  # columns from which on a line belongs to a list or to code
+DEEP = 4  # from this indentation, a line belongs to a list or to code
 
 
 @dataclass
@@ -24,12 +24,12 @@ class Block:
 
 
 def sentence(text):
-    """Of a few words, as they stand behind a term or a value."""
+    """Whether it is short, as after a term or a value."""
     return text[0].upper() + text[1:].rstrip(".") + "."
 
 
 def comment_lines(comment):
-    """The lines of a C comment without its marks, each as far indented as it stands there."""
+    """The lines of a C comment without its marks, with their indentation."""
     body = re.sub(r"\s*\*/\s*$", "", re.sub(r"^\s*/\*", "", comment))
     lines = [re.sub(r"^\s*\* ?", "", line) if number else line.removeprefix(" ")
              for number, line in enumerate(body.split("\n"))]
@@ -41,7 +41,7 @@ def indent_of(line):
 
 
 def runs_of_lines(lines):
-    """Lines that stand together: no empty line between them, and all deep or none."""
+    """Groups of lines without an empty line between them, either all deeply indented or none."""
     run = []
     for line in lines + [""]:
         if run and (not line or (indent_of(line) >= DEEP) != (indent_of(run[0]) >= DEEP)):
@@ -52,7 +52,7 @@ def runs_of_lines(lines):
 
 
 def terms_of(lines):
-    """[term, meaning] for each line that starts one; None when the lines are no such list."""
+    """[term, meaning] for each line that starts one; None if the lines are no such list."""
     rows, gap_end = [], 0
     margin = min(map(indent_of, lines))
     for line in lines:

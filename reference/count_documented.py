@@ -1,11 +1,11 @@
 #!/usr/bin/env python3
-"""Counts what the reference documents, and names what it does not.
+"""Counts the documented symbols of the reference, and names the others.
 
     count_documented.py XML EXPORTS...
 
-XML is the folder that Doxygen wrote, EXPORTS the lists of exported names. Doxygen says nothing about macros, nor about
-what is in a file that it was not told about; this does. Prints each symbol and each exported function without
-documentation and, as its last line, how many symbols have one. Exits with 1 if something has none.
+XML is the folder that Doxygen wrote, EXPORTS the lists of exported names. Unlike Doxygen, it also reports macros and
+files that Doxygen did not read. Prints each symbol and each exported function without documentation; the last line is
+the number of documented symbols. Exits with 1 if a symbol has no documentation.
 """
 import pathlib
 import sys
@@ -42,7 +42,7 @@ def main(folder, *exports_files):
         if not is_documented(element):
             missing.add(f"{name} is not documented")
             continue
-        documented.add(identity)  # a member may stand in two compounds
+        documented.add(identity)  # a member may be in two compounds
         if element.get("kind") == "function":
             functions.add(element.findtext("name"))
     exported = {name for path in exports_files for name in pathlib.Path(path).read_text(encoding="utf-8").split()}

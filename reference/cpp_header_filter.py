@@ -1,13 +1,13 @@
 #!/usr/bin/env python3
-"""Prints a header of the C++ layer as Doxygen wants to see it; Doxygen calls it for each file that it reads.
+"""Prints a header of the C++ layer for Doxygen, which calls it for each file that it reads.
 
     cpp_header_filter.py HEADER
 
-Comments are turned into Doxygen's as they stand: on lines of their own for what is below them, behind code for that.
-Two kinds of member have none in the headers, because their names say it all; here they get a sentence:
+Comments become Doxygen's: a comment on its own lines belongs to the code below, one after code to that code. Two kinds
+of members have no comment in the headers; here they get a sentence:
 
-    begin(), size(), operator bool, value_type, ...    what the standard library calls by these names
-    set_field_5(), edit_field_5(), make_field_5(), ...   what the editors of all messages do to field_5
+    begin(), size(), operator bool, value_type, ...    as in the standard library
+    set_field_5(), edit_field_5(), make_field_5(), ...   the functions of all editors
 
 Every line keeps its number.
 """
@@ -16,7 +16,7 @@ import re
 import sys
 
 COMMENT = re.compile(r"^( *)//( .*)?$")
-NO_COMMENT = re.compile(r"^ *// (----|clang-format)")  # between two messages; for a tool
+NO_COMMENT = re.compile(r"^ *// (----|clang-format)")  # between two messages
 BEHIND_CODE = re.compile(r"^(.*\S) +// (.*)$")
 
 CONTAINER = "As in a container of the standard library."

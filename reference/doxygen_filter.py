@@ -1,9 +1,9 @@
 #!/usr/bin/env python3
-"""Prints a public header as Doxygen wants to see it; Doxygen calls it for each file that it reads.
+"""Prints a public header for Doxygen, which calls it for each file that it reads.
 
     doxygen_filter.py HEADER
 
-The comments of the headers carry no marks for a tool. What a comment belongs to shows in where it stands:
+The comments of the headers have no marks for a tool. Their position shows what they belong to:
 
     /* ... */  as the first thing of a file            the file
     /* ... */  on lines of its own                     the declaration below
@@ -11,7 +11,7 @@ The comments of the headers carry no marks for a tool. What a comment belongs to
     /* ... */  the same, above `enum { A, B };`        each of the values too
     uint32_t member; /* ... */                         this member
 
-Every line keeps its number, so that a warning names the right one.
+Every line keeps its number, so that warnings name the right line.
 """
 import os
 import re
@@ -25,13 +25,13 @@ ONE_LINE_ENUM = re.compile(r"^enum \{ (.*) \};$")
 
 
 def escaped(text):
-    """Angle brackets would be taken for markup, but for those within backquotes."""
+    """Escapes angle brackets, which Doxygen would read as markup, except within backquotes."""
     parts = text.split("`")
     return "`".join(part if number % 2 else re.sub(r"([<>])", r"\\\1", part) for number, part in enumerate(parts))
 
 
 def rendered(block):
-    """Lines of Doxygen, never more than the block has in the header."""
+    """Lines for Doxygen, at most as many as the block has in the header."""
     if block.kind == "heading":
         return [f"<h3>{escaped(block.text)}</h3>"]
     if block.kind == "paragraph":

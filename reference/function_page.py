@@ -1,4 +1,4 @@
-"""The page of functions that belong together: prototypes, the record that they work on, what each does."""
+"""A manual page for functions that belong together: prototypes, their record, and a description of each."""
 import re
 import textwrap
 
@@ -10,11 +10,11 @@ PAGE_COLUMNS = 78
 
 
 def prototype(function):
-    """As a header would have it, but narrower."""
+    """As in a header, but narrower."""
     start, parameters = f"{function.type}{function.name}(", ", ".join(function.parameters) + ");"
     if len(start + parameters) <= PAGE_COLUMNS:
         return [start + parameters]
-    # A parameter is not broken.
+    # No line break inside a parameter.
     joined = textwrap.wrap(re.sub(r"(?<!,) ", "\0", parameters), PAGE_COLUMNS - 4)
     return [start, *("    " + line.replace("\0", " ") for line in joined)]
 
@@ -40,7 +40,7 @@ def member_lines(line):
 
 
 def record_of(functions, header):
-    """The records that the functions take, or their callbacks, in the order in which they take them."""
+    """The records in the parameters of the functions and their callbacks, in this order."""
     takers = [*functions, *header.callbacks]
     types = [re.sub(r"^const |[ *]+\w+$", "", parameter) for function in takers for parameter in function.parameters]
     records = {record.name: record for record in header.records}
@@ -69,7 +69,7 @@ def callback_lines(header):
 
 
 def code_lines(functions, codes):
-    """The result codes that the functions name, each with its meaning."""
+    """The result codes of the functions, with their meanings."""
     text = " ".join(function.comment for function in functions)
     rows = []
     for name, code in codes.items():
@@ -79,12 +79,12 @@ def code_lines(functions, codes):
 
 
 def subject_of(functions, header, records):
-    """A header that has but one page is about what that page is about."""
+    """If a header has one page only, the header's subject is that of the page."""
     return records[0].comment if len(functions) < len(header.functions) else header.comment
 
 
 def title_of(function):
-    """What tells its page from others: short enough to stand twice in a line of 80 columns."""
+    """A short title of the page, which fits twice in a line of 80 columns."""
     name = re.sub(r"^mava_tum_|_decode_ext$", "", function.name)
     return re.sub(r"^tum_nal_data_gpb_encode_tum_", "nal_", name)
 

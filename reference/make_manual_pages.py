@@ -3,11 +3,11 @@
 
     make_manual_pages.py ROOT OUTPUT LIBRARY VERSION DATE
 
-ROOT is the project's folder, LIBRARY mava_tum or mava_tum_inspect. VERSION and DATE are those of the project, as
-CMakeLists.txt has them: pages are the same whenever they are made. OUTPUT/man3 gets a page for each exported function,
-OUTPUT/man7 the overview; the pages of the other library stay. Functions that belong together share a page, under the
-name of the first: the four of a message, the two adapters of an application record, the three of the queue, what the
-header of the inspector has between two dividers. The pages of the others are links to it.
+ROOT is the project's folder, LIBRARY mava_tum or mava_tum_inspect. VERSION and DATE are those in CMakeLists.txt, so
+that the pages do not depend on the time of the build. OUTPUT/man3 gets a page for each exported function, OUTPUT/man7
+the overview; the pages of the other library stay. Functions that belong together share a page with the name of the
+first: the four of a message, the two adapters of an application record, the three of the queue, those between two
+dividers in the header of the inspector. The other names are links to it.
 """
 import pathlib
 import re
@@ -49,7 +49,7 @@ def result_codes(header):
 
 
 def codec_headers(root):
-    """In the order of their names, without the one that includes all others."""
+    """Sorted by name, without the header that includes all others."""
     return sorted(read_headers(root / "include")[:-1], key=lambda header: header.path)
 
 
@@ -58,9 +58,9 @@ def codec_codes(headers):
 
 
 def parts_of(path):
-    """What a header declares above its first divider, then what below each: as the headers that they could be."""
+    """Splits a header at its dividers, as if each part were a header."""
     header = HeaderReader().read(path.name, path.read_text(encoding="utf-8"))
-    # The list in the comment of the header says what its parts are about.
+    # The list in the comment of the header has the subjects of the parts.
     subjects = dict(row for block in blocks_of(header.comment) for row in block.rows)
     return [Header(header.path, sentence(subjects[title]) if title else header.comment,
                    declarations=[each for each in header.declarations if each.divider == title])

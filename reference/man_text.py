@@ -1,4 +1,4 @@
-"""Text as a manual page in the man(7) macros, without anything that mandoc or groff would have to say about it."""
+"""Writes text as a manual page with the man(7) macros, without warnings of mandoc or groff."""
 import re
 import textwrap
 
@@ -12,7 +12,7 @@ def escaped(text):
 
 
 def guarded(line):
-    """A line of text that begins like a request must not be one."""
+    """Escapes a line of text that begins like a request."""
     return "\\&" + line if line[:1] in (".", "'") else line
 
 
@@ -23,12 +23,12 @@ def marked(text):
 
 
 def sentences(text):
-    """Each starts a line: that is how the page's own rules know where one ends."""
+    """Each starts a line, as mandoc requires."""
     return re.split(r"(?<=[.?!])\s+", text.strip())
 
 
 def wrapped(text):
-    """Code is not broken, neither in the middle of a word nor between two of its words."""
+    """No line breaks inside code."""
     joined = re.sub(r"`[^`]*`", lambda code: code.group().replace(" ", "\0"), text)
     return [guarded(line.replace("\0", " ")) for sentence in sentences(joined)
             for line in textwrap.wrap(marked(sentence), WIDTH, break_long_words=False, break_on_hyphens=False)]
@@ -67,7 +67,7 @@ def comment(text):
 
 
 def first_sentence(text):
-    """For the line of a NAME section: without a full stop, not beginning like a sentence."""
+    """For the NAME section: without a full stop and without a capital at the beginning."""
     text = sentences(plain(text))[0].rstrip(".").replace("`", "")
     is_a_name = text[1:2].isupper() or not text[0].isalpha()
     return escaped(text if is_a_name else text[0].lower() + text[1:])
@@ -83,7 +83,7 @@ def see_also(*pages):
 
 
 def page(title, section, release, body):
-    """Names are not hyphenated. A paragraph right below a heading is one without being told so."""
+    """Names are not hyphenated. The first paragraph below a heading needs no macro."""
     version, date = release
     lines = [f'.TH {title.upper()} {section} {date} "mava_tum {version}" "mava_tum"', ".nh", ".ad l"]
     for line in body:

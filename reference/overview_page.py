@@ -1,4 +1,4 @@
-"""mava_tum(7), mava_tum_inspect(7): what a library is for, what all its functions share, and a first program."""
+"""mava_tum(7), mava_tum_inspect(7): the purpose of a library, the rules for all its functions, and a first program."""
 import man_text
 from function_page import enum_lines
 

@@ -1,9 +1,9 @@
 #!/usr/bin/python3 -B
-"""Follows every link of a rendered site: each leads to a file in it and, where it names one, to an anchor there.
+"""Checks every link of a rendered site: its file and its anchor exist.
 
     check_site.py <folder of the site>
 
-Prints every link that does not, and exits with 1 if there was one.
+Prints every broken link, and exits with 1 if there is one.
 """
 from html.parser import HTMLParser
 import os
@@ -27,7 +27,7 @@ class PageReader(HTMLParser):
 
 
 def read_site(folder):
-    """Every page by its path, with what it links to and what can be linked in it."""
+    """Every page by its path, with its links and its anchors."""
     pages = {}
     for directory, _, names in os.walk(folder):
         for name in (name for name in names if name.endswith(".html")):

@@ -1,4 +1,4 @@
-"""What is around the content of each page: navigation, the way on, and the look in light and dark surroundings."""
+"""The frame of each page: navigation, links to the next and previous page, light and dark styles."""
 import html
 
 from pygments.formatters import HtmlFormatter
@@ -56,7 +56,7 @@ STACK = """@media (max-width: %s) { %s thead { display: none; } %s tr { display:
   border: 1px solid var(--line); border-radius: 6px; } %s table, %s tbody { display: block; }
   %s td { display: block; border: 0; text-align: left !important; } %s td:empty { display: none; }
   %s td::before { content: attr(data-label); display: block; color: var(--faint); font-size: 0.85em; } }"""
-# With 120 pixels for each column: above this number it does not fit beside navigation and contents.
+# With 120 pixels per column: a table with more columns does not fit beside navigation and contents.
 MANY_COLUMNS = 6
 
 
@@ -65,7 +65,7 @@ def stacked(width, tables):
 
 
 def stylesheet():
-    """With the colours of code for light and for dark surroundings."""
+    """The style sheet, with the colours of code for light and dark mode."""
     light = HtmlFormatter(style="default").get_style_defs(".highlight")
     dark = HtmlFormatter(style="github-dark").get_style_defs(".highlight")
     keep = "\n".join(line for line in light.splitlines() if line.startswith(".highlight ."))
@@ -88,7 +88,7 @@ def navigation_html(page, navigation, reference):
 
 
 def way_on_html(page, navigation):
-    """The pages before and behind this one, in reading order."""
+    """The previous and the next page, in reading order."""
     entries = [entry for group in navigation for entry in group.entries]
     places = [place for place, entry in enumerate(entries) if entry.target == page.target]
     if not places:
@@ -101,7 +101,7 @@ def way_on_html(page, navigation):
 
 
 def contents_html(page):
-    """The headings of the page, to stand beside it."""
+    """The headings of the page, shown beside it."""
     if len(page.headings) < 3:
         return ""
     links = [f'<a href="#{anchor}"{" class=inner" if level == 3 else ""}>{html.escape(words)}</a>'

@@ -4,8 +4,7 @@
     render_site.py <project root> <output folder> [--reference URL]
 
 A page in Markdown becomes a page; a picture is copied; any other file of the tree is shown with its lines numbered; a
-folder becomes the list of its files. What is linked from there comes along. The files below the output folder are those
-of the site alone: what was there before is removed.
+folder becomes the list of its files. Linked files are included. The output folder is emptied first.
 """
 import argparse
 import json
@@ -33,7 +32,7 @@ def write(output, path, content):
 
 
 def clear(output):
-    """Removes an earlier site; whatever else is there is not ours to remove."""
+    """Removes an earlier site, and no other files."""
     if os.path.isdir(output) and os.listdir(output) and not os.path.exists(os.path.join(output, "style.css")):
         raise SystemExit(f"{output}: there is something else in it; name an empty folder, or one that does not exist")
     shutil.rmtree(output, ignore_errors=True)
@@ -49,7 +48,7 @@ def search_index(pages):
 def main():
     arguments = parse_arguments()
     site = Site(arguments.project)
-    pages = list(site.all_pages())  # all of them before the first is written: a link that leads nowhere ends it here
+    pages = list(site.all_pages())  # all pages before the first is written: a missing file of a link stops here
     version = re.search(r"^ +VERSION ([0-9.]+)$", site.read("CMakeLists.txt"), re.MULTILINE)[1]
     clear(arguments.output)
     for page in pages:
@@ -60,7 +59,7 @@ def main():
         shutil.copyfile(os.path.join(arguments.project, copied), target)
     write(arguments.output, "style.css", stylesheet())
     write(arguments.output, "site.js", site.read("reference/site/site.js"))
-    # A script, because a browser loads no other file of a page that it has from a folder.
+    # A script, because a browser does not load other files for a page from a local folder.
     write(arguments.output, "search-index.js", f"window.searchIndex = {json.dumps(search_index(pages))};\n")
     print(f"{len(pages)} pages and {len(site.copied)} pictures in {arguments.output}")
 

@@ -4,10 +4,10 @@
 (function () {
     const box = document.getElementById("search");
     const list = document.getElementById("found");
-    const top = document.documentElement.dataset.top; // the way to the first page
+    const top = document.documentElement.dataset.top; // the path to the first page
     const LIMIT = 12;
 
-    // Every word must occur; a word in a heading counts more than one in the text.
+    // Every word must occur; words in headings have a higher weight.
     function score(entry, words) {
         let sum = 0;
         for (const word of words) {

@@ -1,4 +1,4 @@
-"""The pages of the site: which there are, what is on each, and where its links lead."""
+"""The pages of the site, their content and links."""
 from collections import namedtuple
 from dataclasses import dataclass, field
 import html
@@ -17,7 +17,7 @@ TABLE = re.compile(r"<table>.*?</table>", re.DOTALL)
 HEADER = re.compile(r"<th[^>]*>(.*?)</th>", re.DOTALL)
 COMMENT = re.compile(r"<!--.*?-->\s*", re.DOTALL)
 EXTERNAL = re.compile(r"^[a-z]+:")
-# What a browser shows by itself, or saves.
+# Files that a browser shows or saves.
 COPIED = (".svg", ".png", ".pcap", ".pcapng", ".bin")
 
 Entry = namedtuple("Entry", "path title target")
@@ -41,7 +41,7 @@ class Page:
 
 
 def slug(words, taken):
-    """The anchor of a heading, by the rule of the platforms that show Markdown."""
+    """The anchor of a heading, as on the platforms that show Markdown."""
     base = re.sub(r"[^\w\- ]", "", words.lower()).replace(" ", "-")
     found, number = base, 0
     while found in taken:
@@ -52,7 +52,7 @@ def slug(words, taken):
 
 
 def labelled(table):
-    """A table with the heading of its column at each cell, for screens on which it becomes a list."""
+    """A table with the column's heading in each cell, for narrow screens, where it becomes a list."""
     labels = [re.sub(r"<[^>]+>", "", cell).replace('"', "&quot;") for cell in HEADER.findall(table[0])]
     row = re.compile(r"<tr>(.*?)</tr>", re.DOTALL)
 
@@ -130,7 +130,7 @@ class Site:
         return path.removesuffix(".md") + ".html"
 
     def require(self, path):
-        """Sees that there is a page for a path; returns the file that shows it."""
+        """Adds a page for a path if there is none; returns the file that shows it."""
         target = self.target_of(path)
         if path.endswith(COPIED):
             self.copied.add(path)
@@ -143,7 +143,7 @@ class Site:
         return target
 
     def all_pages(self):
-        """Every page, complete; a page that is linked from another one comes after it."""
+        """Every page; a linked page comes after the page that links it."""
         while self.waiting:
             page = self.waiting.pop(0)
             full = os.path.join(self.project, page.path)
@@ -168,7 +168,7 @@ class Site:
 
     @staticmethod
     def find_sections(page, tokens):
-        """Gives each heading its anchor, and the page its headings and the text below each."""
+        """Sets the anchor of each heading, and collects the page's headings and the text below each."""
         taken = set()
         for token, following in zip(tokens, tokens[1:]):
             if token.type == "heading_open":
