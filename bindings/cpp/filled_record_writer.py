@@ -1,4 +1,4 @@
-"""Writes test code that sets every field of every message through its setter and looks at it through its getter."""
+"""Writes test code that sets every field of every message with its setter and reads it with its getter."""
 from layer_writer import NUMBER_TYPES
 
 HEAD = """\
@@ -65,7 +65,7 @@ def expect_absent_line(field):
 
 
 def empty_line(field):
-    """Takes the field away again."""
+    """Makes the field absent again."""
     name = field.name
     if field.kind == "record":
         return f"    target.clear_{name}();"

@@ -1,7 +1,7 @@
 """Writes the classes of the C++ layer for the messages of one header of the codec."""
 from header_reader import HeaderError
 
-# Names of the classes' own members, which no field may take.
+# Names of the classes' own members, which no field may have.
 RESERVED = {
     "decode", "encode", "encode_to", "encoded_size", "copy_from", "clone", "clear", "view", "c_record",
     "mutable_c_record", "own_blocks", "has_value", "holds_record", "c", "blocks",
@@ -11,7 +11,7 @@ NUMBER_TYPES = {"varint": "std::uint32_t", "64-bit varint": "std::uint64_t", "fi
 
 
 def getter(field):
-    """Type, and the call that reads the field."""
+    """The type and the call of a getter."""
     n, name = field.number, field.name
     if field.kind in NUMBER_TYPES:
         return f"std::optional<{NUMBER_TYPES[field.kind]}>", f"access::number_of<{n}>(c(), c().{name})"
@@ -27,7 +27,7 @@ def getter(field):
 
 
 def setters(field):
-    """Type, name and parameter, and the call; for each function that changes the field."""
+    """Type, name, parameter and call of each function that changes the field."""
     n, name = field.number, field.name
     if field.kind in NUMBER_TYPES:
         return [("void", f"set_{name}(exact_number<{NUMBER_TYPES[field.kind]}> value)",
@@ -53,7 +53,7 @@ def setters(field):
 
 
 def functions(type_name, declaration, qualifier, call, refers_to_record):
-    """The lines of a function. One that returns what refers to the record is another one for records without a name."""
+    """The lines of a function. If its result refers to the record, it has another overload for temporary records."""
     if not refers_to_record:
         yield f"    {type_name} {declaration}{qualifier} noexcept {{ {call} }}"
         return

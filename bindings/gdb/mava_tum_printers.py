@@ -1,12 +1,12 @@
-"""For gdb: `source <this file>` makes the records of libmava_tum readable, in any program, also with the static
-library. With the installed shared library gdb does it by itself."""
+"""For gdb: `source <this file>` installs the printers for the records of libmava_tum in any program, also with the
+static library. For the installed shared library, gdb loads them itself."""
 
 import sys
 from pathlib import Path
 
 sys.path.insert(0, str(Path(__file__).resolve().parent))
 
-# Whoever debugs as root would leave compiled files beside the installed ones.
+# A session as root would leave compiled files beside the installed ones.
 wrote_none, sys.dont_write_bytecode = sys.dont_write_bytecode, True
 import mava_tum_gdb  # noqa: E402  (found by the lines above)
 

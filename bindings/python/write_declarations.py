@@ -1,5 +1,5 @@
-"""Writes the module `mava_tum._declarations`: the declarations of the public headers in the form that cffi loads
-without a compiler and without parsing C again.
+"""Writes the module `mava_tum._declarations`: the declarations of the public headers in a form that cffi loads without
+a compiler and without parsing C.
 
     write_declarations.py <include folder> <file to write> [<further header>...]"""
 

@@ -1,4 +1,4 @@
-"""Writes what type checkers read of the module, from the catalogue's tables: types.py, a TypedDict for each message and
+"""Writes the module's types for type checkers, from the catalogue's tables: types.py, a TypedDict for each message and
 application record and the names as Literals; __init__.pyi, with a result for each name of decode and app_decode.
 
     write_types.py <header_tables.json> <package folder>"""
@@ -21,9 +21,9 @@ from __future__ import annotations
 import ipaddress
 from typing import List, Literal, TypedDict, Union
 
-# Numbers come out, or texts if `dotted`; all of them go in.
+# decode returns numbers, or texts if `dotted`; encode accepts all of these.
 Ipv4 = Union[int, str, ipaddress.IPv4Address]
-# Bytes come out; the others go in: digits in hex, or an address.
+# decode returns bytes; encode also accepts hex digits and an address.
 Bytes = Union[bytes, bytearray, memoryview, str, ipaddress.IPv6Address]
 '''
 

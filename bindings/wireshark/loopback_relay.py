@@ -6,8 +6,8 @@
                                                        the receiver, which it starts as COMMAND
 
 Each message is one datagram and nothing but the message. The port that it goes to says which message it is, as
-profile/protobuf_udp_message_types has it. What goes on to the other program is what came out of the socket again.
-With RELAY_LOG in the environment, each message is also written to that file: its name, and its bytes in hex.
+profile/protobuf_udp_message_types has it. The other program gets the bytes that were received from the socket. With
+RELAY_LOG in the environment, each message is also written to that file: its name, and its bytes in hex.
 """
 import errno
 import os
@@ -19,9 +19,9 @@ import sys
 import threading
 import time
 
-SENDER_PORT = 21000  # below those of the messages, so that it means none
+SENDER_PORT = 21000  # below those of the messages
 PATIENCE_SECONDS = 30
-# By the first byte of a frame: examples/reconciliation/message_kind.h. What comes after the run is not part of it.
+# By the first byte of a frame: examples/reconciliation/message_kind.h. The messages after the run are not included.
 KINDS = [None, "rec_start_req", "rec_resp", "rec_sess_req", "rec_sess_resp", "session_delete", "sess_oper_resp",
          "rec_sess_replay_req", "rec_sess_replay_resp", "rec_complete_req", "rec_resp", None]
 
@@ -33,7 +33,7 @@ def port_table():
 
 
 class Path:
-    """One direction between two hosts, and where it is noted down."""
+    """One direction between two hosts, and its log."""
 
     log_lock = threading.Lock()
 
@@ -58,7 +58,7 @@ class Path:
 
 
 def bound_socket(address, port):
-    """Waits while another relay has the port. The sender's comes first, so that no two wait for each other."""
+    """Waits while another relay has the port. The sender's port is first, to avoid a deadlock."""
     result = socket.socket(socket.AF_INET, socket.SOCK_DGRAM)
     result.settimeout(PATIENCE_SECONDS)
     deadline = time.monotonic() + PATIENCE_SECONDS

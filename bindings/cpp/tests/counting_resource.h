@@ -1,5 +1,5 @@
-// A memory resource that knows what is out, refuses a block when it is told to, and fails the running test when a block
-// comes back with another size or not at all.
+// A memory resource that counts outstanding blocks and can refuse one. It fails the running test if a block is released
+// with another size, or is never released.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -20,7 +20,7 @@ public:
         EXPECT_TRUE(out_.empty()) << out_.size() << " block(s) never came back";
     }
 
-    // Blocks are counted from 1. 0: none is refused.
+    // The number of the block to refuse, from 1. 0: none.
     void refuse_block(std::size_t number)
     {
         refused_ = number;
@@ -43,7 +43,7 @@ protected:
         if (++asked_ == refused_)
             throw std::bad_alloc();
         void *const block = ::operator new(bytes, std::align_val_t(alignment));
-        std::memset(block, 0xCD, bytes); // who relies on zeros is found out
+        std::memset(block, 0xCD, bytes); // finds code that relies on zeros
         out_[block] = bytes;
         return block;
     }

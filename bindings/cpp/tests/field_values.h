@@ -1,4 +1,4 @@
-// The value that the tests give a field: it tells by which number the field was set.
+// The value of a field in the tests: it shows the number with which the field was set.
 #pragma once
 
 #include "mava_tum/cpp/mava_tum.hpp"

@@ -1,4 +1,4 @@
-// The list of blocks by itself; what records make of it is in test_owning_record.cpp.
+// The list of blocks alone; test_owning_record.cpp tests its use by records.
 #include "counting_resource.h"
 #include "mava_tum/cpp/block_list.hpp"
 
@@ -80,7 +80,7 @@ TEST(cpp_block_list, gives_nothing_back_to_memory_that_is_taken_back_at_once_and
     EXPECT_NE(list.take(10), nullptr);
 }
 
-// A resource may answer a request for nothing with null; an empty bytes field asks for nothing.
+// A resource may return null for a size of 0, which an empty bytes field requests.
 TEST(cpp_memory, asks_a_monotonic_resource_for_one_byte_where_none_is_needed)
 {
     class null_for_nothing : public counting_resource

@@ -1,4 +1,4 @@
-// Wire bytes from a record: buffers that are large enough, too small, and containers.
+// Wire bytes of a record: into large and small buffers, and into containers.
 #include "field_values.h"
 #include "support/hex.h"
 

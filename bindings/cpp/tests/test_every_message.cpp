@@ -1,4 +1,4 @@
-// What holds for the classes of all messages, with every field filled. filled_records.h is written by the build.
+// Rules for the classes of all messages, with every field filled. filled_records.h is written by the build.
 #include "counting_resource.h"
 #include "filled_records.h"
 #include "support/heap_count.h"
@@ -141,7 +141,7 @@ TYPED_TEST(cpp_every_message, is_cloned_whole_or_not_at_all)
     expect_filled(*clone);
 }
 
-// The buffer cannot grow: what it has no room for is refused.
+// The buffer cannot grow: a block that does not fit is refused.
 TYPED_TEST(cpp_every_message, is_decoded_and_encoded_without_a_call_of_the_heap_in_a_buffer_of_the_callers)
 {
     const auto wire = this->full_wire();

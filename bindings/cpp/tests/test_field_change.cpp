@@ -1,4 +1,4 @@
-// Setters, and what they leave as it is when a block is refused.
+// Setters; if a block is refused, they change nothing.
 #include "counting_resource.h"
 #include "field_values.h"
 
@@ -7,7 +7,7 @@ namespace mava_tum_test
 namespace
 {
 
-// The first block is obtained, then none.
+// The first allocation succeeds, all others fail.
 class cpp_field_change : public testing::Test
 {
 protected:

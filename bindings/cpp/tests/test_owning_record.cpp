@@ -1,4 +1,4 @@
-// Who owns what, and until when.
+// The ownership of blocks by records.
 #include "counting_resource.h"
 #include "field_values.h"
 #include "support/hex.h"
@@ -67,7 +67,8 @@ TEST(cpp_owning_record, clones_bytes_that_the_original_only_aliases)
     EXPECT_TRUE(is_bytes_value(clone->field_6(), 6));
 }
 
-// Two sessions inside a replay; the access list of the second comes twice, and what it held first is dropped.
+// Two sessions inside a replay; the access list of the second occurs twice, and the blocks of its first occurrence are
+// dropped.
 TEST(cpp_owning_record, gives_back_what_a_decode_drops)
 {
     const auto wire = bytes_of("22 08 62 04 12 02 69 6E 62 00");
@@ -83,7 +84,7 @@ TEST(cpp_owning_record, gives_back_what_a_decode_drops)
 
 TEST(cpp_owning_record, keeps_the_fields_before_a_fault_and_gives_them_back)
 {
-    const auto wire = bytes_of("0A 02 61 62 12 05 08"); // a name, then a record that is cut
+    const auto wire = bytes_of("0A 02 61 62 12 05 08"); // a name, then a truncated record
     counting_resource resource;
     {
         tum::service_stats stats(&resource);
@@ -176,13 +177,13 @@ TEST(cpp_owning_record, never_releases_a_pointer_that_was_set_past_the_setters)
     stats.mutable_c_record().field_1 = name;
     stats.mutable_c_record().presence_mask = 1;
     EXPECT_EQ(stats.field_1(), "voice");
-    stats.clear(); // the address sanitizer would tell
+    stats.clear(); // the address sanitizer detects an error
     EXPECT_FALSE(stats.field_1());
 }
 
 TEST(cpp_owning_record, takes_its_blocks_from_callbacks_and_hands_them_back)
 {
-    recording_allocator allocator; // fails the test when a block stays out
+    recording_allocator allocator; // fails the test if a block is not released
     tum::session_context session(tum::memory(allocator.allocate, allocator.release, allocator.context()));
     ASSERT_EQ(session.decode(session_wire()), tum::result::ok);
     EXPECT_EQ(allocator.outstanding_count(), 6U);
@@ -209,7 +210,8 @@ TEST(cpp_owning_record, without_a_release_callback_gives_nothing_back_and_adds_n
     EXPECT_EQ(allocator.requested_sizes(), beside.requested_sizes());
 }
 
-// All that the codec asks for. The undefined behaviour sanitizer tells if the layer wants more.
+// The weakest alignment that the codec allows. The undefined behaviour sanitizer detects a stronger requirement of the
+// layer.
 TEST(cpp_owning_record, takes_blocks_that_are_aligned_for_a_record_and_no_better)
 {
     alignas(16) static std::byte room[4096];

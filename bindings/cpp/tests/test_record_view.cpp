@@ -1,4 +1,4 @@
-// Presence, views and lists: what a reader sees.
+// Presence, views and lists.
 #include "field_values.h"
 #include "support/hex.h"
 
@@ -54,8 +54,8 @@ TEST(cpp_record_view, can_be_asked_through_an_absent_record)
     EXPECT_EQ(session.session_data().ppp().field_1().value_or(9), 9U);
 }
 
-// Field 10, in it field 3 with a number, and then a tag without a value: the C decoder leaves what came before the
-// fault in a record that it does not mark present.
+// Field 10 with a nested field 3, then a tag without a value: the C decoder keeps the fields before the fault in a
+// record that it does not mark present.
 constexpr const char *fault_inside_session_data = "52 05 1A 02 08 03 08";
 
 TEST(cpp_record_view, shows_no_field_of_a_record_that_a_failed_decode_has_not_marked_present)

@@ -1,4 +1,4 @@
-// What a span takes and shows, and what the results say.
+// Construction and content of a span; the texts of the results.
 #include "field_values.h"
 #include "support/hex.h"
 

@@ -28,5 +28,5 @@ class RecordPrinters(gdb.printing.PrettyPrinter):
 
 
 def register(objfile: gdb.Objfile | None) -> None:
-    """Makes the printers known: for one file of the program, or for all if it is None."""
+    """Registers the printers, for one file of the program, or for all if it is None."""
     gdb.printing.register_pretty_printer(objfile, RecordPrinters(), replace=True)

@@ -56,7 +56,7 @@ def nested_children(row: Row, record: gdb.Value) -> Iterator[Child]:
 
 
 def used_slots(row: Row, record: gdb.Value) -> range:
-    """The slots that the count says, which are all if it says more."""
+    """The slots below the count, up to gdb's limit."""
     return range(min(int(record[row["count"]]), row["slots"], shown_elements()))
 
 
@@ -82,7 +82,7 @@ CHILDREN = {
 
 
 class ApplicationRecordPrinter:
-    """The elements of an array follow their count, when it is not zero."""
+    """The elements of an array follow their count if it is not zero."""
 
     def __init__(self, tag: str, record: gdb.Value) -> None:
         self.tag = tag

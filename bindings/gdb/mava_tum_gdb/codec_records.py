@@ -19,7 +19,7 @@ def is_present(row: Row, record: gdb.Value) -> bool:
 
 
 def has_content(record: gdb.Value) -> bool:
-    """Whether an encode writes the record although nothing around it says that it is there."""
+    """Whether an encode writes the record although its bit is clear (L10)."""
     rows = CODEC_RECORDS[record.type.strip_typedefs().tag]
     return any(is_present(row, record) or (row["kind"] == "record" and has_content(record[row["name"]]))
                for row in rows)
@@ -43,7 +43,7 @@ def text_children(row: Row, record: gdb.Value) -> Iterator[Child]:
 
 
 def array_children(row: Row, record: gdb.Value) -> Iterator[Child]:
-    """The count, and then the elements one by one, as many as gdb is to show."""
+    """The count, then the elements, up to gdb's limit."""
     name, elements, count = row["name"], record[row["name"]], record[row["count"]]
     yield row["count"], count
     if not int(elements):
@@ -70,7 +70,7 @@ CHILDREN = {
 
 
 class CodecRecordPrinter:
-    """Absent fields are left out; what is unusual about a record is said as if it were a field."""
+    """Without absent fields; unusual properties of a record are shown like fields."""
 
     def __init__(self, tag: str, record: gdb.Value) -> None:
         self.tag = tag

@@ -1,4 +1,4 @@
-"""Prints the classes of the C++ layer as what they refer to: records, lists and spans."""
+"""Prints objects of the C++ layer as the records, lists and spans that they refer to."""
 
 from __future__ import annotations
 
@@ -13,14 +13,14 @@ from .single_values import BytesPrinter, pointed_text, read_or_say_why, shown_el
 Child = tuple[str, "gdb.Value | gdb.LazyString | str"]
 
 NAMESPACE = "mava_tum::cpp::"
-# One that owns holds its record, the others point at it.
+# An owning class holds its record, the others point to it.
 RECORD_CLASSES = re.compile(NAMESPACE + r"(record_view|record_editor|owning_record)<")
 LISTS = re.compile(NAMESPACE + r"list_view<.*>")
 SPANS = re.compile(NAMESPACE + r"(argument_)?span<.*>")
 
 
 class Absent:
-    """A view of a record that is not there."""
+    """A view of an absent record."""
 
     @staticmethod
     def to_string() -> str:
@@ -28,7 +28,7 @@ class Absent:
 
 
 class Unreadable:
-    """What refers to no memory."""
+    """An object that refers to no memory."""
 
     def __init__(self, reason: str) -> None:
         self.reason = reason
@@ -38,7 +38,7 @@ class Unreadable:
 
 
 class ListPrinter:
-    """Prints an array of records or texts, one by one, as many as gdb is to show."""
+    """Prints the elements of an array of records or texts, up to gdb's limit."""
 
     def __init__(self, value: gdb.Value) -> None:
         self.elements = value["elements_"]
@@ -58,7 +58,7 @@ class ListPrinter:
 
 
 def base_of(value_type: gdb.Type) -> str:
-    """The class that holds or finds the record of a class; empty where there is none."""
+    """The class that holds or finds the record of a class; empty if there is none."""
     for field in value_type.fields():
         found = RECORD_CLASSES.match(field.type.name or "") if field.is_base_class else None
         if found:
@@ -77,7 +77,7 @@ def record_printer(base: str, value: gdb.Value) -> object:
 
 
 def cpp_printer(name: str, value: gdb.Value) -> object | None:
-    """Null for classes that gdb may show as they are."""
+    """None for classes without a printer."""
     if LISTS.fullmatch(name):
         return ListPrinter(value)
     if SPANS.fullmatch(name):

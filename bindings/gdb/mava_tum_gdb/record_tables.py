@@ -1,4 +1,4 @@
-"""What is in which record: the table that the build made of the public headers."""
+"""The members of each record: the table that the build made from the public headers."""
 
 from __future__ import annotations
 
@@ -13,5 +13,5 @@ APPLICATION_RECORDS = {c_type: record["members"] for c_type, record in _tables["
 
 
 def short_name(tag: str) -> str:
-    """What a record is called where it is clear that it is one of this library."""
+    """The name of a record without the library's prefix."""
     return tag.removeprefix("tum_nal_data_").removeprefix("mava_tum_")

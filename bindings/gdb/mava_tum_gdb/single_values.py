@@ -1,5 +1,5 @@
-"""Numbers, addresses, texts and bytes in the form in which people read them. Memory of the program may hold anything:
-what cannot be read is said in the place of the value."""
+"""Numbers, addresses, texts and bytes in readable form. If memory cannot be read, the message takes the place of the
+value."""
 
 from __future__ import annotations
 
@@ -12,18 +12,18 @@ IPV6_BYTES = 16
 
 
 def shown_elements() -> int:
-    """How many elements the user wants to see of anything."""
+    """The user's limit of elements."""
     limit: int | None = gdb.parameter("print elements")
     return limit if limit else 1 << 32
 
 
 def plain_number(value: gdb.Value) -> gdb.Value:
-    """A number of eight bits is no character, although gdb would show it as one too."""
+    """An 8-bit number as a number, not as a character."""
     return value.cast(gdb.lookup_type("unsigned int")) if value.type.sizeof == 1 else value
 
 
 def ipv4_text(number: gdb.Value, byte_order: str) -> str:
-    """The codec holds an address as it stands on the wire ("little"), the application as a number ("big")."""
+    """The codec stores an address as on the wire ("little"), the application as a number ("big")."""
     return str(ipaddress.IPv4Address(int(number).to_bytes(IPV4_BYTES, byte_order)))
 
 
@@ -32,7 +32,7 @@ def ipv6_text(content: bytes) -> str:
 
 
 def hex_text(content: bytes, length: int) -> str:
-    """`content` is all of `length` bytes, or their beginning."""
+    """`content` is `length` bytes, or the first of them."""
     text = f"{length} bytes" if length != 1 else "1 byte"
     if length:
         text += ": " + content.hex(" ") + ("..." if len(content) < length else "")
@@ -40,13 +40,13 @@ def hex_text(content: bytes, length: int) -> str:
 
 
 def array_bytes(value: gdb.Value) -> bytes:
-    """The elements of an array of characters or bytes, wherever the array lives."""
+    """The elements of an array of characters or bytes."""
     first, last = value.type.range()
     return bytes(int(value[index]) & 0xFF for index in range(first, last + 1))
 
 
 def array_text(value: gdb.Value) -> tuple[str | gdb.Value, bool]:
-    """The text in an array, for gdb to quote, and whether a NUL ends it."""
+    """The text in an array, as a value that gdb quotes, and whether it ends with a NUL."""
     content = array_bytes(value)
     text = content.split(b"\0")[0]
     if not text:
@@ -55,12 +55,12 @@ def array_text(value: gdb.Value) -> tuple[str | gdb.Value, bool]:
 
 
 def pointed_text(pointer: gdb.Value) -> str | gdb.LazyString:
-    """The text at a pointer, without the pointer."""
+    """The text at a pointer, without the pointer's value."""
     return "null" if not int(pointer) else pointer.lazy_string()
 
 
 def read_or_say_why(value: gdb.Value) -> gdb.Value | str:
-    """The value, unless it lies where no memory is."""
+    """The value, or the error message if its memory cannot be read."""
     try:
         value.fetch_lazy()
     except gdb.error as error:

@@ -7,8 +7,8 @@
 mava_tum_session_context session;           /* decoded: see main() */
 mava_tum_sess_svc_start services;           /* an array of texts */
 mava_tum_session_data clear_bit;            /* a nested record with content, whose own bit is clear */
-mava_tum_session_context broken;            /* what memory may hold that nobody has written */
-tum_nal_data_session_context application;   /* as an application fills it */
+mava_tum_session_context broken;            /* uninitialised memory may have this content */
+tum_nal_data_session_context application;   /* filled like an application does */
 tum_nal_data_subscriber_stats statistics;   /* arrays of numbers in nested records */
 tum_nal_data_sub_route routes;              /* a count above the slots; addresses */
 tum_nal_data_rec_sess_replay_resp response; /* texts in an array */

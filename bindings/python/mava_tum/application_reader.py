@@ -13,10 +13,11 @@ LENGTH_BITS = 32  # of the adapters' length parameter
 
 def app_decode(name: str, data: bytes | bytearray | memoryview, *, dotted: bool = False) -> dict[str, Any]:
     """Decodes one message into the application's record, which has no presence: every member is in the result, zero or
-    empty where nothing arrived. A list holds the elements that arrived, as many as the member that counts them says.
-    `dotted` gives IPv4 addresses as texts.
+    empty if its field is absent. A list has as many elements as its count member. `dotted` returns IPv4 addresses as
+    texts.
 
-    An adapter reports nothing: of a malformed message the part before the fault arrives. Ask `decode` for a verdict."""
+    An adapter reports nothing: of a malformed message, the part before the fault arrives. If you need the result, use
+    `decode`."""
     adapter = find_adapter(name)
     content = wire_bytes("data", data)
     record = ffi.new(f"{adapter.decode} *")

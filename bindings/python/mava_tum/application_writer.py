@@ -14,8 +14,8 @@ from .values import APPLICATION_ORDER, from_bytes, from_text, to_number, to_numb
 
 
 def app_encode(name: str, fields: Mapping[str, Any]) -> bytes:
-    """Encodes the application's record: members that are not there are zero. A list sets the member that counts it,
-    unless that is there too. What is sent of the record is the adapter's decision; IPv4 addresses may be texts.
+    """Encodes the application's record: missing members are zero. A list sets its count member, unless that is present,
+    too. The adapter decides which members are sent; IPv4 addresses may be texts.
 
     Raises UnknownNameError, FieldTypeError or FieldValueError, with the path of the member."""
     adapter = find_adapter(name)

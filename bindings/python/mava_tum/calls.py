@@ -10,14 +10,14 @@ from .schema import Message
 
 
 def call_codec(message: Message, function: str, arguments: Mapping[str, Any]) -> Any:
-    """Calls one of the four functions of a message. They take what their message has use for: arguments go by name, and
-    those without a parameter are left out."""
+    """Calls one of the four functions of a message. Their parameters differ between messages: arguments are passed by
+    name, and those without a parameter are left out."""
     parameters = message.functions[function]
     return getattr(library, f"{message.c_type}_{function}")(*[arguments[each] for each in parameters])
 
 
 def encoded(encode: Callable[[Any, int], Any]) -> bytes:
-    """What an encode function writes: it is asked for the size first, then for the bytes."""
+    """The output of an encode function: a size request first, then the encode."""
     size = encode(ffi.NULL, 0)
     buffer = ffi.new("uint8_t[]", size)
     encode(buffer, size)

@@ -14,16 +14,16 @@ from .values import CODEC_ORDER, to_dotted, to_text, wire_bytes
 
 def decode(name: str, data: bytes | bytearray | memoryview, *, dotted: bool = False,
            memory_limit: int | None = DEFAULT_LIMIT) -> dict[str, Any]:
-    """Decodes one message. Fields that the bytes do not hold are not in the result.
+    """Decodes one message. Absent fields are not in the result.
 
-    `dotted` gives IPv4 addresses as texts. `memory_limit` bounds the bytes of memory that the codec and the result may
-    take together: 64 MiB unless given, None for no limit. Raises DecodeError."""
+    `dotted` returns IPv4 addresses as texts. `memory_limit` is the limit in bytes for the memory of the codec and the
+    result together: 64 MiB if not given, None for no limit. Raises DecodeError."""
     message = find_message(name)
     record = ffi.new(f"{message.c_type} *")
-    # A copy, unless it is bytes: nobody may change the input while it is read.
+    # A copy, unless it is bytes: the input must not change during the decode.
     content = wire_bytes("data", data)
     with Blocks(memory_limit) as blocks, ffi.from_buffer("uint8_t[]", content) as buffer:
-        # Aliased: bytes fields need no block, and the input stays where it is until they have been read.
+        # With the alias bit: bytes fields need no block, and the input stays until they have been read.
         arguments = {"record": record, "data": buffer, "length": len(buffer), "flags": library.MAVA_TUM_ALIAS,
                      **blocks.arguments()}
         result = call_codec(message, "decode_ext", arguments)
@@ -39,13 +39,13 @@ def decode(name: str, data: bytes | bytearray | memoryview, *, dotted: bool = Fa
 
 
 def _place_of_fault(message: Message, result: int, content: bytes) -> tuple[str | None, int | None]:
-    """The field and the byte, as the inspector's library judges."""
+    """The field and the byte of the fault, from the inspector's library."""
     inspect = inspect_library()
     if inspect is None:
         return None, None
     verdict = ffi.new("mava_tum_inspect_verdict *")
     inspect.mava_tum_inspect_judge(message.name.encode(), ffi.from_buffer("uint8_t[]", content), len(content), verdict)
-    if verdict.result != result:  # the message is well formed: memory ran out
+    if verdict.result != result:  # the message is well formed: an allocation failed
         return None, None
     return ffi.string(verdict.path).decode(), verdict.offset
 

@@ -15,8 +15,8 @@ Blocks = list[Any]  # what a record points to; it lives as long as this list
 
 
 def encode(name: str, fields: Mapping[str, Any]) -> bytes:
-    """Encodes one message. A key that is there makes its field present, also with 0, "" or {}; an empty list has no
-    form on the wire and is left out. IPv4 addresses may be numbers or texts.
+    """Encodes one message. A key makes its field present, also with 0, "" or {}; an empty list has no form on the wire
+    and is left out. IPv4 addresses may be numbers or texts.
 
     Raises UnknownNameError, FieldTypeError or FieldValueError, with the path of the field."""
     message = find_message(name)

@@ -1,4 +1,4 @@
-"""Dictionaries as JSON has them, in the form that the command mava-tum prints and reads too."""
+"""Dictionaries in the JSON form of the command mava-tum."""
 
 from __future__ import annotations
 
@@ -13,13 +13,13 @@ IPV6_BYTES = 16
 
 
 def to_json(name: str, fields: Mapping[str, Any]) -> dict[str, Any]:
-    """What `decode` returned, of values that `json.dumps` takes: bytes in hex, addresses as texts. `encode` takes it
-    back."""
+    """Converts the result of `decode` to values that `json.dumps` accepts: bytes in hex, addresses as texts. `encode`
+    accepts it."""
     return _record(find_message(name).fields, fields, CODEC_ORDER)
 
 
 def app_to_json(name: str, record: Mapping[str, Any]) -> dict[str, Any]:
-    """The same of what `app_decode` returned. `app_encode` takes it."""
+    """The same for the result of `app_decode`. `app_encode` accepts it."""
     return _record(APPLICATION_RECORDS[find_adapter(name).decode], record, APPLICATION_ORDER)
 
 
@@ -49,7 +49,7 @@ def _bytes_text(value: bytes, is_address: bool) -> str:
 
 
 def _text(value: str) -> str | dict[str, str]:
-    """The text; as bytes in hex if they are no UTF-8, which JSON cannot hold."""
+    """The text; as bytes in hex if it is not UTF-8, which JSON cannot represent."""
     content = value.encode("utf-8", "surrogateescape")
     try:
         content.decode("utf-8")

@@ -1,9 +1,9 @@
 """The shared library, loaded once.
 
-The module `_declarations` holds what the headers declare; nothing is compiled here. Which file is loaded: the one that
-the environment variable LIBMAVA_TUM names; the one in the folder of this package, as in a wheel; the one installed in
-the same tree as this package; the one that the system's loader finds by its SONAME. The inspector's library, which says
-where a message is malformed, is looked for in the same way (LIBMAVA_TUM_INSPECT), and may be missing."""
+The module `_declarations` has the declarations of the headers; nothing is compiled here. Loads the first of: the file
+that the environment variable LIBMAVA_TUM names; the one in the folder of this package, as in a wheel; the one installed
+in the same tree as this package; the one that the system's loader finds by its SONAME. The inspector's library, which
+finds the place of a fault, is optional and searched in the same way (LIBMAVA_TUM_INSPECT)."""
 
 from __future__ import annotations
 
@@ -42,7 +42,7 @@ def load() -> Any:
 
 @functools.lru_cache(maxsize=None)
 def inspect_library() -> Any | None:
-    """The functions of the inspector's library; None where it is not installed."""
+    """The functions of the inspector's library; None if it is not installed."""
     try:
         return ffi.dlopen(_file_to_load("LIBMAVA_TUM_INSPECT", INSPECT_SONAME))
     except OSError:

@@ -1,6 +1,6 @@
-"""The memory of one decode. Every block is known here until the decode's record has been freed, so nothing can stay
-behind: not after an error, and not when a second occurrence of a record drops what the first one had obtained. The
-objects of the result count, too: a few wire bytes may become a large dictionary."""
+"""The memory of one decode. Keeps a list of all blocks until the decode's record has been freed. So every block is
+released, also after an error, and also the blocks that are dropped when a nested record occurs twice. The objects of
+the result count, too: a few wire bytes may become a large dictionary."""
 
 from __future__ import annotations
 
@@ -22,8 +22,8 @@ class LimitReached(Exception):
 
 
 class Blocks:
-    """Hands out blocks and takes them back. Blocks and counted records take up to `limit` bytes in all (no limit if
-    None). Use it as a context."""
+    """Allocates and releases blocks. The limit for blocks and counted records together is `limit` bytes (None: no
+    limit). A context manager."""
 
     def __init__(self, limit: int | None = None) -> None:
         self.limit = limit
@@ -41,11 +41,11 @@ class Blocks:
         self._blocks.clear()
 
     def obtain(self, size: int) -> Any:
-        """A block, or null where the limit or the machine has no more."""
+        """A block, or null if the limit is reached or the allocation fails."""
         if not self._spend(size + BLOCK_BYTES):
             return ffi.NULL
         try:
-            # An empty block has an address of its own too: null would count as a failure.
+            # An empty block has an address, too: null would be a failure.
             block = ffi.new("uint64_t[]", size // WORD_BYTES + 1)
         except (MemoryError, OverflowError):
             self.refused = True
@@ -69,7 +69,7 @@ class Blocks:
         del self._blocks[int(ffi.cast("uintptr_t", pointer))]
 
     def arguments(self) -> dict[str, Any]:
-        """What decode and free functions take for their memory, by the names of the parameters."""
+        """The callbacks for decode and free functions, by the names of the parameters."""
         return {"alloc_fn": _obtain, "alloc_ctx": self._handle, "release_fn": _give_back, "release_ctx": self._handle}
 
 

@@ -1,4 +1,4 @@
-"""The messages, application records and adapters by their names, from the table that the build made of the headers."""
+"""The messages, application records and adapters by name, from the table that the build made from the headers."""
 
 from __future__ import annotations
 
@@ -56,14 +56,14 @@ class Member:
 
 
 class Adapter(NamedTuple):
-    """The C types of the records that the two directions of an adapter take."""
+    """The C types of the records of an adapter's two directions."""
 
     encode: str
     decode: str
 
 
 class Result(NamedTuple):
-    """What the headers call a result code, and what they say about it."""
+    """The name of a result code, and its description in the headers."""
 
     name: str
     text: str
@@ -91,7 +91,7 @@ RESULTS = {row["value"]: Result(name, row["text"]) for name, row in _tables["res
 
 
 def unknown_name(text: str, name: object, known: Collection[str]) -> UnknownNameError:
-    """The error for a name that is not among the known ones."""
+    """The error for an unknown name."""
     near = difflib.get_close_matches(name, known, cutoff=LIKENESS) if isinstance(name, str) else []
     return UnknownNameError(f"{text} {name!r}", tuple(near))
 

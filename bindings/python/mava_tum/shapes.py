@@ -1,4 +1,4 @@
-"""Whether what a caller passes has the shape of a record or of a list."""
+"""Checks that a value is a dictionary or a list."""
 
 from __future__ import annotations
 
@@ -10,7 +10,7 @@ from .schema import unknown_name
 
 
 def as_record(path: str, value: Any, known: Collection[str]) -> Mapping[str, Any]:
-    """A mapping all of whose keys are known."""
+    """The value, which must be a mapping with known keys only."""
     if not isinstance(value, Mapping):
         raise FieldTypeError(f"{path}: takes a dict, not {type(value).__name__}")
     for name in value:
@@ -20,7 +20,7 @@ def as_record(path: str, value: Any, known: Collection[str]) -> Mapping[str, Any
 
 
 def as_list(path: str, value: Any) -> Sequence[Any]:
-    """A list or tuple: a text is a sequence as well, and never meant."""
+    """The value, which must be a list or tuple: a text is a sequence, too, but not accepted."""
     if not isinstance(value, (list, tuple)):
         raise FieldTypeError(f"{path}: takes a list, not {type(value).__name__}")
     return value

@@ -1,4 +1,4 @@
-"""What an adapter leaves out of a record without a word."""
+"""The members of a record that an adapter silently does not send."""
 
 from __future__ import annotations
 
@@ -14,7 +14,7 @@ FEATURES = {name: bit for name, bit in CONSTANTS.items() if name.startswith("TUM
 
 
 def has_value(value: Any) -> bool:
-    """Zeros and empty texts arrive as what they are, also where they are not sent."""
+    """Without zeros and empty texts, which arrive also if they are not sent."""
     if isinstance(value, Mapping):
         return any(map(has_value, value.values()))
     if isinstance(value, (list, tuple)):
@@ -29,12 +29,12 @@ def arrived_members(name: str, fields: Mapping[str, Any]) -> set[str]:
 
 
 def app_unsent(name: str, fields: Mapping[str, Any]) -> dict[str, str | None]:
-    """The members of a record that have a value which `app_encode` does not send, each with the bit of `feature_mask`
-    that would send it: "TUM_NAL_FEATURE_QOS", or None where it is not one bit alone. Empty: all of it is sent. Of a list
-    that arrives in part nothing is said.
+    """The members whose value `app_encode` does not send, each with the bit of `feature_mask` that it needs:
+    "TUM_NAL_FEATURE_QOS", or None if it is not a single bit. Empty if all members are sent. Does not report a list that
+    arrives in part.
 
-    It encodes and decodes the record, and once more for each bit if there is something to say. Raises what `app_encode`
-    raises."""
+    Encodes and decodes the record, and once more for each bit if a member is not sent. Raises the exceptions of
+    `app_encode`."""
     arrived = arrived_members(name, fields)
     unsent: dict[str, str | None] = {
         member: None for member, value in fields.items() if has_value(value) and member not in arrived}

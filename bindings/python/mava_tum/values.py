@@ -11,7 +11,7 @@ from .errors import FieldTypeError, FieldValueError
 
 ByteOrder = Literal["little", "big"]
 
-# The codec holds an address so that its bytes stand on the wire in network order; the application holds it as a number.
+# The codec stores an address so that its bytes on the wire are in network order; the application stores it as a number.
 CODEC_ORDER: ByteOrder = "little"
 APPLICATION_ORDER: ByteOrder = "big"
 
@@ -30,7 +30,7 @@ def from_dotted(path: str, text: str, order: ByteOrder) -> int:
 
 
 def to_number(path: str, value: Any, bits: int) -> int:
-    """An unsigned integer of so many bits. A truth value is none, although Python counts it among them."""
+    """An unsigned integer of `bits` bits. Rejects bool, which is an int in Python."""
     if isinstance(value, bool):
         raise FieldTypeError(f"{path}: takes a number, not bool")
     try:
@@ -49,12 +49,13 @@ def to_number_or_address(path: str, value: Any, bits: int, address: str, order: 
 
 
 def to_text(raw: bytes) -> str:
-    """A text as it arrived. No character set is asked of it: what is not UTF-8 comes back as the same bytes."""
+    """A text. Bytes that are not UTF-8 stay unchanged when it is encoded again."""
     return raw.decode("utf-8", "surrogateescape")
 
 
 def tagged_bytes(path: str, value: Any) -> bytes | None:
-    """The bytes of {"hex": "..."} or {"text": "..."}, the forms that JSON has for what is not what it looks like."""
+    """The bytes of {"hex": "..."} or {"text": "..."}, the JSON forms for bytes that are text and texts that are not
+    UTF-8."""
     if not isinstance(value, Mapping) or len(value) != 1:
         return None
     (tag, content), = value.items()
@@ -94,7 +95,7 @@ def from_text(path: str, value: Any) -> bytes:
 
 
 def from_bytes(path: str, value: Any) -> bytes:
-    """The content of a bytes field: bytes, an IPv6 address, or what JSON has for them."""
+    """The content of a bytes field: bytes, an IPv6 address, or their JSON forms."""
     if isinstance(value, ipaddress.IPv6Address):
         return value.packed
     if isinstance(value, str):

@@ -1,4 +1,4 @@
-"""What all tests of the module share: where things are, how many examples to try."""
+"""Shared by all tests of the module: paths and the number of examples."""
 
 from __future__ import annotations
 
@@ -12,7 +12,7 @@ from hypothesis import HealthCheck, settings
 
 SOURCE = Path(os.environ["MAVA_TUM_SOURCE"])
 
-# The ordinary run tries the same few examples each time; scripts/check/python many and others.
+# The ordinary run tries the same few examples each time, scripts/check/python many different ones.
 EXAMPLES = os.environ.get("MAVA_TUM_EXAMPLES")
 settings.register_profile("ordinary", max_examples=15, derandomize=True, deadline=None, database=None,
                           suppress_health_check=[HealthCheck.too_slow, HealthCheck.data_too_large])

@@ -1,4 +1,4 @@
-"""Any dict that `encode` and `app_encode` take, made from the field tables."""
+"""Makes dictionaries for `encode` and `app_encode` from the field tables."""
 
 from __future__ import annotations
 
@@ -30,14 +30,14 @@ def for_all(**strategies: Strategy) -> Callable[[Test], Test]:
 
 
 def numbers(bits: int) -> Strategy:
-    """Small ones and those at the edges of a varint's length are as likely as any."""
+    """Small numbers, numbers where a varint gets longer, and any numbers, with the same probability."""
     edges = sorted({value for shift in range(0, bits + 1, 7) for value in (max(0, (1 << shift) - 1), 1 << shift)
                     if value < 1 << bits} | {(1 << bits) - 1})
     return st.one_of(st.sampled_from(edges), st.integers(0, (1 << bits) - 1))
 
 
 def texts(most_bytes: int) -> Strategy:
-    """Any bytes but NUL are a text."""
+    """A text may have all bytes except NUL."""
     raw = st.one_of(st.binary(max_size=min(most_bytes, 20)), st.just(b"x" * most_bytes))
     return raw.map(lambda content: content.replace(b"\0", b"-").decode("utf-8", "surrogateescape"))
 

@@ -1,4 +1,4 @@
-"""Do the records of applications survive the way into C and back, and onto the wire and back?"""
+"""Are application records unchanged after the way to C and back, and to the wire and back?"""
 
 from __future__ import annotations
 
@@ -14,10 +14,10 @@ from mava_tum.schema import ADAPTERS, APPLICATION_RECORDS
 from runtime_peer import from_wire, to_peer
 from strategies import application_records, for_all
 
-# The message that an adapter writes, where it is not called the same.
+# The message of an adapter, if its name is another one.
 MESSAGE_OF = {"rec_start_res": "rec_resp", "rec_complete_res": "rec_resp", "rec_sess_res": "rec_sess_resp"}
 
-# All others send every member when all are there, and receive it in the same place.
+# All others send every member if all are present, and receive it in the same place.
 ONE_SIDED = ("session_context", "session_delete", "sess_oper_resp", "subscriber_stats", "sub_route", "rec_start_req",
              "rec_sess_req", "rec_sess_replay_req", "rec_sess_replay_resp")
 
@@ -72,7 +72,7 @@ def test_members_that_are_not_sent_are_told_with_the_feature_that_sends_them() -
     record: dict[str, Any] = {
         "feature_mask": mava_tum.constants["TUM_NAL_FEATURE_ACL"], "qos": [{"value_1": 1}], "acl_text_2": "in",
         "ipv6_part_2": bytes(range(16)), "icmp_1_value": 7, "icmp_2_value": 0, "session_name": "", "accounting_value_2": 9}
-    # The accounting values need a bit of accounting_flags too.
+    # The accounting values also need a bit of accounting_flags.
     assert mava_tum.app_unsent("session_context", record) == {
         "qos": "TUM_NAL_FEATURE_QOS", "ipv6_part_2": "TUM_NAL_FEATURE_IPV6_PART_2",
         "icmp_1_value": "TUM_NAL_FEATURE_ICMP_1", "accounting_value_2": None}

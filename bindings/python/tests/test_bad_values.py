@@ -1,4 +1,4 @@
-"""Is everything that is wrong refused, with the path of the field and what would be right?"""
+"""Is every wrong value rejected, with the path of the field and the accepted values?"""
 
 from __future__ import annotations
 

@@ -1,4 +1,4 @@
-"""Do the errors travel: to another process, and into a copy?"""
+"""Can the errors be pickled and copied?"""
 
 from __future__ import annotations
 

@@ -1,4 +1,4 @@
-"""Do the tables that the module was made with name what the library has?"""
+"""Do the tables of the module agree with the library?"""
 
 from __future__ import annotations
 

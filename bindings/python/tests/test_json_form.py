@@ -1,4 +1,4 @@
-"""Is the JSON of the module that of the command mava-tum, and does it come back?"""
+"""Is the module's JSON that of the command mava-tum, and does it decode to the same values?"""
 
 from __future__ import annotations
 

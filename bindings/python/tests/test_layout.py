@@ -1,4 +1,4 @@
-"""Do the records lie in memory as the C compiler lays them out?"""
+"""Do the records have the layout of the C compiler?"""
 
 from __future__ import annotations
 

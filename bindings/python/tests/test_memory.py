@@ -1,4 +1,4 @@
-"""Is every block given back, whatever happens?"""
+"""Is every block released, also after errors?"""
 
 from __future__ import annotations
 
@@ -22,7 +22,7 @@ SESSION = {"field_6": b"\1\2", "session_data": {"field_5": "user", "l2tp": {"fie
 
 
 class CountingBlocks(Blocks):
-    """Counts what goes out and comes back, and fails on request."""
+    """Counts allocations and releases, and fails on request."""
 
     every: list[CountingBlocks] = []
     fail_at: int | None = None

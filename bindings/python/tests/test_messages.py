@@ -1,4 +1,4 @@
-"""Do the messages mean the same to the official protobuf runtime?"""
+"""Does the official protobuf runtime read the messages with the same values?"""
 
 from __future__ import annotations
 

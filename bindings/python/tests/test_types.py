@@ -1,4 +1,4 @@
-"""What does a type checker find with the types of the module?"""
+"""Does a type checker accept right uses of the module and reject wrong ones?"""
 
 from __future__ import annotations
 

@@ -69,7 +69,7 @@ private:
     char *records(const message_description &message)
     {
         const std::size_t bytes = message.record_bytes * element_count;
-        // Of 64-bit numbers, and so aligned for any record; a deque's elements stay where they are.
+        // Of 64-bit numbers, so that it is aligned for any record; the elements of a deque do not move.
         char *first = reinterpret_cast<char *>(m_blocks.emplace_back(bytes / sizeof(uint64_t) + 1).data());
         for (uint32_t i = 0; i < element_count; ++i)
             fill(message, first + i * message.record_bytes);

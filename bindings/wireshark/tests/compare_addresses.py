@@ -3,8 +3,8 @@
 
     compare_addresses.py PLUGIN PDML EXPECTED
 
-PLUGIN is mava_tum_addresses.lua, whose table says which fields hold one; PDML and EXPECTED are as for
-compare_capture.py. Exits with 1 at a difference, and when there was no address of either kind to compare.
+PLUGIN is mava_tum_addresses.lua, whose table has the fields that hold one; PDML and EXPECTED are as for
+compare_capture.py. Exits with 1 if there is a difference, or if there was no address of one kind.
 """
 import ipaddress
 import pathlib
@@ -28,7 +28,7 @@ def shown_addresses(pdml):
 
 
 def address(kind, value):
-    """None: these bytes are no address."""
+    """None if these bytes are no address."""
     if kind == "ipv4":
         return ipaddress.IPv4Address(int(value).to_bytes(4, "little"))
     in_hex = value.replace(":", "")

@@ -1,11 +1,11 @@
 #!/usr/bin/env python3
-"""Compares what tshark shows of a capture with what the library finds in the messages that were sent.
+"""Compares tshark's view of a capture with the library's view of the sent messages.
 
     compare_capture.py PDML EXPECTED
 
 PDML is tshark's output, EXPECTED that of field_lines. The messages are compared one after the other, and in each of
-them every named field with its value, in order. Prints each difference, and how much was compared; exits with 1 at a
-difference.
+them every named field with its value, in order. Prints each difference, and the numbers of compared messages and
+fields; exits with 1 if there is a difference.
 """
 import sys
 import xml.etree.ElementTree as ElementTree

@@ -1,5 +1,5 @@
-// What the library's decoders find in messages, in the words of Wireshark: the expectation that a capture is held to.
-// Reads lines "MESSAGE BYTES-IN-HEX" from the standard input; prints for each
+// Prints the fields that the library decodes, with the names of Wireshark: the expected result for a capture. Reads
+// lines "MESSAGE BYTES-IN-HEX" from the standard input; prints for each
 //     MESSAGE
 //     pbf.mava_tum.MESSAGE.FIELD VALUE     for each field that is present, those of a record behind the record itself
 // Exits with 1 at a message that the library refuses.
@@ -28,7 +28,7 @@ const Member &member_at(const void *record, std::size_t offset)
 
 bool is_present(const message_description &message, const void *record, uint32_t number)
 {
-    uint32_t mask = 0; // little-endian, as all platforms that the tests run on
+    uint32_t mask = 0; // little-endian, as on all platforms of these tests
     std::memcpy(&mask, static_cast<const char *>(record) + message.mask_offset, message.mask_bytes);
     return (mask >> (number - 1) & 1) != 0;
 }

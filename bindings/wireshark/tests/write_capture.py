@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Writes a capture of messages, as if each had come in a datagram to the port that the profile gives it.
+"""Writes a capture of messages, each in a datagram to its port in the profile.
 
     write_capture.py PROFILE CAPTURE <LOG
 
