@@ -1,7 +1,6 @@
-/* A program as somebody compiled it against the public headers of 1.0.0, which are kept beside it as one file. Run
- * against today's library it must find every function that it calls, every member where that header has it, and nothing
- * written behind a record that is as large as that header says. One message and one adapter of each public header, and
- * the queue. */
+/* A program compiled against the public headers of 1.0.0, which are beside it as one file. With the current library,
+ * it must find every function that it calls and every member at its offset, and no byte may be written behind a
+ * record of that size. One message and one adapter of each public header, and the queue. */
 #include "released/mava_tum-1.0.0.h"
 
 #include <stdio.h>
@@ -39,7 +38,7 @@ static void release(void *pointer, void *context)
     free(pointer);
 }
 
-/* A record with a strip behind it that nobody may write to. */
+/* A record with guard bytes behind it. */
 enum { STRIP = 0xA5 };
 #define GUARDED(type)                                                                                                  \
     struct {                                                                                                           \
@@ -156,7 +155,7 @@ static void redundancy_group(void)
     mava_tum_srg_group_data_free_ext(&in.record, release, NULL);
 }
 
-/* The adapters' records are large: they are not put on the stack. */
+/* The adapters' records are too large for the stack. */
 static GUARDED(tum_nal_data_session_context) context_in;
 static GUARDED(tum_nal_data_sess_oper_resp) oper_resp_in;
 static GUARDED(tum_nal_data_subscriber_stats) stats_in;

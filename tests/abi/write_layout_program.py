@@ -1,5 +1,5 @@
-"""Writes a C program that prints what its compiler makes of the public headers: for each record a line with name, size
-and alignment, then one for each member with name, offset and size.
+"""Writes a C program that prints the layout of the public headers' records: for each record a line with name, size and
+alignment, then one for each member with name, offset and size.
 
     write_layout_program.py <include folder> <file to write>"""
 
