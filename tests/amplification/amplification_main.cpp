@@ -1,7 +1,7 @@
-// check_amplification
-// For every message, how much memory its decoder asks for per wire byte at worst: the input made for that, the limit
-// that follows from the message's fields, and a search over short inputs for one that goes above it. Prints the rows of
-// the table in docs/figures/memory.md and the worst of all; exits with 1 when an input went above a limit.
+// check_amplification For every message, the most memory that its decoder requests per byte of wire: by the worst
+// constructed input, the limit that follows from the fields, and a search over short inputs for one above the limit.
+// Prints the rows of the table in docs/figures/memory.md and the worst of all; exits with 1 if an input exceeds a
+// limit.
 #include "amplification/asked_limit.h"
 #include "amplification/measured_decode.h"
 #include "amplification/short_inputs.h"
@@ -21,7 +21,7 @@ using namespace mava_tum_amplification;
 using mava_tum_model::all_messages;
 using mava_tum_model::message;
 
-// Of the inputs made for the worst: large enough that the lengths in front of nested records no longer show.
+// The size of the worst constructed inputs: large enough that the lengths in front of nested records do not matter.
 constexpr std::size_t made_wire_bytes = 64 * 1024;
 constexpr std::size_t shown_wire_bytes = 8;
 
@@ -32,7 +32,7 @@ struct totals {
     std::string above;
 };
 
-// Two places, cut off: what stays below a limit is not printed as the limit.
+// Two places, truncated: a figure below a limit must not be printed as the limit.
 std::string shown(double ratio)
 {
     char text[32];

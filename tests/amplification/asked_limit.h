@@ -1,9 +1,9 @@
-// The most memory that a decode asks for per wire byte, worked out from the table of messages.
+// The most memory that a decode requests per byte of wire, computed from the table of messages.
 //
-// Every byte asked for belongs to a field on the wire, and every field has wire bytes of its own: an element of an
-// array its tag and length, which buy one slot; a text or a bytes field its tag, length and content, which buy the
-// content and a NUL. So no input asks for more than the dearest kind of field does, however kinds are mixed, nested or
-// repeated.
+// Every requested byte belongs to a field on the wire, and every field has its own wire bytes: an array element has tag
+// and length, and requests one slot; a text or bytes field has tag, length and content, and requests the content and a
+// NUL. So no input requests more per byte than the most expensive kind of field, for any mixture, nesting or
+// repetition.
 #pragma once
 
 #include "model/message_tables.h"
@@ -29,17 +29,17 @@ struct memory_ratio {
     }
 };
 
-// What the slot of one empty element costs in memory and on the wire.
+// The size of one empty element in memory and on the wire.
 memory_ratio slot_ratio(const mava_tum_model::field &array);
 
 memory_ratio asked_limit(const mava_tum_model::field &of);
 memory_ratio asked_limit(const mava_tum_model::message &of);
 
-// The most that an exported decoder drops: what the first of two occurrences of a nested record asked for.
+// The most memory that an exported decoder drops: the blocks of the first of two occurrences of a nested record.
 memory_ratio dropped_limit(const mava_tum_model::field &of);
 memory_ratio dropped_limit(const mava_tum_model::message &of);
 
-// No block comes without a tag and a length of its own, but for the pointers of one array of texts.
+// Every block has its own tag and length, except the pointers of an array of texts.
 constexpr uint64_t block_limit(uint64_t wire_bytes)
 {
     return wire_bytes / 2 + 1;

@@ -1,4 +1,4 @@
-// The search for an input that asks for more than the limits say.
+// The search for an input that requests more than its limit.
 #pragma once
 
 #include "amplification/asked_limit.h"
@@ -32,10 +32,10 @@ search_result search(const searched_decode &of, std::span<const uint8_t> alphabe
 
 std::vector<uint8_t> every_byte();
 
-// The bytes that make a difference to memory: the tags of all fields that own some, at every depth, and short lengths.
+// The bytes that affect memory: the tags of all fields that own blocks, at every depth, and short lengths.
 std::vector<uint8_t> bytes_that_matter(const mava_tum_model::message &of);
 
-// The longest inputs from an alphabet that there are at most `budget` of.
+// The longest inputs from an alphabet whose number is at most `budget`.
 std::size_t longest_within(uint64_t budget, std::size_t alphabet_bytes);
 
 } // namespace mava_tum_amplification

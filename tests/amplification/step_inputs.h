@@ -1,4 +1,4 @@
-// Inputs that make a decoder work hard for each byte: the same few bytes again and again.
+// Inputs that are expensive for a decoder: a few bytes, repeated.
 #pragma once
 
 #include "model/message_tables.h"
@@ -16,9 +16,8 @@ struct repeated_bytes {
     std::vector<uint8_t> bytes;
 };
 
-// Each field in its shortest form; all fields that may occur again, backwards, so that each of them needs a round of
-// its own; tags in a longer form than they need; fields that nobody knows; and, once at least, a varint and a tag
-// without an end.
+// Each field in its shortest form; all fields that may be repeated, backwards, so that each needs its own round;
+// over-long tags; unknown fields; and a varint and a tag without an end.
 std::vector<repeated_bytes> inputs_full_of_steps(const mava_tum_model::message &of);
 
 std::vector<uint8_t> repeat(const std::vector<uint8_t> &bytes, std::size_t length);

@@ -1,6 +1,5 @@
-// check_steps <bytes>
-// Decodes, under callgrind, inputs of <bytes> and of twice as many bytes that make a decoder work hard. Each decode
-// becomes a dump of callgrind that is named "<message>: <input>|<bytes>". scripts/check/steps reads them.
+// check_steps <bytes> Decodes, under callgrind, expensive inputs of <bytes> and of twice as many bytes. Each decode
+// writes a dump of callgrind with the name "<message>: <input>|<bytes>". scripts/check/steps reads them.
 #include "amplification/step_inputs.h"
 #include "amplification/worst_wire.h"
 #include "model/library_calls.h"

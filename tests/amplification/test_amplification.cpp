@@ -1,4 +1,4 @@
-// How much memory can a few bytes ask for? scripts/check/amplification searches further.
+// How much memory can a few bytes request? scripts/check/amplification searches longer.
 #include "amplification/asked_limit.h"
 #include "amplification/measured_decode.h"
 #include "amplification/short_inputs.h"
@@ -34,7 +34,7 @@ std::string name_of_message(const testing::TestParamInfo<std::size_t> &info)
     return all_messages()[info.param]->name;
 }
 
-// Below the limit by no more than the few bytes in front of nested records and texts.
+// Below the limit by at most the bytes in front of nested records and texts.
 void expect_just_within(uint64_t memory, const wire_bytes &wire, const memory_ratio &limit)
 {
     const double ratio = wire.empty() ? 0 : static_cast<double>(memory) / static_cast<double>(wire.size());
@@ -65,7 +65,7 @@ TEST_P(amplification, of_no_short_input_is_above_the_limit)
 
 INSTANTIATE_TEST_SUITE_P(of, amplification, testing::Range(std::size_t{0}, all_messages().size()), name_of_message);
 
-// The figures that the public headers and docs/trust.md give.
+// The figures in the public headers and docs/trust.md.
 TEST(amplification_limit, is_328_for_sessions_in_a_replay_and_44_for_dropped_statistics)
 {
     EXPECT_EQ(asked_limit(*find_message("rec_sess_replay_req")).value(), 328);
@@ -76,7 +76,7 @@ TEST(amplification_limit, is_328_for_sessions_in_a_replay_and_44_for_dropped_sta
     }
 }
 
-// The search must be able to find something.
+// The search must report an input above a limit, or one that drops memory.
 TEST(amplification_search, names_an_input_that_asks_for_too_much_or_drops_something)
 {
     searched_decode greedy = decoder_of(0);

@@ -24,7 +24,7 @@ std::size_t room_in(const field &of, std::size_t length)
     return length < head ? 0 : length - head;
 }
 
-// The first field with the highest limit. A text before a bytes field: it asks for a NUL as well.
+// The first field with the highest limit. A text before a bytes field: it also requests a NUL.
 template <class Limit>
 const field *dearest_field(const message &of, Limit limit)
 {

@@ -1,4 +1,4 @@
-// The inputs that come closest to the limits: runs of empty elements, as deep as the dearest of them stands.
+// The inputs that are closest to the limits: runs of empty elements of the most expensive list, at its depth.
 #pragma once
 
 #include "model/message_tables.h"
@@ -12,7 +12,7 @@ namespace mava_tum_amplification
 
 using wire_bytes = std::vector<uint8_t>;
 
-// At most `length` bytes. Empty if no input makes the message ask for memory.
+// At most `length` bytes. Empty if the message never requests memory.
 wire_bytes worst_wire(const mava_tum_model::message &of, std::size_t length);
 
 // At most `length` bytes with a nested record twice. Empty if no nested record owns memory.
