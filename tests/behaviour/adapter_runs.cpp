@@ -20,7 +20,7 @@ std::string function_name(const char *direction, const mava_tum_fuzz::adapter &o
     return std::string("tum_nal_data_gpb_") + direction + "_tum_" + of.name;
 }
 
-// Never without a NUL.
+// Always with a NUL.
 void fill_text(uint8_t *text, uint32_t bytes, random_source &random)
 {
     std::memset(text, fresh_byte, bytes);
@@ -78,7 +78,7 @@ void fill_record(const application_layout &layout, uint8_t *record, random_sourc
     });
 }
 
-// Texts must keep their NUL: bytes that are zero stay so, others become anything.
+// Texts must keep their NUL: zero bytes stay, others become random.
 void change_bytes(std::span<uint8_t> record, random_source &random)
 {
     for (uint8_t &byte : record) {

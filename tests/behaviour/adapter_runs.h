@@ -1,5 +1,5 @@
-// One wire through a decode adapter, and what it received, changed records and random ones through the encode adapter.
-// What an adapter allocates, how long it takes and its stack are not part of its behaviour here.
+// One wire through a decode adapter; the received record, changed records and random ones through the encode adapter.
+// Allocations, time and stack do not count as behaviour here.
 #pragma once
 
 #include "adapter_records.h"

@@ -2,12 +2,12 @@
 //
 // Runs the inputs of both corpora, the seeds of each message, and mutated and random wires from fixed seeds through all
 // 201 exported functions, and prints one row for each function and group of arguments: name, group, calls, and a hash
-// of everything that the calls did: results, records, blocks, bytes, segments. Two builds that print the same rows did
-// the same. scripts/check/behaviour compares the rows with recorded.tsv. What is judged is the shared library that the
-// program finds: that of its build, or another one with LD_LIBRARY_PATH.
+// of all effects of the calls: results, records, blocks, bytes, segments. Two builds with the same rows have the same
+// behaviour. scripts/check/behaviour compares the rows with recorded.tsv. It tests the shared library that the program
+// loads: that of its build, or another one with LD_LIBRARY_PATH.
 //
-// With --dump, prints each call of one function instead: group, a number that tells calls apart (flags, failing call or
-// capacity), input, hash. The first line in which two builds differ is the first call that does something else.
+// With --dump, prints each call of one function instead: group, a number that distinguishes calls (flags, failing call
+// or capacity), input, hash. The first line in which two builds differ is the first call with another behaviour.
 #include "adapter_runs.h"
 #include "check_adapter.h"
 #include "message_runs.h"
@@ -84,7 +84,7 @@ wire_bytes lists_wire(const message &of, std::size_t count)
     return wire;
 }
 
-// What is longer than the inputs of a corpus.
+// Inputs that are longer than those of a corpus.
 void append_long_wires(std::vector<wire_bytes> &wires, const message &of)
 {
     for (const std::size_t length : {127, 128, 260, 1000, 5000})
@@ -117,7 +117,7 @@ wire_bytes changed_wire(const message &of, const std::vector<wire_bytes> &wires,
     return wire;
 }
 
-// All wires whole, then changed ones in part.
+// All wires, then some changed ones.
 template <class runs_type>
 void run_wires(runs_type &runs, const message &of, const std::vector<wire_bytes> &wires, uint64_t changed_count)
 {
@@ -133,7 +133,7 @@ void run_wires(runs_type &runs, const message &of, const std::vector<wire_bytes>
     }
 }
 
-// Wires of one message are wires of the others too, if strange ones.
+// Each message also gets the wires of other messages.
 void run_messages(behaviour_table &table, const std::vector<corpus_input> &corpus)
 {
     for (std::size_t index = 0; index < message_count; ++index) {
@@ -160,7 +160,7 @@ void print_rows(const behaviour_table &table)
 {
     for (const behaviour_row &row : table.rows()) {
         if (row.calls == 0)
-            continue; // such as a failing allocation where a message allocates nothing
+            continue; // such as a failing allocation of a message that allocates nothing
         std::printf("%s\t%s\t%llu\t%016llx\n", row.function.c_str(), row.group.c_str(),
             static_cast<unsigned long long>(row.calls), static_cast<unsigned long long>(row.hash.value()));
     }

@@ -1,4 +1,4 @@
-// The rows: for each function and group of arguments, how many calls were made and one hash of all that they did.
+// The rows: for each function and group of arguments, the number of calls and one hash of all their effects.
 #pragma once
 
 #include "call_hash.h"
@@ -18,7 +18,7 @@ struct behaviour_row {
     uint64_t calls = 0;
     call_hash hash = {};
 
-    // `argument`: what else tells this call from others with the same input, such as the capacity.
+    // `argument`: distinguishes calls with the same input, for example by capacity.
     void add(std::span<const uint8_t> input, uint64_t argument, const call_hash &call)
     {
         calls += 1;
@@ -40,7 +40,7 @@ private:
 class behaviour_table
 {
 public:
-    // `dumped`: the function whose calls are printed one by one; empty: none.
+    // `dumped`: the function whose calls are printed; empty: none.
     explicit behaviour_table(std::string dumped) : dumped_(std::move(dumped)) {}
 
     behaviour_row &new_row(const std::string &function, const std::string &group)

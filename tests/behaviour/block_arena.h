@@ -1,5 +1,5 @@
-// The allocator that the library is given: blocks one after the other in one piece of memory, each filled with a
-// pattern and with guard bytes behind it, so that what a call leaves is the same in every run.
+// The allocator for the library: consecutive blocks in one arena, each filled with a pattern and followed by guard
+// bytes, so that the result of a call is the same in every run.
 #pragma once
 
 #include "call_hash.h"
@@ -35,11 +35,11 @@ public:
         return calls_;
     }
 
-    // The calls so far with their order, sizes and results, and the bytes behind each block.
+    // The calls so far (order, sizes, results), and the bytes behind each block.
     void add_calls(call_hash &hash) const;
 
     struct place {
-        uint64_t block; // counted from 1; 0: in no block
+        uint64_t block; // from 1; 0: in no block
         uint64_t offset;
         uint64_t bytes_left;
     };

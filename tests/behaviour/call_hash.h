@@ -1,4 +1,4 @@
-// A 64-bit hash of what a call did. Not for security: equal behaviour gives equal hashes, and any change shows.
+// A 64-bit hash of a call's effects. Not for security: it only detects changes of behaviour.
 #pragma once
 
 #include <cstddef>

@@ -9,7 +9,7 @@
 namespace mava_tum_behaviour
 {
 
-// A buffer between guard bytes. Everything from the first guard byte to the last is part of what a call did.
+// A buffer between guard bytes, all of which are part of the hash.
 class guarded_output
 {
 public:
@@ -29,8 +29,8 @@ private:
 };
 
 // Calls `encode` with null and 0, and then with 0, 1, half, size - 1, size, size + 1 and many bytes, where `size` is
-// what the first call returned. Of a size that no test fills, only the first two.
-// `encode` gets the buffer and its capacity, adds what it did beside the bytes, and returns the result.
+// what the first call returned. If the size is too large for a buffer, only the first two. `encode` gets the buffer and
+// its capacity, adds its effects except the bytes, and returns the result.
 using encode_call = std::function<uint64_t(uint8_t *buffer, uint64_t capacity, call_hash &hash)>;
 void encode_at_all_capacities(guarded_output &output, behaviour_row &row, std::span<const uint8_t> input,
     uint64_t argument, const encode_call &encode);

@@ -12,7 +12,7 @@ using namespace mava_tum_model;
 namespace
 {
 
-constexpr uint32_t other_flags = 0xFFFFFFFE; // all that have no meaning
+constexpr uint32_t other_flags = 0xFFFFFFFE; // all bits without a meaning
 
 enum decode_group : std::size_t { copied, aliased, without_allocator, fails_once, fails_from_then, fails_when_empty };
 constexpr const char *decode_names[] = {"copied", "aliased", "no allocator", "one allocation fails",
@@ -31,7 +31,7 @@ constexpr const char *duplicate_names[] = {
 enum free_group : std::size_t { owning, aliasing, of_changed_record, of_duplicate };
 constexpr const char *free_names[] = {"owned", "alias bit", "changed", "of a duplicate"};
 
-// Capacities of segments; the last: a count, and nowhere to put segments.
+// Capacities of segments; the last one: a count, but no array for segments.
 constexpr uint32_t segment_capacities[] = {0, 1, 2, 64, 3};
 constexpr uint32_t segment_arguments = 5;
 
@@ -97,7 +97,7 @@ void message_runs::failing_decodes(random_source &random, bool all)
     decode(*decode_rows_[without_allocator], {failing::no_allocator}, alias_flag);
 }
 
-// Leaves a record to work on. Its decode is no call of a row: it was one before.
+// Makes a record for further calls. Its decode is not counted again.
 void message_runs::prepare(std::size_t source, uint32_t flags)
 {
     blocks_.restart();
@@ -112,7 +112,7 @@ void message_runs::prepare(std::size_t source, uint32_t flags)
         library_.free(record(), block_arena::release, &blocks_, flags);
 }
 
-// `argument`: its lowest bit says how the record was decoded, the rest which capacity of segments.
+// `argument`: its lowest bit is the alias bit of the decode, the others select the capacity of segments.
 void message_runs::encode(std::size_t source, std::size_t mode, uint32_t argument)
 {
     prepare(source, argument % 2);
@@ -182,7 +182,7 @@ void message_runs::free_twice(behaviour_row &row, uint8_t *record, block_arena &
     }
 }
 
-// Each way of decoding with each way of freeing: what is released is only written down.
+// Each decode with each free, also with different flags: releases are only recorded.
 void message_runs::frees()
 {
     for (uint32_t flags = 0; flags < 4; ++flags) {

@@ -1,4 +1,4 @@
-// One wire through decode, encode, duplicate and free of one message, in all the ways that their arguments allow.
+// One wire through decode, encode, duplicate and free of one message, with all combinations of arguments.
 #pragma once
 
 #include "block_arena.h"
@@ -13,7 +13,7 @@
 namespace mava_tum_behaviour
 {
 
-// What random choices in a run depend on, beside the input: equal in all runs of the program.
+// The seed of random choices, besides the input: the same in all runs of the program.
 struct wire_input {
     std::span<const uint8_t> wire;
     uint64_t seed;

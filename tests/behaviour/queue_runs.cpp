@@ -53,7 +53,7 @@ void run_queue(behaviour_table &table)
         mava_tum_model::random_source random(seed);
         queue_state state;
         for (uint64_t step = 0; step < 40; ++step) {
-            // Mostly one queue: a node in the wrong one leaves both in states that no operation mends.
+            // Mostly one queue: a node in the wrong queue damages both permanently.
             nal_queue_t &queue = state.queues[random.below(1 + seed % queue_count)];
             nal_queue_node_t &node = state.nodes[random.below(node_count)];
             const uint64_t operation = random.below(4);

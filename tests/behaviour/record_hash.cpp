@@ -40,7 +40,7 @@ void name_pointers(const message &of, uint8_t *record, const known_places &place
     }
 }
 
-// How many of `wanted` bytes at `pointer` are a block's.
+// How many of the `wanted` bytes at `pointer` are inside a block.
 uint64_t readable(const uint8_t *pointer, uint64_t wanted, const known_places &places)
 {
     block_arena::place where = places.blocks.place_of(pointer);

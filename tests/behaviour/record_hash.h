@@ -1,4 +1,5 @@
-// The hash of a record: every byte of it and of what it points at, with the name of the place in place of an address.
+// The hash of a record: every byte of it and of the memory that it points to. The name of the place replaces an
+// address.
 #pragma once
 
 #include "block_arena.h"
@@ -9,7 +10,7 @@
 namespace mava_tum_behaviour
 {
 
-// Where pointers may lead.
+// The memory that pointers may point to.
 struct known_places {
     std::span<const uint8_t> input;
     const block_arena &blocks;
