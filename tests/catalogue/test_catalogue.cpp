@@ -1,4 +1,5 @@
-// The tables for programs in C++: against a second table, what connects them, and the calls in one shape.
+// The tables for programs in C++: compared with a second table, their connections, and the calls with common
+// parameters.
 #include "catalogue.h"
 #include "model/message_tables.h"
 
@@ -31,7 +32,7 @@ TEST(catalogue, agrees_with_the_model_about_every_message)
     }
 }
 
-// The model has a kind of its own for varints of 64 bits.
+// The model has another kind for varints of 64 bits.
 mava_tum_model::field_kind kind_in_model(const field &field)
 {
     const int kind = static_cast<int>(field.kind);
@@ -150,7 +151,7 @@ void take_back(void *block, void *)
     ::operator delete(block);
 }
 
-// Each message with a varint of 5 in field 1, or what stands there, goes once through all four.
+// Each message with a varint of 5 as field 1 goes through all four functions once.
 TEST(catalogue, the_four_functions_of_each_message_work_through_the_table)
 {
     for (const message &of : all_messages()) {
@@ -169,7 +170,7 @@ TEST(catalogue, the_four_functions_of_each_message_work_through_the_table)
     }
 }
 
-// Each shape once: scalars only, texts, bytes.
+// Each combination of parameters: scalars only, texts, bytes.
 TEST(catalogue, the_four_functions_of_a_message_drop_the_arguments_that_it_does_not_take)
 {
     const std::vector<uint8_t> wire = {0x2A, 0x01, 0x61}; // field 5, one byte

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Does the catalogue say what the headers say, and is a header that is written otherwise refused?
+"""Does the catalogue agree with the headers, and does it reject a header with other constructs?
 
     test_headers.py <project root>
 """
@@ -52,7 +52,7 @@ def application_record(*members):
 
 class Case(unittest.TestCase):
     def expect_refused(self, rows, make):
-        """Each row: what is said about it, as a regular expression, and what `make` is called with."""
+        """Each row: a regular expression for the message, and the arguments of `make`."""
         for says, *arguments in rows:
             with self.subTest(arguments), self.assertRaisesRegex(HeaderError, says):
                 make(*arguments)

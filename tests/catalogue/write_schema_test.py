@@ -29,11 +29,11 @@ def expectation(message: Message) -> str:
 
 
 def bit_expectation(message: Message, field: Field) -> str:
-    """The name of a presence bit, against the bit of the library's own field."""
+    """Compares the named presence bit with the bit of the library's field."""
     return f"    static_assert({message.c_type.upper()}_HAS_{field.name.upper()} == {row(message, field)}::bit);"
 
 
-# A counter is a varint that is written in another way: the headers do not tell them apart.
+# A counter is a varint that is written in another way: the headers do not distinguish them.
 WITHOUT_COUNTERS = """
 template <class Field>
 struct wire_kind {
