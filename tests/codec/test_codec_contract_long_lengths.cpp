@@ -1,4 +1,4 @@
-// Inputs, buffers and blocks of 4 GiB and more: what 32 bits of a length cannot hold. Nothing that long is ever filled.
+// Inputs, buffers and blocks of 4 GiB and more, whose lengths need more than 32 bits. No memory of this size is filled.
 #include "support/record_calls.h"
 #include "support/sparse_span.h"
 #include "support/wire_builder.h"
@@ -13,10 +13,10 @@ namespace
 {
 
 constexpr uint64_t four_gib = uint64_t{1} << 32;
-constexpr uint64_t longest_value = four_gib - 1; // the most that a length on the wire can say
+constexpr uint64_t longest_value = four_gib - 1; // the largest length on the wire
 
 
-// A field of `longest_value` bytes with more fields around it: the input is longer than 32 bits can say.
+// A field of `longest_value` bytes with more fields around it: the length of the input needs more than 32 bits.
 class long_input
 {
 public:
@@ -40,7 +40,7 @@ public:
         return span_.data() + head_.size();
     }
 
-    // What stands at the start of the value.
+    // The first bytes of the value.
     void put_into_value(const byte_vector &content)
     {
         span_.put(head_.size(), content);
@@ -145,7 +145,7 @@ TEST(codec_contract, duplicate_asks_for_all_64_bits_of_a_length)
     }
 }
 
-// The lower 32 bits of these capacities hold nothing, or less than any message below.
+// The lower 32 bits of these capacities are 0, or less than any message below.
 constexpr uint64_t long_capacities[] = {four_gib, four_gib + 3};
 
 template <class record_type>

@@ -1,4 +1,4 @@
-// The copies of texts out of char arrays and into them, against a copy byte by byte.
+// The copies of texts out of char arrays and into them, compared with a copy byte by byte.
 #include "codec/copy_text.h"
 #include "support/guarded_buffer.h"
 
@@ -22,7 +22,7 @@ byte_vector text_of(std::size_t length)
 
 // ---- out of an array ----
 
-// What is found of the text: nothing where its NUL stands behind the last whole step, or behind a short block.
+// The length that is found: none if the NUL is after the last whole step, or after a short block.
 template <std::size_t Size>
 std::size_t expected_length(std::size_t length)
 {
@@ -30,7 +30,7 @@ std::size_t expected_length(std::size_t length)
     return length < limit / mava_tum::text_step_bytes * mava_tum::text_step_bytes ? length : Size;
 }
 
-// Every text of the array, with bytes that are not zero behind its NUL. The array ends at an inaccessible page.
+// Every text that fits the array, with non-zero bytes after its NUL. The array ends at an inaccessible page.
 template <std::size_t Size>
 void expect_each_text_of_an_array()
 {
@@ -108,7 +108,7 @@ private:
     uint8_t *mapping_;
 };
 
-// Text and array stand, once each, directly before and directly behind an inaccessible page.
+// Text and array are each once directly before and once directly after an inaccessible page.
 class text_copies
 {
 public:
@@ -177,7 +177,7 @@ TEST(copy_text, of_two_nuls_the_first_cuts)
     }
 }
 
-// The search for a NUL in a word takes 0x80 and 0x01 behind a NUL for others.
+// The search for a NUL in a word also reports 0x80 and 0x01 after a NUL.
 TEST(copy_text, bytes_of_1_and_0x80_are_no_nul)
 {
     text_copies copies;

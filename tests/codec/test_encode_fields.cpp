@@ -44,7 +44,7 @@ byte_vector encode_text(const text_source<Size> &source)
     return wire;
 }
 
-// Every text that the array can hold, behind it bytes that are not zero; the array ends at an inaccessible page.
+// Every text that fits the array, followed by non-zero bytes; the array ends at an inaccessible page.
 template <std::size_t Size>
 void expect_each_length_to_be_sent()
 {
@@ -151,7 +151,7 @@ struct session_fields {
     }
 };
 
-// The codec record with the same contents, which borrows them.
+// The codec record that points to the same contents.
 struct codec_session {
     mava_tum_session_context record = {};
     std::vector<mava_tum_subscriber_qos> entries;
@@ -202,7 +202,7 @@ TEST(encode_fields, a_session_gives_the_bytes_of_its_codec_record_into_every_buf
         expect_the_bytes_of_the_codec_record(source, capacity);
 }
 
-// Around the sizes at which a block no longer fits the scratch, at the top and below it.
+// Sizes around those at which a block no longer fits the scratch buffer, in the message and in a nested one.
 TEST(encode_fields, a_block_of_any_length_at_any_depth_gives_the_bytes_of_the_codec_record)
 {
     for (const std::size_t length :
@@ -217,7 +217,7 @@ TEST(encode_fields, a_block_of_any_length_at_any_depth_gives_the_bytes_of_the_co
     }
 }
 
-// The list goes to the buffer in parts; where one no longer fits, nothing void may have been written before.
+// The list goes to the buffer in parts. If a part does not fit, no invalid byte may have been written before.
 TEST(encode_fields, a_long_list_gives_the_bytes_of_its_codec_record_into_a_buffer_cut_anywhere)
 {
     session_source source{1, "a", "b", {}};

@@ -1,5 +1,5 @@
-// The short cuts are right without being needed: what they leave, a slower way does with the same result. So a short
-// cut that is never taken shows in no output. Here they are asked themselves.
+// A short cut has the same result as the slower path, so the output does not show whether it is used. These tests call
+// the short cuts directly.
 #include "messages/reconciliation_schema.h"
 #include "messages/routes_schema.h"
 #include "messages/session_messages_schema.h"
@@ -22,7 +22,7 @@ using mava_tum::nesting;
 
 // ---- encode: the fast writer alone ----
 
-// Decodes `wire` and writes it again into `capacity` bytes with the fast writer; empty when that gave up.
+// Decodes `wire` and encodes it into `capacity` bytes with the fast writer only; empty if the fast writer fails.
 template <class record_type>
 byte_vector written_fast(const byte_vector &wire, std::size_t capacity, uint32_t flags = MAVA_TUM_ALIAS)
 {

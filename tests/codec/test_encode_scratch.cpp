@@ -1,4 +1,4 @@
-// Messages that do not fit the scratch in which an encode starts, against bytes that an independent builder wrote.
+// Messages that do not fit the scratch buffer of an encode, compared with the bytes of an independent builder.
 #include "support/record_calls.h"
 #include "support/wire_builder.h"
 
@@ -40,7 +40,7 @@ TEST(encode_scratch, an_array_of_more_short_elements_than_fit_is_written_whole)
     }
 }
 
-// A short buffer receives a block whole or not at all, and all else byte by byte.
+// A short buffer receives a block completely or not at all, other fields byte by byte.
 struct wire_piece {
     byte_vector bytes;
     bool is_block;
@@ -61,7 +61,7 @@ std::string expected_hex(const std::vector<wire_piece> &pieces, std::size_t capa
     return hex_of(expected);
 }
 
-// The second block does not fit the scratch behind the first; the buffer ends before, in and behind each of them.
+// The second block does not fit the scratch buffer after the first; the buffer ends before, in and after each of them.
 TEST(encode_scratch, a_block_behind_a_long_one_is_written_whole_or_not_at_all)
 {
     const std::size_t first = 8000;
@@ -84,7 +84,7 @@ TEST(encode_scratch, a_block_behind_a_long_one_is_written_whole_or_not_at_all)
     }
 }
 
-// A text that fills the scratch to every size around its end, and a bytes field behind it.
+// A text that fills the scratch buffer up to every size near its end, and a bytes field after it.
 void expect_end_behind_a_filled_scratch(const mava_tum_bytes &last, const std::string &expected_end)
 {
     const std::size_t end_bytes = 2 + last.length;
@@ -100,7 +100,7 @@ void expect_end_behind_a_filled_scratch(const mava_tum_bytes &last, const std::s
     }
 }
 
-// Its address may be null. The undefined-behaviour sanitizer sees whether it is given to memcpy.
+// Its address may be null. The undefined-behaviour sanitizer detects if it is passed to memcpy.
 TEST(encode_scratch, an_empty_block_where_the_scratch_is_full_is_written_as_its_length_alone)
 {
     expect_end_behind_a_filled_scratch({}, "52 00");

@@ -1,5 +1,5 @@
-// The slack of the scratch buffer: the fast path tests for room before blocks and elements alone, so a message may write
-// no more between two tests than its field list allows for.
+// The slack of the scratch buffer: the fast path tests for room only before blocks and elements. Between two tests, a
+// message must not write more than its field list allows.
 #include "catalogue.h"
 #include "codec/message_encode.h"
 #include "messages/feature_records_schema.h"
@@ -31,7 +31,8 @@ char *longest_short_text()
 template <class Record>
 void fill(Record &record);
 
-// Each field with the longest value that is written without a test. An array has one element: each next one is tested.
+// Each field with the longest value that is written without a test. An array has one element: there is a test before
+// each other element.
 template <uint32_t Number, auto Member, class Format>
 void fill_field(mava_tum::kind::number_field<Number, Member, Format>, auto &record)
 {
@@ -86,7 +87,7 @@ void fill(Record &record)
     mava_tum::set_presence(record, mava_tum::own_bits<Record>, mava_tum::own_bits<Record>);
 }
 
-// Of these lengths each may take one byte where two are allowed for.
+// Each of these lengths may take one byte of the two that are reserved.
 template <class Field>
 constexpr uint32_t lengths_in_field();
 

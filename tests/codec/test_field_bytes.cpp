@@ -129,7 +129,7 @@ TEST(field_bytes, encode_writes_the_low_32_bits_of_a_length_and_counts_all_of_it
     mava_tum_subscriber_v6 record{};
     record.field_2.length = 0x100000005;
     mark_present(record, 2);
-    // Tag and one length byte, then the content; nothing but the size pass could hold it.
+    // Tag and one length byte, then the content, for which no buffer is large enough.
     EXPECT_EQ(call_encode(record, nullptr, 0), 2 + 0x100000005u);
     EXPECT_EQ(hex_of(encode_trace(record, 4, 2 + 0x100000005u)), "12 05 -- --");
 }

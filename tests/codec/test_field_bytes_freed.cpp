@@ -1,5 +1,4 @@
-// Bytes fields whose length says nothing about memory: freed, when the pointer is null and length and bit are still
-// there, or never filled.
+// Bytes fields with a length and a null pointer: after a free, which keeps length and bit, or never filled.
 #include "support/record_calls.h"
 
 #include <gtest/gtest.h>
@@ -21,7 +20,7 @@ TEST(field_bytes, encode_leaves_the_place_of_a_freed_field_untouched)
     EXPECT_EQ(hex_of(encode_trace(record, 5, 5)), "12 01 -- 38 07");
 }
 
-// No block is that long: nothing of it is read, and the position stays where it is.
+// No block has this length: no byte is read, and the position does not change.
 TEST(field_bytes, encode_reads_nothing_of_a_length_that_wraps_the_position)
 {
     uint8_t byte = 0xAA;
@@ -65,7 +64,7 @@ struct sized_bytes {
     uint64_t length_prefix_bytes;
 };
 
-// On both sides of a short block, and more than the scratch buffer takes.
+// Around the size of a short block, and larger than the scratch buffer.
 constexpr sized_bytes sizes[] = {{1, 1}, {16, 1}, {64, 1}, {65, 1}, {9000, 2}};
 
 template <class record_type>
@@ -99,7 +98,7 @@ TEST(field_bytes, the_size_of_a_record_counts_a_length_without_a_pointer_in_a_ne
         mark_present(record, 1, 9);
         const uint64_t own = 1 + tested.length_prefix_bytes;
         const uint64_t nested_prefix_bytes = own + tested.length < 128 ? 1 : 2;
-        // In gather mode the nested record is as long as what it has in the buffer.
+        // In gather mode, the length of the nested record counts its bytes in the buffer.
         expect_sizes(record, 2 + 1 + nested_prefix_bytes + own + tested.length, 2 + 1 + 1 + own);
     }
 }

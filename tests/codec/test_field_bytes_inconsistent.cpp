@@ -1,4 +1,4 @@
-// A bytes field whose pointer and length do not go together, which only a caller can make.
+// A bytes field with a length and a null pointer, which only a caller can make.
 #include "support/record_calls.h"
 
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-// Fixed32 fields: decode, encode, duplicate. How the four bytes are read is tested with the wire.
+// Fixed32 fields: decode, encode, duplicate. test_wire_read.cpp tests how the four bytes are read.
 #include "support/record_calls.h"
 
 #include <gtest/gtest.h>

@@ -29,7 +29,7 @@ TEST(field_record, decode_sees_exactly_its_own_span)
 
 TEST(field_record, an_unknown_field_that_passes_the_end_of_its_record_does_not_move_the_parent)
 {
-    // Inside: unknown field 3 claims 8 bytes where none are left. The parent goes on right after its record.
+    // Inside: unknown field 3 has 8 bytes, of which none are left. The parent continues directly after its record.
     session_data_decode got("52 03 08 07 19 48 09");
     EXPECT_EQ(got.result, MAVA_TUM_OK);
     EXPECT_EQ(got.record.vlan.field_1, 7u);
@@ -129,7 +129,7 @@ TEST(field_record, encode_writes_the_length_of_its_content_at_every_depth)
     EXPECT_EQ(hex_of(wire.data(), 11), "52 CF 01 22 CC 01 9A 01 C8 01 78");
 }
 
-// No record is that long. What the caller's lengths say is added up all the same, in 64 bits, at every depth.
+// No record has this length. The caller's lengths are still added in 64 bits, at every depth.
 TEST(field_record, the_size_of_a_record_is_added_even_where_the_sum_wraps)
 {
     mava_tum_session_context record{};

@@ -1,4 +1,4 @@
-// Arrays of records: decoding. One run of entries becomes one array.
+// Arrays of records: decoding. One run of elements becomes one array.
 #include "support/record_calls.h"
 #include "support/wire_builder.h"
 
@@ -56,7 +56,7 @@ TEST(field_record_array, a_run_of_any_length_is_one_block)
 
 TEST(field_record_array, an_array_above_4_gib_is_asked_for_with_its_whole_size)
 {
-    // Two bytes of input for each session, and no block for all of them.
+    // Two bytes of input for each session; the allocation of the array fails.
     constexpr uint64_t count = (uint64_t{1} << 32) / session_bytes + 1;
     byte_vector wire(2 * count);
     for (std::size_t entry = 0; entry < wire.size(); entry += 2)

@@ -85,7 +85,7 @@ TEST(field_text, a_failed_allocation_stores_nothing_and_keeps_the_fields_before_
 
 TEST(field_text, the_longest_length_asks_for_a_wrapped_size_and_copies_nothing)
 {
-    // 0xFFFFFFFF + 1 is 0 in 32 bits: the allocator is asked for 0 bytes, which can hold no text at all.
+    // 0xFFFFFFFF + 1 is 0 in 32 bits: the decoder requests 0 bytes, which cannot hold a text.
     constexpr uint64_t text_length = 0xFFFFFFFF;
     const byte_vector start = wire_builder().tag(2, wire_type::length_delimited).bare_varint(text_length);
     sparse_span wire(start.size() + text_length);

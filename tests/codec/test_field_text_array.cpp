@@ -1,4 +1,4 @@
-// Arrays of texts: decoding. One run of entries becomes one array of pointers and one block for each text.
+// Arrays of texts: decoding. One run of elements becomes one array of pointers and one block for each text.
 #include "support/expect_ownership.h"
 #include "support/record_calls.h"
 #include "support/wire_builder.h"

@@ -14,7 +14,7 @@ namespace
 {
 
 
-// Texts of one, two and three characters, and a slot that an earlier failure left null between them.
+// Texts of one, two and three characters, and between them a null element of an earlier failure.
 struct start_with_texts {
     std::array<std::string, 3> contents = {"a", "bc", "def"};
     std::array<char *, 4> slots = {contents[0].data(), contents[1].data(), nullptr, contents[2].data()};
@@ -60,7 +60,7 @@ TEST(field_text_array, encode_into_a_short_buffer_leaves_out_a_text_that_does_no
 {
     const start_with_texts source;
     const byte_vector whole = bytes_of("08 01 2A 01 61 2A 02 62 63 2A 03 64 65 66");
-    // Capacities that end inside a text of more than one character, and how much of the output they hold.
+    // Capacities that end inside a text of more than one character, and the number of bytes that are written.
     const std::map<std::size_t, std::size_t> cut_texts = {{8, 7}, {12, 11}, {13, 11}};
     for (std::size_t capacity = 0; capacity <= whole.size() + 1; ++capacity) {
         const auto cut = cut_texts.find(capacity);

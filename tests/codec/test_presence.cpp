@@ -76,7 +76,7 @@ TYPED_TEST(presence_of_every_message, free_leaves_the_mask_alone)
     EXPECT_TRUE(allocator.released().empty());
 }
 
-// The masks of every record inside a session context, own and spare bits apart.
+// The masks of every record inside a session context, with own and reserved bits separate.
 struct nested_masks {
     const char *name;
     uint32_t own;
@@ -117,7 +117,7 @@ TEST(presence, decode_keeps_the_spare_bits_of_inline_records_at_every_depth)
 
 TEST(presence, decode_of_a_present_inline_record_keeps_its_spare_bits)
 {
-    // Each inline record arrives; session data with its three own records.
+    // Each inline record arrives, also the three records of the session data.
     decoded<mava_tum_session_context> got(
         "42 00 4A 00 52 06 1A 00 22 00 52 00 62 00 6A 00 72 00 7A 00 82 01 00 8A 01 00"
         "92 01 00 9A 01 00 A2 01 00 AA 01 00 B2 01 00");
@@ -146,7 +146,7 @@ TEST(presence, duplicate_keeps_the_spare_bits_of_inline_records_at_every_depth)
 
     mava_tum_session_context ones;
     fill_with_ones(ones);
-    // A source of ones has wild pointers: an empty decode clears all of it but the spare bits.
+    // A source filled with ones has invalid pointers: an empty decode clears all of it except the reserved bits.
     EXPECT_EQ(call_decode(ones, nullptr, 0, nullptr, nullptr, 0), MAVA_TUM_OK);
     mava_tum_session_context zeroed{};
     EXPECT_EQ(call_duplicate(zeroed, ones, nullptr, nullptr), MAVA_TUM_OK);

@@ -1,4 +1,5 @@
-// The 64-bit varint: every width at every distance from the end of the input, which stands before an inaccessible page.
+// The 64-bit varint: every width at every distance from the end of the input, which is directly before an inaccessible
+// page.
 #include "codec/read_varint64.h"
 #include "support/guarded_buffer.h"
 
@@ -12,7 +13,7 @@ namespace
 constexpr std::size_t longest_form = 13;
 constexpr std::size_t farthest = 12;
 
-// A varint of `width` bytes; each of its bytes carries seven bits of `bits`.
+// A varint of `width` bytes; each of its bytes has seven bits of `bits`.
 byte_vector form_of(uint64_t bits, std::size_t width)
 {
     byte_vector form(width);
@@ -23,7 +24,7 @@ byte_vector form_of(uint64_t bits, std::size_t width)
     return form;
 }
 
-// What the bytes say: seven bits each, of the tenth byte one, of later ones none.
+// The value of the bytes: seven bits each, one of the tenth byte, none of later ones.
 uint64_t value_of(const byte_vector &form)
 {
     uint64_t value = 0;

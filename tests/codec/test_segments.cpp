@@ -13,7 +13,7 @@ namespace
 
 constexpr uint32_t room = 8;
 
-// One encode with a list of segments. Entries of the list that were not stored keep `untouched`.
+// One encode with a list of segments. Segments that were not stored keep `untouched`.
 struct segments_of_an_encode {
     static constexpr uint64_t untouched = 0xDEAD;
 
@@ -35,7 +35,7 @@ struct segments_of_an_encode {
         return hex_of(buffer.data(), size);
     }
 
-    // "buffer+2:4" for a segment of the buffer, its bytes in hex for any other, "-" for an entry left alone.
+    // "buffer+2:4" for a segment of the buffer, its bytes in hex for any other, "-" for a segment that was not stored.
     std::string segment(std::size_t index)
     {
         const mava_tum_segment &segment = segments[index];

@@ -1,6 +1,6 @@
 // Gather mode across nested records. Each encoder keeps track of its own segments only: the segments of a nested record
 // come first, and the parent's next own segment starts where the parent's previous one ended, so it covers the nested
-// bytes in the buffer once more. Callers of this mode lay the segments out themselves.
+// bytes in the buffer once more. Callers of this mode arrange the segments themselves.
 #include "support/record_calls.h"
 
 #include <gtest/gtest.h>

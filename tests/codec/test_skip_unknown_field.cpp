@@ -1,5 +1,5 @@
-// The step over fields that a message does not know: how far it goes, and what stops it. That it may pass the end for
-// fixed-width and length-delimited values is tested with the other leniencies.
+// The skip of unknown fields: its length and its errors. tests/leniency tests that it may pass the end for fixed-width
+// and length-delimited values.
 #include "support/record_calls.h"
 #include "support/wire_builder.h"
 

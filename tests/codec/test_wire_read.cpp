@@ -1,5 +1,5 @@
-// How single values are read: tags, lengths, 32-bit and 64-bit varints, fixed32. Every input ends before an
-// inaccessible page, so a byte read beyond it stops the program.
+// Reads of single values: tags, lengths, 32-bit and 64-bit varints, fixed32. Every input ends before an inaccessible
+// page, so a read beyond it stops the program.
 #include "support/record_calls.h"
 #include "support/wire_builder.h"
 

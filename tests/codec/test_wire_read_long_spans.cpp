@@ -1,5 +1,5 @@
-// Reads at the start of a span that is longer than a signed 64-bit number can say. Nothing stands behind the first
-// bytes of it: a read that looked further would stop the program.
+// Reads at the start of a span whose length does not fit a signed 64-bit number. Only its first bytes are accessible: a
+// read beyond them would stop the program.
 #include "codec/wire_read.h"
 #include "support/guarded_buffer.h"
 
@@ -19,7 +19,7 @@ protected:
             GTEST_SKIP() << "addresses have 32 bits: there is no such span";
     }
 
-    // The ends of spans of 2^63 bytes and more, the last one as long as addresses allow.
+    // The ends of spans of 2^63 bytes and more, the last one as long as the address space allows.
     static std::vector<const uint8_t *> far_ends(const uint8_t *at)
     {
         const uint64_t start = reinterpret_cast<uintptr_t>(at);

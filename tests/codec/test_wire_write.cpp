@@ -1,4 +1,4 @@
-// How single values are written, and what a buffer that is too short receives.
+// Writes of single values, and the bytes that a short buffer receives.
 #include "support/record_calls.h"
 
 #include <gtest/gtest.h>

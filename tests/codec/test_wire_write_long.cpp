@@ -1,5 +1,5 @@
-// Long messages: many blocks, long blocks, length prefixes of one to three bytes at several depths. Whole and into
-// short buffers, against bytes that an independent builder wrote.
+// Long messages: many blocks, long blocks, length prefixes of one to three bytes at several depths. Into large and
+// short buffers, compared with the bytes of an independent builder.
 #include "support/record_calls.h"
 #include "support/wire_builder.h"
 
@@ -59,7 +59,8 @@ struct context_with_known_blocks {
         }
     }
 
-    // Which bytes an encode into `capacity` bytes writes: those below it, except blocks that reach beyond it.
+    // The bytes that an encode into `capacity` bytes writes: those below the capacity, except blocks that reach beyond
+    // it.
     std::vector<bool> written(std::size_t capacity) const
     {
         std::vector<bool> expected(capacity, false);

@@ -1,4 +1,4 @@
-// The ways of writing a varint against the plain one, which writes byte by byte.
+// The fast ways of writing a varint, compared with the plain one, which writes byte by byte.
 #include "codec/wire_write.h"
 #include "support/guarded_buffer.h"
 
@@ -22,7 +22,7 @@ byte_vector plain(field_tag tag, uint64_t value)
     return byte_vector(bytes, mava_tum::store_varint(bytes + tag.length, value));
 }
 
-// Behind what it writes, a put may spill; nothing before it is touched.
+// A put may write bytes after its value, none before it.
 template <class put_call>
 void expect_plain_bytes(const put_call &put, field_tag tag, uint64_t value)
 {
@@ -76,7 +76,7 @@ TEST(wire_write_varints, a_64_bit_number_of_each_width_has_the_plain_bytes)
     });
 }
 
-// The plain one itself, against seven bits at a time.
+// The plain one, compared with seven bits at a time.
 TEST(wire_write_varints, the_plain_bytes_carry_seven_bits_each_and_say_whether_more_follow)
 {
     for_each_width<uint64_t>([](uint64_t value) {
