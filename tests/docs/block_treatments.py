@@ -16,9 +16,9 @@ SUFFIXES = {"c": ".c", "cpp": ".cpp"}
 HAS_MAIN = re.compile(r"^int main\(", re.MULTILINE)
 SECONDS = 120
 
-# Of a shell block that is not run, every command has to exist.
+# Every command of a shell block that is not run must exist.
 SEPARATORS = {"&&", "||", "|", ";", "&", "(", ")", "|&"}
-# Words of the shell, and commands that lead to another command.
+# Words of the shell, and commands whose argument is a command.
 SHELL_WORDS = {"cd", "export", "set", ".", "[", "test", "echo", "exit", "for", "in", "do", "done", "if", "then",
                "else", "fi", "while", "until", "!", "{", "}", "true", "false", ":", "ulimit"}
 PREFIXES = {"sudo", "time", "nice", "env", "do", "then", "else", "!", "if", "while"}
@@ -30,7 +30,7 @@ class BlockError(Exception):
 
 
 def same_output(expected, actual):
-    """Whether the output is the expected one, in which three dots stand for anything, a line of them for any lines."""
+    """Whether the output is the expected one; three dots match anything, a line of three dots any lines."""
     def lines(text):
         return "\n".join(line.rstrip() for line in text.strip("\n").splitlines())
     pattern = re.escape(lines(expected)).replace(re.escape("..."), "(?:.|\n)*")
@@ -38,7 +38,7 @@ def same_output(expected, actual):
 
 
 def commands_of(script):
-    """The words of a shell script that stand where a command does."""
+    """The words of a shell script in the place of a command."""
     found = []
     for line in script.replace("\\\n", " ").splitlines():
         words = shlex.shlex(line, posix=True, punctuation_chars=True)
@@ -56,12 +56,12 @@ def commands_of(script):
 def is_there(command, project, path):
     if command in SHELL_WORDS or shutil.which(command, path=path):
         return True
-    # What a build makes is not there yet.
+    # Skips files that a build makes.
     return command.startswith("build/") or os.access(os.path.join(project, command), os.X_OK)
 
 
 def missing_commands(script, project, path):
-    """What is wrong with a script that is not run: its syntax, or commands that nobody has."""
+    """The errors of a script that is not run: its syntax, or commands that do not exist."""
     checked = subprocess.run(["bash", "-n"], input=script, text=True, capture_output=True, check=False)
     if checked.returncode != 0:
         return [checked.stderr.strip()]
@@ -69,7 +69,7 @@ def missing_commands(script, project, path):
 
 
 class Page:
-    """A folder for the blocks of one page, which one after the other find what earlier ones left."""
+    """A folder for the blocks of one page, which see the files of earlier blocks."""
 
     def __init__(self, tree, folder):
         self.tree = tree
@@ -96,7 +96,7 @@ class Page:
             raise BlockError(f"{block.place}: {command[0]} did not end in {SECONDS} seconds") from error
 
     def run(self, command, block):
-        """Runs a command for a block and compares its status and its output with what the page says."""
+        """Runs a command for a block and compares its status and output with the page."""
         done = self.execute(command, block)
         wanted = int(block.instructions.get("exits", "0"))
         if done.returncode != wanted:
@@ -202,7 +202,7 @@ class Page:
         return "from a file of the tree"
 
     def treat(self, block):
-        """Does with a block what it asks for; returns what that was."""
+        """Treats a block; returns the kind of treatment."""
         if "save" in block.instructions:
             return self.save(block)
         if "from" in block.instructions:
@@ -223,7 +223,7 @@ class Page:
         return block in self.outputs
 
     def treat_all(self, blocks):
-        """(kind, what happened) of each block, and every complaint."""
+        """(kind, result) of each block, and all errors."""
         self.outputs = [block.expected for block in blocks if block.expected]
         happened, complaints = [], []
         for block in blocks:

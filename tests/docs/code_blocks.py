@@ -1,10 +1,8 @@
-"""Finds the code blocks of a Markdown page, and what the page says about each of them.
+"""Finds the code blocks of a Markdown page, and the instructions for each.
 
-A comment directly above a block, which readers do not see, says how to treat it:
+A hidden comment directly above a block has the instructions:
 
-    <!-- code: instruction; instruction
-    text that the compiler is to see around the block, with one line "@block@"
-    -->
+    <!-- code: instruction; instruction text around the block for the compiler, with one line "@block@" -->
 
 README.md in this folder lists the instructions.
 """
@@ -16,7 +14,7 @@ from markdown_it import MarkdownIt
 MARK = "@block@"
 COMMENT = re.compile(r"^\s*<!--\s*code:(.*?)-->\s*$", re.DOTALL)
 
-# What may stand in a comment, and whether it takes a value.
+# The instructions, and whether each has a value.
 INSTRUCTIONS = {
     "save": True,  # into the page's folder, under this name, for a command further down
     "from": True,  # these lines stand in that file of the tree, whose own tests run it
@@ -30,7 +28,7 @@ INSTRUCTIONS = {
 
 
 class PageError(Exception):
-    """Something on a page that has no meaning here: where, and what to do."""
+    """An invalid comment or block: where, and what to do."""
 
 
 @dataclass
@@ -50,7 +48,7 @@ class Block:
         return f"{self.page}:{self.line}"
 
     def source(self):
-        """What the compiler sees; line numbers in its messages are those of the page."""
+        """The text for the compiler; line numbers in its messages are those of the page."""
         directive = f'#line {self.line} "{self.page}"\n' if self.language in ("c", "cpp") else ""
         own = directive + self.text
         return self.around.replace(MARK + "\n", own) if self.around else own
@@ -86,7 +84,7 @@ def is_run(block):
 
 
 def pair_with_output(blocks, section_of):
-    """Gives each block the output that the page shows for it: the next block, in the same section."""
+    """Sets the expected output of each block: the next block, in the same section."""
     for block, following in zip(blocks, blocks[1:]):
         same_section = section_of[block.line] == section_of[following.line]
         if is_output(following) and same_section and is_run(block):
