@@ -12,7 +12,7 @@ program_result run_program(const std::string &command)
     const scratch_folder scratch;
     const std::string output = scratch.file("output", "");
     const std::string errors = scratch.file("errors", "");
-    // In braces, so that a pipeline's errors go to the file too.
+    // In braces, so that a pipeline's errors go to the file, too.
     const int status = std::system(("{ " + command + " ; } >" + output + " 2>" + errors).c_str());
     if (status == -1)
         throw std::runtime_error("cannot run " + command);
@@ -37,7 +37,7 @@ scratch_folder::scratch_folder()
 
 scratch_folder::~scratch_folder()
 {
-    std::error_code ignored; // what is left over lies in the system's folder for temporary files
+    std::error_code ignored; // files that are left are in the system's folder for temporary files
     std::filesystem::remove_all(m_path, ignored);
 }
 

@@ -1,4 +1,4 @@
-// Runs a shell command and keeps what it said.
+// Runs a shell command and keeps its output.
 #ifndef TESTS_EXAMPLES_RUN_PROGRAM_H
 #define TESTS_EXAMPLES_RUN_PROGRAM_H
 
@@ -15,7 +15,7 @@ program_result run_program(const std::string &command);
 
 std::string read_file(const std::filesystem::path &path);
 
-// A folder of the running test's own, removed at the end.
+// A folder for the running test, removed at its end.
 class scratch_folder
 {
 public:

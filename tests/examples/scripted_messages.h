@@ -1,5 +1,5 @@
-// A side of a reconciliation that was written down beforehand: its messages wait in a pipe. What the side under test
-// says to them goes nowhere.
+// A scripted side of a reconciliation: its messages are in a pipe before the test starts. The answers of the tested
+// side are discarded.
 #ifndef TESTS_EXAMPLES_SCRIPTED_MESSAGES_H
 #define TESTS_EXAMPLES_SCRIPTED_MESSAGES_H
 
@@ -37,7 +37,7 @@ public:
         examples::reconciliation::message_channel(-1, m_ends[1]).send(kind, record, encode);
     }
 
-    // The stream ends behind the last message.
+    // The stream ends after the last message.
     examples::reconciliation::message_channel channel()
     {
         end();
@@ -67,7 +67,7 @@ inline tum_nal_data_session_context session_with(const std::string &line, uint8_
     return session;
 }
 
-// What the call throws; empty if it throws nothing.
+// The message of the call's exception; empty if it throws nothing.
 template <typename Call>
 std::string error_of(Call call)
 {

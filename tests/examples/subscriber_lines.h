@@ -39,7 +39,7 @@ inline cells full_cells_but(const std::string &column, const std::string &cell)
     return result;
 }
 
-// The columns in the order that `names` (a line of column names) gives.
+// The columns in the order of `names` (a line of column names).
 inline std::string line_of(const cells &values, const std::string &names)
 {
     std::string line;

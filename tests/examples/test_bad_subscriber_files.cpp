@@ -1,4 +1,4 @@
-// What is wrong with a file of subscribers is said with its line and column, and what to do. One row per mistake.
+// An error in a file of subscribers is reported with line and column, and what to do. One row per error.
 #include "run_program.h"
 #include "subscriber_file.h"
 #include "subscriber_lines.h"
@@ -8,7 +8,7 @@
 namespace
 {
 
-// Runs the program with the file `content`. Its errors come back without the folder of the file.
+// Runs the program with the file `content`. Returns its errors without the folder of the file.
 program_result run_with_file(const std::string &content)
 {
     const scratch_folder scratch;
@@ -126,7 +126,7 @@ class bad_subscriber_cell : public testing::TestWithParam<bad_cell>
 
 TEST_P(bad_subscriber_cell, is_reported_with_file_line_and_column)
 {
-    // In line 4, behind a comment and a good subscriber, so that the number counts lines and not subscribers.
+    // In line 4, after a comment and a valid subscriber, so that line and subscriber numbers differ.
     cells values = full_cells_but("line", "another");
     values.at(GetParam().column) = GetParam().cell;
     const program_result result = run_with_file("# comment\n" + names + "\n" + good_line() + line_of(values, names));

@@ -1,4 +1,4 @@
-// Frames on a pipe. How broken streams are reported: test_session_setup.cpp.
+// Length-prefixed messages on a pipe. test_session_setup.cpp tests the errors for malformed streams.
 #include "frame_stream.h"
 
 #include <array>
@@ -61,7 +61,7 @@ TEST_F(frame_stream, frames_come_back_in_order_and_empty_ones_too)
 
 TEST_F(frame_stream, a_frame_of_exactly_the_limit_is_read)
 {
-    // Only the head: what matters is that the length is not refused, and the missing rest is.
+    // Only the length: it is accepted, and the missing rest is an error.
     const std::array<uint8_t, 5> head = {0, 1, 0, 0, 0xAB};
     ASSERT_EQ(write(m_ends[1], head.data(), head.size()), 5);
     close_writing_end();

@@ -1,4 +1,4 @@
-// The keeper believes no answer that does not fit what it asked. The receiver here is a script.
+// The keeper rejects every answer that does not fit its request. The receiver is a script.
 #include "keeper.h"
 #include "scripted_messages.h"
 #include "session_services.h"

@@ -1,4 +1,4 @@
-// The program as a user runs it: two processes, a file, a report.
+// Runs the program as a user does: two processes, a file, a report.
 #include "run_program.h"
 #include "subscriber_file.h"
 #include "subscriber_lines.h"
@@ -23,7 +23,7 @@ size_t number_in(std::string text)
     return std::stoul(text);
 }
 
-// The number behind a label; a wrong one if there is no such label.
+// The number after a label; a wrong one if the label does not exist.
 size_t count_of(const std::string &report, const std::string &label)
 {
     std::smatch found;
@@ -79,7 +79,7 @@ TEST(reconciliation, finds_what_the_old_store_lacks_and_what_it_has_otherwise)
     EXPECT_EQ(count_of(report, "outdated"), 137U);
     EXPECT_EQ(count_of(report, "of subscribers who have gone"), 109U);
     EXPECT_EQ(count_of(report, "as they should be"), 1200U - 240U - 137U);
-    // The receiver counts for itself.
+    // The receiver has its own count.
     EXPECT_EQ(count_of(report, "in the receiver's store after its restart"), 1200U - 240U + 109U);
     EXPECT_EQ(count_of(report, "replayed, missing and outdated ones"), 240U + 137U);
     EXPECT_EQ(count_of(report, "removed"), 109U);
@@ -195,7 +195,7 @@ TEST(reconciliation, a_receiver_that_cannot_be_started_is_named)
         result.errors, "reconciliation: cannot start the receiver /nowhere/receiver: No such file or directory\n");
 }
 
-// Which of the two the keeper sees depends on how far it got before the receiver ended.
+// Which of the two errors the keeper sees depends on the time at which the receiver ends.
 const std::string receiver_gone = "reconciliation: (rec_start_req not sent: the reader has gone away \\(broken pipe\\)|"
                                   "rec_start_res not received: the other process has closed its stream)\n";
 
@@ -237,8 +237,8 @@ TEST(reconciliation, a_signal_that_ends_the_receiver_shows_in_the_exit_status)
     EXPECT_TRUE(has(result.errors, "reconciliation: the receiver ended with status 137\n")) << result.errors;
 }
 
-// dd passes each byte on at once: head would keep an answer back that the keeper waits for. The shell closes its own
-// ends of the pipes, so that nobody but dd holds them.
+// dd passes each byte on at once; head would buffer an answer that the keeper waits for. The shell closes its ends of
+// the pipes, so that only dd holds them.
 TEST(reconciliation, a_pipe_that_breaks_during_the_run_is_a_failure_of_both_sides)
 {
     const scratch_folder scratch;

@@ -1,5 +1,5 @@
-// What the restarted receiver makes of the keeper's messages. The keeper here is a script; what the receiver answers is
-// covered by test_reconciliation_program.cpp, where a real one has to agree.
+// The effect of the keeper's messages on the restarted receiver. The keeper is a script;
+// test_reconciliation_program.cpp tests the answers with a real keeper.
 #include "restarted_receiver.h"
 #include "scripted_messages.h"
 

@@ -1,4 +1,4 @@
-// The judgement of session_setup: nothing of a received record may differ unnoticed.
+// The comparison in session_setup: it must report every difference of a received record.
 #include "run_program.h"
 #include "session_compare.h"
 #include "session_record.h"
@@ -33,7 +33,7 @@ application_record across_the_wire(const examples::subscriber &who)
     return received;
 }
 
-// The bytes between the end of one member and the begin of the next one.
+// The bytes between the end of one member and the beginning of the next one.
 void add_gap(std::set<size_t> &gaps, size_t base, size_t begin, size_t end)
 {
     for (size_t i = begin; i < end; ++i)
@@ -160,7 +160,7 @@ TEST(session_compare, wants_what_an_ipv4_route_calls_field_8_in_field_7)
     EXPECT_EQ(received.ipv6_routes[0].field_8, 8U);
 }
 
-// What the sender may fill in but must keep at home, one row per condition.
+// Members that the sender may fill but must not send, one row per condition.
 TEST(session_compare, wants_zero_where_a_condition_for_sending_does_not_hold)
 {
     const std::pair<const char *, const char *> rows[] = {

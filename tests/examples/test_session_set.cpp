@@ -1,4 +1,4 @@
-// The sets that a reconciliation compares: two that differ in any way must not pass for the same.
+// The sets that a reconciliation compares: any difference between two sets must be found.
 #include "scripted_messages.h"
 #include "session_set.h"
 #include "stale_store.h"
@@ -88,7 +88,7 @@ TEST(session_set, has_a_state_for_each_session_and_none_for_others)
     EXPECT_FALSE(same_state(before, sessions.state(number_of("a"))));
 }
 
-// The receiver decodes what it gets and encodes what it holds: if that changed the bytes, no run could succeed.
+// The receiver decodes a session and encodes it again: this must not change the bytes.
 TEST(session_set, of_decoded_sessions_has_the_bytes_of_the_sent_ones)
 {
     const session_set sent = sessions_of(shipped());

@@ -1,4 +1,4 @@
-// The program as a user runs it: two processes, a file, a report.
+// Runs the program as a user does: two processes, a file, a report.
 #include "run_program.h"
 #include "subscriber_file.h"
 #include "subscriber_lines.h"
@@ -25,7 +25,7 @@ std::string process_of(const std::string &output, const std::string &role)
     return is_there ? found[1].str() : "";
 }
 
-// A file of one subscriber with everything, one cell of which is changed.
+// A file of one subscriber with all columns, of which one cell is changed.
 std::string one_subscriber(const scratch_folder &scratch, const std::string &column, const std::string &cell)
 {
     const std::string names = examples::column_names();

@@ -1,4 +1,4 @@
-// The file that the build makes for the examples: where it comes from and what is in it.
+// The file of subscribers that the build makes for the examples.
 #include "run_program.h"
 #include "subscriber_file.h"
 

@@ -1,4 +1,4 @@
-// Each example that is a file of its own: built, run as a user runs it, and compared with what it is expected to print.
+// Each example of one file: built, run as by a user, and compared with the expected output.
 #include "run_program.h"
 
 #include <gtest/gtest.h>
@@ -28,7 +28,7 @@ class small_program : public testing::TestWithParam<std::string>
 {
 };
 
-// What expected_output.txt has below the line "== <name>".
+// The part of expected_output.txt below the line "== <name>".
 std::string expected_output(const std::string &name)
 {
     const std::string all = read_file(EXPECTED_OUTPUT_FILE), line = "== " + name + "\n";
@@ -64,7 +64,7 @@ TEST_P(small_program, is_short_enough_to_be_read_at_once)
 INSTANTIATE_TEST_SUITE_P(
     each, small_program, testing::ValuesIn(small_programs()), [](const auto &info) { return info.param; });
 
-// A file that no test runs is one that rots.
+// Every example must be run by a test.
 TEST(small_programs, are_all_the_programs_beside_the_readme)
 {
     std::vector<std::string> present;

@@ -1,4 +1,4 @@
-// The annotation of a whole session is compared in test_session_setup.cpp; here is what only odd bytes show.
+// The annotation of unusual bytes; test_session_setup.cpp compares that of a whole session.
 #include "catalogue.h"
 #include "wire_annotation.h"
 #include "wire_names.h"
@@ -78,7 +78,7 @@ TEST(wire_annotation, shows_harmful_characters_of_a_text_in_hex)
         "0002  12 02 1b 41                            2 field_2: text \"\\x1bA\"\n");
 }
 
-// One row per way in which bytes are no fields.
+// One row per kind of malformed bytes.
 TEST(wire_annotation, ends_at_bytes_that_are_no_field)
 {
     const std::string end = "no field: not the wire bytes of a session\n";
