@@ -16,7 +16,7 @@ namespace
 
 using namespace mava_tum_model;
 
-// Every record of the library fits; aligned for any member.
+// Large enough for every record of the library, and aligned for any member.
 constexpr std::size_t largest_record = 656;
 
 struct record_memory {
@@ -35,7 +35,7 @@ int64_t blocks_of(const block_log &log)
     return static_cast<int64_t>(log.outstanding());
 }
 
-// The library's record and the model's, and the memory that each was given.
+// The library's record and the model's, and the blocks of each.
 class two_records
 {
 public:
@@ -64,7 +64,7 @@ public:
         return compare("duplicate", expected, actual);
     }
 
-    // What a decode drops (the memory of a nested record that occurs twice) stays outstanding: as much as predicted.
+    // The blocks that a decode drops (of a nested record that occurs twice) stay outstanding: as many as predicted.
     std::string free(uint32_t flags)
     {
         const memory_sink sink = library_log_.sink();

@@ -1,5 +1,5 @@
-// Decode and duplicate of one message with a failing allocator, in the library and in the model: result, every member
-// kept, the calls of the allocator with their sizes, the blocks outstanding; then the same of the free that follows.
+// Decode and duplicate of one message with a failing allocator, in the library and in the model: result, every member,
+// the calls of the allocator with their sizes, the outstanding blocks; then the same after the free.
 #pragma once
 
 #include "injection/injection.h"
@@ -19,10 +19,10 @@ std::string inject_decode(
 // `source` is a record of the message.
 std::string inject_duplicate(std::size_t message_index, const uint8_t *source, const injection &failing_call);
 
-// No failure, then every call that the operation makes failing, once and for ever.
+// No failure, then each call of the operation fails, once or from then on.
 void fail_decode(std::size_t message_index, std::span<const uint8_t> wire, uint32_t flags, injection_tally &tally);
 
-// The source is what `wire` decodes to, as far as it decodes; `seed` may change it as only a caller can.
+// The source is the decoded `wire`, up to its fault; `seed` may change it as only a caller can.
 void fail_duplicate(std::size_t message_index, std::span<const uint8_t> wire, uint64_t seed, injection_tally &tally);
 
 } // namespace mava_tum_injection

@@ -1,4 +1,4 @@
-// One failing call of the allocator, and what came of it.
+// One failing call of the allocator, and its effects.
 #pragma once
 
 #include "model/block_log.h"
@@ -9,7 +9,7 @@
 namespace mava_tum_injection
 {
 
-// The same for the library and for the model; only the tests of this check make them differ.
+// The same for the library and the model; only the tests of this check use different ones.
 struct injection {
     mava_tum_model::failure_plan library;
     mava_tum_model::failure_plan model;
@@ -33,7 +33,7 @@ struct injection_tally {
     }
 };
 
-// An allocator that never fails and counts how often it is asked: as many calls can fail.
+// An allocator that never fails and counts its calls: the number of calls that can fail.
 class call_counter
 {
 public:
@@ -59,7 +59,7 @@ private:
     uint32_t calls_ = 0;
 };
 
-// Nothing fails, then each of `calls` calls, once and for ever; `run(injection)` says what deviates.
+// No failure, then each of `calls` calls fails, once or from then on; `run(injection)` returns the deviation.
 template <class runner>
 void fail_every_call(uint32_t calls, injection_tally &tally, runner &&run)
 {

@@ -1,6 +1,5 @@
-// check_injection [injections per subject]
-// Fails every call of the allocator in decode and duplicate, once and for ever. Prints a line per subject and, as the
-// last, the sum; exits with 1 when something deviated from the model.
+// check_injection [injections per subject] Fails each call of the allocator in decode and duplicate, once or from then
+// on. Prints a line per subject; the last line is the total. Exits with 1 if there is a deviation from the model.
 #include "injection/injection_subjects.h"
 
 #include <cstdio>
@@ -18,7 +17,7 @@ unsigned long long printed(uint64_t number)
     return number;
 }
 
-// A subject that can ask for memory and was never refused any was not tested.
+// A subject that can request memory must have had a failure; otherwise it was not tested.
 bool is_tested(const injection_subject &tested, const injection_tally &tally)
 {
     return tested.asks_for_memory == (tally.injections > 0);

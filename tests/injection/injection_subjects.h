@@ -1,5 +1,4 @@
-// What can run out of memory: 40 decodes and 40 duplicates. Each gets inputs from a fixed seed until enough of its
-// calls have failed.
+// The subjects: 40 decodes and 40 duplicates. Each gets inputs from a fixed seed until enough of its calls have failed.
 #pragma once
 
 #include "injection/injection.h"
@@ -23,8 +22,8 @@ struct injection_subject {
 
 const std::vector<injection_subject> &all_injection_subjects();
 
-// All seeds, then mutated and random wires, until `injections` calls failed: whole inputs, so it may be some more. A
-// subject that asks for no memory gets its seeds alone. Stops at the first input with a deviation.
+// All seeds, then mutated and random wires, until at least `injections` calls have failed. A subject that requests no
+// memory gets the seeds only. Stops at the first input with a deviation.
 injection_tally inject(const injection_subject &tested, uint64_t injections);
 
 } // namespace mava_tum_injection

@@ -1,5 +1,5 @@
-// What is left when memory runs out, at any call? What the model predicts. scripts/check/allocation_failures asks the
-// same of a million failing calls.
+// Does every allocation failure leave what the model predicts? scripts/check/allocation_failures asks the same of a
+// million failing calls.
 #include "injection/inject_message.h"
 #include "injection/injection_subjects.h"
 
