@@ -1,6 +1,6 @@
 #include "round_trip.h"
 
-/* The language asked for, neither older nor raised by what the library asks of its users. */
+/* The requested standard: the library must not raise it. */
 #if CONSUMER_STANDARD == 11
 _Static_assert(__STDC_VERSION__ == 201112L, "compiled as C11");
 #elif CONSUMER_STANDARD == 17

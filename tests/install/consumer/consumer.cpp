@@ -1,7 +1,6 @@
 #include "round_trip.h"
 
-// The language asked for, neither older nor raised by what the library asks of its users. Compilers have not agreed on
-// one number for C++23 while it was being made.
+// The requested standard: the library must not raise it. Compilers use different numbers for C++23.
 #if CONSUMER_STANDARD == 11
 static_assert(__cplusplus == 201103L, "compiled as C++11");
 #elif CONSUMER_STANDARD == 17

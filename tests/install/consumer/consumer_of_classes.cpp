@@ -1,5 +1,4 @@
-// A consumer of the C++ layer: a session goes out through an adapter, and comes back, is cloned and goes out again through
-// the classes.
+// A consumer of the C++ layer: an adapter encodes a session; the classes decode it, clone it and encode it again.
 #include <mava_tum.h>
 #include <mava_tum/cpp/mava_tum.hpp>
 

@@ -1,5 +1,5 @@
-/* What each consumer program does with the installed library: a session goes out through an adapter, through the codec
- * and back, and the queue is used; one call at least of each part of the library. Valid C11 and C++11. */
+/* For each consumer program: at least one call of each part of the installed library. A session goes through an
+ * adapter, through the codec and back, and through the queue. Valid C11 and C++11. */
 #ifndef ROUND_TRIP_H
 #define ROUND_TRIP_H
 
@@ -49,7 +49,7 @@ static int queue_returns(void)
     return nal_queue_dequeue(&queue) == &node && queue.count == 0;
 }
 
-/* Prints what came back. Returns the exit status of the program. */
+/* Prints the received values. Returns the exit status of the program. */
 static int round_trip(void)
 {
     uint8_t wire[1024];
