@@ -21,7 +21,7 @@ std::vector<std::string> cells_of(const std::string &line)
     return cells;
 }
 
-// What stands in backquotes.
+// The text in backquotes.
 std::vector<std::string> quoted_in(const std::string &cell)
 {
     static const std::regex quoted("`([^`]*)`");
@@ -36,7 +36,7 @@ bool says(const std::string &cell, const char *words)
     return cell.find(words) != std::string::npos;
 }
 
-// What a side writes again; nothing if it refuses.
+// The bytes that a side encodes again; none if it rejects the message.
 std::optional<byte_vector> written(const std::string &cell)
 {
     if (says(cell, "refused"))

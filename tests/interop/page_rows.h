@@ -1,4 +1,4 @@
-// The rows of docs/departures.md, each with its bytes and what the page says that both sides make of them.
+// The rows of docs/departures.md, each with its bytes and the results of both sides.
 #pragma once
 
 #include "support/hex.h"
@@ -24,7 +24,7 @@ struct page_row {
 // For failure messages, and for names of tests.
 void PrintTo(const page_row &row, std::ostream *stream);
 
-// Throws where a row does not say all of that.
+// Throws if a row does not have all of that.
 std::vector<page_row> rows_of_page(const std::string &path);
 
 } // namespace mava_tum_test

@@ -1,4 +1,4 @@
-// Where we differ from the official protobuf runtime on purpose, in known fields. Each test shows both sides.
+// Deliberate differences from the official protobuf runtime in known fields. Each test shows both sides.
 #include "interop/peer_record.h"
 #include "interop_schema.pb.h"
 #include "mava_tum.h"
@@ -136,7 +136,7 @@ TEST(interop_departures, a_second_text_is_refused_where_the_runtime_takes_the_la
 
 TEST(interop_departures, a_second_bytes_field_is_refused_where_the_runtime_takes_the_last)
 {
-    // The first one is empty and counts all the same.
+    // The first one is empty and also counts.
     const char *wire = "12 00  12 01 42";
     for (const uint32_t flags : {uint32_t{0}, uint32_t{MAVA_TUM_ALIAS}}) {
         decoded<mava_tum_subscriber_v6> ours(wire, {.flags = flags});
@@ -162,7 +162,7 @@ TEST(interop_departures, a_nul_ends_a_text_for_the_next_sender_where_the_runtime
     EXPECT_EQ(byte_vector(again.begin(), again.end()), bytes_of(wire));
 }
 
-// No departure, but close to one: the last of several numbers wins on both sides.
+// No difference: of several numbers, both sides keep the last.
 TEST(interop_departures, do_not_include_a_second_number)
 {
     const char *wire = "08 01  08 02";

@@ -1,4 +1,4 @@
-// Does every row of docs/departures.md say what we and the official protobuf runtime do with its bytes?
+// Does every row of docs/departures.md agree with the library and the official protobuf runtime?
 #include "interop/page_rows.h"
 #include "interop/peer_record.h"
 #include "support/recording_allocator.h"
@@ -38,7 +38,7 @@ TEST_P(departures_page, says_what_we_make_of_the_bytes)
     const page_row &row = GetParam();
     const message &tested = message_called(row.message);
     recording_allocator memory;
-    // What a nested record dropped is not this test's subject.
+    // This test does not check dropped blocks.
     memory.allow_outstanding();
     std::vector<uint64_t> record(tested.record_bytes / sizeof(uint64_t) + 1);
     const int32_t result = tested.decode(
@@ -66,7 +66,7 @@ TEST_P(departures_page, says_what_the_runtime_makes_of_the_bytes)
     EXPECT_EQ(byte_vector(again.begin(), again.end()), *row.there);
 }
 
-// A departure is one, and what is the same is.
+// Rows D must differ, rows S must not.
 TEST_P(departures_page, calls_a_difference_a_difference)
 {
     const page_row &row = GetParam();

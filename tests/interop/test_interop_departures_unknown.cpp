@@ -1,5 +1,5 @@
-// Where we differ from the official protobuf runtime on purpose, in varints and unknown fields. Each test shows both
-// sides: we are the lenient one, but for groups.
+// Deliberate differences from the official protobuf runtime in varints and unknown fields. Each test shows both sides:
+// ours is lenient, except for groups.
 #include "interop/peer_record.h"
 #include "interop_schema.pb.h"
 #include "mava_tum.h"
@@ -15,7 +15,7 @@ namespace
 
 TEST(interop_departures, a_cut_unknown_field_ends_the_message_where_the_runtime_refuses_it)
 {
-    // Field 1, then unknown field 3: a text that claims 127 bytes, a fixed64 and a fixed32 with too few bytes.
+    // Field 1, then unknown field 3: a text with a length of 127, a fixed64 and a fixed32, all with too few bytes.
     for (const char *wire : {"08 07  1A 7F 41", "08 07  19 01 02", "08 07  19", "08 07  1D 01", "08 07  1D"}) {
         SCOPED_TRACE(wire);
         decoded<mava_tum_subscriber_v4> ours(wire);
@@ -95,7 +95,7 @@ TEST(interop_departures, an_unknown_group_is_refused_where_the_runtime_skips_it)
     EXPECT_EQ(theirs.field_1(), 7u);
 }
 
-// No departure, but close to one: numbers wider than their field arrive alike on both sides.
+// No difference: numbers wider than their field arrive with the same value on both sides.
 TEST(interop_departures, do_not_include_a_number_wider_than_its_field)
 {
     struct row {

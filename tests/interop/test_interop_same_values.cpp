@@ -25,7 +25,7 @@ class interop : public testing::TestWithParam<message>
 {
 };
 
-// Seeds and random records, each with the values that a receiver sees.
+// Seeds and random records, each with the values that a receiver gets.
 struct sent_record {
     std::string name;
     record_value sent;
