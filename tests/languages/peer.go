@@ -1,4 +1,4 @@
-// The other side in Go, generated from mava_tum.proto by protoc-gen-go: what peer.py is in Python.
+// The other side in Go, with code that protoc-gen-go generates from mava_tum.proto. peer.py is the same in Python.
 //
 //	peer exchange          answers each line "message hex" with the message read, without unknown fields, and written
 //	peer --restarted FILE  a receiver for examples/reconciliation that has lost everything; FILE is not read
@@ -19,7 +19,7 @@ import (
 	"mava_tum"
 )
 
-// The longest message of the adapters has 9,295 bytes: a longer one is refused before anything is allocated for it.
+// The longest message of the adapters has 9,295 bytes: a longer one is rejected before memory is allocated for it.
 const limit = 1 << 16
 
 // The kinds of examples/reconciliation/message_kind.h.
@@ -89,7 +89,7 @@ type receiver struct {
 	numbers  []uint64
 }
 
-// Nothing is held: every session that the keeper names is missing, which the zeros say.
+// This side has no session: the zeros report every named session as missing.
 func (r *receiver) states(request *mava_tum.RecSessReq) *mava_tum.RecSessResp {
 	response := &mava_tum.RecSessResp{Field_1: request.Field_1, Field_3: proto.Uint32(0), Field_4: proto.Uint32(0)}
 	for _, state := range request.Field_3 {

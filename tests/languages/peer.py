@@ -1,5 +1,6 @@
 #!/usr/bin/python3
-"""The other side in Python, with the classes that the protobuf runtime makes of mava_tum.proto: what peer.go is in Go.
+"""The other side in Python, with the classes that the protobuf runtime makes from mava_tum.proto. peer.go is the same
+in Go.
 
     peer exchange          answers each line "message hex" with the message read, without unknown fields, and written
     peer --restarted FILE  a receiver for examples/reconciliation that has lost everything; FILE is not read
@@ -12,7 +13,7 @@ from pathlib import Path
 
 from google.protobuf import descriptor_pb2, message_factory
 
-# The longest message of the adapters has 9,295 bytes: a longer one is refused before anything is allocated for it.
+# The longest message of the adapters has 9,295 bytes: a longer one is rejected before memory is allocated for it.
 LIMIT = 1 << 16
 # The kinds of examples/reconciliation/message_kind.h.
 START_REQ, START_RES, SESS_REQ, SESS_RES, REPLAY_REQ, REPLAY_RESP, COMPLETE_REQ, COMPLETE_RES, HELD_SESSION = \
@@ -53,10 +54,10 @@ def write_frame(kind, message):
 class Receiver:
     def __init__(self):
         self.sessions = []
-        self.numbers = []  # in the order in which they were named, in which they are replayed
+        self.numbers = []  # in the order of the requests, which is that of the replay
 
     def states(self, request):
-        """Nothing is held: every session that the keeper names is missing, which the zeros say."""
+        """This side has no session: the zeros report every named session as missing."""
         response = TYPES["rec_sess_resp"](field_1=request.field_1, field_3=0, field_4=0)
         for state in request.field_3:
             self.numbers.append(state.field_2)

@@ -1,6 +1,6 @@
-"""Do programs that other languages' generators make of mava_tum.proto exchange every message with ours?
+"""Do programs with code that is generated from mava_tum.proto exchange every message with ours?
 
-Each peer (peer.py, peer.go) reads our bytes into its classes, drops what it does not know, and writes them again."""
+Each peer (peer.py, peer.go) decodes our bytes, drops unknown fields, and encodes the message again."""
 
 from __future__ import annotations
 
@@ -68,7 +68,7 @@ def full_members(c_type: str) -> dict[str, Any]:
 
 
 def top_fields(wire: bytes) -> Iterator[tuple[int, bytes]]:
-    """The fields of a message with their tags. What is in them is not looked at."""
+    """The fields of a message with their tags. Their content is not split."""
     def varint(at: int) -> tuple[int, int]:
         value = shift = 0
         while wire[at] & 0x80:
@@ -87,7 +87,7 @@ def top_fields(wire: bytes) -> Iterator[tuple[int, bytes]]:
 
 def turned(wire: bytes) -> bytes:
     """The same message with its fields from the last to the first; the elements of a list keep their order. A peer that
-    did not read it, or not as these fields, does not write it as it was."""
+    does not read these fields does not write the same bytes again."""
     fields: dict[int, bytes] = {}
     for tag, field in top_fields(wire):
         fields[tag] = fields.get(tag, b"") + field
