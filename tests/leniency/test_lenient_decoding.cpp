@@ -1,4 +1,4 @@
-// What the decoders accept on purpose. The numbers are stable: code cites them, docs/leniency.md lists them.
+// Deliberate leniency of the decoders. The numbers are permanent: code cites them, docs/leniency.md lists them.
 #include "support/record_calls.h"
 #include "support/wire_builder.h"
 
@@ -44,7 +44,7 @@ TEST(leniency, L2_an_over_long_tag_is_accepted_and_loses_its_bits_above_32)
     }
 }
 
-// Each of these ends inside an unknown field. What stands before it is kept and reported as success.
+// Each of these ends inside an unknown field. The fields before it are kept, and the result is success.
 void expect_success_after_field_1(std::initializer_list<const char *> cut_fields)
 {
     for (const char *cut : cut_fields) {
@@ -161,7 +161,7 @@ TEST(leniency, L13_an_address_may_have_any_length)
 
 TEST(leniency, L14_arrays_have_no_maximum)
 {
-    // Two bytes of input for each element, which has 88 where addresses have 64 bits. The adapters take 8 of these.
+    // Two bytes of input for each element, which has 88 bytes with 64-bit addresses. The adapters keep 8 of them.
     wire_builder wire;
     for (int i = 0; i < 10'000; ++i)
         wire.raw("5A 00");

@@ -1,5 +1,4 @@
-// What the encoders do without complaint, on purpose. The numbers are stable: code cites them, docs/leniency.md
-// lists them.
+// Deliberate leniency of the encoders. The numbers are permanent: code cites them, docs/leniency.md lists them.
 #include "support/record_calls.h"
 
 #include <gtest/gtest.h>
