@@ -32,7 +32,7 @@ byte_vector full_replay()
         .text(6, "abc");
 }
 
-// What a decode and a duplicate ask for.
+// The sizes that a decode and a duplicate request.
 std::vector<uint64_t> full_replay_sizes(bool with_bytes)
 {
     std::vector<uint64_t> sizes = {2 * context_bytes};
@@ -217,7 +217,7 @@ TEST(rec_sess_replay_req, free_releases_session_by_session_and_borrowed_bytes_ne
     }
 }
 
-// A session with a bytes field of its own, and one with a bytes field two records further down.
+// A session with a bytes field, and one with a bytes field two levels deeper.
 struct replay_with_bytes {
     byte_vector own = bytes_of("AA BB");
     byte_vector nested = bytes_of("CC");

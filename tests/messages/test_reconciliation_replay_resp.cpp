@@ -156,7 +156,7 @@ TEST(sess_svc_start, decode_of_an_empty_span_resets_the_record_and_keeps_the_spa
     EXPECT_EQ(got.record.presence_mask, 0xE0u);
 }
 
-// Two failures with statistics, two service starts with texts, a text of its own; each block has a size of its own.
+// Two failures with statistics, two service starts with texts, and a text; each block has a different size.
 constexpr const char *full = "08 01 12 07 1A 05 42 03 0A 01 61 12 02 10 05 "
                              "1A 0B 20 04 2A 02 62 63 2A 03 64 65 66 1A 00 22 04 67 68 69 6A 28 05";
 const std::vector<uint64_t> full_sizes = {
@@ -255,7 +255,7 @@ TEST(rec_sess_replay_resp, results_of_elements_are_passed_up_and_their_array_sta
 
 TEST(rec_sess_replay_resp, duplicate_loses_exactly_what_could_not_be_copied)
 {
-    // What remains of the record when call number n fails.
+    // The record after call number n has failed.
     const char *remaining[] = {
         "08 01 1A 0B 20 04 2A 02 62 63 2A 03 64 65 66 1A 00 22 04 67 68 69 6A 28 05",
         "08 01 12 02 1A 00 12 02 10 05 1A 0B 20 04 2A 02 62 63 2A 03 64 65 66 1A 00 22 04 67 68 69 6A 28 05",

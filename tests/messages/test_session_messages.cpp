@@ -83,7 +83,7 @@ TEST(session_context, encode_of_a_decoded_record_gives_the_same_bytes_in_both_mo
     }
 }
 
-// Sets every own bit of the record and of its inline records, so that an encode shows every value.
+// Sets every presence bit of the record and of its inline records, so that an encode writes every value.
 void mark_everything(mava_tum_session_context &record)
 {
     const auto mark = [](auto &nested) {
@@ -228,7 +228,7 @@ TEST(session_context, decode_without_an_allocator_takes_exactly_what_needs_none)
     for (const char *hex : {"5A 00", "62 03 12 01 61", "6A 03 12 01 61", "52 03 2A 01 61", "BA 01 00", "C2 01 00"}) {
         EXPECT_EQ(context_decode(hex, {.flags = alias, .allocator_given = false}).result, MAVA_TUM_NO_MEMORY) << hex;
     }
-    // In copy mode bytes fields need one too.
+    // In copy mode, bytes fields also need one.
     for (const char *hex : {"32 01 AA", "4A 03 12 01 AA", "52 03 32 01 AA", "72 03 22 01 AA"})
         EXPECT_EQ(context_decode(hex, {.allocator_given = false}).result, MAVA_TUM_NO_MEMORY) << hex;
     EXPECT_EQ(context_decode("42 02 08 01 7A 00", {.allocator_given = false}).result, MAVA_TUM_OK);

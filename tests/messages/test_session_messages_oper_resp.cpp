@@ -16,7 +16,7 @@ using operation_copy = duplicated<mava_tum_sess_oper_resp>;
 
 constexpr uint32_t all_bits = all_own_bits<mava_tum_sess_oper_resp>;
 
-// Every block of memory has a size of its own.
+// Every block has a different size.
 constexpr const char *full_operation = "08 01 10 02 18 03 20 04 28 05 32 01 61 3A 02 62 63 42 03 64 65 66 "
                              "4A 07 42 05 0A 03 67 68 69 52 05 AA BB CC DD EE";
 const std::vector<uint64_t> operation_sizes = {2, 3, 4, sizeof(mava_tum_service_stats), 4, 5};

@@ -14,7 +14,7 @@ using context_copy = duplicated<mava_tum_session_context>;
 
 constexpr uint32_t every_field = all_own_bits<mava_tum_session_context>;
 
-// What a duplicate asks for when call number `failing` fails: an array that is missing has no elements to copy.
+// The sizes that a duplicate requests if call number `failing` fails: a missing array has no elements to copy.
 std::vector<uint64_t> sizes_of_a_duplicate(std::size_t failing)
 {
     std::vector<uint64_t> sizes;
@@ -53,7 +53,7 @@ TEST(session_context, duplicate_loses_exactly_what_could_not_be_copied)
         context_copy copy(source.record, {.failing_call = failing});
         EXPECT_EQ(copy.result, MAVA_TUM_NO_MEMORY) << failing;
         EXPECT_EQ(copy.allocator.requested_sizes(), sizes_of_a_duplicate(failing)) << failing;
-        // Bits of nested records are copied whatever came of them; an own field that failed loses its bit.
+        // Bits of nested records are always copied; a field of the record itself that failed loses its bit.
         const bool own_field = row.field == 6 || row.array;
         EXPECT_EQ(copy.present(), own_field ? every_field & ~fields(row.field) : every_field) << failing;
         EXPECT_EQ(copy.record.field_7, 7u);

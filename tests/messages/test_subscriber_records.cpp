@@ -151,7 +151,7 @@ TEST(subscriber_v4, encode_with_a_list_of_four_segments_reports_one)
 TEST(subscriber_v4, duplicate_copies_both_fields_and_keeps_bits_2_to_7)
 {
     mava_tum_subscriber_v4 source = reference_v4();
-    source.presence_mask = 0x0D; // fields 1 only, and two spare bits
+    source.presence_mask = 0x0D; // field 1 only, and two reserved bits
     mava_tum_subscriber_v4 copy{};
     copy.presence_mask = 0xA2;
     EXPECT_EQ(mava_tum_subscriber_v4_duplicate(&copy, &source), MAVA_TUM_OK);

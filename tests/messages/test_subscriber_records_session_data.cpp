@@ -12,7 +12,7 @@ namespace
 
 using session_data_decode = decoded<mava_tum_session_data>;
 
-// Every field; every one that owns memory with a size of its own: ppp.field_5 1 byte, l2tp 2 and 3 bytes and a text of
+// Every field; each field that owns memory has a different size: ppp.field_5 1 byte, l2tp 2 and 3 bytes and a text of
 // 3, field_5 a text of 4, field_6 6 bytes, field_7 a text of 6, field_8 a text of 7.
 const char *const full_session_data = "08 01 10 02 1A 03 2A 01 A1 22 0F 22 02 B1 B2 2A 03 C1 C2 C3 9A 01 03 61 61 61 "
                                       "2A 04 62 62 62 62 32 06 D1 D2 D3 D4 D5 D6 3A 06 63 63 63 63 63 63 "
