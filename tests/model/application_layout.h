@@ -1,5 +1,5 @@
-// What the model knows of the application records: one plain table per record, typed by hand from their description, in
-// the order of their members. Offsets follow from the widths and natural alignment. Nothing comes from a header.
+// The model's application records: one plain table per record, typed by hand from the description, in the order of the
+// members. Offsets follow from widths and natural alignment. Nothing is read from a header.
 #pragma once
 
 #include "model/message_tables.h"
@@ -19,10 +19,10 @@ enum class slot_kind : uint8_t {
     list,    // `slots` elements after one another
     part,    // another record inside this one
     mark,    // takes no room: a nested message that is sent even when it is empty
-    gap      // nobody's
+    gap      // neither sent nor received
 };
 
-// The numbers of the fields that lead from the message to the value, through nested messages; 0 behind the last.
+// The field numbers of the path from the message to the value; 0 after the last.
 struct field_path {
     uint8_t numbers[3];
 };
@@ -41,7 +41,7 @@ struct slot {
     uint8_t presence_of = 0;                     // arrives with this field of the same message; 0: with its own
     uint8_t sent_as = 0;                         // goes into this field of the same message; 0: into its own
 
-    // Whether it is sent. Null: a text that is not empty, a list that has elements, anything else always.
+    // Whether it is sent. Null: a text if it is not empty, a list if it has elements, all others always.
     bool (*when)(const slot_view &) = nullptr;
 };
 
@@ -90,7 +90,7 @@ constexpr application_layout layout_of(std::span<const slot> slots)
     return {slots, whole};
 }
 
-// A member of a record that is there, and what its sending may depend on.
+// A member of an existing record, and the values that its condition may use.
 class slot_view
 {
 public:
@@ -132,7 +132,7 @@ void for_each_slot(const application_layout &layout, visitor visit)
     }
 }
 
-// The records of an adapter, by its name. Null: no such adapter.
+// The records of an adapter, by its name. Null if there is no such adapter.
 const application_layout *received_layout(const char *adapter_name);
 const application_layout *sent_layout(const char *adapter_name);
 

@@ -18,7 +18,7 @@ inline const field &field_numbered(const message &of, uint8_t number)
     std::abort(); // a mistake in the tables
 }
 
-// The innermost message, where its record stands in the whole one, and the field.
+// The innermost message, the offset of its record in the outer one, and the field.
 struct path_end {
     const message *of;
     uint32_t record_offset;

@@ -11,7 +11,7 @@ namespace mava_tum_model
 namespace
 {
 
-// Where a value stands in a codec record that is there.
+// The address of a value in an existing codec record.
 struct received_value {
     const message *of;
     const uint8_t *record;
@@ -60,7 +60,7 @@ void receive_bytes(const received_value &end, const slot &member, uint8_t *at)
         at[index] = content[index];
 }
 
-// First what fits the count's own width, of that what fits the slots.
+// First reduced to the count's width, then to the slots.
 uint32_t elements_received(const received_value &end, uint32_t count_bytes, uint32_t slots)
 {
     uint64_t count = load<uint32_t>(end.record, end.leaf->count_offset);
@@ -104,7 +104,7 @@ void receive_slot(const message &of, const uint8_t *record, const slot &member, 
     }
 }
 
-// Into zeros: what does not arrive is not touched.
+// The record is zero: absent values are not written.
 void receive_members(const message &of, const uint8_t *record, const application_layout &layout, uint8_t *application)
 {
     for_each_slot(layout, [&](const slot &member, uint32_t offset) {

@@ -1,4 +1,4 @@
-// What a decode adapter has to leave in its application record, predicted from the model's codec record.
+// The expected application record of a decode adapter, computed from the model's codec record.
 #pragma once
 
 #include "model/application_layout.h"
@@ -9,7 +9,7 @@
 namespace mava_tum_model
 {
 
-// `codec_record` is what the model's decode left, after success or failure. Writes layout.extent.bytes.
+// `codec_record` is the result of the model's decode, after success or failure. Writes layout.extent.bytes.
 void model_receive(
     const message &of, const uint8_t *codec_record, const application_layout &layout, uint8_t *application_record);
 

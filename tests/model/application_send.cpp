@@ -23,7 +23,7 @@ bool is_sent(const slot_view &view, const slot &member)
     }
 }
 
-// The model reads what it is given and never writes to it.
+// The model never writes to its input.
 uint8_t *borrowed(const uint8_t *content)
 {
     return const_cast<uint8_t *>(content);
@@ -86,7 +86,7 @@ void send_content(const field &leaf, uint8_t *record, const slot_view &view, con
     case slot_kind::list:
         send_list(leaf, record, view, member, scratch);
         break;
-    default: // a mark is its presence alone
+    default: // a mark has a presence only
         break;
     }
 }

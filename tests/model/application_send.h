@@ -1,4 +1,4 @@
-// What an encode adapter has to send of an application record: the codec record that the model then encodes.
+// The expected content of an encode adapter's message: a codec record, which the model then encodes.
 #pragma once
 
 #include "model/application_layout.h"
@@ -10,7 +10,7 @@
 namespace mava_tum_model
 {
 
-// Room for the elements of lists; the codec record points into it, and into the application record.
+// Memory for the elements of lists; the codec record points into it, and into the application record.
 class send_scratch
 {
 public:

@@ -136,7 +136,7 @@ bool on_and_filled(const slot_view &own)
     return has_bit(own, bit) && own.filled();
 }
 
-// A text or a list that is there at all.
+// The bit is set, and the text or list is not empty.
 template <uint32_t bit>
 bool on_with_text(const slot_view &own)
 {
@@ -261,7 +261,7 @@ constexpr application_layout counters = layout_of(counter_slots);
 constexpr slot service_slots[] = {sent(always, chars(65, {1})), inside(counters, {2})};
 constexpr application_layout service = layout_of(service_slots);
 
-// The switches of the last two blocks arrive in fields of their own, but are not sent in them.
+// The switches of the last two blocks arrive from separate fields, but are not sent.
 constexpr slot subscriber_stats_slots[] = {nz(u64({1})), nz(u32({2})), nz(u32({3})), nz(u32({4})), nz(u32({5})),
     nz(u32({6})), sent(with_number<6>, inside(counters, {7})), number_of(1, {8}, 8), list_of(service, 8, 1, {8}),
     sent(never, u32({9})), sent(with_number<9>, inside(counters, {10})), sent(never, u32({11})),
@@ -281,7 +281,7 @@ constexpr application_layout subscriber_route_resp = layout_of(subscriber_route_
 
 // ---- reconciliation ----
 
-// What arrives in field 3 lands in the first member; the next two stay zero.
+// Field 3 arrives in the first member; the next two stay zero.
 constexpr slot rec_start_req_slots[] = {u32({3}), unused(2), unused(2), unused(4), chars(65, {4})};
 constexpr application_layout rec_start_req = layout_of(rec_start_req_slots);
 
@@ -371,7 +371,7 @@ const application_layout *received_layout(const char *adapter_name)
     return nullptr;
 }
 
-// Two adapters send from another record than they receive into.
+// Two adapters have different records for sending and receiving.
 const application_layout *sent_layout(const char *adapter_name)
 {
     if (std::strcmp(adapter_name, "rec_start_req") == 0)

@@ -10,10 +10,10 @@ namespace mava_tum_model
 namespace
 {
 
-// Both sides are refused what no test wants to fill.
+// Both sides refuse sizes that are too large to fill.
 constexpr uint64_t largest_block = uint64_t{64} << 20;
 
-// Memory comes filled, so that a block that was not zeroed or not written shows.
+// Memory is filled with a pattern, to detect blocks that are not zeroed or not written.
 constexpr int fresh_byte = 0xA5;
 
 } // namespace

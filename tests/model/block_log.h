@@ -1,5 +1,5 @@
-// An allocator that remembers: every call in order with its size, every release in order. Two of them, one behind the
-// library and one behind the model, are compared call by call.
+// An allocator that records every call with its size, and every release, in order. The one of the library and the one
+// of the model are compared call by call.
 #pragma once
 
 #include "model/model.h"
@@ -24,7 +24,7 @@ struct failure_plan {
     uint32_t at = 0;
 };
 
-// Where blocks come from. What the library was given has to be watched by sanitizers; the model's blocks need not be.
+// The source of the blocks. Sanitizers must check the library's blocks, but not those of the model.
 enum class block_memory : uint8_t { watched, plain };
 
 class block_log
@@ -53,8 +53,8 @@ public:
 
     static constexpr std::size_t unknown = SIZE_MAX;
 
-    // The number of the call that gave this block. An address may be given again after its release: what is live counts
-    // first.
+    // The number of the call that returned this block. After a release, an address may be returned again: live blocks
+    // are searched first.
     std::size_t index_of(const void *pointer) const;
 
     uint64_t size_of_block(std::size_t index) const
@@ -62,18 +62,18 @@ public:
         return blocks_[index].size;
     }
 
-    // Blocks given and not yet given back, and their bytes.
+    // Outstanding blocks, and their bytes.
     std::size_t outstanding() const;
     uint64_t outstanding_bytes() const;
 
-    // Calls so far and the bytes that they asked for.
+    // Calls so far and the bytes that they requested.
     std::size_t calls() const
     {
         return blocks_.size();
     }
     uint64_t asked_bytes() const;
 
-    // Whether a pointer was released that was not live: a block for the second time, or one of somebody else.
+    // Whether a pointer was released that is not live: a released block, or a foreign one.
     bool released_wrongly() const;
 
     bool made_any_call() const
@@ -81,7 +81,7 @@ public:
         return !blocks_.empty();
     }
 
-    // Empty if both saw the same; otherwise the first difference.
+    // Empty if both recorded the same; otherwise the first difference.
     static std::string compare_allocations(const block_log &library, const block_log &model);
     static std::string compare_releases(const block_log &library, const block_log &model);
 
@@ -93,7 +93,7 @@ private:
     };
 
     struct release_call {
-        std::size_t index; // or unknown, for a pointer that this allocator did not give
+        std::size_t index; // or unknown, for a pointer of another allocator
         const void *pointer;
         bool was_live;
         bool operator==(const release_call &other) const

@@ -17,7 +17,7 @@ constexpr uint8_t untouched = 0xEE;
 constexpr std::size_t guard_bytes = 16;
 constexpr uint32_t most_segments = 64;
 
-// A buffer with guards on both sides. It keeps its memory from call to call.
+// A buffer between guard bytes. All calls use the same memory.
 struct guarded_output {
     std::vector<uint8_t> memory;
 
@@ -97,7 +97,7 @@ std::string check_encode(
     if (model_count != library_count)
         return difference("segment_count", model_count, library_count);
     const std::string bytes = compare_bytes(library_output, model_output);
-    // All of them: those behind the count must be as they were.
+    // All of them: segments above the count must be unchanged.
     return bytes.empty() ? compare_segments(segments, model_segments, most_segments, buffer) : bytes;
 }
 
@@ -136,7 +136,7 @@ std::string describe(const encode_case &checked)
 std::string check_encodes(
     const message &of, const library_message &library, const uint8_t *record, random_source &random, int rounds)
 {
-    // What the model says of the size is compared in each case; here it only chooses capacities.
+    // Each case compares the model's size; here it only selects capacities.
     const uint64_t size = std::min<uint64_t>(model_encode(of, record, {}, 0), 1 << 20);
     for (int round = 0; round < rounds; ++round) {
         const encode_case chosen = some_case(size, random);

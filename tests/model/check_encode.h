@@ -25,7 +25,7 @@ struct encode_case {
 std::string check_encode(
     const message &of, const library_message &library, const uint8_t *record, const encode_case &checked);
 
-// `rounds` capacities and segment capacities, chosen at random among those where something changes.
+// `rounds` capacities and segment capacities, selected at random near the limits.
 std::string check_encodes(
     const message &of, const library_message &library, const uint8_t *record, random_source &random, int rounds);
 

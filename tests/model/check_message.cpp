@@ -14,12 +14,12 @@ namespace mava_tum_model
 namespace
 {
 
-// Every record of the library fits; aligned for any member.
+// Large enough for every record of the library, and aligned for any member.
 constexpr std::size_t largest_record = 656;
 
 enum place : std::size_t { place_decoded, place_copy, place_source, place_count };
 
-// Where the library finds its records: they end directly before an inaccessible page.
+// The memory of the library's records: they end directly before an inaccessible page.
 uint8_t *before_a_page(place which, const message &of)
 {
     using mava_tum_test::page_end_buffer;
@@ -28,7 +28,7 @@ uint8_t *before_a_page(place which, const message &of)
     return pages[which].data() + largest_record - of.record_bytes;
 }
 
-// One side of a comparison: a record, and the memory that it was given.
+// One side of a comparison: a record and its blocks.
 struct side {
     side(uint8_t *at, const failure_plan &plan, block_memory memory) : record(at), log(plan, memory) {}
 
@@ -91,7 +91,7 @@ std::string in_hex(std::span<const uint8_t> bytes)
     return text;
 }
 
-// What a short check does after the decode, and before the free: one of these. The free alone is one too.
+// The operation of a short check between the decode and the free; it may be none.
 enum part : uint64_t { part_encode, part_duplicate, part_changed, part_none, part_count };
 
 class message_check
@@ -166,7 +166,7 @@ std::string message_check::encode(const uint8_t *record, const char *what)
     return report(what, check_encodes(of_, library_, record, random_, checked_.every_part ? 3 : 1));
 }
 
-// The second call finds nothing more to give back, unless bytes fields were left for it.
+// The second call releases nothing, unless the first one left the bytes fields.
 std::string message_check::free_twice(both_sides &records, uint32_t flags, const char *what)
 {
     std::string found = records.free(of_, library_, flags);
@@ -188,7 +188,7 @@ std::string message_check::duplicate(const side &source)
 
 std::string message_check::duplicate_and_encode()
 {
-    // A copy that may be changed without losing a block. It is made by the model from what was just compared.
+    // A copy that may be changed without losing a block. The model makes it from the compared record.
     side source(before_a_page(place_source, of_), {}, block_memory::watched);
     std::memset(source.record, 0, of_.record_bytes);
     model_duplicate(of_, source.record, decoded_.library.record, source.log.source());
@@ -225,7 +225,7 @@ bool read_case(std::span<const uint8_t> bytes, message_case &read)
     read.message_index = bytes[0] % all_messages().size();
     read.flags = bytes[1];
     read.decode_plan = {static_cast<failing>(bytes[2] % 5), bytes[3]};
-    // The lowest byte first, on every machine: recorded inputs mean the same everywhere.
+    // Little-endian on every machine, so that recorded inputs have the same meaning everywhere.
     read.seed = bytes[4] | uint32_t{bytes[5]} << 8 | uint32_t{bytes[6]} << 16 | uint32_t{bytes[7]} << 24;
     read.wire = bytes.subspan(case_header_bytes);
     return true;

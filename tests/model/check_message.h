@@ -1,5 +1,5 @@
-// One input through one message, in the library and in the model: decode, encode, duplicate and free, everything that
-// a caller could see compared.
+// One input through one message, in the library and in the model: decode, encode, duplicate and free. Compares
+// everything that a caller can see.
 #pragma once
 
 #include "model/block_log.h"
@@ -23,7 +23,7 @@ struct message_case {
     bool every_part = true; // otherwise one of the operations after the decode, chosen by `seed`
 };
 
-// A case as bytes: eight that say how, then the wire. Shorter input is no case.
+// A case as bytes: eight bytes of choices, then the wire. Shorter input is no case.
 constexpr std::size_t case_header_bytes = 8;
 bool read_case(std::span<const uint8_t> bytes, message_case &read);
 wire_bytes case_bytes(const message_case &from);
@@ -32,8 +32,8 @@ wire_bytes case_bytes(const message_case &from);
 // case in hex.
 std::string check_message(const message_case &checked);
 
-// The decode alone, and its free. `model_of` stands in for the message's own schema: a test of the comparison itself
-// passes one that is wrong.
+// The decode alone, and its free. `model_of` replaces the message's schema: a test of the comparison passes a wrong
+// one.
 std::string check_decode(const message_case &checked, const message &model_of);
 
 } // namespace mava_tum_model

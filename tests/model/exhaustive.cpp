@@ -19,7 +19,7 @@ struct record_memory {
     alignas(8) uint8_t bytes[largest_record];
 };
 
-// Refuses, and remembers that it was asked: such an input is checked again, slowly.
+// Fails and records the call: such an input is checked again with the slow comparison.
 void *refuse(uint64_t, void *context)
 {
     *static_cast<bool *>(context) = true;
@@ -78,7 +78,7 @@ exhaustive_result check_inputs(const exhaustive_range &range)
 {
     exhaustive_result result;
     fast_check check(range);
-    // No byte behind the input: a read past the end is for the sanitizers to see.
+    // The input has its exact size, so that the sanitizers detect a read past its end.
     wire_bytes wire(range.length);
     for (uint64_t number = range.first; number < range.end; ++number) {
         for (std::size_t index = 0; index < range.length; ++index)

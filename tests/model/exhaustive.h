@@ -1,5 +1,5 @@
 // Every input of a given length through one message, and every capacity for every seed. Fast enough for hundreds of
-// millions: a decode that asks for no memory is compared as one block of memory first.
+// millions: a decode that requests no memory is first compared with one memcmp.
 #pragma once
 
 #include <cstddef>
@@ -13,7 +13,7 @@ struct exhaustive_range {
     std::size_t message_index = 0;
     std::size_t length = 0; // of each input, at most 8
     uint32_t flags = 0;
-    uint64_t first = 0; // inputs are numbers of `length` bytes, their first byte the lowest
+    uint64_t first = 0; // inputs are little-endian numbers of `length` bytes
     uint64_t end = 0;
 };
 

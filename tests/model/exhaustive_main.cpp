@@ -75,7 +75,7 @@ int check_inputs_of(std::size_t length, const char *only)
         const message &of = *all_messages()[index];
         if (only != nullptr && only != std::string(of.name))
             continue;
-        // Where no bytes field is, the alias bit changes nothing.
+        // Without a bytes field, the alias bit has no effect.
         for (uint32_t flags = 0; flags <= (has_bytes(of) ? 1u : 0u); ++flags) {
             const uint64_t inputs = check_all_inputs(index, length, flags);
             if (inputs == 0)

@@ -1,4 +1,4 @@
-// The library's functions of the model's messages, in one shape.
+// The library's functions of the model's messages, with common parameters.
 #pragma once
 
 #include "catalogue.h"

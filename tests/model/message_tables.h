@@ -1,5 +1,5 @@
-// What the model knows of the 40 messages: one plain table, typed by hand from their description. It shares nothing
-// with the library: no header, no template, no generated list. Records are raw memory to it, and members are offsets.
+// The model's 40 messages: one plain table, typed by hand from the description. It shares nothing with the library: no
+// header, no template, no generated list. Records are raw memory, members are offsets.
 #pragma once
 
 #include <cstdint>

@@ -1,5 +1,5 @@
-// What every function of every message has to do, predicted field by field from the schema: slow, plain, and
-// independent of the library. The four calls take what the library's take, with the message as a value.
+// The expected behaviour of every function of every message, computed field by field from the schema: slow, plain, and
+// independent of the library. The four calls have the parameters of the library's, and the message as a value.
 #pragma once
 
 #include "model/message_tables.h"
@@ -28,15 +28,15 @@ int32_t model_duplicate(const message &of, uint8_t *destination, const uint8_t *
 
 void model_free(const message &of, uint8_t *record, const memory_sink &sink, uint32_t flags);
 
-// Where a segment of a gathered output begins. `exact` is false where the address may be any: behind the end of a short
-// buffer there is nothing to point at.
+// The start of a segment of a gathered output. `exact` is false if the address is not defined: after the end of a short
+// buffer.
 struct model_segment {
     const uint8_t *data = nullptr;
     uint64_t length = 0;
     bool exact = true;
 };
 
-// The bytes go to `buffer`; addresses in segments are formed as if it stood at `claimed_buffer`.
+// The bytes go to `buffer`; addresses in segments are relative to `claimed_buffer`.
 struct encode_output {
     uint8_t *buffer = nullptr;
     const uint8_t *claimed_buffer = nullptr;

@@ -185,7 +185,7 @@ int32_t decoder::bytes_value(const field &member)
     return ok;
 }
 
-// A text is copied in any mode, and ends with a NUL of our own.
+// A text is copied in both modes, and a NUL is added.
 int32_t decoder::obtain_text(uint64_t end, uint8_t *&text)
 {
     const uint64_t length = end - wire_.position;
@@ -215,7 +215,7 @@ int32_t decoder::text_value(const field &member)
     return result;
 }
 
-// The nested message sees its own bytes and nothing behind them.
+// The nested message reads its own bytes only.
 int32_t decoder::nested_value(const message &nested, uint8_t *record, uint64_t end)
 {
     const cursor inside = {wire_.data + wire_.position, end - wire_.position, 0};
@@ -231,7 +231,7 @@ int32_t decoder::record_value(const field &member)
     return nested_value(*member.nested, record_ + member.offset, end);
 }
 
-// Counts neighbouring entries of one number. Of the second and later ones the wire type is not looked at.
+// Counts consecutive elements with one number. The wire type is checked for the first one only.
 int32_t decoder::count_run(uint32_t number, uint64_t &count) const
 {
     cursor ahead = wire_;

@@ -45,7 +45,7 @@ private:
     uint32_t segment_capacity_;
     uint32_t segments_ = 0;
     uint64_t position_ = 0;
-    uint64_t segment_end_ = 0; // where this level's own last segment ended; segments of nested messages do not move it
+    uint64_t segment_end_ = 0; // the end of this level's last own segment; segments of nested messages do not change it
 };
 
 void encoder::put(uint64_t byte)
@@ -64,7 +64,7 @@ void encoder::put_varint(uint64_t value)
     put(value);
 }
 
-// A block that does not fit whole is left out whole.
+// A block that does not fit completely is not written at all.
 void encoder::put_block(const uint8_t *content, uint64_t length)
 {
     const uint64_t end = position_ + length;
@@ -148,7 +148,7 @@ void encoder::put_nested(const field &member, const uint8_t *nested_record, bool
         inside.segments = nested_segments == 0 ? nullptr : output_.segments + segments_;
         inside.segment_count = &nested_segments;
     }
-    // With neither buffer nor segments this would write nothing.
+    // Without buffer and segments, this would write nothing.
     if (inside.buffer != nullptr || inside.segment_count != nullptr)
         encoder(*member.nested, nested_record, inside, flags_).run();
     if (inside.segment_count != nullptr)
@@ -201,7 +201,7 @@ void encoder::put_member(const field &member)
     }
 }
 
-// Without gathering, the whole output is the only segment, whatever the nested messages are.
+// Without gather mode, the whole output is the only segment, also with nested messages.
 void encoder::finish_segments()
 {
     if (output_.segment_count == nullptr)

@@ -18,7 +18,7 @@ uint8_t *copy_of(const uint8_t *content, uint64_t length, const memory_source &m
     return copy;
 }
 
-// Null for a null text, and for one that could not be copied, which `result` then says.
+// Null for a null text, and for one that could not be copied; `result` then has the error.
 uint8_t *copy_of_text(const uint8_t *text, const memory_source &memory, int32_t &result)
 {
     if (text == nullptr)
@@ -62,7 +62,8 @@ int32_t duplicate_elements(
     return result;
 }
 
-// An element that could not be copied whole keeps its place, and the array stays: only `obtained` decides the bit.
+// An element that could not be copied completely stays in the array, and the array stays: only `obtained` decides the
+// bit.
 int32_t duplicate_array(
     const field &member, uint8_t *destination, const uint8_t *source, const memory_source &memory, bool &obtained)
 {

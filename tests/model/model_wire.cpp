@@ -22,7 +22,7 @@ bool cursor::step_over_rest_of_varint()
     return true;
 }
 
-// The first five bytes count, the fifth with its low four bits; any number of further ones is stepped over.
+// The first five bytes count, the fifth with its low four bits; any number of further ones is skipped.
 bool cursor::read32(uint32_t &value)
 {
     value = 0;

@@ -1,4 +1,4 @@
-// A cursor over wire bytes: how one value is read, and how one is stepped over.
+// A cursor over wire bytes, which reads or skips one value.
 #pragma once
 
 #include <cstdint>
@@ -28,10 +28,10 @@ struct cursor {
     bool read_fixed32(uint32_t &value);
     bool step_over_rest_of_varint();
 
-    // Reads a length; the value is [position, end) and lies inside.
+    // Reads a length; the value is [position, end), inside the input.
     bool read_extent(uint64_t &end);
 
-    // A field that the message does not know. May leave the position behind the end.
+    // A field that the message does not know. The position may then be after the end.
     int32_t skip(uint32_t wire_type);
 };
 

@@ -23,7 +23,7 @@ void store(uint8_t *record, uint32_t offset, value_type value)
     std::memcpy(record + offset, &value, sizeof value);
 }
 
-// An integer of `bytes` bytes, in the machine's own order, which is that of the record. Storing keeps the low bytes.
+// An integer of `bytes` bytes, in the byte order of the machine, as in the record. Storing keeps the low bytes.
 inline void store_number(uint8_t *at, uint64_t value, uint32_t bytes)
 {
     switch (bytes) {
@@ -60,7 +60,7 @@ inline uint8_t *load_pointer(const uint8_t *record, uint32_t offset)
     return load<uint8_t *>(record, offset);
 }
 
-// A bytes field is a pointer and, 8 bytes on, its 64-bit length.
+// A bytes field is a pointer and, at offset 8, its 64-bit length.
 constexpr uint32_t bytes_length_offset = 8;
 
 inline uint64_t load_bytes_length(const uint8_t *record, const field &of)

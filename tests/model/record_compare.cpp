@@ -84,7 +84,7 @@ std::string comparison::bytes_member(const field &described, const record_pair &
     return ": other bytes";
 }
 
-// The whole block: also what stands behind a NUL inside the text.
+// The whole block, also bytes after a NUL inside the text.
 std::string comparison::text_at(const record_pair &records, uint32_t offset)
 {
     const std::string found = pointer(records, offset);

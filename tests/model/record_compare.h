@@ -1,5 +1,5 @@
 // Compares the record that the library made with the one that the model made: every member, every bit of every mask,
-// and everything that pointers lead to.
+// and all memory that pointers point to.
 #pragma once
 
 #include "model/block_log.h"
@@ -16,7 +16,8 @@ struct record_pair {
     const uint8_t *model;
 };
 
-// Empty if equal; otherwise "<member path>: expected ..., actual ...". Blocks correspond when the same call gave them.
+// Empty if equal; otherwise "<member path>: expected ..., actual ...". Blocks correspond if the same call returned
+// them.
 std::string compare_records(
     const message &of, const record_pair &records, const block_log &library_log, const block_log &model_log);
 

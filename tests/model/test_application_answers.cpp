@@ -1,4 +1,4 @@
-// What the model expects of the adapters, against answers known by hand.
+// The model's results for the adapters, compared with results known by hand.
 #include "model/application_receive.h"
 #include "model/application_send.h"
 #include "model/block_log.h"
@@ -88,7 +88,7 @@ TEST(application_model, a_byte_is_named_by_the_fields_that_lead_to_it)
     EXPECT_EQ(member_at(layout, 16 + 48), "4[0].8.2 byte 0");
 }
 
-// ---- sending: records by offset, zero but for what is said ----
+// ---- sending: records by offset, zero except for the given values ----
 
 struct member_value {
     uint32_t offset;

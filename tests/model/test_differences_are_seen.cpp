@@ -1,4 +1,4 @@
-// The comparison would notice: each kind of difference, made on purpose by a schema that is wrong in one place.
+// The comparison reports each kind of difference, made by a schema that is wrong in one place.
 #include "model/check_message.h"
 #include "model/record_compare.h"
 #include "support/hex.h"
@@ -21,7 +21,7 @@ std::size_t index_of(const char *name)
     return index;
 }
 
-// What is found when the model's fields of `name` are changed by `change` before both decode `wire`.
+// The reported difference if `change` changes the model's fields of `name` before both decode `wire`.
 template <class change_type>
 std::string found_after(const char *name, const char *wire_hex, change_type change)
 {
@@ -122,7 +122,7 @@ TEST(comparison, tells_a_block_from_an_earlier_one_at_the_same_address)
 {
     block_log log;
     void *given = nullptr;
-    // Until the address of a released block is given again, which any allocator does soon.
+    // Until the address of a released block is returned again, which every allocator does soon.
     void *first = block_log::allocate(24, &log);
     block_log::release(first, &log);
     for (int attempt = 0; attempt < 1000 && given != first; ++attempt)

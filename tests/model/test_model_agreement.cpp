@@ -1,4 +1,4 @@
-// The library does what the model predicts, for inputs of every shape.
+// The library does what the model predicts, for all kinds of inputs.
 #include "model/check_message.h"
 #include "model/exhaustive.h"
 
@@ -29,7 +29,7 @@ INSTANTIATE_TEST_SUITE_P(model, every_message, testing::Range(std::size_t{0}, al
 constexpr failing every_way_to_fail[] = {
     failing::never, failing::once, failing::from_then, failing::empty, failing::no_allocator};
 
-// More calls than any seed makes, but for those of several elements; these are met at random below.
+// More calls than any seed makes, except those with several elements, which random inputs below have.
 constexpr uint32_t failing_calls = 12;
 
 TEST_P(every_message, seeds_are_treated_as_the_model_predicts)
@@ -66,7 +66,7 @@ TEST_P(every_message, mutated_inputs_are_treated_as_the_model_predicts)
     }
 }
 
-// Long enough for every copy, every limit and the hand-over of the scratch buffer.
+// Long enough for every copy, every limit and a full scratch buffer.
 TEST_P(every_message, long_inputs_are_treated_as_the_model_predicts)
 {
     random_source random(GetParam() + 2000);

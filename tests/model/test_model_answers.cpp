@@ -1,4 +1,4 @@
-// The model itself: what it answers where the answer is known by hand, without the library.
+// The model alone, compared with results known by hand.
 #include "model/block_log.h"
 #include "model/model.h"
 #include "model/raw_memory.h"
@@ -112,7 +112,7 @@ TEST(model, encodes_bytes_known_by_hand)
 {
     EXPECT_EQ(encoded_in_hex(decoded("subscriber_v4", "08 96 01 15 01 02 03 04"), 3), "08 96 01 EE EE EE EE EE");
     EXPECT_EQ(encoded_in_hex(decoded("session_data", "1A 00"), 8), "1A 00");
-    // A block that does not fit whole leaves a hole; gathered, it is not in the buffer at all.
+    // A block that does not fit completely leaves a hole; in gather mode, it is not in the buffer.
     EXPECT_EQ(encoded_in_hex(decoded("subscriber_v6", "12 02 AA BB"), 3), "12 02 EE EE");
     EXPECT_EQ(encoded_in_hex(decoded("subscriber_v6", "12 02 AA BB 38 01"), 8, alias_flag), "12 02 38 01");
 }

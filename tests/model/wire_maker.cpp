@@ -124,7 +124,7 @@ struct slice {
     std::size_t value_at = 0; // delimited: where the content starts
 };
 
-// As far as it can be split; what is left stands in the last slice.
+// As far as it can be split; the last slice has the rest.
 std::vector<slice> slices_of(const wire_bytes &wire)
 {
     std::vector<slice> slices;
@@ -239,7 +239,7 @@ bool mutate_inside(const message &of, slice &changed, random_source &random)
         of, changed, [&random](const message &nested, wire_bytes &inside) { mutate_wire(nested, inside, random); });
 }
 
-// Moves `value_at` only where nothing reads it afterwards: every change starts from slices made anew.
+// May leave `value_at` wrong, because every change starts from new slices.
 void mutate_slice(const message &of, slice &changed, random_source &random)
 {
     if (random.one_in(2) && mutate_inside(of, changed, random))
