@@ -1,5 +1,5 @@
-// Sending and receiving through the adapters as tests want it: records and inputs end before an inaccessible page, the
-// receiver's record is filled with ones beforehand, and no adapter may call an allocator.
+// Calls the adapters for the tests: records and inputs end before an inaccessible page, the receiver's record is filled
+// with ones, and no adapter may call an allocator.
 #pragma once
 
 #include "nal/adapter_functions.h"
@@ -34,7 +34,7 @@ void call_decode_adapter(const uint8_t *data, uint32_t length, record_type &reco
     EXPECT_EQ(heap_calls(), before) << "a decode adapter called an allocator";
 }
 
-// All bytes zero, padding too, so that records can be compared as bytes.
+// All bytes zero, also padding, so that records can be compared as bytes.
 template <class record_type>
 record_type zero_record()
 {
@@ -64,8 +64,8 @@ std::string sent_hex(const record_type &record)
     return hex_of(sent(record));
 }
 
-// What an encode into `capacity` bytes writes: run over two buffers with opposite fills, a byte was written where both
-// agree. The margins on both sides show what went outside.
+// The bytes that an encode into `capacity` bytes writes: it runs on two buffers with opposite fills, and a byte was
+// written if both agree. Margins on both sides show writes outside.
 template <class record_type>
 write_trace trace_encode_adapter(const record_type &record, std::size_t capacity, uint64_t expected_size)
 {
@@ -88,8 +88,8 @@ write_trace trace_encode_adapter(const record_type &record, std::size_t capacity
     return trace;
 }
 
-// Sends `record` into every capacity from 0 to one above its size: the result is the size, what is written is a prefix
-// of the message, less at most one text or bytes value (of up to `longest_value` bytes) that did not fit whole.
+// Sends `record` into every capacity from 0 to one above its size: the result is the size, and the output is a prefix
+// of the message, without at most one text or bytes value (of up to `longest_value` bytes) that did not fit completely.
 template <class record_type>
 void expect_every_capacity_gives_a_prefix(const record_type &record, std::size_t longest_value)
 {
@@ -109,7 +109,7 @@ void expect_every_capacity_gives_a_prefix(const record_type &record, std::size_t
     }
 }
 
-// One decode and what it left.
+// One decode and its result.
 template <class record_type>
 class received
 {
@@ -155,7 +155,7 @@ std::ptrdiff_t first_difference(const record_type &actual, const record_type &ex
     return found == left + sizeof(record_type) ? -1 : found - left;
 }
 
-// The offset of the first byte that is neither that of `whole` nor zero, or -1: what may arrive of a cut message.
+// The offset of the first byte that is neither that of `whole` nor zero, or -1. For truncated messages.
 template <class record_type>
 std::ptrdiff_t first_foreign_byte(const record_type &actual, const record_type &whole)
 {

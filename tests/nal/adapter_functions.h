@@ -17,7 +17,7 @@ const mava_tum_catalogue::adapter &adapter_of()
     return *adapter;
 }
 
-// Two adapters share a record. The type without a member of its own names the second.
+// Two adapters have the same record. This type without a member names the second one.
 struct rec_complete_res : tum_nal_data_rec_res {
 };
 

@@ -37,14 +37,14 @@ adapter entry(
     return added;
 }
 
-// A record that comes back as it was sent.
+// A record that arrives as it was sent.
 template <class record_type>
 adapter entry(const char *name, const record_type &record, const char *all_zero_wire)
 {
     return entry(name, record, record, all_zero_wire);
 }
 
-// A record of numbers alone, which comes back as it was sent: the n-th has n in its highest bits.
+// A record of numbers only, which arrives as it was sent: the n-th has n in its highest bits.
 adapter entry_of_numbers(const char *name, const char *all_zero_wire)
 {
     const mava_tum_catalogue::adapter &of = *mava_tum_catalogue::find_adapter(name);
@@ -66,7 +66,7 @@ byte_vector list_wire(const std::vector<byte_vector> &elements)
     return wire;
 }
 
-// The list stands in a record that is nested in the given fields, the outermost first.
+// The list is in a record that is nested in the given fields, the outermost first.
 template <uint32_t field, uint32_t... outer>
 byte_vector nested_list_wire(const std::vector<byte_vector> &elements)
 {
@@ -85,7 +85,7 @@ byte_vector text_wire(const std::string &text)
 
 // ---- members ----
 
-// A list of a record that is sent and received alike.
+// A list of a record that is the same for sending and receiving.
 list_member list_at(const char *what, std::size_t offset, std::size_t count_bytes, std::size_t slots,
     byte_vector (*wire)(const std::vector<byte_vector> &))
 {
@@ -356,7 +356,7 @@ byte_vector receive(const adapter &tested, const byte_vector &wire)
 
 // ---- looking into records ----
 
-// Where the low bytes of a count stand on this host.
+// The position of a count's low bytes on this machine.
 static uint8_t *low_bytes(uint64_t &count, std::size_t bytes)
 {
     auto *const first = reinterpret_cast<uint8_t *>(&count);

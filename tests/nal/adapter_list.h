@@ -1,4 +1,4 @@
-// All adapters, one entry each, with what a test needs to treat them alike.
+// All adapters, one entry each, with the data that tests of all adapters need.
 #pragma once
 
 #include "nal/adapter_calls.h"
@@ -10,7 +10,7 @@
 namespace mava_tum_test
 {
 
-// A list of an adapter: where its count stands, how many slots it has, and how a message carries its elements.
+// A list of an adapter: the offset of its count, its slots, and the elements in a message.
 struct list_member {
     const char *what;
     std::size_t sent_offset;     // of the count in the record that is sent
@@ -45,10 +45,10 @@ const std::vector<adapter> &all_adapters();
 
 // ---- the calls of adapter_calls.h, for an entry of the list ----
 
-// The complete message of `record`, which stands before an inaccessible page while it is read.
+// The complete message of `record`, which is directly before an inaccessible page during the call.
 byte_vector send(const adapter &tested, const byte_vector &record);
 
-// What the message leaves in a record, which stands before an inaccessible page.
+// The record that is decoded from the message, directly before an inaccessible page.
 byte_vector receive(const adapter &tested, const byte_vector &wire);
 
 // ---- looking into records ----
@@ -56,8 +56,8 @@ byte_vector receive(const adapter &tested, const byte_vector &wire);
 uint64_t count_at(const byte_vector &record, std::size_t offset, std::size_t bytes);
 void set_count(byte_vector &record, std::size_t offset, std::size_t bytes, uint64_t count);
 
-// Whether `record` may be what is left of a message of `whole`: each count is at most that of `whole`, every other byte
-// that of `whole` or zero.
+// Whether `record` can be the result of a truncated message of `whole`: each count is at most that of `whole`, every
+// other byte is that of `whole` or zero.
 void expect_part_of(
     const adapter &tested, const byte_vector &record, const byte_vector &whole, const std::string &what);
 

@@ -1,4 +1,4 @@
-// Rows of a record: what members it has beside zeros, and the complete message that carries them.
+// Rows of a record: its members that are not zero, and the complete message.
 #pragma once
 
 #include "nal/adapter_calls.h"
@@ -17,8 +17,8 @@ struct record_row {
     const char *wire;
 };
 
-// A record in memory of its own, all bytes zero beforehand: copies of small records lose their padding, in here it
-// stays zero, and the record can be compared as bytes.
+// A record on the heap, with all bytes zero at first. A copy of a small record can lose its padding; here it stays
+// zero, so that the record can be compared as bytes.
 template <class record_type>
 class filled_record
 {
@@ -53,7 +53,7 @@ void expect_received(const std::vector<record_row<record_type>> &rows)
     }
 }
 
-// Rows that hold in both directions.
+// Rows for both directions.
 template <class record_type>
 void expect_both_ways(const std::vector<record_row<record_type>> &rows)
 {

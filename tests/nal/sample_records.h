@@ -1,5 +1,5 @@
-// Application records in which every member that a message carries has content: all slots in use, every text as long as
-// its array. Sessions and route batches: sample_session.h.
+// Application records in which every member of the message has content: all slots used, every text as long as its
+// array. sample_session.h has sessions and route batches.
 #pragma once
 
 #include "mava_tum.h"
@@ -7,7 +7,7 @@
 namespace mava_tum_test
 {
 
-// Not all of it comes back: the two switches are not sent.
+// Does not arrive as it was sent: the two switches are not sent.
 tum_nal_data_subscriber_stats full_statistics();
 tum_nal_data_subscriber_stats without_switches(tum_nal_data_subscriber_stats record);
 

@@ -12,7 +12,7 @@ using session = tum_nal_data_session_context;
 namespace
 {
 
-// Bytes that follow each other, none of them zero.
+// Consecutive bytes, none of them zero.
 template <std::size_t size>
 void fill_bytes(uint8_t (&array)[size], uint8_t first)
 {

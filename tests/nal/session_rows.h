@@ -1,4 +1,4 @@
-// What stands where: one row per rule of the session adapters, with the members it fills and the bytes that carry them.
+// One row per rule of the session adapters: the members that it fills, and their bytes.
 #pragma once
 
 #include "support/hex.h"
@@ -10,8 +10,8 @@
 namespace mava_tum_test
 {
 
-// A message is the always present values, then the parts that are given here in hex, without tag and length of the
-// nested record they belong to. The rest of the message is that of an all-zero record.
+// A message has the values that are always present, then the parts that are given here in hex, without tag and length
+// of their nested record. The rest is that of an all-zero record.
 struct session_row {
     const char *what;
     void (*fill)(tum_nal_data_session_context &record);
@@ -27,7 +27,7 @@ struct session_row {
 byte_vector wire_of(const session_row &row);
 tum_nal_data_session_context record_of(const session_row &row);
 
-// Rows that hold in both directions: the record is sent as these bytes, and these bytes are received as the record.
+// Rows for both directions: the record is sent as these bytes, and these bytes are received as the record.
 std::vector<session_row> value_and_address_rows();
 std::vector<session_row> session_data_rows();
 std::vector<session_row> feature_rows();

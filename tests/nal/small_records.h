@@ -1,5 +1,4 @@
-// Small records with a mapping of their own: the rules of the rows, where the records of the adapters have none of the
-// case in question.
+// Small records with their own mapping, for rules of the rows that no adapter's record can show.
 #pragma once
 
 #include "codec/mapping.h"
@@ -14,7 +13,7 @@
 namespace mava_tum_test
 {
 
-// A record with zeros in its padding too, so that it can be compared as bytes.
+// A record with zeros, also in its padding, so that it can be compared as bytes.
 template <class Record>
 class small_record
 {
@@ -33,7 +32,7 @@ private:
     alignas(Record) uint8_t bytes_[sizeof(Record)] = {};
 };
 
-// What `wire` leaves in a record full of ones. Wire and record end before an inaccessible page.
+// The record that is decoded from `wire`, filled with ones before. Wire and record end before an inaccessible page.
 template <class Rows>
 byte_vector received_bytes(const byte_vector &wire)
 {

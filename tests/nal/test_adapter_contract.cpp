@@ -1,4 +1,4 @@
-// What holds for every adapter, whatever its record. `send` and `receive` check on the way that no allocator is called.
+// Rules for every adapter. `send` and `receive` also check that no allocator is called.
 #include "nal/adapter_list.h"
 #include "support/wire_builder.h"
 
@@ -22,7 +22,7 @@ TEST(adapter_contract, the_list_holds_the_19_adapters)
     EXPECT_EQ(all_adapters().size(), 19u);
 }
 
-// The other tests would pass with a counter that sees nothing.
+// With a counter that counts nothing, the other tests would pass.
 TEST(adapter_contract, a_call_of_an_allocator_would_be_seen)
 {
     void *(*volatile allocate)(std::size_t) = std::malloc;
@@ -87,7 +87,7 @@ TEST(adapter_contract, counts_above_the_slots_send_the_slots_and_read_nothing_be
 
 // ---- lists that are longer than their slots ----
 
-// The elements that arrive of `sent`: a count in 8 bits is taken modulo 256, then the slots are the limit.
+// The number of elements of `sent` that arrive: a count of 8 bits is reduced modulo 256, then to the slots.
 uint64_t arriving(const list_member &list, uint64_t sent)
 {
     return std::min<uint64_t>(list.count_bytes == 1 ? sent % 256 : sent, list.slots);
@@ -122,12 +122,12 @@ TEST(adapter_contract, a_list_of_empty_elements_fills_nothing_but_counts)
 
 TEST(adapter_contract, a_list_with_an_element_that_fails_does_not_arrive_at_all)
 {
-    // Cut inside its tag; a group, which cannot be skipped; field 1 with the wire type of fixed32.
+    // Truncated inside its tag; a group, which cannot be skipped; field 1 with the wire type of fixed32.
     for (const char *malformed : {"80", "7B", "0D 00 00 00 00"}) {
         for (const adapter &tested : all_adapters()) {
             for (const list_member &list : tested.lists) {
                 if (list.of_texts)
-                    continue; // any bytes are a text
+                    continue; // a text may have any bytes
                 const byte_vector wire = list.wire({bytes_of("08 07"), bytes_of(malformed), bytes_of("08 07")});
                 const byte_vector record = receive(tested, wire);
                 EXPECT_EQ(count_at(record, list.received_offset, list.count_bytes), 0u) << list.what;
@@ -143,7 +143,7 @@ TEST(adapter_contract, a_second_run_of_a_list_ends_the_message_and_the_first_arr
         for (const list_member &list : tested.lists) {
             const byte_vector run = list.wire(std::vector<byte_vector>(1));
             if (run.size() > 3)
-                continue; // the list stands in a nested record, which may occur again
+                continue; // the list is in a nested record, which may be repeated
             const byte_vector unknown = wire_builder().varint(100, 7);
             EXPECT_EQ(receive(tested, joined({run, unknown, run, bytes_of("08 07")})), receive(tested, run))
                 << list.what;

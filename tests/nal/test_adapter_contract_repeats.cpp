@@ -1,4 +1,4 @@
-// A nested record that occurs twice: the record is what the second occurrence alone leaves, for every nested record of
+// A nested record that occurs twice: the result is that of the second occurrence alone, for every nested record of
 // every adapter and for each of its fields.
 #include "nal/adapter_list.h"
 #include "nal/wire_fields.h"
@@ -13,8 +13,8 @@ namespace mava_tum_test
 namespace
 {
 
-// A nested record, by its field numbers from the message on. Elements of lists are not repeated: they are more
-// elements.
+// A nested record, by its field numbers from the message. Elements of lists are not included: a repetition is one more
+// element.
 struct nested_path {
     const char *adapter_name;
     std::vector<uint32_t> numbers;
@@ -80,7 +80,7 @@ byte_vector message_with(const std::vector<uint32_t> &numbers, const std::vector
     return message;
 }
 
-// Nothing, each field alone, all but the last byte, and a fault behind everything.
+// Nothing, each field alone, all except the last byte, and everything followed by a fault.
 std::vector<byte_vector> second_occurrences(const byte_vector &full)
 {
     std::vector<byte_vector> seconds = {{}, part_of(full, 0, full.size() - 1), joined({full, bytes_of("07")})};

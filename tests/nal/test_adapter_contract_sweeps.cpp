@@ -1,5 +1,5 @@
-// Every adapter through every cut of its message and every capacity of its buffer, and damaged messages. `send` and
-// `receive` check on the way that nothing outside the record and the buffer is touched and that no allocator is called.
+// Every adapter with every truncation of its message, every capacity of its buffer, and malformed messages. `send` and
+// `receive` also check that no byte outside the record and the buffer is accessed and that no allocator is called.
 #include "nal/adapter_list.h"
 #include "nal/wire_fields.h"
 #include "support/wire_builder.h"
@@ -15,7 +15,7 @@ namespace mava_tum_test
 namespace
 {
 
-// Routes are the only record whose full message is too long for a sweep: with three of each it holds the same fields.
+// Only the full message of routes is too long for a sweep: with three of each family, it has the same fields.
 byte_vector swept_record(const adapter &tested)
 {
     byte_vector record = tested.sent;
@@ -28,8 +28,8 @@ byte_vector swept_record(const adapter &tested)
 
 // ---- cuts ----
 
-// How much of a message cut at `cut` arrives: all fields that are complete, but of a list either all elements or none.
-// A cut inside the tag that follows may have been one more element, so the list is lost with it.
+// The part of a message truncated at `cut` that arrives: all complete fields, and of a list all elements or none. If
+// the cut is inside the next tag, that could be one more element, so the list does not arrive.
 std::size_t arriving_bytes(const std::vector<wire_field> &fields, std::size_t cut)
 {
     std::map<uint32_t, int> entries;
@@ -95,7 +95,7 @@ TEST(adapter_contract_sweeps, each_complete_field_of_a_message_adds_to_what_arri
 
 TEST(adapter_contract_sweeps, every_capacity_gives_the_size_and_a_prefix)
 {
-    constexpr std::size_t longest_block = 255; // a text or address that does not fit whole is left out whole
+    constexpr std::size_t longest_block = 255; // a text or address that does not fit completely is not written at all
     for (const adapter &tested : all_adapters()) {
         byte_vector record = swept_record(tested);
         const byte_vector whole = send(tested, record);
@@ -120,7 +120,7 @@ TEST(adapter_contract_sweeps, every_capacity_gives_the_size_and_a_prefix)
 
 // ---- damage ----
 
-// Whatever arrived, its counts stay within the slots and it can be sent again.
+// In any result, the counts are at most the slots, and the record can be sent again.
 void expect_consistent(const adapter &tested, const byte_vector &record)
 {
     for (const list_member &list : tested.lists)

@@ -1,4 +1,4 @@
-// Messages on a stream: what arrives whole or in parts, cut anywhere, and what is refused.
+// Messages on a stream: complete, in parts of any size, and with a length that is rejected.
 #include "tum_nal/message_stream.h"
 
 #include <array>
@@ -34,7 +34,8 @@ protected:
         tum_nal_message_stream_init(&stream, buffer.data(), limit);
     }
 
-    // Gives a copy of the bytes, so that one past them is seen, and keeps the messages. The last result.
+    // Passes a copy of the bytes, so that a read past them is detected, and keeps the messages. Returns the last
+    // result.
     int32_t feed(const uint8_t *data, std::size_t size)
     {
         const byte_vector arrived(data, data + size);

@@ -243,7 +243,7 @@ struct child_end {
     std::string errors; // all it wrote to stderr
 };
 
-// Runs `enqueue` in a process of its own.
+// Runs `enqueue` in another process.
 template <class enqueue_call>
 child_end run_in_child(enqueue_call &&enqueue)
 {
@@ -270,7 +270,7 @@ child_end run_in_child(enqueue_call &&enqueue)
     return ended;
 }
 
-// What the program itself wrote: an emulator adds a line of its own.
+// The output of the program itself: an emulator adds a line.
 std::string without_emulator(const std::string &errors)
 {
     const std::string added = "qemu: uncaught target signal 6 (Aborted) - core dumped\n";

@@ -1,5 +1,5 @@
-// Opening and closing a reconciliation and comparing its sessions, both directions. Replay:
-// test_nal_reconciliation_replay.cpp.
+// Start, end and session states of a reconciliation, in both directions. test_nal_reconciliation_replay.cpp has the
+// replay.
 #include "nal/record_rows.h"
 #include "nal/sample_records.h"
 #include "support/wire_builder.h"

@@ -1,4 +1,4 @@
-// Replaying sessions and answering that, both directions.
+// Replay of sessions and its answer, in both directions.
 #include "nal/record_rows.h"
 #include "nal/sample_records.h"
 #include "nal/sample_session.h"
@@ -206,7 +206,7 @@ TEST(nal_reconciliation_replay, of_258_texts_of_a_start_the_count_is_2)
 
 TEST(nal_reconciliation_replay, statistics_that_a_failure_holds_without_marking_them_arrive)
 {
-    // A codec record whose failure carries values but does not mark field 3 is sent with it, and they arrive.
+    // If the failure in a codec record has values but no bit for field 3, field 3 is still sent, and the values arrive.
     mava_tum_rec_sess_replay_fail failure = {};
     failure.field_3.field_2 = 7;
     failure.field_3.presence_mask = 0x02;

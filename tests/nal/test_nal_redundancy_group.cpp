@@ -1,4 +1,4 @@
-// Reconciling redundancy groups, both directions.
+// Reconciliation of redundancy groups, in both directions.
 #include "nal/record_rows.h"
 #include "nal/sample_records.h"
 #include "support/wire_builder.h"

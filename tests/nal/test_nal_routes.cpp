@@ -1,4 +1,4 @@
-// Batches of routes, both directions. The rules of one route hold in a session too.
+// Batches of routes, in both directions. The same rules apply to routes in a session.
 #include "nal/adapter_calls.h"
 #include "nal/sample_session.h"
 #include "support/wire_builder.h"

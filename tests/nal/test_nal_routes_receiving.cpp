@@ -1,4 +1,4 @@
-// Batches of routes as they may arrive: longer, shorter, more or fewer than the record has room for, and malformed.
+// Received batches of routes: with longer and shorter values, with more or fewer routes than slots, and malformed.
 #include "nal/adapter_calls.h"
 #include "nal/sample_session.h"
 #include "support/wire_builder.h"
@@ -89,7 +89,7 @@ TEST(nal_routes_receiving, of_an_ipv6_address_at_most_16_bytes_arrive_and_a_shor
         const wire_builder route = wire_builder()
                                        .length_delimited(3, byte_vector(length, 0xA3))
                                        .length_delimited(5, byte_vector(length, 0xA5));
-        // In the last slot, where a byte too many would go beyond the array.
+        // In the last slot, where one byte too many would be outside the array.
         wire_builder wire;
         for (int i = 0; i < 49; ++i)
             wire.raw("2A 00");

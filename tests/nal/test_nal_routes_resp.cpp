@@ -1,4 +1,4 @@
-// The answer to a batch of routes, both directions.
+// The answer to a batch of routes, in both directions.
 #include "nal/record_rows.h"
 #include "nal/sample_records.h"
 #include "support/wire_builder.h"

@@ -1,4 +1,4 @@
-// The removal of a session and the answer to an operation on one, both directions.
+// The removal of a session and the answer to an operation, in both directions.
 #include "nal/record_rows.h"
 #include "nal/sample_records.h"
 #include "support/wire_builder.h"

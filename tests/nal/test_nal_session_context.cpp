@@ -1,5 +1,5 @@
-// Both directions of a session, row by row and as a whole. What only the sender or only the receiver does, and bad
-// input: the files beside this one.
+// A session in both directions, row by row and as a whole. The files beside this one have the rules for one direction,
+// and malformed input.
 #include "nal/adapter_calls.h"
 #include "nal/sample_session.h"
 #include "nal/session_rows.h"

@@ -1,4 +1,4 @@
-// Malformed messages, and messages that repeat a field: what came before the fault arrives, nothing is written outside
+// Malformed messages, and messages that repeat a field: the fields before the fault arrive, no byte is written outside
 // the record, no allocator is called (`received` checks both).
 #include "nal/adapter_calls.h"
 #include "nal/sample_session.h"
@@ -23,7 +23,7 @@ void expect_session(std::string_view wire_hex, fill_call &&fill)
     EXPECT_EQ(first_difference(*got, expected), -1) << wire_hex;
 }
 
-// Whether `got` may be what is left of a message of `whole`: each byte arrived or is zero, no count is larger.
+// Whether `got` can be the result of a truncated message of `whole`: each byte arrived or is zero, no count is larger.
 void expect_part_of(const session &got, const session &whole, const std::string &what)
 {
     session compared = got;
@@ -78,7 +78,7 @@ TEST(nal_session_context_bad_input, two_levels_down_a_record_that_fails_delivers
 
 TEST(nal_session_context_bad_input, a_list_with_a_failing_element_does_not_arrive)
 {
-    // Two elements with texts, the second cut inside its own length; what follows is lost with it.
+    // Two elements with texts, the second truncated inside its length; the fields after it do not arrive.
     expect_session("08 07 5A 03 1A 01 61 5A 05 1A 01 62 22 09 62 02 08 01", [](session &s) { s.session_value_1 = 7; });
     expect_session("08 07 BA 01 03 12 01 61 BA 01 02 0D 00", [](session &s) { s.session_value_1 = 7; });
     expect_session("08 07 C2 01 03 12 01 61 C2 01 02 0D 00", [](session &s) { s.session_value_1 = 7; });
@@ -111,7 +111,7 @@ TEST(nal_session_context_bad_input, of_a_record_that_occurs_twice_the_second_arr
 TEST(nal_session_context_bad_input, of_records_that_occur_twice_inside_the_session_data_too)
 {
     expect_session("52 0E 22 06 9A 01 03 61 61 61 22 04 9A 01 01 62", [](session &s) { set_text(s.l2tp_name, "b"); });
-    // The whole session data again over an inner record that holds a text.
+    // The whole session data again, after a nested record with a text.
     expect_session("52 06 22 04 9A 01 01 61 52 09 22 04 9A 01 01 62 2A 01 63", [](session &s) {
         set_text(s.l2tp_name, "b");
         set_text(s.session_name, "c");
@@ -172,7 +172,7 @@ TEST(nal_session_context_bad_input, damaged_messages_stay_inside_the_record)
             damaged.resize(random() % damaged.size());
         received_session got(damaged);
         changed += first_difference(*got, full_session()) != -1;
-        // Whatever arrived is a record that can be sent again.
+        // Every result is a record that can be sent again.
         ASSERT_LE(got->qos_count, 8);
         ASSERT_LE(got->ipv4_route_count, 4);
         ASSERT_LE(got->ipv6_route_count, 4);

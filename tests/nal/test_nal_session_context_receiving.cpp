@@ -1,4 +1,4 @@
-// What only the receiver of a session decides: own presence bits, cut texts and bytes, narrow members.
+// Rules for received sessions: presence bits, truncated texts and bytes, narrow members.
 #include "nal/adapter_calls.h"
 #include "support/wire_builder.h"
 
@@ -14,7 +14,7 @@ namespace
 
 using session = tum_nal_data_session_context;
 
-// The record that is received from `wire` is the one that `fill` makes of an all-zero one.
+// The record that is received from `wire` is the all-zero record after `fill`.
 template <class fill_call>
 void expect_context(std::string_view wire_hex, fill_call &&fill)
 {
@@ -107,7 +107,7 @@ TEST(nal_session_context_receiving, a_member_narrower_than_its_field_keeps_the_l
 
 // ---- texts and bytes of any length ----
 
-// Where a text or bytes value stands on the wire, field by field from the outermost, and in the record.
+// The path of a text or bytes value on the wire, from the outermost field, and its place in the record.
 struct member_place {
     std::vector<uint32_t> path;
     std::size_t offset;

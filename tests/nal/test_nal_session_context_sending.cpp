@@ -1,4 +1,4 @@
-// What only the sender of a session decides: conditions between members, counts, short buffers.
+// Rules for sent sessions: conditions between members, counts, short buffers.
 #include "nal/adapter_calls.h"
 #include "nal/sample_session.h"
 #include "nal/session_rows.h"

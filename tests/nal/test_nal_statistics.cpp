@@ -1,4 +1,5 @@
-// A subscriber's statistics, both directions. The rules hold in the answer to an operation and in a replay failure too.
+// A subscriber's statistics, in both directions. The same rules apply to the answer to an operation and to a replay
+// failure.
 #include "nal/record_rows.h"
 #include "nal/sample_records.h"
 #include "support/wire_builder.h"
@@ -206,7 +207,7 @@ TEST(nal_statistics, a_block_that_occurs_twice_is_replaced_not_merged)
     expect_received<stats>({
         {"block 7", [](stats &s) { s.block_7.counter[1] = 8; }, "3A 02 08 07 3A 02 10 08"},
     });
-    // Inside a service too.
+    // Also inside a service.
     received<stats> got("42 08 12 02 08 07 12 02 10 08");
     EXPECT_EQ(got->services[0].stats.counter[0], 0u);
     EXPECT_EQ(got->services[0].stats.counter[1], 8u);

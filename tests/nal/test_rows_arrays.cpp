@@ -1,4 +1,4 @@
-// Texts and octets into arrays of all kinds of sizes, against a copy byte by byte.
+// Texts and octets into arrays of many sizes, compared with a copy byte by byte.
 #include "messages/feature_records_schema.h"
 #include "messages/subscriber_records_schema.h"
 #include "nal/rows.h"
@@ -84,7 +84,7 @@ struct text_rows {
     using rows = row_list<mava_tum::text<2, &record::text, mava_tum::if_not_empty, Limit>>;
 };
 
-// Everything before the first NUL and below the limit, with room for a NUL of its own.
+// The characters before the first NUL, up to one less than the limit.
 byte_vector kept_of(const byte_vector &text, std::size_t limit, std::size_t array_bytes)
 {
     byte_vector array(array_bytes, 0);

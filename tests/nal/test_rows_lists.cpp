@@ -47,7 +47,7 @@ struct list_rows {
         number<4, &record::after>>;
 };
 
-// Later elements are longer or shorter than earlier ones: what one leaves in a slot shows in the next.
+// Later elements are longer or shorter than earlier ones, to detect content of an earlier element in a slot.
 std::string text_of(std::size_t index)
 {
     return std::string(11 - index * 4 % 11, static_cast<char>('a' + index % 26));

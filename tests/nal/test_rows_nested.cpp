@@ -1,5 +1,5 @@
-// A nested record that occurs twice arrives as if only its last occurrence stood there, wherever its values are: beside
-// those of its parent, or in a member of their own.
+// A nested record that occurs twice arrives as its last occurrence alone, with its values among those of its parent or
+// in a separate member.
 #include "messages/session_messages_schema.h"
 #include "nal/rows.h"
 #include "nal/small_records.h"
@@ -46,7 +46,7 @@ struct statistics_rows {
         mava_tum::nested<12, counter_rows<Record, &Record::counter_12>>>;
 };
 
-// Its members lie between those of the parent.
+// Its members are between those of the parent.
 struct spread_record {
     uint32_t first;
     uint8_t count;
@@ -104,7 +104,7 @@ const char *const faulty_statistics[] = {
     "42 03 0A 01 78 10 08 42 03 0A 01 79",
 };
 
-// Between the two stand fields of the parent, which stay.
+// Fields of the parent are between the two, and stay.
 template <class Rows>
 void expect_the_last_one(uint32_t field, const char *earlier, const char *last)
 {
@@ -212,7 +212,7 @@ const char *const faulty_tunnels[] = {
 
 void expect_the_last_tunnel(const char *earlier, const char *last)
 {
-    // What stands around the tunnel stays.
+    // The fields around the tunnel stay.
     const byte_vector around = bytes_of("1A 02 30 03 2A 02 61 62 32 02 D1 D2 52 02 08 04");
     const byte_vector once = wire_builder().raw(around).length_delimited(4, bytes_of(last));
     const byte_vector twice =

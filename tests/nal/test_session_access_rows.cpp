@@ -1,5 +1,5 @@
-// Values 5 and 7 of the IPv6 record belong to parts 3 and 6: without their part they do not arrive, whatever happens to
-// the record.
+// Values 5 and 7 of the IPv6 record belong to parts 3 and 6: without their part they do not arrive, also if the record
+// fails or occurs twice.
 #include "nal/adapter_calls.h"
 #include "support/wire_builder.h"
 
@@ -72,7 +72,7 @@ TEST(session_access_rows, a_part_of_an_earlier_occurrence_does_not_count)
 
 TEST(session_access_rows, an_input_that_ends_in_the_record_delivers_no_value_of_it)
 {
-    // The record's own length reaches beyond the input: nothing of it is looked at.
+    // The record's length exceeds the input: its content is not read.
     received_session got("4A 07 1A 01 AA 28 05 38");
     EXPECT_EQ(first_difference(*got, zero_record<session>()), -1);
 }

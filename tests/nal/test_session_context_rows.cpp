@@ -26,7 +26,7 @@ void free_any(void *block, void *)
     std::free(block);
 }
 
-// What a receiver decodes of the session.
+// The session as a receiver decodes it.
 struct converted {
     std::vector<uint8_t> wire;
     mava_tum_session_context context = {};
