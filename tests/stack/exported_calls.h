@@ -1,5 +1,5 @@
-// Every exported function with the calls that take it furthest: full records, empty ones and random ones, buffers that
-// fit and that do not, segments, inputs that are whole, cut, and without any order.
+// Every exported function with calls that reach its deepest paths: full, empty and random records, large and short
+// buffers, segments, complete, truncated and random inputs.
 #pragma once
 
 #include <functional>
@@ -10,7 +10,7 @@
 namespace mava_tum_test
 {
 
-// The calls do nothing but to call: what they need was made before, and `kept` owns it.
+// The calls only call the function: `kept` owns their data, which are made before.
 struct exported_calls {
     std::string name;
     std::vector<std::function<void()>> calls;

@@ -19,7 +19,7 @@ constexpr std::size_t hostile_input_count = 300;
 constexpr std::size_t arena_bytes = std::size_t{4} * 1024 * 1024;
 constexpr uint32_t segment_capacity = 64;
 
-// Memory for the calls, given out from the front. Nothing is ever given back; each call starts anew.
+// Memory for the calls, allocated from the front and never released; each call starts at the front.
 struct arena {
     std::vector<uint8_t> memory = std::vector<uint8_t>(arena_bytes);
     std::size_t used = 0;
@@ -43,7 +43,7 @@ arena &shared_arena()
     return memory;
 }
 
-// What the calls of one message work on.
+// The data of one message's calls.
 struct material {
     explicit material(const message &described) : tested(described), target(described) {}
 
@@ -139,7 +139,7 @@ exported_calls duplicate_calls(const std::shared_ptr<material> &used)
     return made;
 }
 
-// After the calls that read the records, for it empties them.
+// After the calls that read the records, because it empties them.
 exported_calls free_calls(const std::shared_ptr<material> &used)
 {
     exported_calls made{std::string("mava_tum_") + used->tested.name + "_free_ext", {}, {used}};

@@ -16,7 +16,8 @@ namespace
 
 constexpr uint8_t paint = 0xA5;
 
-// A callee's frame lies below that of its caller; this much below its own frame a small function does not reach.
+// The frame of a callee is below that of its caller. A small function does not use the stack this far below its own
+// frame.
 constexpr std::size_t painter_bytes = 96;
 
 class stack_memory

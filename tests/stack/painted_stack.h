@@ -1,4 +1,4 @@
-// A thread with a small stack of known content, which shows afterwards how much of it a call has used.
+// A thread with a small stack that is filled with a pattern, to measure how much of it a call uses.
 #pragma once
 
 #include <cstddef>
@@ -15,7 +15,7 @@ struct stack_use {
     std::size_t thread_bytes = 0; // the same and what the thread itself stands on, from the top of the stack
 };
 
-// Makes the calls one after the other on a new thread. Below its stack lies an inaccessible page.
+// Makes the calls one after the other on a new thread. An inaccessible page is below its stack.
 stack_use measure_stack_use(const std::vector<std::function<void()>> &calls);
 
 } // namespace mava_tum_test

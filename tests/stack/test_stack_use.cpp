@@ -1,4 +1,4 @@
-// How much stack does each exported function take on a thread that has little?
+// How much stack does each exported function need on a thread with a small stack?
 #include "stack/exported_calls.h"
 #include "stack/painted_stack.h"
 
@@ -17,10 +17,10 @@ namespace mava_tum_test
 namespace
 {
 
-// What a thread keeps for its own functions, for signal handlers and for the caller's callbacks.
+// The part of the stack for the thread's own functions, signal handlers and the caller's callbacks.
 constexpr std::size_t reserve_bytes = 16 * 1024;
 
-// What `name` used, printed as a line that scripts/check/stack reads.
+// The stack that `name` used, printed as a line for scripts/check/stack.
 void expect_fits(const exported_calls &tested)
 {
     ASSERT_FALSE(tested.calls.empty()) << tested.name;
@@ -29,7 +29,7 @@ void expect_fits(const exported_calls &tested)
     EXPECT_LE(used.thread_bytes, painted_stack_bytes - reserve_bytes) << tested.name;
 }
 
-// Valgrind takes what lies below the stack pointer for inaccessible, and would report the paint.
+// Valgrind reports accesses below the stack pointer, so also the pattern.
 bool runs_under_valgrind()
 {
     const char *preloaded = std::getenv("LD_PRELOAD");
