@@ -1,4 +1,4 @@
-// Checks of ownership and segments that read the same for many messages.
+// Checks of ownership and segments for many messages.
 #pragma once
 
 #include "support/record_calls.h"
@@ -45,7 +45,7 @@ void expect_owns_no_memory(std::string_view all_fields)
     free_null_record<record_type>();
 }
 
-// A copy takes the value and the bit of each field, also of those that are absent, and no spare bit.
+// A copy has the value and bit of each field, also of absent ones, and no reserved bit.
 template <class record_type>
 void expect_a_copy_takes_own_bits_only()
 {
@@ -61,7 +61,7 @@ void expect_a_copy_takes_own_bits_only()
     EXPECT_EQ(destination.presence_mask, all_own_bits<record_type>) << "no spare bit of the source";
 }
 
-// For messages whose functions take flags although they hold no bytes field.
+// For messages whose functions have flags although they have no bytes field.
 template <class record_type>
 void expect_flags_are_ignored(std::string_view wire)
 {
@@ -78,7 +78,7 @@ void expect_flags_are_ignored(std::string_view wire)
     }
 }
 
-// For messages whose encoder takes no flags: whatever room the list of segments has, the output is one segment.
+// For messages whose encoder has no flags: for every capacity of segments, the output is one segment.
 template <class record_type>
 void expect_output_is_one_segment(const record_type &record)
 {
@@ -103,7 +103,7 @@ void expect_output_is_one_segment(const record_type &record)
     EXPECT_EQ(count, 0u) << "an empty output is no segment";
 }
 
-// A varint is kept at the full width of its member, and no wider: all 64 bits set arrive as all bits of the member.
+// A varint is stored with the width of its member: a value with all 64 bits set arrives as all bits of the member.
 template <class record_type, class value_type>
 void expect_full_width(uint32_t number, value_type record_type::*member)
 {

@@ -31,7 +31,7 @@ void expect_each_field_alone_round_trips(const std::vector<field_row> &rows)
     }
 }
 
-// All samples, last field first, come back in ascending order.
+// All samples, decoded from the last field to the first, are encoded in ascending order.
 template <class record_type>
 void expect_any_order_in_and_ascending_order_out(const std::vector<field_row> &rows)
 {
@@ -87,7 +87,7 @@ void expect_other_numbers_are_skipped(const std::vector<field_row> &rows)
     }
 }
 
-// L2: a tag may take more bytes than it needs. Each sample's first tag does here, after another field and before one.
+// L2: a tag may have more bytes than necessary. Here the first tag of each sample does, after and before another field.
 template <class record_type>
 void expect_over_long_tags_are_accepted(const std::vector<field_row> &rows)
 {

@@ -1,4 +1,4 @@
-// A session context in which every field has content, and every block of memory a size of its own.
+// A session context in which every field has content, and every block a different size.
 #pragma once
 
 #include "support/record_calls.h"
@@ -11,8 +11,7 @@
 namespace mava_tum_test
 {
 
-// What the allocator is asked for, in order: by a decode in copy mode, and by a duplicate. Each entry with the number
-// of the field that asks.
+// The requested sizes, in order, of a decode in copy mode and of a duplicate, each with the number of its field.
 struct allocation_row {
     uint32_t field;
     uint64_t size;

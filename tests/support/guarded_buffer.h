@@ -1,4 +1,4 @@
-// Buffers that notice an access outside of them.
+// Buffers that detect an access outside of them.
 #pragma once
 
 #include "support/hex.h"
@@ -64,7 +64,7 @@ private:
     uint8_t *mapping_ = nullptr;
 };
 
-// Has guard bytes on both sides; says afterwards whether they are untouched.
+// Has guard bytes on both sides, and reports whether they are unchanged.
 class guarded_buffer
 {
 public:
@@ -104,14 +104,15 @@ private:
     byte_vector whole_;
 };
 
-// What one call wrote into a buffer of `size` bytes: `written[i]` says whether byte i was written, `bytes[i]` what.
+// The bytes that one call wrote into a buffer of `size` bytes: `written[i]` is true if byte i was written, `bytes[i]`
+// is its value.
 struct write_trace {
     byte_vector bytes;
     std::vector<bool> written;
     bool guards_intact = false;
 };
 
-// Runs `write(buffer, size)` over two buffers with opposite fills: a byte was written where both agree.
+// Runs `write(buffer, size)` on two buffers with opposite fills: a byte was written if both agree.
 template <class write_call>
 write_trace trace_writes(std::size_t size, write_call &&write)
 {

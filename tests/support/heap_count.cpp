@@ -20,8 +20,8 @@ std::size_t heap_calls()
 
 } // namespace mava_tum_test
 
-// The last two are operator new and operator new with an alignment, as the linker knows them: a size is an unsigned
-// long there where addresses have 64 bits, otherwise an unsigned int.
+// The last two are operator new, without and with an alignment, by their mangled names: a size is an unsigned long with
+// 64-bit addresses, otherwise an unsigned int.
 #if SIZE_MAX > UINT32_MAX
 #define SIZE_CODE "m"
 #else

@@ -1,6 +1,5 @@
-// How often this thread has asked for memory of the heap. The program is linked by mava_tum_count_heap_calls
-// (tests/CMakeLists.txt): calls from its own objects and from static libraries are counted, those inside shared
-// libraries are not.
+// The number of heap calls of this thread. The program is linked by mava_tum_count_heap_calls (tests/CMakeLists.txt):
+// calls from its own objects and from static libraries are counted, those inside shared libraries are not.
 #pragma once
 
 #include <cstddef>
@@ -11,7 +10,7 @@ namespace mava_tum_test
 // Calls of malloc, calloc, realloc and operator new.
 std::size_t heap_calls();
 
-// How many of them `call` makes.
+// The number of heap calls that `call` makes.
 template <class any_call>
 std::size_t heap_calls_of(any_call &&call)
 {

@@ -1,4 +1,4 @@
-// Bytes as a person writes them, "08 96 01", and back to text for failure messages.
+// Bytes from text such as "08 96 01", and back to text for failure messages.
 #pragma once
 
 #include <cctype>
@@ -25,7 +25,7 @@ inline uint8_t hex_digit_value(char digit)
     throw std::invalid_argument(std::string("not a hex digit: ") + digit);
 }
 
-// Spaces may stand anywhere between digits; an odd number of digits throws.
+// Spaces may be anywhere between digits; an odd number of digits throws.
 inline byte_vector bytes_of(std::string_view hex)
 {
     std::string digits;

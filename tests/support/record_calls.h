@@ -1,6 +1,6 @@
-// Decode, encode, duplicate and free as tests want them: bytes as hex, records pre-filled with 0xFF so that a reset
-// that misses a member or touches a spare bit shows, inputs that end before an inaccessible page, and an allocator
-// that must have everything back at the end.
+// Decode, encode, duplicate and free for tests: bytes as hex, records filled with 0xFF to detect a reset that misses a
+// member or changes a reserved bit, inputs that end before an inaccessible page, and an allocator that must have no
+// outstanding block at the end.
 #pragma once
 
 #include "catalogue.h"
@@ -19,13 +19,13 @@
 namespace mava_tum_test
 {
 
-// The flag, as decoders and encoders call what it does.
+// The flag, under the names of its effect for decoders and encoders.
 inline constexpr uint32_t alias = MAVA_TUM_ALIAS;
 inline constexpr uint32_t gather = MAVA_TUM_ALIAS;
 
 inline constexpr uint64_t pointer_bytes = sizeof(char *);
 
-// ---- one call each, whatever parameters the message's function takes ----
+// ---- one call each, for all parameters of the messages' functions ----
 
 template <class record_type>
 int32_t call_decode(record_type &record, const uint8_t *data, uint64_t length, mava_tum_alloc_fn alloc_fn,
@@ -61,7 +61,7 @@ void free_record(record_type &record, recording_allocator &allocator, uint32_t f
 
 // ---- presence ----
 
-// The mask in which exactly the given fields are present.
+// The mask with exactly the given fields.
 template <class... number>
 constexpr uint32_t fields(number... numbers)
 {
@@ -74,7 +74,7 @@ void mark_present(record_type &record, number... numbers)
     record.presence_mask = static_cast<decltype(record.presence_mask)>(record.presence_mask | fields(numbers...));
 }
 
-// The bits of the presence mask that belong to a field. All others are spare.
+// The bits of the presence mask that belong to a field. All others are reserved.
 template <class record_type>
 inline constexpr uint32_t all_own_bits = (1u << mava_tum_catalogue::message_of<record_type>().fields.size()) - 1;
 
@@ -123,7 +123,7 @@ struct decode_options {
     std::size_t failing_call = 0; // this allocator call fails, once; 0 for none
 };
 
-// One decode and all that came of it. The destructor frees the record; its allocator then finds what is left.
+// One decode and its results. The destructor frees the record; its allocator then reports outstanding blocks.
 template <class record_type>
 struct decoded {
     page_end_buffer wire;
@@ -165,7 +165,7 @@ struct decoded {
 
 // ---- encode ----
 
-// The complete output, from a buffer of exactly the size that the size pass gives.
+// The complete output, in a buffer of exactly the requested size.
 template <class record_type>
 byte_vector encoded(const record_type &record)
 {
@@ -182,7 +182,7 @@ std::string encoded_hex(const record_type &record)
     return hex_of(encoded(record));
 }
 
-// What an encode into `capacity` bytes writes; the result must be `expected_size` all the same.
+// The bytes that an encode into `capacity` bytes writes; the result must also be `expected_size`.
 template <class record_type>
 write_trace encode_trace(const record_type &record, std::size_t capacity, uint64_t expected_size)
 {
@@ -191,7 +191,7 @@ write_trace encode_trace(const record_type &record, std::size_t capacity, uint64
     });
 }
 
-// Written bytes as hex, a byte that was left alone as "--".
+// Written bytes as hex, a byte that was not written as "--".
 inline std::string hex_of(const write_trace &trace)
 {
     std::string text;
@@ -202,7 +202,7 @@ inline std::string hex_of(const write_trace &trace)
     return text;
 }
 
-// What the trace of an encode into `capacity` bytes reads when nothing but the capacity cuts `whole`.
+// The expected trace of an encode into `capacity` bytes: `whole`, truncated at the capacity.
 inline std::string prefix_hex(const byte_vector &whole, std::size_t capacity)
 {
     std::string text = hex_of(whole.data(), std::min(capacity, whole.size()));

@@ -1,9 +1,9 @@
-// An allocator and release callback pair that remembers what it was asked for.
+// An allocator and a release callback that record their calls.
 //
-// Its context is the object itself. New blocks are filled with a pattern that is not zero, so that whoever relies on
-// zeroed memory is found out. Blocks have their exact size, so that the address sanitizer sees a byte too many.
-// Misuse (a block released twice, a foreign block, an unknown context) fails the running test at once; blocks still
-// outstanding at the end fail it too unless `allow_outstanding` was called.
+// Its context is the object itself. New blocks are filled with a non-zero pattern, to detect code that relies on zeroed
+// memory. Blocks have their exact size, so that the address sanitizer detects an access behind them. Misuse (a block
+// released twice, a foreign block, an unknown context) fails the running test at once. Blocks that are outstanding at
+// the end fail it, too, unless `allow_outstanding` was called.
 #pragma once
 
 #include "mava_tum/codec_contract.h"
@@ -28,13 +28,13 @@ class recording_allocator
 public:
     static constexpr uint8_t fill_pattern = 0xCD;
 
-    // Larger requests are recorded and fail: a wrong size must not eat up the machine.
+    // Larger requests are recorded and fail: a wrong size must not use up the memory.
     static constexpr uint64_t largest_block_bytes = uint64_t{1} << 30;
 
     struct call {
         uint64_t size;
         void *context;
-        void *block; // null when the call failed
+        void *block; // null if the call failed
     };
 
     recording_allocator()
@@ -69,7 +69,7 @@ public:
         return this;
     }
 
-    // Calls are numbered from 1, over the whole life of the allocator.
+    // Calls are numbered from 1, over the lifetime of the allocator.
     void fail_call(std::size_t number)
     {
         first_failing_ = number;
@@ -88,7 +88,7 @@ public:
         last_failing_ = 0;
     }
 
-    // For tests of memory that the codec drops by contract; the blocks are given back at the end of the test.
+    // For tests of blocks that the codec drops by design; they are released at the end of the test.
     void allow_outstanding()
     {
         outstanding_may_remain_ = true;

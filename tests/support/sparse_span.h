@@ -1,5 +1,4 @@
-// Address space as long as a length of 32 bits can say and longer. It reads as zeros, and only pages that are touched
-// take memory.
+// Address space of 4 GiB and more. It reads as zeros, and only pages that are written take memory.
 #pragma once
 
 #include "support/hex.h"
@@ -34,7 +33,7 @@ public:
             ::munmap(data_, static_cast<std::size_t>(size_));
     }
 
-    // Null when this machine has not so much address space to give: skip the test.
+    // Null if this machine does not have enough address space: skip the test.
     uint8_t *data() const
     {
         return data_;

@@ -1,5 +1,5 @@
-// Writes wire bytes one field at a time, also those that our own encoder never produces: over-long varints, tags with
-// a wrong wire type, lengths that lie. Independent of the code under test on purpose.
+// Writes wire bytes one field at a time, also some that our encoders never write: over-long varints, tags with a wrong
+// wire type, wrong lengths. Deliberately independent of the tested code.
 #pragma once
 
 #include "support/hex.h"
@@ -77,7 +77,7 @@ public:
         return *this;
     }
 
-    // A varint without a tag in exactly `width` bytes, the last ones carrying nothing but zero bits.
+    // A varint without a tag in exactly `width` bytes; the last ones have zero bits only.
     wire_builder &overlong_varint(uint64_t value, std::size_t width)
     {
         if (width == 0)
