@@ -19,14 +19,14 @@ namespace
 
 constexpr uint8_t fill = 0x5A;
 
-// All bits of `flags` but the alias bit are to be ignored.
+// All bits of `flags` except the alias bit must be ignored.
 uint32_t random_flags(bool alias, random_source &random)
 {
     const uint32_t ignored = static_cast<uint32_t>(random()) & ~uint32_t{MAVA_TUM_ALIAS};
     return alias ? ignored | MAVA_TUM_ALIAS : ignored;
 }
 
-// Nothing is obtained after the first block has been given back, so that an address stands for one block.
+// No block is allocated after the first release, so that an address identifies one block.
 std::vector<uint64_t> released_sizes(const recording_allocator &memory)
 {
     std::map<const void *, uint64_t> sizes;

@@ -1,4 +1,4 @@
-// Everything that must hold for any record at all.
+// Rules for every record.
 #pragma once
 
 #include "sweeps/message_list.h"
@@ -8,7 +8,8 @@
 namespace mava_tum_test
 {
 
-// Sends `value` through encode, decode (copying and aliasing), duplicate and free, and reports what does not fit.
+// Passes `value` through encode, decode (with and without the alias bit), duplicate and free, and reports each
+// difference.
 void check_round_trip(const message &tested, const record_value &value, random_source &random);
 
 } // namespace mava_tum_test

@@ -55,13 +55,13 @@ std::size_t hostile_inputs::below(std::size_t limit)
 byte_vector hostile_inputs::random_bytes()
 {
     byte_vector bytes(below(40));
-    // Now and then a tag, or else nearly every input would end at its first byte.
+    // Sometimes a tag: otherwise nearly every input would fail at its first byte.
     for (uint8_t &byte : bytes)
         byte = below(2) == 0 ? random_tag() : static_cast<uint8_t>(random_());
     return bytes;
 }
 
-// Of a field of this message, mostly with a wire type that it could have. Fields from 16 on need a second byte.
+// The tag of a field of this message, mostly with a possible wire type. Fields from 16 need a second byte.
 uint8_t hostile_inputs::random_tag()
 {
     constexpr uint8_t wire_types[] = {0, 0, 2, 2, 2, 5, 1, 3, 7};
@@ -124,7 +124,7 @@ void hostile_inputs::insert_field(byte_vector &wire)
     insert(wire, below(wire.size() + 1), field);
 }
 
-// The last byte of a varint, or one that could be it, gets companions that say nothing.
+// The last byte of a varint, or one that could be it, is extended by bytes without value.
 void hostile_inputs::lengthen_varint(byte_vector &wire)
 {
     const std::size_t offset = below(wire.size());

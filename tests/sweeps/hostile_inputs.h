@@ -1,4 +1,4 @@
-// Inputs that no encoder of ours sends: the wire of random records, mutated, and bytes that never were a message.
+// Inputs that our encoders never write: mutated wires of random records, and random bytes.
 #pragma once
 
 #include "sweeps/message_list.h"
@@ -16,7 +16,7 @@ public:
 
     hostile_inputs(const message &tested, uint64_t seed);
 
-    // Another input, the same ones in the same order for the same seed.
+    // The next input; a seed always makes the same sequence.
     byte_vector next();
 
     random_source &random()

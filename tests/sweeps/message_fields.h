@@ -1,5 +1,5 @@
-// The fields of every record, written down a second time: independent of the code under test, which has a list of its
-// own. A field is its kind, its number and its member. Field number n owns bit n-1 of the presence mask.
+// The fields of every record, written a second time, independently of the library's lists. A field is its kind, its
+// number and its member. Field number n owns bit n-1 of the presence mask.
 //
 // A new message gets one `visit_fields` in the file of its group.
 #pragma once

@@ -1,5 +1,5 @@
-// A second copy, written by hand so that it can disagree: the fields of the records that a session context is made of.
-// See message_fields.h.
+// A second copy, written by hand so that it can disagree: the fields of the records in a session context. See
+// message_fields.h.
 #pragma once
 
 #include "mava_tum/feature_records.h"

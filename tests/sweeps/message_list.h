@@ -1,4 +1,4 @@
-// All messages of the catalogue, each with what a sweep needs of it.
+// All messages of the catalogue, each with the data for the sweeps.
 #pragma once
 
 #include "mava_tum.h"
@@ -22,8 +22,7 @@ constexpr uint64_t work_divisor = 30;
 constexpr uint64_t work_divisor = 1;
 #endif
 
-// Of the catalogue are the name, the size of the record and the exported functions; the fields are those of
-// message_fields.h.
+// Name, record size and exported functions come from the catalogue, the fields from message_fields.h.
 struct message : mava_tum_catalogue::message {
     const record_value *skeleton = nullptr;
 
@@ -36,7 +35,7 @@ struct message : mava_tum_catalogue::message {
 
 const std::vector<message> &all_messages();
 
-// Those for which a test has something to do.
+// The messages that a test applies to.
 std::vector<message> messages_where(bool (*applies)(const message &tested));
 
 // Names one test per message after it.

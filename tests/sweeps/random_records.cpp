@@ -13,7 +13,7 @@ bool chance(random_source &random, unsigned percent)
     return random() % 100 < percent;
 }
 
-// Sizes are skewed as in real life: most values short, a few long.
+// Most values are short, a few long.
 std::size_t random_length(random_source &random)
 {
     const unsigned draw = static_cast<unsigned>(random() % 1000);
@@ -84,7 +84,7 @@ void fill_randomly(record_value &record, random_source &random)
     const unsigned present_percent = 25 * static_cast<unsigned>(random() % 5);
     for (field_value &field : record.fields) {
         field.present = chance(random, present_percent);
-        // Mostly only what is present has content, so that records of few fields come up as well.
+        // Mostly, only present fields have content, so that there are also records with few fields.
         if (field.present || chance(random, 10))
             fill_randomly(field, random);
     }
@@ -142,8 +142,8 @@ void fill_hollow(field_value &field)
     }
 }
 
-// Bits without what they promise, which an encoder leaves out: null texts, lists of no elements or of null texts only;
-// in nested records that are not marked themselves.
+// Bits without content, which an encoder does not write: null texts, lists without elements or with null texts only; in
+// nested records whose bit is clear.
 void mark_missing(record_value &record)
 {
     for (field_value &field : record.fields) {
@@ -229,7 +229,7 @@ std::size_t field_count_of(const record_value &skeleton)
     return count;
 }
 
-// Any bytes but NUL: neither the character set nor UTF-8 matters.
+// Any bytes except NUL: the character set does not matter.
 byte_vector random_text(std::size_t length, random_source &random)
 {
     byte_vector text(length);

@@ -25,19 +25,19 @@ record_value full_record(const record_value &skeleton);
 // in the middle of a list.
 record_value hollow_record(const record_value &skeleton);
 
-// The full record and the hollow one, one whose bits promise texts and lists that it does not have, one with every
-// second field, and one per field with that field alone.
+// The full record and the hollow one, one with bits but no content of texts and lists, one with every second field, and
+// one per field with that field alone.
 std::vector<named_record> seeds_of(const record_value &skeleton);
 
-// Any mixture, also the odd ones that callers may hand over: values without their bit, bits without their text, lists
-// of no elements, bytes whose pointer is null and whose length is 0. Spare mask bits are random at every depth.
+// Any mixture, also unusual ones that callers may pass: values without their bit, bits without their text, lists
+// without elements, bytes fields with a null pointer and length 0. Reserved mask bits are random at every depth.
 record_value random_record(const record_value &skeleton, random_source &random);
 
 // Gives the list `count` elements, random ones or empty ones, and marks it present.
 void fill_list(field_value &list, std::size_t count, random_source &random);
 void fill_list_with_empty_elements(field_value &list, std::size_t count);
 
-// The number of fields at all depths, with one element in each list: what a record costs to generate and compare.
+// The number of fields at all depths, with one element in each list: a measure of the time for a record.
 std::size_t field_count_of(const record_value &skeleton);
 
 byte_vector random_text(std::size_t length, random_source &random);

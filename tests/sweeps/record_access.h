@@ -1,4 +1,4 @@
-// Between a codec record in memory and its tree of values: templates over the field lists of message_fields.h.
+// Converts a codec record in memory to its tree of values and back: templates over the field lists of message_fields.h.
 #pragma once
 
 #include "sweeps/message_fields.h"
@@ -34,7 +34,7 @@ const record_value &skeleton_of()
     return skeleton;
 }
 
-// What both ways of looking at a record have in common: one field_value per field, the mask split into its two parts.
+// Common to both directions: one field_value per field, and the mask, split into its two parts.
 class field_lister
 {
 public:
@@ -144,7 +144,7 @@ private:
     }
 };
 
-// Looks at nothing but presence masks, so that the record may hold any garbage.
+// Reads presence masks only, so that the other members may be uninitialised.
 class field_blanker : public field_lister
 {
 public:
@@ -201,7 +201,7 @@ private:
     }
 };
 
-// Takes the values one by one in the order in which the record's fields are visited.
+// Reads the values one by one in the order of the record's fields.
 class field_writer
 {
 public:
@@ -351,7 +351,7 @@ record_value read_record(const record_type &record)
     return value;
 }
 
-// No content; the spare mask bits of the record and of the records held inline in it.
+// No content, but the reserved mask bits of the record and of its inline records.
 template <class record_type>
 record_value blank_of(const record_type &record)
 {

@@ -1,4 +1,4 @@
-// Lets one function template be written per record type, for the record and the constant record alike.
+// A concept for function templates per record type, const or not.
 #pragma once
 
 #include <concepts>

@@ -9,8 +9,8 @@
 namespace mava_tum_test
 {
 
-// Owns what a filled record points to. Blocks have their exact size, so that the address sanitizer sees a byte too
-// many.
+// Owns the memory that a filled record points to. Blocks have their exact size, so that the address sanitizer detects
+// an access behind them.
 class record_memory
 {
 public:

@@ -9,7 +9,7 @@
 namespace mava_tum_test
 {
 
-// Has the record's exact size, so that the address sanitizer sees a byte too many.
+// Has the record's exact size, so that the address sanitizer detects an access behind it.
 class record_storage
 {
 public:
@@ -23,7 +23,7 @@ public:
         tested.fill(record_, value, memory_);
     }
 
-    // What a decode or a duplicate has to overwrite: wild pointers, random bits.
+    // Random content that a decode or duplicate must overwrite: invalid pointers, random bits.
     record_storage(const message &tested, random_source &random) : record_storage(tested)
     {
         uint8_t *bytes = static_cast<uint8_t *>(record_);
@@ -41,7 +41,7 @@ public:
         return tested_.read(record_);
     }
 
-    // The spare mask bits, which stay what they are, and nothing else.
+    // The reserved mask bits, which do not change, and nothing else.
     record_value blank() const
     {
         return tested_.blank(record_);

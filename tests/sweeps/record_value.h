@@ -1,7 +1,7 @@
-// A codec record as a tree of plain values: what the sweeps generate, compare and predict with.
+// A codec record as a tree of plain values, with which the sweeps generate, compare and predict.
 //
-// It knows no message. A skeleton, made from a record type by record_access.h, says which fields there are; everything
-// else in this folder works on such trees, so that a new message needs no code but its field list.
+// It knows no message. A skeleton, made from a record type by record_access.h, has the fields. All other code of this
+// folder works on such trees, so a new message needs only its field list.
 #pragma once
 
 #include "support/hex.h"
@@ -31,7 +31,7 @@ struct field_value {
     bool present = false;
     // The number itself; of `bytes` the length member, of `records` and `texts` the count member.
     uint64_t integer = 0;
-    // Of `bytes` and `text`: what the pointer refers to, nothing if it is null.
+    // Of `bytes` and `text`: the content behind the pointer, nothing if it is null.
     std::optional<byte_vector> content;
     // Of `record`: exactly one. Of `records`: the elements, none if the pointer is null.
     std::vector<record_value> records;
@@ -40,7 +40,7 @@ struct field_value {
 };
 
 struct record_value {
-    // Bits of the presence mask that belong to no field: those that are set, and all there are.
+    // The reserved bits of the presence mask: those that are set, and all.
     uint64_t spare_bits = 0;
     uint64_t all_spare_bits = 0;
     std::vector<field_value> fields;
@@ -52,7 +52,7 @@ inline bool is_list(field_kind kind)
     return kind == field_kind::records || kind == field_kind::texts;
 }
 
-// Whether an encoder that knows gather mode produces this record: some field of it, at any depth, is a bytes field.
+// Whether its encoder has gather mode: a field, at any depth, is a bytes field.
 bool holds_bytes(const record_value &skeleton);
 
 // Names the first difference, with the path of field numbers that leads to it.

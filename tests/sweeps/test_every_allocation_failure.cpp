@@ -1,4 +1,4 @@
-// What is left when memory runs out, at every single call of the allocator, once and from then on?
+// What is the result if an allocation fails: each call in turn, once or from then on?
 #include "support/guarded_buffer.h"
 #include "support/recording_allocator.h"
 #include "sweeps/expected_record.h"

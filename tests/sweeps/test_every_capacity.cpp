@@ -1,4 +1,4 @@
-// Does an encoder keep to its buffer, whatever its capacity, and always say what it would have needed?
+// Does an encoder stay inside its buffer for every capacity, and always return the full size?
 #include "support/guarded_buffer.h"
 #include "sweeps/expected_wire.h"
 #include "sweeps/message_list.h"
@@ -26,7 +26,7 @@ class every_capacity_for_long_records : public testing::TestWithParam<message>
 {
 };
 
-// Messages that hold no bytes know no gather mode: for them both modes give the same output.
+// Messages without bytes fields have no gather mode: both modes have the same output.
 wire_mode wire_mode_of(const message &tested, uint32_t flags)
 {
     return flags == MAVA_TUM_ALIAS && holds_bytes(*tested.skeleton) ? wire_mode::gathered : wire_mode::copied;
@@ -45,7 +45,7 @@ testing::AssertionResult matches(guarded_buffer &buffer, const byte_vector &expe
 void check_capacity(const message &tested, const void *record, const expected_wire &wire, std::size_t capacity,
     uint32_t flags, bool with_segments)
 {
-    // Two fills: a byte that is wrongly written with the value that was there before shows up in the other one.
+    // Two fills: a byte that is wrongly written with the same value as the fill differs from the other fill.
     for (const uint8_t fill : {uint8_t{0x00}, uint8_t{0xFF}}) {
         guarded_buffer buffer(capacity, fill);
         std::array<mava_tum_segment, segment_capacity> segments{};
@@ -92,11 +92,11 @@ TEST_P(every_capacity, is_kept_to_when_bytes_are_gathered)
     check_every_capacity(GetParam(), MAVA_TUM_ALIAS);
 }
 
-// Makes the wire of a field several kilobytes long, as many elements or as one block. Says whether the field can be.
+// Extends a field to several kilobytes on the wire, by many elements or by one block. Returns whether that is possible.
 bool make_long(field_value &field)
 {
     const std::size_t block_bytes = field.number % 2 == 0 ? 2500 : 9000;
-    // Some 5 kB: each further one would cost another thousand capacities.
+    // 5 kB: each further kilobyte would add a thousand capacities.
     const auto count_for = [](std::size_t element_bytes) {
         return std::clamp<std::size_t>(5000 / element_bytes, 6, 40);
     };
@@ -116,7 +116,7 @@ bool make_long(field_value &field)
     return true;
 }
 
-// Long enough for an encoder that works in portions.
+// Long enough for an encoder that writes in several parts.
 std::vector<named_record> long_records_of(const message &tested)
 {
     const record_value full = full_record(*tested.skeleton);

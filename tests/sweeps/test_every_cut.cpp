@@ -1,4 +1,4 @@
-// Does a decoder survive an input that ends anywhere, and does it deliver exactly what was complete by then?
+// Does a decoder handle an input that is truncated at any byte, and keep exactly the complete fields?
 #include "support/guarded_buffer.h"
 #include "support/recording_allocator.h"
 #include "sweeps/expected_record.h"

@@ -1,5 +1,5 @@
-// Do all decoders take any bytes at all, and say the same about them as a decoder that was written for nothing but
-// being right? The same inputs in every run.
+// Do all decoders handle any bytes, with the same results as a second, simple decoder? The inputs are the same in every
+// run.
 #include "support/guarded_buffer.h"
 #include "support/recording_allocator.h"
 #include "sweeps/expected_decode.h"
@@ -24,7 +24,7 @@ constexpr uint64_t input_count = 20000 / work_divisor;
 class hostile_input : public testing::TestWithParam<message>
 {
 protected:
-    // Decodes one input as `run` says. Returns the result code.
+    // Decodes one input with the options of `run`. Returns the result code.
     int32_t check(const byte_vector &wire, decode_run &run)
     {
         uint8_t *span = place(wire);
@@ -51,7 +51,7 @@ protected:
         return result;
     }
 
-    // Counts how often each result came up, from MAVA_TUM_OK down.
+    // Counts each result, from MAVA_TUM_OK down.
     using result_counts = std::array<uint64_t, 5>;
 
     // Runs `check_one(wire, random)`, which returns a result code, over all inputs.
@@ -73,7 +73,7 @@ protected:
     }
 
 private:
-    // What was decoded, also before a failure, can be sent on.
+    // A decoded record can be encoded, also after a failure.
     void check_encode(record_storage &record, const byte_vector &expected)
     {
         byte_vector again(expected.size());
@@ -93,7 +93,7 @@ private:
     random_source garbage_{first_seed};
 };
 
-// Guards the tests below against inputs that have become harmless.
+// Checks that the inputs of the tests below reach all results.
 void expect_variety(const std::array<uint64_t, 5> &counts)
 {
     EXPECT_GT(counts[0], input_count / 20) << "messages that decode";
@@ -129,7 +129,7 @@ TEST_P(hostile_input, is_survived_without_an_allocator)
     });
 }
 
-// How many blocks a decode asks for when it gets them all.
+// The number of blocks that a decode requests without a failure.
 uint64_t call_count_of(const message &tested, const byte_vector &wire, bool alias)
 {
     decode_run undisturbed;

@@ -1,4 +1,4 @@
-// Is it enough for a decoder that its input can be read? A write into it, even one that is undone, stops the program.
+// Can a decoder read a read-only input? A write into it, even one that is undone, stops the program.
 #include "support/guarded_buffer.h"
 #include "support/recording_allocator.h"
 #include "sweeps/expected_record.h"
@@ -47,7 +47,7 @@ void check_whole(const message &tested, const record_value &sent, page_end_buffe
     tested.free(record.get(), recording_allocator::release, memory.context(), flags);
 }
 
-// What comes of a cut input is told by test_every_cut.cpp.
+// test_every_cut.cpp tests truncated inputs.
 void decode_every_cut(const message &tested, page_end_buffer &input, bool alias)
 {
     const uint32_t flags = alias ? MAVA_TUM_ALIAS : 0;

@@ -1,4 +1,4 @@
-// Does any record come back as it was sent? Random records, the same ones in every run.
+// Does every record arrive as it was sent? Random records, the same ones in every run.
 #include "sweeps/check_round_trip.h"
 #include "sweeps/message_list.h"
 #include "sweeps/random_records.h"

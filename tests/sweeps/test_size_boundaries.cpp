@@ -1,5 +1,5 @@
-// Do records survive at the sizes where encoders like to change their ways: where a length prefix grows by a byte,
-// where a buffer on the stack would end, where a list becomes long?
+// Are records correct at the sizes where an encoder changes its method: where a length gets one byte longer, where a
+// buffer on the stack ends, where a list becomes long?
 #include "sweeps/check_round_trip.h"
 #include "sweeps/expected_wire.h"
 #include "sweeps/message_list.h"
@@ -28,7 +28,7 @@ bool is_block(field_kind kind)
     return kind == field_kind::bytes || kind == field_kind::text;
 }
 
-// The way to a field: an index into the fields of each record on it.
+// The path to a field: an index into the fields of each record.
 using field_path = std::vector<std::size_t>;
 
 void find_paths(const record_value &skeleton, bool lists, field_path &path, std::vector<field_path> &found)
@@ -56,7 +56,7 @@ std::vector<field_path> paths_to(const record_value &skeleton, bool lists)
     return found;
 }
 
-// The field at the end of the path, in the first element of each list on the way; an empty list gets one.
+// The field at the end of the path, in the first element of each list; an empty list gets one element.
 field_value &field_at(record_value &record, const field_path &path)
 {
     record_value *holder = &record;
@@ -144,8 +144,8 @@ TEST_P(size_boundaries, of_the_whole_message_are_crossed_by_a_field_of_a_full_re
     }
 }
 
-// A list of session contexts has a hundred times the fields of a list of texts: its longest counts are left out, since
-// they would take minutes and a gigabyte.
+// A list of session contexts has a hundred times the fields of a list of texts: its longest counts would take minutes
+// and a gigabyte, and are left out.
 bool is_affordable(const field_value &list, std::size_t count)
 {
     const std::size_t field_count = list.element_skeleton == nullptr ? 1 : field_count_of(*list.element_skeleton);
