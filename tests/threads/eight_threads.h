@@ -12,8 +12,8 @@ namespace mava_tum_test
 constexpr std::size_t thread_count = 8;
 constexpr int rounds = 100;
 
-// How many rounds of `work` (it returns whether all was well) failed, in all threads. All start together, so that they
-// are in the same function at the same time.
+// The number of failed rounds of `work`, which returns true on success, in all threads. All start together, so that
+// they are in the same function at the same time.
 template <class work_type>
 int failures_in_eight_threads(const work_type &work)
 {

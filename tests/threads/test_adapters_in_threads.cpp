@@ -1,4 +1,4 @@
-// May any number of threads send one application record and receive one message, each into a record of its own?
+// Can any number of threads send one application record and receive one message, each into its own record?
 #include "nal/adapter_list.h"
 #include "threads/eight_threads.h"
 

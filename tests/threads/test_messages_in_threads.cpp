@@ -1,4 +1,4 @@
-// May any number of threads read one wire and one record, each into a record of its own?
+// Can any number of threads read one wire and one record, each into its own record?
 #include "support/hex.h"
 #include "sweeps/message_list.h"
 #include "sweeps/random_records.h"
@@ -14,7 +14,7 @@ namespace mava_tum_test
 namespace
 {
 
-// A thread's own allocator: recording_allocator keeps a list that all threads would share.
+// An allocator per thread: all threads would share the list of a recording_allocator.
 class block_counter
 {
 public:
@@ -46,7 +46,7 @@ byte_vector encoded(const message &tested, const void *record)
     return wire;
 }
 
-// A decode of `wire` into a record of this thread's: the same message again, and nothing left afterwards.
+// Decodes `wire` into a record of this thread: it encodes to the same message, and no block is left.
 bool decodes_and_frees(const message &tested, const byte_vector &wire, uint32_t flags)
 {
     block_counter blocks;
