@@ -1,4 +1,4 @@
-// The part of the C interface that knows the adapters.
+// The functions of the C interface that concern adapters.
 #include "inspector/library/check.h"
 
 using namespace mava_tum_inspect;

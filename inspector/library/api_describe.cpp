@@ -1,4 +1,4 @@
-// The part of the C interface that enumerates and describes messages.
+// The functions of the C interface that list and describe messages.
 #include "inspector/library/message_table.h"
 #include "mava_tum_inspect.h"
 

@@ -1,4 +1,4 @@
-// The part of the C interface that explains wire bytes and judges them.
+// The functions of the C interface that explain and judge wire bytes.
 #include "inspector/library/decode_memory.h"
 #include "inspector/library/explain.h"
 #include "inspector/library/message_table.h"

@@ -1,4 +1,4 @@
-// The part of the C interface for those who do not know what they have, or what it is called.
+// The functions of the C interface for unknown messages and wrong names.
 #include "inspector/library/guess.h"
 #include "inspector/library/message_table.h"
 #include "inspector/library/similar_names.h"
@@ -10,7 +10,7 @@ namespace
 
 using namespace mava_tum_inspect;
 
-// As many as anybody wants to read.
+// The largest useful number.
 constexpr uint32_t most_names = 8;
 
 template <class Described>

@@ -100,7 +100,7 @@ public:
     }
 
 private:
-    // A record that is being walked, and what takes its fields.
+    // A record of the walk, and the members that receive its fields.
     struct frame {
         std::span<const member_limit> members;
         bool arrives = false;      // false: it is beyond the slots of a list, or inside such a record
@@ -118,7 +118,7 @@ private:
 
     // ---- values ----
 
-    // A zero, or nothing, arrives as zero whether anything takes it or not.
+    // A zero or empty value arrives as zero, also without a member.
     static bool has_content(const occurrence &at)
     {
         const bool is_number = at.field->kind == field_kind::varint || at.field->kind == field_kind::fixed32;

@@ -1,4 +1,4 @@
-// What a decode asks its allocator for: exactly, to the byte and the call, when no call fails.
+// The exact calls and bytes that a decode requests from its allocator if no call fails.
 #pragma once
 
 #include "inspector/library/wire_walk.h"

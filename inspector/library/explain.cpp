@@ -135,7 +135,7 @@ private:
         }
     }
 
-    // ---- what a fault leaves of a field ----
+    // ---- a field with a fault ----
 
     void tell_cut_tag(const occurrence &at)
     {
@@ -164,7 +164,7 @@ private:
         tell(kind, at.depth, place, path, text);
     }
 
-    // As many lines as the bytes need.
+    // One or more lines for the bytes.
     void tell(int32_t kind, uint32_t depth, const extent &place, const path_text &path, const sentence &text)
     {
         mava_tum_inspect_line line{kind, depth, place.offset, row_bytes(place.bytes), path.c_str(), text.c_str()};

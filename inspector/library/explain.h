@@ -10,11 +10,11 @@
 namespace mava_tum_inspect
 {
 
-// Gives `line_fn` the lines with an offset from the start of `data`. `verdict` may be null.
+// Calls `line_fn` with the lines; offsets are from the start of `data`. `verdict` may be null.
 void explain_message(const message_description &message, const uint8_t *data, uint64_t length,
     mava_tum_inspect_line_fn line_fn, void *context, mava_tum_inspect_verdict *verdict);
 
-// Both as functions of what a walk met, for visitors with a purpose of their own.
+// Both for a single event of a walk, for other visitors.
 void fill_success(mava_tum_inspect_verdict &verdict, uint64_t length);
 void fill_fault(mava_tum_inspect_verdict &verdict, const wire_fault &fault);
 

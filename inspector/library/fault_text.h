@@ -1,4 +1,4 @@
-// The sentence that says why a decode failed, and where.
+// The sentence with the reason and place of a failed decode.
 #pragma once
 
 #include "inspector/library/text_builder.h"
@@ -13,7 +13,7 @@ using sentence = text_builder<MAVA_TUM_INSPECT_SENTENCE_BYTES>;
 // "`field_3` occurs in a second, separate run at byte 41: result -1"
 void describe_fault(sentence &text, const wire_fault &fault);
 
-// The field that is at fault: an array as a whole where the rule is about it, the record where a tag is cut.
+// The field with the fault: the array if the rule is about an array, the record if a tag is truncated.
 void describe_fault_path(path_text &path, const wire_fault &fault);
 
 // "varint", "length-delimited", ..., "wire type 6".

@@ -1,4 +1,4 @@
-// Where a field stands, as names: "session_data.l2tp.field_2", "route_ipv4[3].field_9", "session_data.#99" for a number
+// The path of a field, as names: "session_data.l2tp.field_2", "route_ipv4[3].field_9", "session_data.#99" for a number
 // that the record does not know.
 #pragma once
 
@@ -11,7 +11,7 @@
 namespace mava_tum_inspect
 {
 
-// One step from a record into a field. Steps live on the stack of the walk and point up to where they came from.
+// One step from a record into a field. Steps are on the stack of the walk and point to the enclosing step.
 struct path_step {
     static constexpr uint64_t no_index = UINT64_MAX; // an array as a whole, and whatever is none
 
@@ -21,7 +21,7 @@ struct path_step {
     uint64_t index = no_index;
 };
 
-// Longer than any path: a test puts the longest together.
+// Longer than any path: a test constructs the longest.
 using path_text = text_builder<MAVA_TUM_INSPECT_PATH_BYTES>;
 
 // `step` may be null: the empty path of the message itself.

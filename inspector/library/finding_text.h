@@ -1,4 +1,4 @@
-// What would not arrive in an application record, in a sentence. They all begin with the field.
+// The sentence for a value that does not arrive in an application record. It begins with the field.
 #pragma once
 
 #include "inspector/library/fault_text.h"
@@ -11,7 +11,7 @@
 namespace mava_tum_inspect
 {
 
-// A finding before it has a text.
+// A finding without its text.
 struct raw_finding {
     int32_t kind;
     const occurrence &at;

@@ -12,7 +12,7 @@ namespace mava_tum_inspect
 namespace
 {
 
-// What a peer of this library does not write, besides unknown fields.
+// Forms that this library does not write, except unknown fields.
 constexpr uint32_t odd_notes = ~(static_cast<uint32_t>(note::unknown_field) | static_cast<uint32_t>(note::beyond_end));
 
 class weigher final : public wire_visitor
@@ -55,7 +55,7 @@ bool is_likelier(const mava_tum_inspect_candidate &first, const mava_tum_inspect
     return rank(first) < rank(second);
 }
 
-// Behind those that are as likely. What falls off the end is only counted.
+// After those that are as likely. Candidates above the capacity are only counted.
 void insert(const mava_tum_inspect_candidate &candidate, std::span<mava_tum_inspect_candidate> places, uint32_t found)
 {
     const std::size_t used = std::min<std::size_t>(found, places.size());

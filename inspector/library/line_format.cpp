@@ -22,7 +22,7 @@ void add_spaces(line_text &text, std::size_t count)
         text.add(" ");
 }
 
-// Right-aligned. Where there are no bytes the place has been told already.
+// Right-aligned. A line without bytes has no offset.
 void add_offset(line_text &text, const mava_tum_inspect_line &line)
 {
     line_text digits;

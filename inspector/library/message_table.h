@@ -1,5 +1,5 @@
-// The messages and adapters as data, for programs that are told at run time which one they have before them: the
-// catalogue, and what is asked of it here.
+// The messages and adapters as data, for programs that select one at run time: the catalogue, with the functions for
+// its use here.
 #pragma once
 
 #include "catalogue.h"
@@ -22,14 +22,14 @@ using adapter_description = mava_tum_catalogue::adapter;
 using field_description = mava_tum_catalogue::field;
 using message_description = mava_tum_catalogue::message;
 
-// Null: the message has no such field.
+// Null if the message has no such field.
 const field_description *find_field(const message_description &message, uint32_t number);
 const field_description *find_field(const message_description &message, std::string_view name);
 
-// By the adapter's name or, where one adapter alone carries it, the message's. Null: there is none.
+// By the adapter's name, or by the message's name if only one adapter carries it. Null if there is none.
 const adapter_description *find_adapter(std::string_view name);
 
-// Null: nothing takes the field.
+// Null if no member receives the field.
 const member_limit *find_limit(std::span<const member_limit> members, uint32_t number);
 
 // "varint", "fixed32", "bytes", "text", "record", "array of records", "array of texts".

@@ -1,4 +1,4 @@
-// What is to be said about a field that was accepted although it is odd, or that is lost on the way.
+// The notes on a field that is accepted out of leniency, or whose value is lost.
 #pragma once
 
 #include "inspector/library/fault_text.h"
@@ -7,7 +7,7 @@
 namespace mava_tum_inspect
 {
 
-// In the order in which they are told.
+// In the order of the notes.
 inline constexpr note all_notes[] = {note::over_long_tag, note::cut_tag, note::wire_type_in_run, note::unknown_field,
     note::number_zero, note::over_long_length, note::cut_length, note::over_long_value, note::cut_value,
     note::beyond_end, note::replaced_value, note::replaced_record, note::nul_in_text, note::no_utf8, note::no_address};

@@ -8,8 +8,8 @@ namespace mava_tum_inspect
 namespace
 {
 
-// A sequence by its first byte: how many bytes follow, and which bits of the first are payload. The rest of the rules
-// (no over-long forms, no surrogates, nothing above U+10FFFF) is a range of the code point.
+// A sequence by its first byte: the number of bytes that follow, and the payload bits of the first. The other rules (no
+// over-long forms, no surrogates, nothing above U+10FFFF) are ranges of the code point.
 struct utf8_sequence {
     uint32_t following;
     uint32_t first_payload;

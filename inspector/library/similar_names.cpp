@@ -12,7 +12,7 @@ namespace
 
 constexpr std::size_t longest_name = 63;
 
-// Whether the one is part of the other, and not only by chance.
+// Whether one is part of the other, and long enough for that to be no accident.
 bool contains_other(std::string_view wrong, std::string_view candidate)
 {
     constexpr std::size_t telling = 4;
@@ -20,7 +20,7 @@ bool contains_other(std::string_view wrong, std::string_view candidate)
            (candidate.size() >= telling && wrong.find(candidate) != std::string_view::npos);
 }
 
-// As if a name that was written in part, or with something before it, had one wrong character.
+// A name that is a part of another counts as if it had one wrong character.
 uint32_t distance_between(std::string_view wrong, std::string_view candidate)
 {
     const uint32_t distance = edit_distance(wrong, candidate);
@@ -29,7 +29,7 @@ uint32_t distance_between(std::string_view wrong, std::string_view candidate)
 
 } // namespace
 
-// Row by row of the table of distances between the beginnings of both.
+// Computes the table of distances between the beginnings of both, row by row.
 uint32_t edit_distance(std::string_view first, std::string_view second)
 {
     first = first.substr(0, longest_name);

@@ -1,4 +1,4 @@
-// Short texts put together in place, without the heap. What does not fit is cut, and three points say so.
+// Builds short texts in place, without the heap. A text that does not fit is truncated and ends with three dots.
 #pragma once
 
 #include <algorithm>

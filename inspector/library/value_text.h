@@ -9,16 +9,16 @@
 namespace mava_tum_inspect
 {
 
-// The value of a varint, fixed32, bytes field or text; of an unknown field, what is known of it. `data` is the whole
+// The value of a varint, fixed32, bytes field or text, or the known parts of an unknown field. `data` is the whole
 // message.
 void describe_value(sentence &text, const occurrence &at, const uint8_t *data);
 
-// `network_order`: as it stands in a record, the first octet in the lowest byte.
+// `network_order`: as in a codec record, with the first octet in the lowest byte.
 void add_ipv4(sentence &text, uint32_t network_order);
 
 void add_ipv6(sentence &text, const uint8_t *address);
 
-// In double quotes, what is not printable ASCII as \xNN; of a long one the beginning, and how long it is.
+// In double quotes, other characters than printable ASCII as \xNN; a long text is shortened, with its length.
 void add_quoted(sentence &text, const uint8_t *bytes, uint64_t length);
 
 } // namespace mava_tum_inspect

@@ -1,5 +1,5 @@
-// Values as they stand in the input: besides the value, where it begins, how many bytes it takes, and whether it was
-// written in a form that the decoders only put up with. The codec's own primitives keep none of that.
+// Reads values with their position, their number of bytes, and whether they are in a form that is accepted only out of
+// leniency. The codec's own primitives do not keep these.
 #pragma once
 
 #include <cstdint>
@@ -12,7 +12,7 @@ struct extent {
     uint64_t bytes = 0;
 };
 
-// A position in the whole message, and where the record around it ends.
+// A position in the whole message, and the end of the record around it.
 struct wire_cursor {
     const uint8_t *data;
     uint64_t position;
@@ -25,7 +25,7 @@ struct wire_cursor {
 };
 
 struct varint_read {
-    extent place; // as far as it lies inside
+    extent place; // the part inside the record
     uint64_t value = 0;
     bool is_whole = false;
     bool is_over_long = false; // in more bytes than the value needs
@@ -38,12 +38,12 @@ struct fixed32_read {
     bool is_whole = false;
 };
 
-// Seven bits a byte, of which the low `value_bits` (32 or 64) count; any number of bytes.
+// Seven bits per byte, of which the low `value_bits` (32 or 64) count; any number of bytes.
 varint_read read_varint(wire_cursor &cursor, uint32_t value_bits);
 
 fixed32_read read_fixed32(wire_cursor &cursor);
 
-// How many bytes a varint of this value needs.
+// The number of bytes that a varint of this value needs.
 uint64_t varint_bytes(uint64_t value);
 
 } // namespace mava_tum_inspect

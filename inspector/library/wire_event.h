@@ -1,4 +1,4 @@
-// What a walk over wire bytes meets: fields as they stand there, and the fault that ends a decode.
+// The events of a walk over wire bytes: fields, and the fault that ends a decode.
 #pragma once
 
 #include "inspector/library/field_path.h"
@@ -10,7 +10,7 @@
 namespace mava_tum_inspect
 {
 
-// What the decoders accept although no writer of this library produces it. See docs/leniency.md for the numbers.
+// Forms that the decoders accept and no encoder of this library writes. docs/leniency.md has the numbers.
 enum class note : uint32_t {
     over_long_tag = 1 << 0,    // L2
     cut_tag = 1 << 1,          // L2: bits above 32 were dropped
@@ -59,7 +59,7 @@ struct occurrence {
     note_set notes;
 };
 
-// Why a decode ends with an error.
+// The reason for an error of a decode.
 enum class fault_rule : uint8_t {
     none,
     tag_cut,               // a tag is not whole
@@ -86,7 +86,7 @@ struct wire_fault {
     occurrence at;   // as far as it was read
 };
 
-// MAVA_TUM_OK or the code with which a decode answers a fault.
+// MAVA_TUM_OK, or the result of a decode for a fault.
 int32_t result_of(fault_rule rule);
 
 } // namespace mava_tum_inspect

@@ -37,14 +37,14 @@ public:
     }
 
 private:
-    // A record that is being walked.
+    // A record of the walk.
     struct record_frame {
         const message_description &record;
         const path_step *parent; // null: it is the message itself
         uint32_t depth;
     };
 
-    // False: a fault has ended the decode. So it is with all that follow.
+    // Returns false if a fault has ended the decode. So do all functions below.
     bool walk_fields(const record_frame &frame, uint32_t &present)
     {
         while (cursor_.position != cursor_.end) {
@@ -92,7 +92,7 @@ private:
         return true;
     }
 
-    // ---- scalars: the last occurrence wins ----
+    // ---- scalars: the last occurrence is kept ----
 
     bool walk_varint(occurrence &at, bool seen)
     {
@@ -147,7 +147,7 @@ private:
 
     // ---- nested records ----
 
-    // L11: a second occurrence starts over.
+    // L11: a second occurrence resets the record.
     bool walk_nested(occurrence &at, bool seen)
     {
         const fault_rule broken = read_payload(at);
@@ -170,10 +170,10 @@ private:
         return true;
     }
 
-    // ---- arrays: a run is counted before anything of it is decoded ----
+    // ---- arrays: a run is counted before its elements are decoded ----
 
     struct run_scan {
-        uint64_t elements = 0; // whole ones
+        uint64_t elements = 0; // complete ones
         fault_rule rule = fault_rule::none;
     };
 
@@ -233,7 +233,7 @@ private:
         return walk_elements(frame, first, scan.elements);
     }
 
-    // The run has been counted: all of it lies inside.
+    // The run has been counted: all of it is inside the record.
     bool walk_elements(const record_frame &frame, const occurrence &first, uint64_t elements)
     {
         occurrence entry = first;
@@ -291,7 +291,7 @@ private:
         return skip_bytes(at, length.value);
     }
 
-    // L3: no bounds test. What ends behind the record ends the record, with success.
+    // L3: no bounds test. A value that ends behind the record ends the record, with success.
     bool skip_bytes(occurrence &at, uint64_t bytes)
     {
         at.stated_bytes = bytes;
@@ -333,7 +333,7 @@ private:
         return length;
     }
 
-    // A length and the test that its value lies inside. Leaves the cursor in front of the value.
+    // Reads a length, and tests that its value is inside. The cursor is then before the value.
     fault_rule read_payload(occurrence &at)
     {
         const varint_read length = read_length(at);

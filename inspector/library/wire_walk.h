@@ -1,8 +1,8 @@
-// A walk over wire bytes that takes every step a decode takes, in the same order, and tells a visitor what it meets.
-// It needs no memory but the stack: messages nest a few records deep, however long they are.
+// A walk over wire bytes that makes every step of a decode, in the same order, and calls a visitor for each event. It
+// needs the stack only: the depth of nesting is limited.
 //
-// The verdict is that of a decode with an allocator that never fails. One that fails, or none at all, can only end a
-// decode earlier, with MAVA_TUM_NO_MEMORY.
+// The verdict is that of a decode with an allocator that never fails. With a failing allocator, or none, the decode may
+// end earlier, with MAVA_TUM_NO_MEMORY.
 #pragma once
 
 #include "inspector/library/wire_event.h"
@@ -12,7 +12,7 @@
 namespace mava_tum_inspect
 {
 
-// Events come in the order of the bytes. Whoever does not care about one leaves it out.
+// Events are in the order of the bytes. A visitor need not handle all of them.
 class wire_visitor
 {
 public:
