@@ -1,5 +1,5 @@
-/* A program in C that calls every function of the shared library once. Prints what is wrong; exits with 0 when nothing
- * is. */
+/* A program in C that calls every function of the shared library once. Prints each error; exits with 0 if there is
+ * none. */
 #include "mava_tum_inspect.h"
 
 #include <stdio.h>

@@ -1,4 +1,4 @@
-// The inspector's C functions as tests want them: bytes in, strings and vectors out.
+// Calls the inspector's C functions for tests: bytes in, strings and vectors out.
 #pragma once
 
 #include "mava_tum_inspect.h"
@@ -16,7 +16,7 @@ namespace mava_tum_test
 // ---- explain ----
 
 struct explained {
-    std::string lines; // as format_line writes them, each with a line end
+    std::string lines; // as from format_line, each with a line end
     mava_tum_inspect_verdict verdict;
 };
 

@@ -1,6 +1,5 @@
-// check_inspect_verdict <inputs> [<seed>]
-// Compares the verdict of the inspector with the library's result, presence and memory for at least that many inputs.
-// The last line is the sum; exits with 1 at the first difference.
+// check_inspect_verdict <inputs> [<seed>] Compares the verdict of the inspector with the library's result, presence and
+// memory for at least this number of inputs. The last line is the total; exits with 1 at the first difference.
 #include "verdict_agreement.h"
 
 #include <cstdio>

@@ -1,5 +1,4 @@
-// Every limit against the adapter itself: a message at the limit, of which nothing may be lost, and one above it, of
-// which something must be.
+// Compares every limit with the adapter: a message at the limit must arrive completely, one above it must not.
 #include "arrived_values.h"
 #include "inspect_calls.h"
 #include "inspector/library/message_table.h"
@@ -21,7 +20,7 @@ using wrapper = std::function<byte_vector(const byte_vector &)>;
 
 struct tested_limit {
     const adapter_description &adapter;
-    const message_description &record; // that the field stands in
+    const message_description &record; // that has the field
     const member_limit &limit;
     const wrapper &in_message;
     std::string path; // for failures
@@ -185,7 +184,7 @@ TEST(adapter_limits, a_list_that_fills_its_slots_arrives_and_one_element_more_is
     EXPECT_GT(lists, 10u);
 }
 
-// ---- fields that nothing takes ----
+// ---- fields without a member ----
 
 byte_vector any_value(const field_description &field, bool is_empty)
 {

@@ -1,5 +1,4 @@
-// The check against the adapters, on random and mutated messages: what it finds is lost, and what it does not find is
-// not.
+// Compares the check with the adapters on random and mutated messages: exactly the reported values do not arrive.
 #include "arrived_values.h"
 #include "inspect_calls.h"
 #include "model/message_tables.h"
@@ -38,7 +37,7 @@ void expect_agreement(const adapter_description &adapter, const byte_vector &inp
         ++seen.clean;
         return;
     }
-    // A value that is replaced by its equal is told of, and nobody misses it.
+    // A value that is replaced by an equal one is reported, but not lost.
     if (found.has(MAVA_TUM_INSPECT_REPLACED))
         return;
     EXPECT_NE(lost, std::vector<std::string>()) << adapter.name << " " << hex_of(input) << "\n" << found.texts();

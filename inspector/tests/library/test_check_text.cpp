@@ -1,4 +1,4 @@
-// Each kind of finding in words, and what goes with it.
+// The sentence and the data of each kind of finding.
 #include "inspect_calls.h"
 #include "mava_tum.h"
 #include "support/wire_builder.h"

@@ -1,4 +1,4 @@
-// What an explanation looks like, to the character.
+// The exact text of explanations.
 #include "inspect_calls.h"
 #include "support/wire_builder.h"
 #include "verdict_agreement.h"

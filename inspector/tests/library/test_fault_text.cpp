@@ -1,4 +1,4 @@
-// One broken input for each rule, and the sentence about it.
+// One malformed input for each rule, and its sentence.
 #include "inspect_calls.h"
 #include "inspector/library/message_table.h"
 #include "support/wire_builder.h"
@@ -83,7 +83,8 @@ INSTANTIATE_TEST_SUITE_P(inspect_judge, every_fault,
         broken{"subscriber_v4", "07", "#0", 0,
             "unknown field 0 has wire type 7, which cannot be skipped, at byte 0: result -2"}));
 
-// The one fault that no allocator can help: a text of 2^32 - 1 bytes, from pages that are never written.
+// The only fault of memory that does not depend on the allocator: a text of 2^32 - 1 bytes, from pages that are never
+// written.
 TEST(inspect_judge, tells_of_a_text_that_is_too_long_for_a_block)
 {
     constexpr std::size_t head = 6, bytes = head + UINT32_MAX;
@@ -110,7 +111,7 @@ TEST(inspect_judge, counts_from_the_start_of_the_whole_message)
     EXPECT_STREQ(verdict.path, "field_2[0].field_3.field_7");
 }
 
-// ---- no path and no sentence is longer than its room ----
+// ---- no path and no sentence is longer than its buffer ----
 
 std::size_t longest_path(const mava_tum_inspect::message_description &message)
 {

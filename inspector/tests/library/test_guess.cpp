@@ -21,7 +21,7 @@ std::vector<mava_tum_inspect_candidate> guess(const byte_vector &input, uint32_t
     return candidates;
 }
 
-// Two messages have the same fields as another: no bytes tell them apart.
+// Two messages have the same fields as another: no bytes distinguish them.
 TEST(inspect_guess, puts_every_message_with_all_its_fields_among_the_likeliest)
 {
     for (const mava_tum_model::message *of : mava_tum_model::all_messages()) {

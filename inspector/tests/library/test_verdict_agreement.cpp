@@ -7,7 +7,7 @@ namespace
 
 using namespace mava_tum_test;
 
-// The command scripts/check/inspect_verdict goes on from there.
+// The command scripts/check/inspect_verdict continues with other inputs.
 TEST(inspect_verdict, equals_the_result_of_the_library_on_random_and_mutated_inputs)
 {
     const agreement sum = compare_many(25000, 1);

@@ -38,11 +38,11 @@ std::ostream &operator<<(std::ostream &stream, const outcome &shown)
                   << " blocks of " << shown.asked.bytes << " bytes";
 }
 
-// Everything that the library asks for, kept until the end: a record that occurs twice drops its blocks (L11).
+// All blocks of the library, kept until the end: a record that occurs twice drops its blocks (L11).
 struct counting_blocks {
     memory_asked_for asked;
     std::vector<void *> given;
-    uint64_t fails_at = 0; // this call gives nothing; 0: none
+    uint64_t fails_at = 0; // this call returns null; 0: none
 
     ~counting_blocks()
     {

@@ -1,4 +1,4 @@
-// The walk against the library: for any bytes, both say the same about result, presence and memory.
+// Compares the walk with the library: for any bytes, both must agree on result, presence and memory.
 #pragma once
 
 #include "inspector/library/message_table.h"
@@ -17,12 +17,12 @@ struct comparison {
     std::string difference; // empty if both agree; otherwise with the input in hex
 };
 
-// Once copying bytes fields and once aliasing them, with an allocator that never fails. Then without one, and with one
-// that fails at a call: each can only turn the result into MAVA_TUM_NO_MEMORY.
+// With and without the alias bit, with an allocator that never fails. Then without one, and with one that fails at a
+// call: these may only change the result to MAVA_TUM_NO_MEMORY.
 comparison compare_with_library(
     const mava_tum_inspect::message_description &message, const uint8_t *data, uint64_t length);
 
-// Some input for the message: a seed or a random message with up to five structural changes, or bytes without order.
+// Some input for the message: a seed or a random message with up to five structural changes, or random bytes.
 mava_tum_model::wire_bytes some_input(const mava_tum_model::message &of,
     const std::vector<mava_tum_model::wire_bytes> &seeds, mava_tum_model::random_source &random);
 
