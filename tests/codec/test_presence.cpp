@@ -56,7 +56,7 @@ TYPED_TEST(presence_of_every_message, duplicate_copies_own_bits_only)
     source.presence_mask = static_cast<decltype(source.presence_mask)>(all_spare_bits<TypeParam>());
     TypeParam destination{};
     EXPECT_EQ(call_duplicate(destination, source, nullptr, nullptr), MAVA_TUM_OK);
-    EXPECT_EQ(destination.presence_mask, 0u) << "spare bits of the source";
+    EXPECT_EQ(destination.presence_mask, 0u) << "reserved bits of the source";
 
     source.presence_mask = static_cast<decltype(source.presence_mask)>(all_own_bits<TypeParam>);
     duplicated<TypeParam> copy(source);

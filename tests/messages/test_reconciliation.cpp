@@ -72,7 +72,7 @@ TEST(rec_start_req, the_text_is_written_when_present_and_not_null)
     EXPECT_EQ(encoded_hex(record), "08 00 10 00 18 00");
     record.field_4 = text.data();
     record.presence_mask = 0xF0;
-    EXPECT_EQ(encoded_hex(record), "") << "spare bits write nothing";
+    EXPECT_EQ(encoded_hex(record), "") << "reserved bits write nothing";
 }
 
 TEST(rec_start_req, decode_refuses_field_2_as_a_text)

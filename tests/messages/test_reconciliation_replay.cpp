@@ -172,7 +172,7 @@ TEST(rec_sess_replay_req, duplicate_keeps_the_slots_of_sessions_that_fail)
     EXPECT_EQ(copy.allocator.requested_sizes(), (std::vector<uint64_t>{2 * context_bytes, 2, 3, 2, 2}));
     ASSERT_EQ(copy.record.field_4_count, 2u);
     EXPECT_EQ(copy.record.field_4[0].acl.field_2, nullptr);
-    EXPECT_STREQ(copy.record.field_4[0].httpr.field_2, "bc") << "the session goes on";
+    EXPECT_STREQ(copy.record.field_4[0].httpr.field_2, "bc") << "the session continues";
     EXPECT_EQ(own_bits(copy.record.field_4[0]), fields(12, 13));
     EXPECT_STREQ(copy.record.field_4[1].acl.field_2, "d") << "the next one, too";
     EXPECT_EQ(copy.present(), fields(4, 5, 6));

@@ -64,7 +64,7 @@ TEST(rec_sess_replay_fail, statistics_are_written_when_present_or_when_they_have
     record.presence_mask = 0;
     EXPECT_EQ(encoded_hex(record), "1A 02 10 05") << "content without bit";
     record.field_3.presence_mask = 0xF000;
-    EXPECT_EQ(encoded_hex(record), "") << "spare bits are no content";
+    EXPECT_EQ(encoded_hex(record), "") << "reserved bits are no content";
 }
 
 TEST(rec_sess_replay_fail, second_statistics_replace_the_first_and_drop_their_memory)

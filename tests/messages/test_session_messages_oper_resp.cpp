@@ -186,7 +186,7 @@ TEST(sess_oper_resp, duplicate_copies_everything_in_schema_order)
         EXPECT_EQ(copy.allocator.requested_sizes(), operation_sizes);
         EXPECT_EQ(encoded_hex(copy.record), full_operation);
         EXPECT_TRUE(copy.allocator.is_outstanding(copy.record.field_10.data)) << "a copy owns all it points to";
-        EXPECT_EQ(copy.record.field_9.presence_mask, 0xF000u | fields(8)) << "spare bits of nested records stay";
+        EXPECT_EQ(copy.record.field_9.presence_mask, 0xF000u | fields(8)) << "reserved bits of nested records stay";
     }
 }
 

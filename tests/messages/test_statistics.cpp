@@ -147,7 +147,7 @@ TEST(service_stats, a_name_needs_bit_and_pointer_and_the_block_its_bit_or_conten
     mark_present(record.field_2, 2);
     EXPECT_EQ(encoded_hex(record), "12 02 10 00") << "content without bit";
     record.field_2.presence_mask = all_spare_bits<mava_tum_stats>();
-    EXPECT_EQ(encoded_hex(record), "") << "spare bits are no content";
+    EXPECT_EQ(encoded_hex(record), "") << "reserved bits are no content";
 }
 
 TEST(service_stats, a_second_name_is_refused_and_a_second_block_replaces_the_first)
@@ -197,7 +197,7 @@ TEST(service_stats, duplicate_without_memory_loses_the_name_only)
         EXPECT_EQ(copy.result, MAVA_TUM_NO_MEMORY);
         EXPECT_EQ(copy.record.field_1, nullptr);
         EXPECT_EQ(copy.record.field_2.field_1, 5u);
-        EXPECT_EQ(copy.record.field_2.presence_mask, 0xFFFC0001u) << "spare bits stay one level down, too";
+        EXPECT_EQ(copy.record.field_2.presence_mask, 0xFFFC0001u) << "reserved bits stay one level down, too";
         EXPECT_EQ(copy.present(), fields(2));
     }
 }

@@ -187,7 +187,7 @@ TEST(subscriber_stats, duplicate_copies_everything_and_each_name_into_a_block_of
     EXPECT_EQ(encoded_hex(copy.record), full_statistics);
     EXPECT_TRUE(copy.allocator.is_outstanding(copy.record.field_8));
     EXPECT_TRUE(copy.allocator.is_outstanding(copy.record.field_8[1].field_1));
-    EXPECT_EQ(copy.record.field_7.presence_mask, 0xFFFC0001u) << "spare bits of nested records stay";
+    EXPECT_EQ(copy.record.field_7.presence_mask, 0xFFFC0001u) << "reserved bits of nested records stay";
     EXPECT_EQ(copy.record.field_8[0].presence_mask, fields(1)) << "the codec zeroes the array of a copy";
 }
 

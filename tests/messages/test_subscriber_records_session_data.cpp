@@ -158,7 +158,7 @@ TEST(session_data, duplicate_loses_exactly_what_could_not_be_copied)
     for (std::size_t failing = 1; failing <= 8; ++failing) {
         duplicated<mava_tum_session_data> copy(source.record, {.failing_call = failing});
         EXPECT_EQ(copy.result, MAVA_TUM_NO_MEMORY) << failing;
-        EXPECT_EQ(copy.allocator.requested_sizes(), full_session_data_sizes) << failing << ": it goes on";
+        EXPECT_EQ(copy.allocator.requested_sizes(), full_session_data_sizes) << failing << ": it continues";
         EXPECT_EQ(copy.present(), all & ~lost[failing - 1]) << failing;
         EXPECT_EQ(own_bits(copy.record.ppp), failing == 1 ? 0u : fields(5)) << failing;
         EXPECT_EQ(copy.record.vlan.field_2, 101u) << failing;

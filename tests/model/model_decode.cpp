@@ -8,7 +8,7 @@ namespace mava_tum_model
 namespace
 {
 
-// ---- reset: every value zero, own bits clear, spare bits as they were, at every depth ----
+// ---- reset: every value zero, own bits clear, reserved bits unchanged, at every depth ----
 
 void reset(const message &of, uint8_t *record)
 {

@@ -53,12 +53,12 @@ void expect_a_copy_takes_own_bits_only()
     record_type destination;
     fill_with_ones(destination);
     EXPECT_EQ(call_duplicate<record_type>(destination, source, nullptr, nullptr), MAVA_TUM_OK);
-    EXPECT_EQ(destination.presence_mask, all_spare_bits<record_type>()) << "own bits cleared, spare bits kept";
+    EXPECT_EQ(destination.presence_mask, all_spare_bits<record_type>()) << "own bits cleared, reserved bits kept";
 
     fill_with_ones(source);
     std::memset(static_cast<void *>(&destination), 0, sizeof destination);
     EXPECT_EQ(call_duplicate<record_type>(destination, source, nullptr, nullptr), MAVA_TUM_OK);
-    EXPECT_EQ(destination.presence_mask, all_own_bits<record_type>) << "no spare bit of the source";
+    EXPECT_EQ(destination.presence_mask, all_own_bits<record_type>) << "no reserved bit of the source";
 }
 
 // For messages whose functions have flags although they have no bytes field.

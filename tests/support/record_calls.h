@@ -139,7 +139,7 @@ struct decoded {
             allocator.fail_call(options.failing_call);
         result = call_decode(record, wire.data(), wire.size(),
             options.allocator_given ? recording_allocator::allocate : nullptr, allocator.context(), flags);
-        EXPECT_EQ(spare_bits(record), all_spare_bits<record_type>()) << "the decode touched spare bits";
+        EXPECT_EQ(spare_bits(record), all_spare_bits<record_type>()) << "the decode changed reserved bits";
     }
 
     explicit decoded(std::string_view hex, decode_options options = {}) : decoded(bytes_of(hex), options) {}
@@ -231,7 +231,7 @@ struct duplicated {
             allocator.fail_call(options.failing_call);
         result = call_duplicate(
             record, source, options.allocator_given ? recording_allocator::allocate : nullptr, allocator.context());
-        EXPECT_EQ(spare_bits(record), all_spare_bits<record_type>()) << "the duplicate touched spare bits";
+        EXPECT_EQ(spare_bits(record), all_spare_bits<record_type>()) << "the duplicate changed reserved bits";
     }
 
     duplicated(const duplicated &) = delete;
