@@ -1,11 +1,11 @@
-"""The layers, and every arrow along which one includes another, as the sources have them."""
+"""The layers, with an arrow for each pair of which one includes the other in the sources."""
 import os
 import re
 
 from svg_picture import Picture
 
 INCLUDE = re.compile(r'^\s*#\s*include\s*"(\w+)/', re.MULTILINE)
-# folder: where its box lies, and what is in it.
+# folder: position and text of its box.
 BOXES = {
     "src/nal": (250, 128, "adapters: a whole session in one call"),
     "src/messages": (250, 228, "what each message is: a list of fields"),
@@ -14,7 +14,7 @@ BOXES = {
     "include/mava_tum": (600, 278, "codec records, results"),
 }
 WIDTH, HEIGHT = 256, 56
-# From the edge of one box to that of another, for each pair of folders that may include one another.
+# The arrow from box to box, for each pair of folders of which one may include the other.
 ROUTES = {
     ("src/nal", "src/messages"): [(378, 184), (378, 228)],
     ("src/messages", "src/codec"): [(378, 284), (378, 328)],
@@ -33,7 +33,7 @@ def edges(project):
     folders = {os.path.basename(folder): folder for folder in BOXES}
     for folder in BOXES:
         for name in os.listdir(os.path.join(project, folder)):
-            # The C++ layer stands beside the headers and is none of them.
+            # The C++ layer is beside the headers, and is not drawn.
             if not os.path.isfile(os.path.join(project, folder, name)):
                 continue
             with open(os.path.join(project, folder, name), encoding="utf-8") as file:
@@ -42,7 +42,7 @@ def edges(project):
 
 
 def exported(project):
-    """How many functions are exported: adapters, codec, queue."""
+    """The numbers of exported functions: adapters, codec, queue."""
     with open(os.path.join(project, "src/exports.txt"), encoding="utf-8") as file:
         names = file.read().split()
     prefixes = ("tum_nal_data_gpb_", "mava_tum_", "nal_queue_")
@@ -66,7 +66,7 @@ def draw_box(picture, folder, more):
 
 
 def draw_journey(picture):
-    """What goes in at the top comes out at the bottom, and the other way round."""
+    """The way of values from top to bottom, and back."""
     for x, y, words, below in ((24, 128, "application record", "flat, of fixed size"),
                                (76, 228, "codec record", "with presence"),
                                (24, 328, "wire bytes", "protobuf encoding")):

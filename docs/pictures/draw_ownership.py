@@ -1,4 +1,4 @@
-"""Who owns what: three ways to receive the same kind of message, side by side."""
+"""The owners of memory: three ways to receive the same kind of message."""
 from draw_record_memory import blocks, members, whole
 from svg_picture import Picture
 
@@ -18,7 +18,7 @@ def draw_head(picture, x, title, call):
 
 
 def sizes_behind(table, row):
-    """The sizes of the blocks that a member leads to, in one step or two."""
+    """The sizes of the blocks of a member, direct or through another block."""
     inner = [each.target for each in members(table, row.target) if each.target.startswith("block")]
     return " + ".join(str(whole(table, place).size) for place in [row.target, *inner]) + " bytes"
 

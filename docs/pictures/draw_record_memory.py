@@ -8,7 +8,7 @@ RECORD, BLOCK, TEXT = (24, 330), (430, 210), (696, 160)  # left edge and width o
 TOP = 92
 
 
-# What picture_facts has printed: where a decoded record lies and points to.
+# The output of picture_facts: the offsets and pointers of a decoded record.
 Row = namedtuple("Row", "where name offset size content target")
 
 
@@ -38,7 +38,7 @@ def blocks(table):
 
 
 def rows_with_gaps(rows, size):
-    """The rows in order, and None with a number of bytes for what lies between them."""
+    """The rows in order, and None with a number of bytes for each gap."""
     found, at = [], 0
     for row in rows:
         if row.offset > at:
@@ -51,7 +51,7 @@ def rows_with_gaps(rows, size):
 
 
 def draw_members(picture, table, where, column, top, kind):
-    """Draws what a place contains; returns its height and the middle of each member."""
+    """Draws the content of a place; returns its height and the middle of each member."""
     left, width = column
     middles, y = {}, top
     for row, size in rows_with_gaps(members(table, where), whole(table, where).size):

@@ -30,7 +30,7 @@ class Schema:
 
 @dataclass
 class WireField:
-    """One field on the wire: where it starts, its parts, and what is nested in it."""
+    """One field on the wire: its offset, its parts, and its nested fields."""
 
     start: int
     depth: int
@@ -118,7 +118,7 @@ def draw_legend(picture, top):
 
 
 def draw_cells(picture, each, x, y):
-    """Tag and length, and the value where nothing is nested in it."""
+    """Tag and length, and the value if it has no nested fields."""
     parts = [("tag", each.tag), ("length", each.length), ("value", b"" if each.nested else each.value)]
     for role, part in parts:
         for byte in part:

@@ -1,4 +1,4 @@
-// What the pictures show, asked of the library itself: the bytes of a message, and the memory of a decoded one.
+// Prints the facts for the pictures from the library: the bytes of a message, and the memory of a decoded one.
 //   picture_facts wire      the message of examples/first_session.c, in hex
 //   picture_facts memory    a session decoded with and without the alias bit: where each member lies and points to
 #include "mava_tum/presence_bits.h"
@@ -40,7 +40,7 @@ struct block {
     uint64_t size;
 };
 
-// Hands out from one large array, so that no block is given back and used again.
+// Allocates from one large array, so that no block is reused.
 struct block_list {
     std::vector<block> blocks;
     alignas(16) uint8_t storage[4096];
@@ -51,7 +51,7 @@ void *take_block(uint64_t size, void *context)
 {
     auto &list = *static_cast<block_list *>(context);
     uint8_t *start = list.storage + list.used;
-    list.used += (size + 31) / 16 * 16; // a gap behind each: an empty one has a place of its own too
+    list.used += (size + 31) / 16 * 16; // a gap after each, so that an empty block also has its own address
     list.blocks.push_back({start, size});
     return start;
 }
@@ -80,7 +80,7 @@ byte_vector session_wire()
     return wire;
 }
 
-// Where a pointer leads: "input+7", "block 2".
+// The target of a pointer: "input+7", "block 2".
 std::string place_of(const void *pointer, const byte_vector &wire, const block_list &list)
 {
     const auto *at = static_cast<const uint8_t *>(pointer);
@@ -105,7 +105,7 @@ std::string hex_of(const void *start, size_t size)
     return hex;
 }
 
-// The same on every host, whatever its byte order.
+// The same on every machine, independent of its byte order.
 std::string hex_number(uint32_t number)
 {
     char digits[16];
@@ -150,7 +150,7 @@ void print_array(const mava_tum_session_context &session, const byte_vector &wir
     }
 }
 
-// What a block holds: an array of records by its size, a text, or bytes.
+// The content of a block: an array of records, by its size, a text, or bytes.
 std::string content_of(const block &taken, const mava_tum_session_context &session)
 {
     if (taken.start == reinterpret_cast<const uint8_t *>(session.qos))
@@ -165,7 +165,7 @@ int print_memory()
     const byte_vector wire = session_wire();
     for (const uint32_t flags : {uint32_t{0}, uint32_t{MAVA_TUM_ALIAS}}) {
         block_list list;
-        mava_tum_session_context session = {}; // a decode keeps the bits of a mask that mean nothing
+        mava_tum_session_context session = {}; // a decode keeps the reserved bits of a mask
         if (mava_tum_session_context_decode_ext(&session, wire.data(), wire.size(), take_block, &list, flags) != 0)
             return 1;
         std::puts(flags == 0 ? "# without the alias bit" : "# with the alias bit");
