@@ -1,8 +1,8 @@
-"""Makes a wheel of the module, with the shared library inside: needs no network and no package but Python.
+"""Makes a wheel of the module, with the shared library inside. Needs Python only, and no network.
 
     make_wheel.py <package folder> <shared library> <version> <output folder>
 
-The library asks for no symbol of glibc that is newer than 2.17, which is what the name of the wheel promises."""
+The name of the wheel promises glibc 2.17: the library needs no newer symbol."""
 
 from __future__ import annotations
 
@@ -41,7 +41,7 @@ def contents(package: Path, library: Path, version: str, tag: str) -> dict[str, 
     """The files of the wheel by their names, without the list of them."""
     folder = f"{NAME}-{version}.dist-info"
     modules = [path for path in sorted(package.iterdir()) if path.suffix in (".py", ".pyi", ".json", ".typed")]
-    soname = f"libmava_tum.so.{version.split('.')[0]}"  # which is what the module looks for
+    soname = f"libmava_tum.so.{version.split('.')[0]}"  # the name that the module loads
     return {**{f"{NAME}/{path.name}": path.read_bytes() for path in modules},
             f"{NAME}/{soname}": library.read_bytes(),
             f"{folder}/METADATA": METADATA.format(version=version).encode(),

@@ -2,7 +2,7 @@
 """Carries the messages of the examples over UDP, from one address of this machine to another.
 
     loopback_relay.py session_context                  frames from the standard input to the standard output
-    loopback_relay.py --receiver COMMAND ARGUMENT...   stands between the keeper of the example `reconciliation` and
+    loopback_relay.py --receiver COMMAND ARGUMENT...   is between the keeper of the example `reconciliation` and
                                                        the receiver, which it starts as COMMAND
 
 Each message is one datagram and nothing but the message. The port that it goes to says which message it is, as

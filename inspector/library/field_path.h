@@ -13,7 +13,7 @@ namespace mava_tum_inspect
 
 // One step from a record into a field. Steps are on the stack of the walk and point to the enclosing step.
 struct path_step {
-    static constexpr uint64_t no_index = UINT64_MAX; // an array as a whole, and whatever is none
+    static constexpr uint64_t no_index = UINT64_MAX; // an array as a whole, or a field that is no array
 
     const path_step *parent = nullptr;        // null: the record is the message itself
     const field_description *field = nullptr; // null: unknown

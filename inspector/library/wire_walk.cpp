@@ -177,8 +177,8 @@ private:
         fault_rule rule = fault_rule::none;
     };
 
-    // `first` is as far as its tag, behind which the cursor stands. With `report`, tells of every whole entry, and of
-    // the fault.
+    // `first` has its tag only; the cursor is after it. With `report`, calls the visitor for every complete element,
+    // and for the fault.
     run_scan scan_run(const record_frame &frame, const occurrence &first, bool report)
     {
         run_scan scan;

@@ -7,7 +7,7 @@
 namespace bench
 {
 
-// By their numbers. The fixed set has one message, whatever the numbers.
+// By their numbers. The fixed set has one message for all numbers.
 struct message_window {
     uint64_t first;
     uint64_t count;
