@@ -1,17 +1,17 @@
-/* Says what wire bytes hold and what is wrong with them. It is for a process that wants to log why a message arrived in
- * part, which neither a result code nor an adapter tells.
+/* Explains wire bytes: their fields, and why a decode of them fails. It is for a process that logs why a message
+ * arrived in part: a result code does not say it, and an adapter has no result.
  *
  *     describe   the 40 messages, their fields and the adapters, by name
  *     explain    wire bytes in annotated lines, and the verdict: result, byte, field, rule in words
- *     check      what of a message an adapter's record does not hold
- *     guess      which of the 40 messages given bytes can be
+ *     check      the parts of a message that do not arrive in an adapter's record
+ *     guess      the messages of the 40 that given bytes can be
  *
- * A library of its own, libmava_tum_inspect; the codec library carries no names. All functions are pure: they keep no
+ * It is a separate library, libmava_tum_inspect; the codec library contains no names. The functions keep no
  * state, log nothing, allocate nothing, and any number of threads may call them. Input of any length is read in
  * constant memory. Messages are named as in the headers of the codec, without mava_tum_ ("session_context"), adapters
  * as in tum_nal_data_gpb_decode_tum_<name> ("rec_start_res"). Data may be null when its length is 0. Texts that a
- * function or a callback hands out are NUL-terminated; those of `describe` stay for good, those of a callback until it
- * returns.
+ * function returns or a callback receives are NUL-terminated. Those of `describe` are valid as long as the library is
+ * loaded, those of a callback until it returns.
  *
  * "L" and a number, in texts, is an entry of docs/leniency.md: something the decoders accept on purpose. */
 #ifndef MAVA_TUM_INSPECT_H
@@ -93,8 +93,8 @@ MAVA_TUM_API int32_t mava_tum_inspect_describe(const char *message, mava_tum_ins
 MAVA_TUM_API int32_t mava_tum_inspect_describe_field(
     const char *message, uint32_t number, mava_tum_inspect_field *description);
 
-/* Finds the messages, or adapters, whose names are most like `wrong`, which need not be one: at most `capacity`, most
- * similar first, none that has little in common with it, 8 in all. Returns their number. */
+/* Finds the messages whose names are most similar to `wrong`: at most `capacity` and at most 8, the most similar first,
+ * none with little in common. Returns their number. */
 MAVA_TUM_API uint32_t mava_tum_inspect_similar_messages(const char *wrong, const char **names, uint32_t capacity);
 
 /* The same for adapters. */
@@ -102,9 +102,9 @@ MAVA_TUM_API uint32_t mava_tum_inspect_similar_adapters(const char *wrong, const
 
 /* ---- explain --------------------------------------------------------------------------------------------- */
 
-/* What a decode of the whole input answers, and why.
- * It is the verdict for an allocator that never fails. One that fails, or none where one is needed, ends a decode
- * earlier, with MAVA_TUM_NO_MEMORY; which block that is, is not in the bytes. */
+/* The result of a decode of the whole input, and the reason.
+ * It assumes an allocator that never fails. If an allocation fails, or an allocator is needed and not given, a decode
+ * ends earlier, with MAVA_TUM_NO_MEMORY. */
 typedef struct mava_tum_inspect_verdict {
     int32_t result;                             /* of mava_tum_<message>_decode_ext */
     uint64_t offset;                            /* of the byte at which the fault begins; 0 when there is none */
@@ -121,8 +121,8 @@ enum {
     MAVA_TUM_INSPECT_LINE_TAG = 0,    /* number and wire type of a field */
     MAVA_TUM_INSPECT_LINE_LENGTH = 1, /* of what follows, in bytes */
     MAVA_TUM_INSPECT_LINE_VALUE = 2,  /* or the first bytes of it */
-    MAVA_TUM_INSPECT_LINE_MORE = 3,   /* goes on with the bytes of the line before */
-    MAVA_TUM_INSPECT_LINE_NOTE = 4,   /* no bytes: something that was only put up with, or that is good to know */
+    MAVA_TUM_INSPECT_LINE_MORE = 3,   /* more bytes of the line before */
+    MAVA_TUM_INSPECT_LINE_NOTE = 4,   /* no bytes: something unusual that is accepted, or a hint */
     MAVA_TUM_INSPECT_LINE_FAULT = 5,  /* no bytes: the sentence of the verdict */
     MAVA_TUM_INSPECT_LINE_UNREAD = 6  /* what a fault leaves unread */
 };
@@ -140,11 +140,11 @@ typedef struct mava_tum_inspect_line {
     const char *text;    /* what the bytes are; "" where the line before says it */
 } mava_tum_inspect_line;
 
-/* Takes a line. What it points to stays only until the callback returns. */
+/* Receives a line. Its pointers are valid until the callback returns. */
 typedef void (*mava_tum_inspect_line_fn)(const mava_tum_inspect_line *line, void *context);
 
-/* Calls `line_fn` for each line, in the order of the bytes. `verdict` may be null. Returns MAVA_TUM_OK, whatever the
- * verdict is, or MAVA_TUM_INSPECT_NO_SUCH_NAME. */
+/* Calls `line_fn` for each line, in the order of the bytes. `verdict` may be null. Returns MAVA_TUM_OK for each
+ * verdict, or MAVA_TUM_INSPECT_NO_SUCH_NAME. */
 MAVA_TUM_API int32_t mava_tum_inspect_explain(const char *message, const uint8_t *data, uint64_t length,
     mava_tum_inspect_line_fn line_fn, void *context, mava_tum_inspect_verdict *verdict);
 
@@ -156,45 +156,45 @@ MAVA_TUM_API uint32_t mava_tum_inspect_format_line(
 
 /* ---- check ----------------------------------------------------------------------------------------------- */
 
-/* What of a message would not arrive in an application record. */
+/* Kinds of finding: why a part of a message does not arrive in an application record. */
 enum {
-    MAVA_TUM_INSPECT_FAULT = 0,         /* the message is broken: what is behind the fault does not arrive (L15, L16) */
+    MAVA_TUM_INSPECT_FAULT = 0,         /* malformed: the bytes after the fault do not arrive (L15, L16) */
     MAVA_TUM_INSPECT_LIST_CUT = 1,      /* more elements than slots (L17) */
     MAVA_TUM_INSPECT_TEXT_CUT = 2,      /* longer than its array, or than the record takes (L21, L22) */
     MAVA_TUM_INSPECT_TEXT_ENDS = 3,     /* at a NUL inside it (L21) */
     MAVA_TUM_INSPECT_BYTES_CUT = 4,     /* longer than its array (L19) */
     MAVA_TUM_INSPECT_BYTES_PADDED = 5,  /* shorter: zeros follow, and its length is lost (L19) */
     MAVA_TUM_INSPECT_NUMBER_CUT = 6,    /* wider than its member (L20) */
-    MAVA_TUM_INSPECT_NO_MEMBER = 7,     /* nothing takes the field (L26, L28) */
+    MAVA_TUM_INSPECT_NO_MEMBER = 7,     /* no member holds the field (L26, L28) */
     MAVA_TUM_INSPECT_PART_MISSING = 8,  /* the value arrives only with another field, which is absent (L24) */
     MAVA_TUM_INSPECT_REPLACED = 9,      /* the field occurs again: the earlier value is lost (L11) */
-    MAVA_TUM_INSPECT_UNKNOWN_FIELD = 10 /* the message does not know it */
+    MAVA_TUM_INSPECT_UNKNOWN_FIELD = 10 /* the message has no such field */
 };
 
-/* Something of a message that would not arrive, or not as it was sent. */
+/* A part of a message that does not arrive, or arrives changed. */
 typedef struct mava_tum_inspect_finding {
     int32_t kind;     /* MAVA_TUM_INSPECT_FAULT to _UNKNOWN_FIELD */
     uint64_t offset;  /* of the field's tag; of a missing part, of its record's; of a fault, of what is wrong */
     uint64_t found;   /* elements, characters, bytes or bits in the message; else 0 */
-    uint64_t allowed; /* how many of them the record takes; else 0 */
+    uint64_t allowed; /* how many of them the record holds; else 0 */
     const char *path; /* the field in the message; may be "" */
     const char *text; /* "`session_name` has 70 characters at byte 12, of which 64 arrive" */
 } mava_tum_inspect_finding;
 
-/* Takes a finding. What it points to stays only until the callback returns. */
+/* Receives a finding. Its pointers are valid until the callback returns. */
 typedef void (*mava_tum_inspect_finding_fn)(const mava_tum_inspect_finding *finding, void *context);
 
-/* What a check came to. */
+/* The result of a check. */
 typedef struct mava_tum_inspect_check_result {
-    uint64_t finding_count;           /* as often was the callback called, or would have been */
-    uint64_t record_bytes;            /* of the application record, whatever the message holds */
+    uint64_t finding_count;           /* findings, also without a callback */
+    uint64_t record_bytes;            /* sizeof the application record */
     mava_tum_inspect_verdict verdict; /* on the message itself, as mava_tum_inspect_judge finds it */
 } mava_tum_inspect_check_result;
 
 /* Looks at a message as the adapter `adapter` decodes it (a message with one adapter may also be named itself). Calls
- * `finding_fn`, which may be null, for each finding, in the order of the bytes; what concerns a record as a whole comes
- * at its end. Zeros and empty texts that have no member are no finding: they arrive as what they are. Returns
- * MAVA_TUM_OK, whatever is found, or MAVA_TUM_INSPECT_NO_SUCH_NAME. */
+ * `finding_fn`, which may be null, for each finding, in the order of the bytes; a finding about a whole record comes
+ * at its end. Zeros and empty texts that have no member are no finding: an absent value reads the same. Returns
+ * MAVA_TUM_OK, also with findings, or MAVA_TUM_INSPECT_NO_SUCH_NAME. */
 MAVA_TUM_API int32_t mava_tum_inspect_check(const char *adapter, const uint8_t *data, uint64_t length,
     mava_tum_inspect_finding_fn finding_fn, void *context, mava_tum_inspect_check_result *result);
 
@@ -207,10 +207,10 @@ MAVA_TUM_API int32_t mava_tum_inspect_memory(const char *message, const uint8_t 
 
 /* A message that the bytes can be. */
 typedef struct mava_tum_inspect_candidate {
-    const char *message;     /* its name, which stays for good */
-    uint64_t unknown_bytes;  /* of fields, at any depth, that it does not know; tags and lengths included */
+    const char *message;     /* its name, valid as long as the library is loaded */
+    uint64_t unknown_bytes;  /* of fields, at any depth, that it does not have; tags and lengths included */
     uint64_t unknown_fields; /* how many these are */
-    uint64_t odd_forms;      /* what only a foreign writer produces: over-long varints, texts that are no UTF-8, ... */
+    uint64_t odd_forms;      /* forms that this library never writes: over-long varints, texts that are no UTF-8, ... */
     uint32_t absent_fields;  /* of the message itself */
 } mava_tum_inspect_candidate;
 
