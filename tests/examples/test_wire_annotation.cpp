@@ -1,7 +1,6 @@
 // The annotation of unusual bytes; test_session_setup.cpp compares that of a whole session.
 #include "catalogue.h"
 #include "wire_annotation.h"
-#include "wire_names.h"
 
 #include <gtest/gtest.h>
 #include <vector>
