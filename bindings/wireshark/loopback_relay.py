@@ -21,7 +21,7 @@ import time
 
 SENDER_PORT = 21000  # below those of the messages
 PATIENCE_SECONDS = 30
-# By the first byte of a frame: examples/reconciliation/message_kind.h. The messages after the run are not included.
+# By the first byte of a frame: examples/reconciliation/message_channel.h. The messages after the run are not included.
 KINDS = [None, "rec_start_req", "rec_resp", "rec_sess_req", "rec_sess_resp", "session_delete", "sess_oper_resp",
          "rec_sess_replay_req", "rec_sess_replay_resp", "rec_complete_req", "rec_resp", None]
 

@@ -22,7 +22,7 @@ import (
 // The longest message of the adapters has 9,295 bytes: a longer one is rejected before memory is allocated for it.
 const limit = 1 << 16
 
-// The kinds of examples/reconciliation/message_kind.h.
+// The kinds of examples/reconciliation/message_channel.h.
 const (
 	startReq = 1 + iota
 	startRes

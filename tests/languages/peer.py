@@ -15,7 +15,7 @@ from google.protobuf import descriptor_pb2, message_factory
 
 # The longest message of the adapters has 9,295 bytes: a longer one is rejected before memory is allocated for it.
 LIMIT = 1 << 16
-# The kinds of examples/reconciliation/message_kind.h.
+# The kinds of examples/reconciliation/message_channel.h.
 START_REQ, START_RES, SESS_REQ, SESS_RES, REPLAY_REQ, REPLAY_RESP, COMPLETE_REQ, COMPLETE_RES, HELD_SESSION = \
     1, 2, 3, 4, 7, 8, 9, 10, 11
 
