@@ -2,8 +2,12 @@
 #ifndef EXAMPLES_STOPWATCH_H
 #define EXAMPLES_STOPWATCH_H
 
+#include "readable.h"
+
 #include <chrono>
 #include <cstddef>
+#include <cstdint>
+#include <cstdio>
 #include <string>
 
 namespace examples
@@ -20,10 +24,20 @@ public:
     }
 
     // "1,200 sessions, 600,000 bytes, encoded in 1.3 ms = 923,076 sessions per second"
-    std::string report(size_t sessions, size_t bytes, const char *verb) const;
+    std::string report(size_t sessions, size_t bytes, const char *verb) const
+    {
+        const double rate = seconds() > 0 ? static_cast<double>(sessions) / seconds() : 0;
+        return readable_count(sessions) + " sessions, " + readable_count(bytes) + " bytes, " + verb + " in " +
+               milliseconds() + " = " + readable_count(static_cast<uint64_t>(rate)) + " sessions per second";
+    }
 
     // "1.30 ms"
-    std::string milliseconds() const;
+    std::string milliseconds() const
+    {
+        char text[32];
+        std::snprintf(text, sizeof text, "%.2f ms", std::chrono::duration<double, std::milli>(m_total).count());
+        return text;
+    }
 
 private:
     using clock = std::chrono::steady_clock;
