@@ -87,6 +87,19 @@ child_process::~child_process()
     finish();
 }
 
+void child_process::kill() const
+{
+    if (m_process >= 0)
+        ::kill(m_process, SIGKILL);
+}
+
+// Its status is left for finish().
+bool child_process::has_ended() const
+{
+    siginfo_t ended{};
+    return waitid(P_PID, static_cast<id_t>(m_process), &ended, WEXITED | WNOHANG | WNOWAIT) == 0 && ended.si_pid != 0;
+}
+
 int child_process::finish()
 {
     close_and_forget(m_input);

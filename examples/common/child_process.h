@@ -34,6 +34,12 @@ public:
         return m_output;
     }
 
+    // Ends the program at once, with SIGKILL.
+    void kill() const;
+
+    // Whether it has ended, by itself or by a signal.
+    bool has_ended() const;
+
     // Closes the pipes and waits. Returns the exit status; 128 + n if signal n ended the program, as shells have it.
     int finish();
 

@@ -30,9 +30,10 @@ void write_all(int fd, std::span<const uint8_t> bytes)
 [[noreturn]] void refuse_end(const tum_nal_message_stream_t &stream)
 {
     const bool has_length = stream.length_bytes == TUM_NAL_MESSAGE_LENGTH_BYTES;
-    throw stream_error(std::string("the stream ends inside a frame") + (has_length ? "" : "'s length") + ", after " +
-                       std::to_string(has_length ? stream.received : stream.length_bytes) + " of " +
-                       std::to_string(has_length ? stream.length : uint32_t{TUM_NAL_MESSAGE_LENGTH_BYTES}) + " bytes");
+    throw truncated_stream(std::string("the stream ends inside a frame") + (has_length ? "" : "'s length") +
+                           ", after " + std::to_string(has_length ? stream.received : stream.length_bytes) + " of " +
+                           std::to_string(has_length ? stream.length : uint32_t{TUM_NAL_MESSAGE_LENGTH_BYTES}) +
+                           " bytes");
 }
 
 } // namespace

@@ -20,6 +20,13 @@ public:
     using std::runtime_error::runtime_error;
 };
 
+// The stream ended inside a frame.
+class truncated_stream : public stream_error
+{
+public:
+    using stream_error::stream_error;
+};
+
 // A session has at most some 9 kB; a longer frame is none of ours, and its length is not to be trusted.
 inline constexpr uint32_t frame_limit_bytes = 64 * 1024;
 
@@ -33,8 +40,8 @@ public:
     frame_reader(const frame_reader &) = delete; // of one stream there is one reader, which may be ahead of its caller
     frame_reader &operator=(const frame_reader &) = delete;
 
-    // Waits for the next message, which is good until the next call. False at the end of the stream, which may come
-    // between two frames only.
+    // Waits for the next message, which is good until the next call. False at the end of the stream. Throws
+    // truncated_stream if the stream ends inside a frame, stream_error for other faults.
     bool next(std::span<const uint8_t> &message);
 
 private:

@@ -39,6 +39,11 @@ public:
         return text;
     }
 
+    double seconds() const
+    {
+        return std::chrono::duration<double>(m_total).count();
+    }
+
 private:
     using clock = std::chrono::steady_clock;
 
