@@ -2,6 +2,7 @@
  * Start at mava_tum/codec_contract.h and tum_nal/adapter_contract.h. */
 #ifndef MAVA_TUM_H
 #define MAVA_TUM_H
+/* SPDX-License-Identifier: Apache-2.0 */
 
 #include "mava_tum/codec_contract.h"
 #include "mava_tum/feature_records.h"

@@ -7,6 +7,8 @@ RESERVED = {
     "mutable_c_record", "own_blocks", "has_value", "holds_record", "c", "blocks",
 }
 
+LICENCE = "// SPDX-" "License-Identifier: Apache-2.0"  # in two parts: it is not about this file
+
 NUMBER_TYPES = {"varint": "std::uint32_t", "64-bit varint": "std::uint64_t", "fixed32": "std::uint32_t"}
 
 
@@ -168,7 +170,7 @@ def layer_header(messages, owning):
         f"// Classes over the records of mava_tum/{header.stem}.h, generated from it by bindings/cpp/make_cpp_layer.",
         "//",
         "// That header says what the fields are. Change it or the generator, not this file.",
-        f"#ifndef {guard}", f"#define {guard}", "",
+        f"#ifndef {guard}", f"#define {guard}", LICENCE, "",
         *(f'#include "mava_tum/cpp/{stem}.hpp"'
           for stem in sorted([stem for stem in others if stem != "codec_contract"] + ["field_access", "field_change", "owning_record", "record_editor",
                                                 "record_view"])),

@@ -79,6 +79,7 @@
  *   reason. */
 #ifndef MAVA_TUM_CODEC_CONTRACT_H
 #define MAVA_TUM_CODEC_CONTRACT_H
+/* SPDX-License-Identifier: Apache-2.0 */
 
 #include <stdint.h>
 

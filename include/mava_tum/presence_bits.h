@@ -5,6 +5,7 @@
  */
 #ifndef MAVA_TUM_PRESENCE_BITS_H
 #define MAVA_TUM_PRESENCE_BITS_H
+/* SPDX-License-Identifier: Apache-2.0 */
 
 /* Bits of the presence mask of a `mava_tum_subscriber_v4`. */
 enum {

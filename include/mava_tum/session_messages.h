@@ -3,6 +3,7 @@
  * Result codes, the alias bit, callbacks and ownership are the same for all messages: codec_contract.h. */
 #ifndef MAVA_TUM_SESSION_MESSAGES_H
 #define MAVA_TUM_SESSION_MESSAGES_H
+/* SPDX-License-Identifier: Apache-2.0 */
 
 #include "mava_tum/codec_contract.h"
 #include "mava_tum/feature_records.h"

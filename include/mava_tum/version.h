@@ -1,6 +1,7 @@
 /* The version of these headers, for the preprocessor. */
 #ifndef MAVA_TUM_VERSION_H
 #define MAVA_TUM_VERSION_H
+/* SPDX-License-Identifier: Apache-2.0 */
 
 /* The major number, which is also the SONAME: it alone may change a record's layout or a function's parameters. */
 #define MAVA_TUM_VERSION_MAJOR 1

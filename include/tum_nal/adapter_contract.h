@@ -33,6 +33,7 @@
  * Threads may call adapters at the same time on distinct records and buffers. */
 #ifndef TUM_NAL_ADAPTER_CONTRACT_H
 #define TUM_NAL_ADAPTER_CONTRACT_H
+/* SPDX-License-Identifier: Apache-2.0 */
 
 #include "mava_tum/codec_contract.h"
 

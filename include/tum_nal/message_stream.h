@@ -17,6 +17,7 @@
  *         take(message, length); */
 #ifndef TUM_NAL_MESSAGE_STREAM_H
 #define TUM_NAL_MESSAGE_STREAM_H
+/* SPDX-License-Identifier: Apache-2.0 */
 
 #include <stdint.h>
 #include <string.h>

@@ -7,6 +7,7 @@
  * may be null. */
 #ifndef TUM_NAL_NAL_QUEUE_H
 #define TUM_NAL_NAL_QUEUE_H
+/* SPDX-License-Identifier: Apache-2.0 */
 
 #include "mava_tum/codec_contract.h"
 

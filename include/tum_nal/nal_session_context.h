@@ -3,6 +3,7 @@
  * Counts, texts, short buffers and malformed input are the same for all adapters: adapter_contract.h. */
 #ifndef TUM_NAL_NAL_SESSION_CONTEXT_H
 #define TUM_NAL_NAL_SESSION_CONTEXT_H
+/* SPDX-License-Identifier: Apache-2.0 */
 
 #include "tum_nal/adapter_contract.h"
 #include "tum_nal/nal_routes.h"

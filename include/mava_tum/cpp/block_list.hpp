@@ -7,6 +7,7 @@
 //               gives         gets
 #ifndef MAVA_TUM_CPP_BLOCK_LIST_HPP
 #define MAVA_TUM_CPP_BLOCK_LIST_HPP
+// SPDX-License-Identifier: Apache-2.0
 
 #include "mava_tum/cpp/memory.hpp"
 

@@ -1,6 +1,7 @@
 // Calls the codec's functions of any message: some of them take an allocator or flags and some do not.
 #ifndef MAVA_TUM_CPP_CODEC_CALLS_HPP
 #define MAVA_TUM_CPP_CODEC_CALLS_HPP
+// SPDX-License-Identifier: Apache-2.0
 
 #include "mava_tum/cpp/result.hpp"
 #include "mava_tum/cpp/span.hpp"

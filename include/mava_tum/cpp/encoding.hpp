@@ -1,6 +1,7 @@
 // Wire bytes from a record, for everything that holds or refers to one.
 #ifndef MAVA_TUM_CPP_ENCODING_HPP
 #define MAVA_TUM_CPP_ENCODING_HPP
+// SPDX-License-Identifier: Apache-2.0
 
 #include "mava_tum/cpp/codec_calls.hpp"
 

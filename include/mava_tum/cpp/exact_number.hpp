@@ -11,6 +11,7 @@
 // accepted, and a negative one ends the program.
 #ifndef MAVA_TUM_CPP_EXACT_NUMBER_HPP
 #define MAVA_TUM_CPP_EXACT_NUMBER_HPP
+// SPDX-License-Identifier: Apache-2.0
 
 #include <cstdint>
 #include <cstdlib>

@@ -1,6 +1,7 @@
 // Reads one field of a codec record, by its number and its member: what the named accessors are made of.
 #ifndef MAVA_TUM_CPP_FIELD_ACCESS_HPP
 #define MAVA_TUM_CPP_FIELD_ACCESS_HPP
+// SPDX-License-Identifier: Apache-2.0
 
 #include "mava_tum/codec_contract.h"
 #include "mava_tum/cpp/list_view.hpp"

@@ -1,6 +1,7 @@
 // Changes one field of a codec record, by its number and its member: what the named setters are made of.
 #ifndef MAVA_TUM_CPP_FIELD_CHANGE_HPP
 #define MAVA_TUM_CPP_FIELD_CHANGE_HPP
+// SPDX-License-Identifier: Apache-2.0
 
 #include "mava_tum/cpp/block_list.hpp"
 #include "mava_tum/cpp/exact_number.hpp"

@@ -2,6 +2,7 @@
 // one.
 #ifndef MAVA_TUM_CPP_IPV4_HPP
 #define MAVA_TUM_CPP_IPV4_HPP
+// SPDX-License-Identifier: Apache-2.0
 
 #include <array>
 #include <cstddef>

@@ -1,6 +1,7 @@
 // Arrays of a record: elements behind a pointer and a count, each shown as what it is.
 #ifndef MAVA_TUM_CPP_LIST_VIEW_HPP
 #define MAVA_TUM_CPP_LIST_VIEW_HPP
+// SPDX-License-Identifier: Apache-2.0
 
 #include <cstddef>
 #include <iterator>

@@ -13,6 +13,7 @@
 // docs/cpp.md of the sources has the rest: memory, presence, changing and encoding.
 #ifndef MAVA_TUM_CPP_MAVA_TUM_HPP
 #define MAVA_TUM_CPP_MAVA_TUM_HPP
+// SPDX-License-Identifier: Apache-2.0
 
 #include "mava_tum/cpp/feature_records.hpp"
 #include "mava_tum/cpp/ipv4.hpp"

@@ -1,6 +1,7 @@
 // Where a record's blocks come from, and where they go back to: a small value that is copied about.
 #ifndef MAVA_TUM_CPP_MEMORY_HPP
 #define MAVA_TUM_CPP_MEMORY_HPP
+// SPDX-License-Identifier: Apache-2.0
 
 #include "mava_tum/codec_contract.h"
 

@@ -1,6 +1,7 @@
 // A record that owns what it refers to: the base of the record classes, one for each message.
 #ifndef MAVA_TUM_CPP_OWNING_RECORD_HPP
 #define MAVA_TUM_CPP_OWNING_RECORD_HPP
+// SPDX-License-Identifier: Apache-2.0
 
 #include "mava_tum/cpp/block_list.hpp"
 #include "mava_tum/cpp/encoding.hpp"

@@ -1,6 +1,7 @@
 // A record that lies inside another one, to be changed: the base of the editor classes, one for each message.
 #ifndef MAVA_TUM_CPP_RECORD_EDITOR_HPP
 #define MAVA_TUM_CPP_RECORD_EDITOR_HPP
+// SPDX-License-Identifier: Apache-2.0
 
 #include "mava_tum/cpp/block_list.hpp"
 #include "mava_tum/cpp/encoding.hpp"

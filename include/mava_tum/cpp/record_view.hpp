@@ -1,6 +1,7 @@
 // A record that lies somewhere else, to be read: the base of the view classes, one for each message.
 #ifndef MAVA_TUM_CPP_RECORD_VIEW_HPP
 #define MAVA_TUM_CPP_RECORD_VIEW_HPP
+// SPDX-License-Identifier: Apache-2.0
 
 #include "mava_tum/cpp/encoding.hpp"
 

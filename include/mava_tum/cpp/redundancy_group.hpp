@@ -3,6 +3,7 @@
 // That header says what the fields are. Change it or the generator, not this file.
 #ifndef MAVA_TUM_CPP_REDUNDANCY_GROUP_HPP
 #define MAVA_TUM_CPP_REDUNDANCY_GROUP_HPP
+// SPDX-License-Identifier: Apache-2.0
 
 #include "mava_tum/cpp/field_access.hpp"
 #include "mava_tum/cpp/field_change.hpp"

@@ -1,6 +1,7 @@
 // The codec's result codes as a type of their own, with a text for each.
 #ifndef MAVA_TUM_CPP_RESULT_HPP
 #define MAVA_TUM_CPP_RESULT_HPP
+// SPDX-License-Identifier: Apache-2.0
 
 #include "mava_tum/codec_contract.h"
 

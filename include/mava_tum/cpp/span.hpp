@@ -4,6 +4,7 @@
 // C++20 sees one type; it takes whatever has data() and size(), a std::span included, and converts to a std::span.
 #ifndef MAVA_TUM_CPP_SPAN_HPP
 #define MAVA_TUM_CPP_SPAN_HPP
+// SPDX-License-Identifier: Apache-2.0
 
 #include <cstddef>
 #include <cstdint>

@@ -16,6 +16,7 @@
  * "L" and a number, in texts, is an entry of docs/leniency.md: something the decoders accept on purpose. */
 #ifndef MAVA_TUM_INSPECT_H
 #define MAVA_TUM_INSPECT_H
+/* SPDX-License-Identifier: Apache-2.0 */
 
 #include "mava_tum/codec_contract.h"
 
