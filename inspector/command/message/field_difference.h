@@ -1,9 +1,11 @@
 // What two messages have in different ways, field by field.
 #pragma once
 
-#include "message/field_list.h"
+#include "message/field_value.h"
 
 #include <optional>
+#include <string>
+#include <vector>
 
 namespace mava_tum_cli
 {
