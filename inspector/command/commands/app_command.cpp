@@ -2,10 +2,10 @@
 #include "commands/all_commands.h"
 #include "commands/decode_verdict.h"
 #include "commands/find_by_name.h"
-#include "commands/layout_of.h"
 #include "commands/wire_writer.h"
 #include "error_line.h"
 #include "input/message_source.h"
+#include "message/message_head.h"
 #include "output/output_file.h"
 
 #include <fmt/format.h>

@@ -1,7 +1,6 @@
 #include "commands/all_commands.h"
 #include "commands/decode_verdict.h"
 #include "commands/find_by_name.h"
-#include "commands/layout_of.h"
 #include "mava_tum_inspect.h"
 #include "message/message_head.h"
 #include "output/output_file.h"

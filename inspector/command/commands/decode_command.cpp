@@ -1,10 +1,9 @@
 #include "commands/all_commands.h"
 #include "commands/decode_verdict.h"
 #include "commands/find_by_name.h"
-#include "commands/frame_heading.h"
-#include "commands/layout_of.h"
 #include "message/decoded_json.h"
 #include "message/field_tree.h"
+#include "message/message_head.h"
 #include "output/output_file.h"
 
 namespace mava_tum_cli

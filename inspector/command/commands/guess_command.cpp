@@ -1,5 +1,4 @@
 #include "commands/all_commands.h"
-#include "commands/layout_of.h"
 #include "error_line.h"
 #include "input/message_source.h"
 #include "mava_tum_inspect.h"

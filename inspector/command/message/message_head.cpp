@@ -1,7 +1,23 @@
 #include "message/message_head.h"
 
+#include "words.h"
+
+#include <fmt/format.h>
+
 namespace mava_tum_cli
 {
+
+std::string frame_heading(const message_source &source, const char *message)
+{
+    const message_place place = source.place();
+    return fmt::format("{}{}{}{}, {}\n", source.is_first() ? "" : "\n", place.to_string(), place.is_empty() ? "" : ": ",
+        message, counted(source.message().size(), "byte"));
+}
+
+json_writer::layout layout_of(const message_source &source)
+{
+    return source.has_several() ? json_writer::layout::one_line : json_writer::layout::spread;
+}
 
 void open_message(json_writer &writer, const message_place &place, std::string_view name, uint64_t bytes)
 {
