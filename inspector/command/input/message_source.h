@@ -2,10 +2,14 @@
 #pragma once
 
 #include "input/input_format.h"
-#include "input/message_place.h"
 #include "output/output_file.h"
 
+#include <cstdint>
+#include <fmt/format.h>
 #include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
 
 namespace mava_tum_cli
 {
@@ -15,6 +19,26 @@ struct chosen_input {
     std::vector<std::string> files{"-"};
     input_format format = input_format::automatic;
     uint64_t number = 0; // of the only message that is wanted of each file, from 1; 0: all
+};
+
+// Where a message comes from, as far as that has to be told.
+struct message_place {
+    std::string_view file; // empty: it is the only one
+    uint64_t number = 0;   // of the message in the file, from 1; 0: it is the only one
+    uint64_t offset = 0;   // where its frame begins in the file
+
+    bool is_empty() const
+    {
+        return file.empty() && number == 0;
+    }
+
+    // "a.frames: frame 3 at byte 40", "frame 3 at byte 40", "a.bin", "".
+    std::string to_string() const
+    {
+        if (number == 0)
+            return std::string(file);
+        return fmt::format("{}{}frame {} at byte {}", file, file.empty() ? "" : ": ", number, offset);
+    }
 };
 
 class message_source

@@ -7,7 +7,7 @@
 //     fields                     if asked for: where each of them stands, and which are absent
 #pragma once
 
-#include "input/message_place.h"
+#include "input/message_source.h"
 #include "message/field_value.h"
 
 #include <optional>
