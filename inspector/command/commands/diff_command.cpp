@@ -5,7 +5,7 @@
 #include "message/field_difference.h"
 #include "message/verdict.h"
 #include "output/output_file.h"
-#include "words.h"
+#include "output/text_output.h"
 
 #include <algorithm>
 

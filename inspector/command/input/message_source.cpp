@@ -6,7 +6,7 @@
 #include "input/dump_text.h"
 #include "input/frame_reader.h"
 #include "input/hex_text.h"
-#include "words.h"
+#include "output/text_output.h"
 
 #include <fmt/format.h>
 

@@ -2,7 +2,7 @@
 
 #include "inspector/library/wire_walk.h"
 #include "message/verdict.h"
-#include "words.h"
+#include "output/text_output.h"
 
 #include <fmt/format.h>
 
