@@ -1,7 +1,9 @@
-// What ends a command: its exit codes, and the two ways in which it can go wrong.
+// What ends a command: its exit codes, the two ways in which it can go wrong, and its line on standard error.
 #pragma once
 
 #include <stdexcept>
+#include <string>
+#include <string_view>
 
 namespace mava_tum_cli
 {
@@ -20,5 +22,9 @@ class bad_use : public std::runtime_error
 public:
     using std::runtime_error::runtime_error;
 };
+
+// Prints "mava-tum <command>: <text>"; without a command, "mava-tum: <text>". File names and values can contain
+// anything: what would begin another line, or move the cursor, is replaced.
+void print_error(std::string_view command, std::string text);
 
 } // namespace mava_tum_cli

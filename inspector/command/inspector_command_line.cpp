@@ -1,8 +1,8 @@
 #include "inspector_command_line.h"
 
+#include "bad_use.h"
 #include "command_help.h"
 #include "commands/all_commands.h"
-#include "error_line.h"
 
 #include <CLI/CLI.hpp>
 #include <algorithm>

@@ -1,6 +1,6 @@
 #include "commands/decode_verdict.h"
 
-#include "error_line.h"
+#include "bad_use.h"
 #include "inspector/library/wire_walk.h"
 #include "message/verdict.h"
 

@@ -1,7 +1,7 @@
+#include "bad_use.h"
 #include "commands/all_commands.h"
 #include "commands/decode_verdict.h"
 #include "commands/find_by_name.h"
-#include "error_line.h"
 #include "message/field_difference.h"
 #include "message/verdict.h"
 #include "output/output_file.h"

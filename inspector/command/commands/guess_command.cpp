@@ -1,5 +1,5 @@
+#include "bad_use.h"
 #include "commands/all_commands.h"
-#include "error_line.h"
 #include "input/message_source.h"
 #include "mava_tum_inspect.h"
 #include "message/message_head.h"

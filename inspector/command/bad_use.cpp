@@ -1,4 +1,4 @@
-#include "error_line.h"
+#include "bad_use.h"
 
 #include <algorithm>
 #include <fmt/format.h>
