@@ -1,8 +1,7 @@
 #include "commands/wire_writer.h"
 
-#include "input/base64_text.h"
+#include "input/digit_text.h"
 #include "input/frame_reader.h"
-#include "input/hex_text.h"
 
 #include <fmt/format.h>
 

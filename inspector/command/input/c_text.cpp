@@ -1,8 +1,7 @@
 #include "input/c_text.h"
 
 #include "bad_use.h"
-#include "input/hex_text.h"
-#include "input/text_position.h"
+#include "input/digit_text.h"
 
 #include <algorithm>
 #include <charconv>

@@ -1,10 +1,9 @@
 #include "input/input_format.h"
 
 #include "bad_use.h"
-#include "input/base64_text.h"
 #include "input/c_text.h"
+#include "input/digit_text.h"
 #include "input/dump_text.h"
-#include "input/hex_text.h"
 
 #include <algorithm>
 #include <fmt/format.h>

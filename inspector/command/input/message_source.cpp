@@ -1,11 +1,10 @@
 #include "input/message_source.h"
 
 #include "bad_use.h"
-#include "input/base64_text.h"
 #include "input/c_text.h"
+#include "input/digit_text.h"
 #include "input/dump_text.h"
 #include "input/frame_reader.h"
-#include "input/hex_text.h"
 #include "output/text_output.h"
 
 #include <fmt/format.h>

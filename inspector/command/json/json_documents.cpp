@@ -1,7 +1,7 @@
 #include "json/json_documents.h"
 
 #include "bad_use.h"
-#include "input/hex_text.h"
+#include "input/digit_text.h"
 
 #include <algorithm>
 #include <fmt/format.h>

@@ -1,7 +1,7 @@
 #include "json/json_values.h"
 
 #include "bad_use.h"
-#include "input/hex_text.h"
+#include "input/digit_text.h"
 #include "json/utf8_text.h"
 
 #include <arpa/inet.h>

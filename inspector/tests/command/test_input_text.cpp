@@ -1,7 +1,6 @@
 // Hex and base64 as they are read and written.
 #include "bad_use.h"
-#include "input/base64_text.h"
-#include "input/hex_text.h"
+#include "input/digit_text.h"
 #include "input/input_format.h"
 #include "json/utf8_text.h"
 
