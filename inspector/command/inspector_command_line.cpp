@@ -1,5 +1,4 @@
-#include "inspector_command_line.h"
-
+// From the words of the command line to a command, and from what it throws to a line on standard error.
 #include "bad_use.h"
 #include "command_help.h"
 #include "commands/all_commands.h"
@@ -254,8 +253,7 @@ int run_chosen(const CLI::App &program, const command_options &options)
     }
 }
 
-} // namespace
-
+// Returns an exit_status.
 int run_command_line(int argc, char **argv)
 {
     if (argc > 1 && argv[1][0] != '-' && !is_command(argv[1]))
@@ -273,4 +271,11 @@ int run_command_line(int argc, char **argv)
     return run_chosen(program, options);
 }
 
+} // namespace
+
 } // namespace mava_tum_cli
+
+int main(int argc, char **argv)
+{
+    return mava_tum_cli::run_command_line(argc, argv);
+}
