@@ -4,7 +4,8 @@ namespace mava_tum_cli::help
 {
 
 const char *const overview = R"(
-Input is wire bytes, hex, base64, or frames: each message after its length in 4 bytes, big-endian.
+Input is wire bytes, hex, base64, frames (each message after its length in 4 bytes, big-endian),
+a dump, C, or a capture (pcap, pcapng).
 Exit code: 0 all is well, 1 the data is broken or differs, 2 the command could not be carried out.
 
 Example:

@@ -51,10 +51,25 @@ void add_format(CLI::App &command, command_options &options)
     add_choice<input_format>(command, "-f,--format", options.input.format,
         {{"auto", input_format::automatic}, {"raw", input_format::raw}, {"hex", input_format::hex},
             {"base64", input_format::base64}, {"frames", input_format::frames}, {"dump", input_format::dump},
-            {"c", input_format::c}},
+            {"c", input_format::c}, {"capture", input_format::capture}},
         "what the input is written in: auto, raw, hex, base64, frames (each message after its length in 4 bytes, "
-        "big-endian), dump (of xxd, hexdump, od or tshark) or c (an array or escapes)",
+        "big-endian), dump (of xxd, hexdump, od or tshark), c (an array or escapes) or capture (pcap or pcapng)",
         "FORMAT");
+}
+
+// Which packets of a capture are read.
+void add_packets(CLI::App &command, command_options &options)
+{
+    CLI::Option *port = command.add_option(
+        "--port", options.input.packets.ports, "of a capture: only packets to this UDP or TCP port; may be repeated");
+    port->option_text("PORT")->allow_extra_args(false)->check(CLI::Range(1, 65535));
+    add_choice<port_side>(command, "--side", options.input.packets.side,
+        {{"to", port_side::to}, {"from", port_side::from}, {"both", port_side::both}},
+        "of a capture: packets to the port, from it, or both", "SIDE");
+    command.get_option("--side")->needs(port);
+    add_choice<std::optional<transport>>(command, "--transport", options.input.packets.protocol,
+        {{"udp", transport::udp}, {"tcp", transport::tcp}, {"both", std::nullopt}},
+        "of a capture: udp (a datagram is a message), tcp (frames) or both", "TRANSPORT");
 }
 
 void add_number(CLI::App &command, command_options &options)
@@ -69,6 +84,7 @@ void add_file(CLI::App &command, command_options &options)
     command.add_option(
         "FILE", options.input.files, "the input, in any number of files; - or nothing is standard input");
     add_format(command, options);
+    add_packets(command, options);
     add_number(command, options);
 }
 
@@ -162,6 +178,7 @@ void declare_diff(CLI::App &command, command_options &options)
     command.add_option("A", options.input.files.front(), "the messages of one side; - is standard input")->required();
     command.add_option("B", options.second_file, "those of the other")->required();
     add_format(command, options);
+    add_packets(command, options);
     add_number(command, options);
     add_json(command, options);
     add_output(command, options);

@@ -12,12 +12,12 @@ _mava_tum_adapters() {
 # _mava_tum_options <command>
 _mava_tum_options() {
     case $1 in
-    decode) echo "--format --message --json --fields --no-absent --output --color --help" ;;
-    explain) echo "--format --message --json --output --color --help" ;;
+    decode) echo "--format --port --side --transport --message --json --fields --no-absent --output --color --help" ;;
+    explain) echo "--format --port --side --transport --message --json --output --color --help" ;;
     encode) echo "--output --to --help" ;;
-    app) echo "--format --message --output --to --help" ;;
-    check | guess) echo "--format --message --json --output --help" ;;
-    diff) echo "--format --message --json --output --color --help" ;;
+    app) echo "--format --port --side --transport --message --output --to --help" ;;
+    check | guess) echo "--format --port --side --transport --message --json --output --help" ;;
+    diff) echo "--format --port --side --transport --message --json --output --color --help" ;;
     list) echo "--json --output --help" ;;
     esac
 }
@@ -36,7 +36,7 @@ _mava_tum_arguments_before() {
     local i count=0
     for ((i = 2; i < COMP_CWORD; i++)); do
         case ${COMP_WORDS[i]} in
-        -f | --format | --message | -o | --output | -t | --to | --color) i=$((i + 1)) ;;
+        -f | --format | --port | --side | --transport | --message | -o | --output | -t | --to | --color) i=$((i + 1)) ;;
         -?*) ;;
         *) count=$((count + 1)) ;;
         esac
@@ -47,10 +47,12 @@ _mava_tum_arguments_before() {
 _mava_tum() {
     local program=${COMP_WORDS[0]} word=${COMP_WORDS[COMP_CWORD]} before=${COMP_WORDS[COMP_CWORD - 1]} words
     case $before in
-    -f | --format) words="auto raw hex base64 frames dump c" ;;
+    -f | --format) words="auto raw hex base64 frames dump c capture" ;;
+    --side) words="to from both" ;;
+    --transport) words="udp tcp both" ;;
     -t | --to) words="raw hex base64 frames" ;;
     --color) words="auto always never" ;;
-    -o | --output | --message) words= ;;
+    -o | --output | --message | --port) words= ;;
     *)
         if [ "$COMP_CWORD" -eq 1 ]; then
             words="decode explain encode app check guess diff list --help --version"

@@ -7,7 +7,7 @@ function __mava_tum_count
     for word in (commandline -opc)[3..-1]
         if test $skip = 1
             set skip 0
-        else if contains -- $word -f --format --message -o --output -t --to --color
+        else if contains -- $word -f --format --port --side --transport --message -o --output -t --to --color
             set skip 1
         else if not string match -qr '^-.' -- $word
             set count (math $count + 1)
@@ -43,7 +43,13 @@ complete -c mava-tum -n "__mava_tum_argument 0 app check" -f -a "(__mava_tum_ada
 complete -c mava-tum -n "__mava_tum_argument 1 app" -f -a "encode decode"
 
 complete -c mava-tum -n "__fish_seen_subcommand_from decode explain app check guess diff" -x -s f -l format \
-    -a "auto raw hex base64 frames dump c" -d "What the input is written in"
+    -a "auto raw hex base64 frames dump c capture" -d "What the input is written in"
+complete -c mava-tum -n "__fish_seen_subcommand_from decode explain app check guess diff" -x -l port \
+    -d "Only packets to this port"
+complete -c mava-tum -n "__fish_seen_subcommand_from decode explain app check guess diff" -x -l side \
+    -a "to from both" -d "Packets to the port or from it"
+complete -c mava-tum -n "__fish_seen_subcommand_from decode explain app check guess diff" -x -l transport \
+    -a "udp tcp both" -d "Packets of this protocol"
 complete -c mava-tum -n "__fish_seen_subcommand_from decode explain app check guess diff" -x -l message \
     -d "Only this message of each file"
 complete -c mava-tum -n "__fish_seen_subcommand_from decode explain check guess diff list" -s j -l json -d "Print JSON"

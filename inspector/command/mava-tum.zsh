@@ -16,7 +16,10 @@ _mava_tum_adapters() {
 
 _mava_tum_arguments() {
     local -a input output json color written
-    input=('(-f --format)'{-f,--format}'[what the input is written in]:format:(auto raw hex base64 frames dump c)'
+    input=('(-f --format)'{-f,--format}'[what the input is written in]:format:(auto raw hex base64 frames dump c capture)'
+        '*--port[only packets to this port]:port:'
+        '--side[packets to the port or from it]:side:(to from both)'
+        '--transport[packets of this protocol]:transport:(udp tcp both)'
         '--message[only this message of each file]:number:')
     output=('(-o --output)'{-o,--output}'[write to this file]:file:_files' '(- *)'{-h,--help}'[print help]')
     json=('(-j --json)'{-j,--json}'[print JSON]')

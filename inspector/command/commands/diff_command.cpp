@@ -84,8 +84,20 @@ private:
         const message_place first = pair.first.place();
         const message_place second = pair.second.place();
         if (is_one_of_several(pair))
-            m_output.write(fmt::format("message {}, at byte {} of A and byte {} of B:\n",
-                std::max(first.number, second.number), first.offset, second.offset));
+            m_output.write(fmt::format("message {}, at {} of A and {} of B:\n", std::max(first.number, second.number),
+                place_in_file(first), place_in_file(second)));
+    }
+
+    static void write_place(json_writer &writer, std::string_view side, const message_place &place)
+    {
+        const bool is_packet = place.packet != 0;
+        write_number(writer, fmt::format("{}_{}", is_packet ? "packet" : "offset", side),
+            is_packet ? place.packet : place.offset);
+    }
+
+    static std::string place_in_file(const message_place &place)
+    {
+        return place.packet != 0 ? fmt::format("packet {}", place.packet) : fmt::format("byte {}", place.offset);
     }
 
     static bool is_one_of_several(const message_pair &pair)
@@ -102,8 +114,8 @@ private:
         writer.open_object();
         if (is_one_of_several(pair)) {
             write_number(writer, "number", std::max(first.number, second.number));
-            write_number(writer, "offset_a", first.offset);
-            write_number(writer, "offset_b", second.offset);
+            write_place(writer, "a", first);
+            write_place(writer, "b", second);
         }
         writer.name("same_bytes");
         writer.truth(pair.has_same_bytes());

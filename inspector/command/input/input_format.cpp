@@ -1,6 +1,7 @@
 #include "input/input_format.h"
 
 #include "bad_use.h"
+#include "capture/capture_file.h"
 #include "input/c_text.h"
 #include "input/digit_text.h"
 #include "input/dump_text.h"
@@ -112,7 +113,7 @@ plausibility plausibility_as(const beginning &input, reader_fn reader, const pla
 
 std::string_view name_of(input_format format)
 {
-    constexpr std::string_view names[] = {"auto", "raw", "hex", "base64", "frames", "dump", "c"};
+    constexpr std::string_view names[] = {"auto", "raw", "hex", "base64", "frames", "dump", "c", "capture"};
     return names[static_cast<size_t>(format)];
 }
 
@@ -124,6 +125,8 @@ input_format detect_format(input_stream &stream, const plausible_fn &plausible)
     // number 0 does not exist.
     if (!bytes.empty() && bytes[0] == 0)
         return input_format::frames;
+    if (is_capture(bytes))
+        return input_format::capture;
     if (const std::optional<input_format> pasted = pasted_format(input))
         return *pasted;
     const bool hex_shaped = is_hex_shaped(input);

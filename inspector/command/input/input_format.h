@@ -9,7 +9,7 @@
 namespace mava_tum_cli
 {
 
-enum class input_format { automatic, raw, hex, base64, frames, dump, c };
+enum class input_format { automatic, raw, hex, base64, frames, dump, c, capture };
 
 std::string_view name_of(input_format format);
 

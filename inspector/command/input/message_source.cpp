@@ -40,6 +40,7 @@ message_source::message_source(chosen_input input, plausible_fn plausible)
 
 void message_source::open(const std::string &path)
 {
+    m_capture.reset();
     m_stream.emplace(path);
     ++m_opened;
     m_number = 0;
@@ -50,6 +51,9 @@ void message_source::open(const std::string &path)
         throw bad_use(fmt::format("{}: is empty; if this is an empty message, say -f raw", m_stream->name()));
     if (m_format == input_format::automatic)
         m_format = detect_format(*m_stream, m_plausible);
+    if (m_format == input_format::capture)
+        m_capture.emplace(*m_stream, m_input.packets,
+            [this](const std::string &what) { print_error("", fmt::format("{}: {}", m_stream->name(), what)); });
 }
 
 byte_vector message_source::whole_message()
@@ -81,6 +85,15 @@ bool message_source::take_frame()
     return true;
 }
 
+bool message_source::take_captured()
+{
+    if (!m_capture->next(m_captured))
+        return false;
+    m_message = std::move(m_captured.bytes);
+    ++m_number;
+    return true;
+}
+
 bool message_source::take_whole()
 {
     if (m_number != 0)
@@ -93,12 +106,12 @@ bool message_source::take_whole()
 // False: the file has no further message that is wanted.
 bool message_source::take_from_file()
 {
-    if (!has_frames())
+    if (!is_stream())
         return take_whole();
     if (m_input.number != 0 && m_number == m_input.number)
         return false;
     do {
-        if (!take_frame())
+        if (!(m_capture ? take_captured() : take_frame()))
             return false;
     } while (m_number < m_input.number);
     return true;
@@ -123,9 +136,13 @@ message_place message_source::place() const
     message_place place;
     if (m_input.files.size() > 1)
         place.file = m_stream->name();
-    if (has_frames()) {
+    if (is_stream()) {
         place.number = m_number;
         place.offset = m_begin;
+    }
+    if (m_capture) {
+        place.packet = m_captured.packet;
+        place.direction = *m_captured.direction;
     }
     return place;
 }

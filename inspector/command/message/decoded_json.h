@@ -1,6 +1,7 @@
 // A message as the JSON of `decode --json`, written as it is decoded:
 //
 //     file, number, offset       where it comes from, if there can be several
+//     packet, direction          of a capture, instead of the offset
 //     message, bytes, result     its name, its size, and with what a decode answers it
 //     fault                      where and why a decode ends, if it does
 //     record                     the values of the fields that are present: what `encode` reads

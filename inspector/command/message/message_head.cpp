@@ -29,8 +29,12 @@ void open_message(json_writer &writer, const message_place &place, std::string_v
     if (place.number != 0) {
         writer.name("number");
         writer.number(place.number);
-        writer.name("offset");
-        writer.number(place.offset);
+        writer.name(place.packet != 0 ? "packet" : "offset");
+        writer.number(place.packet != 0 ? place.packet : place.offset);
+    }
+    if (place.packet != 0) {
+        writer.name("direction");
+        writer.string(place.direction);
     }
     if (!name.empty()) {
         writer.name("message");

@@ -159,7 +159,7 @@ class ArgumentTest(InspectorTest):
 
     def test_choices_are_told(self):
         self.refused("decode", "subscriber_v4", "--format", "octal",
-                     says=["--format", "octal not in {auto,raw,hex,base64,frames,dump,c}"])
+                     says=["--format", "octal not in {auto,raw,hex,base64,frames,dump,c,capture}"])
         self.refused("app", "session_delete", "transcode", says="transcode")
 
     def test_standard_input_is_one_message_only(self):

@@ -41,7 +41,8 @@ class CompletionTests:
         self.assertEqual(self.offered(*words), ["subscriber_v4"])
 
     def test_values_of_options_are_offered(self):
-        self.assertEqual(self.offered("decode", "-f", ""), ["auto", "base64", "c", "dump", "frames", "hex", "raw"])
+        self.assertEqual(self.offered("decode", "-f", ""),
+                         ["auto", "base64", "c", "capture", "dump", "frames", "hex", "raw"])
         self.assertEqual(self.offered("encode", "--to", "b"), ["base64"])
         self.assertEqual(self.offered("decode", "--color", ""), ["always", "auto", "never"])
 
