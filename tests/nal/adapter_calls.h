@@ -2,7 +2,7 @@
 // with ones, and no adapter may call an allocator.
 #pragma once
 
-#include "nal/adapter_functions.h"
+#include "catalogue.h"
 #include "support/guarded_buffer.h"
 #include "support/heap_count.h"
 #include "support/hex.h"
@@ -16,6 +16,29 @@
 
 namespace mava_tum_test
 {
+
+// ---- the adapter of an application record, so that a test can be written once for several ----
+
+// The first adapter that sends or receives the record.
+template <class record_type>
+const mava_tum_catalogue::adapter &adapter_of()
+{
+    const auto *layout = &mava_tum_catalogue::layout_of<record_type>();
+    const mava_tum_catalogue::adapter *adapter = mava_tum_catalogue::all_adapters().data();
+    while (adapter->sent != layout && adapter->received != layout)
+        ++adapter;
+    return *adapter;
+}
+
+// Two adapters have the same record. This type without a member names the second one.
+struct rec_complete_res : tum_nal_data_rec_res {
+};
+
+template <>
+inline const mava_tum_catalogue::adapter &adapter_of<rec_complete_res>()
+{
+    return *mava_tum_catalogue::find_adapter("rec_complete_res");
+}
 
 template <class record_type>
 uint64_t call_encode_adapter(const record_type &record, uint8_t *buffer, uint32_t capacity)
