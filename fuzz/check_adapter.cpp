@@ -1,7 +1,6 @@
 #include "check_adapter.h"
 
-#include "model/application_receive.h"
-#include "model/application_send.h"
+#include "model/application_transfer.h"
 #include "model/block_log.h"
 #include "model/model.h"
 #include "model/random_source.h"

@@ -3,9 +3,9 @@
 // Prints the rows of the table in docs/figures/memory.md and the worst of all; exits with 1 if an input exceeds a
 // limit.
 #include "amplification/asked_limit.h"
+#include "amplification/costly_inputs.h"
 #include "amplification/measured_decode.h"
 #include "amplification/short_inputs.h"
-#include "amplification/worst_wire.h"
 #include "support/hex.h"
 
 #include <algorithm>

@@ -1,7 +1,6 @@
 // check_steps <bytes> Decodes, under callgrind, expensive inputs of <bytes> and of twice as many bytes. Each decode
 // writes a dump of callgrind with the name "<message>: <input>|<bytes>". scripts/check/steps reads them.
-#include "amplification/step_inputs.h"
-#include "amplification/worst_wire.h"
+#include "amplification/costly_inputs.h"
 #include "model/library_calls.h"
 
 #include <cstdio>

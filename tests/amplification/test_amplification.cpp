@@ -1,8 +1,8 @@
 // How much memory can a few bytes request? scripts/check/amplification searches longer.
 #include "amplification/asked_limit.h"
+#include "amplification/costly_inputs.h"
 #include "amplification/measured_decode.h"
 #include "amplification/short_inputs.h"
-#include "amplification/worst_wire.h"
 #include "support/hex.h"
 
 #include <gtest/gtest.h>

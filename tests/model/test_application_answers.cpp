@@ -1,6 +1,5 @@
 // The model's results for the adapters, compared with results known by hand.
-#include "model/application_receive.h"
-#include "model/application_send.h"
+#include "model/application_transfer.h"
 #include "model/block_log.h"
 #include "model/raw_memory.h"
 #include "support/hex.h"

@@ -1,4 +1,4 @@
-// Inputs that are expensive for a decoder: a few bytes, repeated.
+// The inputs that come closest to the limits: in memory, and in steps for each byte.
 #pragma once
 
 #include "model/message_tables.h"
@@ -10,6 +10,18 @@
 
 namespace mava_tum_amplification
 {
+
+using wire_bytes = std::vector<uint8_t>;
+
+// ---- in memory: runs of empty elements, as deep as the dearest of them stands ----
+
+// At most `length` bytes. Empty if the message never requests memory.
+wire_bytes worst_wire(const mava_tum_model::message &of, std::size_t length);
+
+// At most `length` bytes with a nested record twice. Empty if no nested record owns memory.
+wire_bytes dropping_wire(const mava_tum_model::message &of, std::size_t length);
+
+// ---- in steps: the same few bytes again and again ----
 
 struct repeated_bytes {
     std::string name;
