@@ -1,0 +1,190 @@
+// The functions of mava_tum_inspect.h, by what they call.
+#include "inspector/library/check.h"
+#include "inspector/library/decode_memory.h"
+#include "inspector/library/explain.h"
+#include "inspector/library/guess.h"
+#include "inspector/library/message_table.h"
+#include "inspector/library/similar_names.h"
+
+#include <algorithm>
+
+namespace
+{
+
+using namespace mava_tum_inspect;
+
+static_assert(MAVA_TUM_INSPECT_VARINT == static_cast<int>(field_kind::varint));
+static_assert(MAVA_TUM_INSPECT_FIXED32 == static_cast<int>(field_kind::fixed32));
+static_assert(MAVA_TUM_INSPECT_BYTES == static_cast<int>(field_kind::bytes));
+static_assert(MAVA_TUM_INSPECT_TEXT == static_cast<int>(field_kind::text));
+static_assert(MAVA_TUM_INSPECT_RECORD == static_cast<int>(field_kind::record));
+static_assert(MAVA_TUM_INSPECT_RECORD_ARRAY == static_cast<int>(field_kind::record_array));
+static_assert(MAVA_TUM_INSPECT_TEXT_ARRAY == static_cast<int>(field_kind::text_array));
+static_assert(MAVA_TUM_INSPECT_NO_ADDRESS == static_cast<int>(address_kind::none));
+static_assert(MAVA_TUM_INSPECT_IPV4 == static_cast<int>(address_kind::ipv4));
+static_assert(MAVA_TUM_INSPECT_IPV6 == static_cast<int>(address_kind::ipv6));
+
+class judge final : public wire_visitor
+{
+public:
+    explicit judge(mava_tum_inspect_verdict &verdict) : verdict_(verdict) {}
+
+    void on_fault(const wire_fault &fault) override
+    {
+        fill_fault(verdict_, fault);
+    }
+
+private:
+    mava_tum_inspect_verdict &verdict_;
+};
+
+class memory_counter final : public wire_visitor
+{
+public:
+    explicit memory_counter(bool aliases) : memory(aliases) {}
+
+    void on_value(const occurrence &at) override
+    {
+        memory.count_value(at);
+    }
+
+    void on_run(const occurrence &first, uint64_t elements) override
+    {
+        memory.count_run(first, elements);
+    }
+
+    void on_fault(const wire_fault &fault) override
+    {
+        memory.count_fault(fault);
+    }
+
+    decode_memory memory;
+};
+
+// The largest useful number.
+constexpr uint32_t most_names = 8;
+
+template <class Described>
+uint32_t similar_among(std::span<const Described> all, const char *wrong, const char **names, uint32_t capacity)
+{
+    similar_name found[most_names];
+    const std::span<similar_name> places(found, std::min(capacity, most_names));
+    uint32_t count = 0;
+    for (const Described &described : all)
+        count = add_if_similar(wrong, described.name, places, count);
+    for (uint32_t i = 0; i < count; ++i)
+        names[i] = found[i].name;
+    return count;
+}
+
+} // namespace
+
+// ---- names ----
+
+extern "C" uint32_t mava_tum_inspect_message_count(void)
+{
+    return static_cast<uint32_t>(all_messages().size());
+}
+
+extern "C" const char *mava_tum_inspect_message_name(uint32_t index)
+{
+    return index < all_messages().size() ? all_messages()[index].name : nullptr;
+}
+
+extern "C" uint32_t mava_tum_inspect_adapter_count(void)
+{
+    return static_cast<uint32_t>(all_adapters().size());
+}
+
+extern "C" const char *mava_tum_inspect_adapter_name(uint32_t index)
+{
+    return index < all_adapters().size() ? all_adapters()[index].name : nullptr;
+}
+
+extern "C" uint32_t mava_tum_inspect_similar_messages(const char *wrong, const char **names, uint32_t capacity)
+{
+    return similar_among(all_messages(), wrong, names, capacity);
+}
+
+extern "C" uint32_t mava_tum_inspect_similar_adapters(const char *wrong, const char **names, uint32_t capacity)
+{
+    return similar_among(all_adapters(), wrong, names, capacity);
+}
+
+// ---- messages and fields ----
+
+extern "C" int32_t mava_tum_inspect_describe(const char *message, mava_tum_inspect_message *description)
+{
+    const message_description *found = find_message(message);
+    if (found == nullptr)
+        return MAVA_TUM_INSPECT_NO_SUCH_NAME;
+    *description = {found->name, static_cast<uint32_t>(found->fields.size()), found->record_bytes, found->mask_offset,
+        static_cast<uint32_t>(found->mask_bytes), found->holds_bytes};
+    return MAVA_TUM_OK;
+}
+
+extern "C" int32_t mava_tum_inspect_describe_field(
+    const char *message, uint32_t number, mava_tum_inspect_field *description)
+{
+    const message_description *found = find_message(message);
+    const field_description *field = found == nullptr ? nullptr : find_field(*found, number);
+    if (field == nullptr)
+        return MAVA_TUM_INSPECT_NO_SUCH_NAME;
+    *description = {field->name, field->number, static_cast<int32_t>(field->kind), field->value_bits,
+        static_cast<int32_t>(field->address), field->member_offset, field->count_offset,
+        field->nested == nullptr ? nullptr : field->nested->name};
+    return MAVA_TUM_OK;
+}
+
+// ---- wire bytes ----
+
+extern "C" int32_t mava_tum_inspect_judge(
+    const char *message, const uint8_t *data, uint64_t length, mava_tum_inspect_verdict *verdict)
+{
+    const message_description *found = find_message(message);
+    if (found == nullptr)
+        return MAVA_TUM_INSPECT_NO_SUCH_NAME;
+    fill_success(*verdict, length);
+    judge visitor(*verdict);
+    walk_message(*found, data, length, visitor);
+    return MAVA_TUM_OK;
+}
+
+extern "C" int32_t mava_tum_inspect_explain(const char *message, const uint8_t *data, uint64_t length,
+    mava_tum_inspect_line_fn line_fn, void *context, mava_tum_inspect_verdict *verdict)
+{
+    const message_description *found = find_message(message);
+    if (found == nullptr)
+        return MAVA_TUM_INSPECT_NO_SUCH_NAME;
+    explain_message(*found, data, length, line_fn, context, verdict);
+    return MAVA_TUM_OK;
+}
+
+extern "C" int32_t mava_tum_inspect_memory(const char *message, const uint8_t *data, uint64_t length, uint32_t flags,
+    uint64_t *block_count, uint64_t *block_bytes)
+{
+    const message_description *found = find_message(message);
+    if (found == nullptr)
+        return MAVA_TUM_INSPECT_NO_SUCH_NAME;
+    memory_counter visitor((flags & MAVA_TUM_ALIAS) != 0);
+    walk_message(*found, data, length, visitor);
+    *block_count = visitor.memory.asked().blocks;
+    *block_bytes = visitor.memory.asked().bytes;
+    return MAVA_TUM_OK;
+}
+
+extern "C" int32_t mava_tum_inspect_check(const char *adapter, const uint8_t *data, uint64_t length,
+    mava_tum_inspect_finding_fn finding_fn, void *context, mava_tum_inspect_check_result *result)
+{
+    const adapter_description *found = find_adapter(adapter);
+    if (found == nullptr)
+        return MAVA_TUM_INSPECT_NO_SUCH_NAME;
+    check_message(*found, data, length, finding_fn, context, *result);
+    return MAVA_TUM_OK;
+}
+
+extern "C" uint32_t mava_tum_inspect_guess(
+    const uint8_t *data, uint64_t length, mava_tum_inspect_candidate *candidates, uint32_t capacity)
+{
+    return guess_messages(data, length, {candidates, capacity});
+}
