@@ -5,9 +5,8 @@ from __future__ import annotations
 from collections.abc import Mapping, Sequence
 from typing import Any
 
-from .calls import encoded
 from .errors import FieldValueError
-from .library import ffi, library
+from .library import encoded, ffi, library
 from .schema import APPLICATION_RECORDS, Member, find_adapter
 from .shapes import as_list, as_record
 from .values import APPLICATION_ORDER, from_bytes, from_text, to_number, to_number_or_address

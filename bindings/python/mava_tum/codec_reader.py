@@ -4,9 +4,8 @@ from __future__ import annotations
 
 from typing import Any
 
-from .calls import call_codec
 from .errors import DecodeError
-from .library import ffi, inspect_library, library
+from .library import call_codec, ffi, inspect_library, library
 from .memory import DEFAULT_LIMIT, Blocks, LimitReached
 from .schema import MESSAGES, RESULTS, Field, Message, find_message
 from .values import CODEC_ORDER, to_dotted, to_text, wire_bytes

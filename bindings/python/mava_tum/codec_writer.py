@@ -5,8 +5,7 @@ from __future__ import annotations
 from collections.abc import Mapping
 from typing import Any
 
-from .calls import call_codec, encoded
-from .library import ffi
+from .library import call_codec, encoded, ffi
 from .schema import MESSAGES, Field, Message, find_message
 from .shapes import as_list, as_record
 from .values import CODEC_ORDER, from_bytes, from_text, to_number_or_address

@@ -1,4 +1,4 @@
-"""The shared library, loaded once.
+"""The shared library, loaded once, and the calls into it.
 
 The module `_declarations` has the declarations of the headers; nothing is compiled here. Loads the first of: the file
 that the environment variable LIBMAVA_TUM names; the one in the folder of this package, as in a wheel; the one installed
@@ -9,14 +9,16 @@ from __future__ import annotations
 
 import functools
 import os
+from collections.abc import Callable, Mapping
 from pathlib import Path
 from typing import Any
 
 from ._declarations import ffi
 from ._location import INSPECT_SONAME, LIBRARIES_FROM_PACKAGE, SONAME
 from .errors import LibraryError
+from .schema import Message
 
-__all__ = ["ffi", "inspect_library", "library", "load"]
+__all__ = ["call_codec", "encoded", "ffi", "inspect_library", "library", "load"]
 
 
 def _file_to_load(variable: str, soname: str) -> str:
@@ -50,3 +52,18 @@ def inspect_library() -> Any | None:
 
 
 library = load()
+
+
+def call_codec(message: Message, function: str, arguments: Mapping[str, Any]) -> Any:
+    """Calls one of the four functions of a message. Their parameters differ between messages: arguments are passed by
+    name, and those without a parameter are left out."""
+    parameters = message.functions[function]
+    return getattr(library, f"{message.c_type}_{function}")(*[arguments[each] for each in parameters])
+
+
+def encoded(encode: Callable[[Any, int], Any]) -> bytes:
+    """The output of an encode function: a size request first, then the encode."""
+    size = encode(ffi.NULL, 0)
+    buffer = ffi.new("uint8_t[]", size)
+    encode(buffer, size)
+    return bytes(ffi.buffer(buffer, size))
