@@ -14,6 +14,9 @@ namespace mava_tum_cli
 // What decodes as the message, with a field that it knows.
 plausible_fn plausibility_of(const mava_tum_inspect::message_description &message);
 
+// Whether bytes decode as one of the messages: for input of which nobody says which it is.
+plausibility plausibility_of_any(std::span<const uint8_t> wire);
+
 class fault_report
 {
 public:

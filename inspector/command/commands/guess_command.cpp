@@ -1,5 +1,6 @@
 #include "bad_use.h"
 #include "commands/all_commands.h"
+#include "commands/decode_verdict.h"
 #include "input/message_source.h"
 #include "mava_tum_inspect.h"
 #include "message/message_head.h"
@@ -26,15 +27,6 @@ candidates guess(std::span<const uint8_t> wire)
     candidates found(mava_tum_inspect_message_count());
     found.resize(mava_tum_inspect_guess(wire.data(), wire.size(), found.data(), static_cast<uint32_t>(found.size())));
     return found;
-}
-
-plausibility plausibility_of_any(std::span<const uint8_t> wire)
-{
-    const candidates found = guess(wire);
-    if (found.empty())
-        return plausibility::none;
-    const mava_tum_inspect_candidate &best = found.front();
-    return best.unknown_bytes == 0 && best.odd_forms == 0 ? plausibility::exact : plausibility::decodes;
 }
 
 // ---- one message -------------------------------------------------------------------------------------------------
@@ -132,6 +124,15 @@ private:
 };
 
 } // namespace
+
+plausibility plausibility_of_any(std::span<const uint8_t> wire)
+{
+    const candidates found = guess(wire);
+    if (found.empty())
+        return plausibility::none;
+    const mava_tum_inspect_candidate &best = found.front();
+    return best.unknown_bytes == 0 && best.odd_forms == 0 ? plausibility::exact : plausibility::decodes;
+}
 
 exit_status run_guess(const command_options &options)
 {
