@@ -94,4 +94,13 @@ Example:
       2  ipv4_address      fixed32           IPv4 address
 )";
 
+const char *const web = R"(
+`mava-tum web message.hex -o message.html` writes inspector.html with the input in it: a page that
+needs no other file and no network.
+
+Example:
+  $ echo '<script id="given">null</script>' > page.html; echo 08 | mava-tum web --page page.html
+  <script id="given">{"name":"standard input","message":"","format":"auto","bytes":"MDgK"}</script>
+)";
+
 } // namespace mava_tum_cli::help

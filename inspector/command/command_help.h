@@ -13,5 +13,6 @@ extern const char *const check;
 extern const char *const guess;
 extern const char *const diff;
 extern const char *const list;
+extern const char *const web;
 
 } // namespace mava_tum_cli::help

@@ -192,6 +192,18 @@ void declare_list(CLI::App &command, command_options &options)
     add_output(command, options);
 }
 
+void declare_web(CLI::App &command, command_options &options)
+{
+    command.add_option("FILE", options.input.files.front(), "the input; - or nothing is standard input");
+    command.add_option("--name", options.name, "the message, as `mava-tum list` names it; otherwise it is guessed")
+        ->option_text("MESSAGE");
+    options.page = MAVA_TUM_WEB_PAGE;
+    command.add_option("--page", options.page, "the page to put the input into, if not the installed one")
+        ->option_text("FILE");
+    add_format(command, options);
+    add_output(command, options);
+}
+
 struct command {
     const char *name;
     const char *summary;
@@ -210,6 +222,7 @@ const command all_commands[] = {
     {"guess", "Tell which messages some bytes can be", help::guess, declare_guess, run_guess},
     {"diff", "Compare messages field by field", help::diff, declare_diff, run_diff},
     {"list", "List the messages and their adapters, or the fields of one", help::list, declare_list, run_list},
+    {"web", "Write a web page that shows the input, and needs no network", help::web, declare_web, run_web},
 };
 
 void declare_all(CLI::App &program, command_options &options)

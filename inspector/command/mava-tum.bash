@@ -19,6 +19,7 @@ _mava_tum_options() {
     check | guess) echo "--format --port --side --transport --message --json --output --help" ;;
     diff) echo "--format --port --side --transport --message --json --output --color --help" ;;
     list) echo "--json --output --help" ;;
+    web) echo "--name --page --format --output --help" ;;
     esac
 }
 
@@ -36,7 +37,9 @@ _mava_tum_arguments_before() {
     local i count=0
     for ((i = 2; i < COMP_CWORD; i++)); do
         case ${COMP_WORDS[i]} in
-        -f | --format | --port | --side | --transport | --message | -o | --output | -t | --to | --color) i=$((i + 1)) ;;
+        -f | --format | --port | --side | --transport | --message | --name | --page | -o | --output | -t | --to | --color)
+            i=$((i + 1))
+            ;;
         -?*) ;;
         *) count=$((count + 1)) ;;
         esac
@@ -52,10 +55,11 @@ _mava_tum() {
     --transport) words="udp tcp both" ;;
     -t | --to) words="raw hex base64 frames" ;;
     --color) words="auto always never" ;;
-    -o | --output | --message | --port) words= ;;
+    --name) words=$(_mava_tum_messages "$program") ;;
+    -o | --output | --message | --page | --port) words= ;;
     *)
         if [ "$COMP_CWORD" -eq 1 ]; then
-            words="decode explain encode app check guess diff list --help --version"
+            words="decode explain encode app check guess diff list web --help --version"
         elif [[ $word == -* ]]; then
             words=$(_mava_tum_options "${COMP_WORDS[1]}")
         else

@@ -7,7 +7,7 @@ function __mava_tum_count
     for word in (commandline -opc)[3..-1]
         if test $skip = 1
             set skip 0
-        else if contains -- $word -f --format --port --side --transport --message -o --output -t --to --color
+        else if contains -- $word -f --format --port --side --transport --message --name --page -o --output -t --to --color
             set skip 1
         else if not string match -qr '^-.' -- $word
             set count (math $count + 1)
@@ -31,7 +31,7 @@ function __mava_tum_argument
     __fish_seen_subcommand_from $argv[2..-1]; and test (__mava_tum_count) = $argv[1]
 end
 
-set -l commands decode explain encode app check guess diff list
+set -l commands decode explain encode app check guess diff list web
 set -l none "not __fish_seen_subcommand_from $commands"
 
 complete -c mava-tum -n "$none" -f -a "$commands"
@@ -42,7 +42,7 @@ complete -c mava-tum -n "__mava_tum_argument 0 decode explain encode diff list" 
 complete -c mava-tum -n "__mava_tum_argument 0 app check" -f -a "(__mava_tum_adapters)"
 complete -c mava-tum -n "__mava_tum_argument 1 app" -f -a "encode decode"
 
-complete -c mava-tum -n "__fish_seen_subcommand_from decode explain app check guess diff" -x -s f -l format \
+complete -c mava-tum -n "__fish_seen_subcommand_from decode explain app check guess diff web" -x -s f -l format \
     -a "auto raw hex base64 frames dump c capture" -d "What the input is written in"
 complete -c mava-tum -n "__fish_seen_subcommand_from decode explain app check guess diff" -x -l port \
     -d "Only packets to this port"
@@ -59,4 +59,6 @@ complete -c mava-tum -n "__fish_seen_subcommand_from encode app" -x -s t -l to -
     -d "How to write messages"
 complete -c mava-tum -n "__fish_seen_subcommand_from decode explain diff" -x -l color -a "auto always never" \
     -d "When to use colours"
+complete -c mava-tum -n "__fish_seen_subcommand_from web" -x -l name -a "(__mava_tum_messages)" -d "The message"
+complete -c mava-tum -n "__fish_seen_subcommand_from web" -r -l page -d "Put the input into this page"
 complete -c mava-tum -n "__fish_seen_subcommand_from $commands" -r -s o -l output -d "Write to this file"

@@ -15,9 +15,9 @@ _mava_tum_adapters() {
 }
 
 _mava_tum_arguments() {
-    local -a input output json color written
-    input=('(-f --format)'{-f,--format}'[what the input is written in]:format:(auto raw hex base64 frames dump c capture)'
-        '*--port[only packets to this port]:port:'
+    local -a format input output json color written
+    format=('(-f --format)'{-f,--format}'[what the input is written in]:format:(auto raw hex base64 frames dump c capture)')
+    input=($format '*--port[only packets to this port]:port:'
         '--side[packets to the port or from it]:side:(to from both)'
         '--transport[packets of this protocol]:transport:(udp tcp both)'
         '--message[only this message of each file]:number:')
@@ -36,13 +36,15 @@ _mava_tum_arguments() {
     guess) _arguments -S $input $json $output '*:file:_files' ;;
     diff) _arguments -S $input $json $output $color '1:message:_mava_tum_messages' '2:file:_files' '3:file:_files' ;;
     list) _arguments -S $json $output '1:message:_mava_tum_messages' ;;
+    web) _arguments -S $format $output '--name[the message]:message:_mava_tum_messages' \
+        '--page[put the input into this page]:file:_files' '*:file:_files' ;;
     esac
 }
 
 _mava_tum() {
     local curcontext=$curcontext state line program=$words[1]
     _arguments -C '(- *)'{-h,--help}'[print help]' '(- *)'{-V,--version}'[print the version]' \
-        '1:command:(decode explain encode app check guess diff list)' '*::argument:->arguments'
+        '1:command:(decode explain encode app check guess diff list web)' '*::argument:->arguments'
     [[ $state == arguments ]] || return
     _mava_tum_arguments $words[1] # which begins with the command here
 }

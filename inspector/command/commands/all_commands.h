@@ -14,5 +14,6 @@ exit_status run_encode(const command_options &options);
 exit_status run_explain(const command_options &options);
 exit_status run_guess(const command_options &options);
 exit_status run_list(const command_options &options);
+exit_status run_web(const command_options &options);
 
 } // namespace mava_tum_cli

@@ -15,6 +15,7 @@ struct command_options {
     std::string direction;
     chosen_input input;
     std::string second_file;
+    std::string page; // inspector.html, that an input is put into
     std::string output; // empty: standard output
     input_format written_as = input_format::raw;
     colour_choice colour = colour_choice::automatic;

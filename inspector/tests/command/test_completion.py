@@ -9,7 +9,7 @@ from inspector import PROGRAM, SOURCES, InspectorTest, run
 
 FOLDER = os.path.join(SOURCES, "inspector", "command")
 TESTS = os.path.dirname(os.path.abspath(__file__))
-COMMANDS = ["app", "check", "decode", "diff", "encode", "explain", "guess", "list"]
+COMMANDS = ["app", "check", "decode", "diff", "encode", "explain", "guess", "list", "web"]
 
 
 def lines_of(*command, **settings):

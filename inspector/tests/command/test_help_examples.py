@@ -6,7 +6,7 @@ import unittest
 
 from inspector import PROGRAM, InspectorTest, run
 
-COMMANDS = ["decode", "explain", "encode", "app", "check", "guess", "diff", "list"]
+COMMANDS = ["decode", "explain", "encode", "app", "check", "guess", "diff", "list", "web"]
 PROMPT = "  $ "
 
 

@@ -26,7 +26,7 @@ class ManualPageTest(InspectorTest):
         shown = subprocess.run(["mandoc", "-Tutf8", PAGE], capture_output=True, text=True, check=True).stdout
         shown = re.sub(r".\x08", "", shown)
         commands = re.findall(r"(?m)^  ([a-z]+) ", part_of(run("--help").output, "Subcommands:"))
-        self.assertEqual(len(commands), 8)
+        self.assertEqual(len(commands), 9)
         for command in commands:
             self.assertIn(f"mava-tum {command}", shown)
             for option in re.findall(r"--[a-z-]+", part_of(run(command, "--help").output, "Options:")):
