@@ -1,0 +1,751 @@
+// The page: takes an input apart in the worker, shows what comes back, and sends edits the same way. All that is known
+// about messages comes from the module.
+'use strict';
+
+/** @typedef {import('./worker.js').Answer} Answer */
+
+const EXAMPLE = {name: 'session_context',
+    hex: '08 02 18 07 52 10 10 2a 2a 05 61 6c 69 63 65 52 05 08 64 10 90 4e'};
+const MOST_UNDO_BYTES = 64 << 20;
+const FRAME_NUMBERS = 4; // doubles of each message in a list, see module.cpp
+/** @type {Record<number, string>} */
+const NO_FIELDS = {[ROW.fault]: 'Decoding ends here', [ROW.unread]: 'Not read', [ROW.absent]: 'Absent fields'};
+const LONGEST_COPY_BYTES = 4 << 20;
+
+/** @param {string} id @returns {any} */
+function part(id) {
+    const found = document.getElementById(id);
+    if (found === null)
+        throw new Error(`the page has no ${id}`);
+    return found;
+}
+
+// ---- the worker --------------------------------------------------------------------------------------------------
+
+/** The worker with the module in it. One that was cancelled is replaced, and gets what it had to keep. */
+class Inspector {
+    /** @param {WebAssembly.Module} module */
+    constructor(module) {
+        this.module = module;
+        this.nextId = 1;
+        /** @type {Map<number, (answer: Answer) => void>} */
+        this.waiting = new Map();
+        /** @type {Map<string, Uint8Array | Blob>} */
+        this.kept = new Map();
+        this.url = URL.createObjectURL(new Blob([part('worker').textContent], {type: 'text/javascript'}));
+        this.start();
+    }
+
+    start() {
+        this.worker = new Worker(this.url);
+        this.worker.onmessage = (event) => {
+            if (event.data.id === 0)
+                return showBusy(`${mebibytes(event.data.done)} of ${mebibytes(event.data.all)}`, event.data.done / event.data.all);
+            const settle = this.waiting.get(event.data.id);
+            this.waiting.delete(event.data.id);
+            settle?.(event.data.answer);
+        };
+        this.worker.onerror = (event) => {
+            event.preventDefault();
+            this.restart('the inspector failed and was started again');
+        };
+        this.worker.postMessage({module: this.module});
+        for (const [name, content] of this.kept)
+            this.worker.postMessage({keep: {name, content}});
+    }
+
+    /** @param {string} reason what those are told that wait */
+    restart(reason) {
+        this.worker?.terminate();
+        const waiting = [...this.waiting.values()];
+        this.waiting.clear();
+        this.start();
+        for (const settle of waiting)
+            settle({status: 2, text: '', errors: reason, bytes: new Uint8Array(0), crashed: true});
+    }
+
+    /** @param {string} name @param {Uint8Array | Blob} content */
+    keep(name, content) {
+        this.kept.set(name, content);
+        this.worker?.postMessage({keep: {name, content}});
+    }
+
+    /** @param {string | object} request @returns {Promise<Answer>} */
+    run(request) {
+        const id = this.nextId++;
+        return new Promise((settle) => {
+            this.waiting.set(id, settle);
+            this.worker?.postMessage({id, request: typeof request === 'string' ? request : JSON.stringify(request)});
+        });
+    }
+}
+
+/** @param {number} count @param {string} one */
+function counted(count, one) {
+    return `${count} ${one}${count === 1 ? '' : 's'}`;
+}
+
+/** @param {number} bytes */
+function mebibytes(bytes) {
+    return `${(bytes / 1048576).toFixed(1)} MiB`;
+}
+
+/** @param {string} base64 */
+function bytesOfBase64(base64) {
+    return Uint8Array.from(atob(base64), (character) => character.charCodeAt(0));
+}
+
+/** @param {string} text @param {number} [share] of the work that is done */
+function showBusy(text, share) {
+    part('busy').hidden = text === '';
+    part('busy-text').textContent = text;
+    if (share === undefined)
+        part('progress').removeAttribute('value');
+    else
+        part('progress').value = share;
+}
+
+// ---- what the page holds -----------------------------------------------------------------------------------------
+
+/** @type {Inspector} */
+let inspector;
+/** @type {Message[]} */
+let catalogue = [];
+/** @type {Record<string, {name: string, text: string}>} */
+const rules = JSON.parse(part('rules').textContent);
+
+const state = {
+    name: '', // of the message
+    source: '', // of the kept file that the input is
+    format: 'auto',
+    /** @type {Uint8Array} */ bytes: new Uint8Array(0),
+    /** @type {Float64Array} */ frames: new Float64Array(0),
+    /** @type {number[]} */ framesShown: [],
+    frame: 0,
+    /** @type {{bytes: Uint8Array, name: string}[]} */ before: [],
+    /** @type {{bytes: Uint8Array, name: string}[]} */ after: [],
+    turn: 0, // of showing: an answer that comes late is dropped
+    half: -1, // the byte of which one hex digit was typed
+    /** @type {any} */ look: null,
+    other: false,
+};
+
+const view = new MessageView({
+    bytes: part('bytes'), tree: part('tree'), id: 'a',
+    selected: showSelected,
+    typed: typeByte,
+    key: treeKey,
+    texts: (first, count) => textsOf('shown', first, count),
+});
+const otherView = new MessageView({
+    bytes: part('other-bytes'), tree: part('other-tree'), id: 'b',
+    selected: () => {},
+    typed: () => {},
+    key: () => false,
+    texts: (first, count) => textsOf('the other message', first, count),
+});
+
+/** @param {string} input @param {number} first @param {number} count */
+async function textsOf(input, first, count) {
+    const answer = await inspector.run({command: 'texts', name: state.name, input, first, count});
+    return answer.text === '' ? [] : JSON.parse(answer.text);
+}
+
+/** A sentence with its rules as buttons. @param {string} sentence @returns {(Node | string)[]} */
+function withRules(sentence) {
+    return inert(sentence).split(/\b(L\d+)\b/).map((word) => {
+        if (!(word in rules))
+            return word;
+        const button = element('button', {type: 'button', class: 'rule', title: rules[word].name}, word);
+        button.addEventListener('click', () => {
+            part('leniency-title').textContent = `${word}: ${rules[word].name}`;
+            part('leniency-text').textContent = rules[word].text;
+            part('leniency').showModal();
+        });
+        return button;
+    });
+}
+
+/** @param {string} id @param {string} sentence */
+function say(id, sentence) {
+    part(id).replaceChildren(...withRules(sentence));
+}
+
+// ---- from an input to a message --------------------------------------------------------------------------------------
+
+/** @param {string} name @param {Uint8Array | Blob} content */
+function takeInput(name, content) {
+    state.source = name;
+    inspector.keep(name, content);
+    return readInput();
+}
+
+function readPaste() {
+    const text = part('input').value;
+    if (text.trim() === '' && part('format').value === 'auto')
+        return say('refusal', 'There is nothing to inspect yet: paste a message, or open a file.');
+    return takeInput('the input', new TextEncoder().encode(text));
+}
+
+async function readInput() {
+    say('refusal', '');
+    state.format = part('format').value;
+    state.name = part('message').value.trim();
+    const turn = ++state.turn;
+    showBusy('reading');
+    const answer = await inspector.run(
+        {command: 'message', name: state.name, input: state.source, format: state.format, number: 1});
+    showBusy('');
+    if (turn !== state.turn)
+        return;
+    if (answer.status === 2)
+        return say('refusal', answer.errors.replace('say which with --format', 'choose its form')
+            .replace('say -f raw', 'choose raw bytes').replace('or name the format with --format', 'or choose its form')
+            .replace('name the format with --format', 'choose its form').replace('(JSON is read by mava-tum encode)', ''));
+    state.before = [];
+    state.after = [];
+    state.frame = 1;
+    view.row = -1;
+    view.offset = 0;
+    await show(answer.bytes);
+    if (JSON.parse(answer.text).several)
+        await listFrames();
+    else
+        part('frames-part').hidden = true;
+}
+
+async function listFrames() {
+    showBusy('reading the messages', 0);
+    const answer = await inspector.run(
+        {command: 'frames', name: state.name, input: state.source, format: state.format});
+    showBusy('');
+    state.frames = new Float64Array(answer.bytes.buffer);
+    say('refusal', answer.errors);
+    part('frames-part').hidden = false;
+    filterFrames();
+}
+
+function filterFrames() {
+    const onlyWrong = part('frames-wrong').checked;
+    const all = state.frames.length / FRAME_NUMBERS;
+    state.framesShown = [];
+    let wrong = 0;
+    for (let i = 0; i < all; ++i) {
+        const isWrong = state.frames[i * FRAME_NUMBERS + 2] !== 0;
+        wrong += isWrong ? 1 : 0;
+        if (isWrong || !onlyWrong)
+            state.framesShown.push(i);
+    }
+    part('frames-sum').textContent = `${all} as ${state.name}, ${wrong} malformed`;
+    frameList.setCount(state.framesShown.length);
+}
+
+const frameList = new LineList(part('frames'), 26, (line) => {
+    const i = state.framesShown[line];
+    const [offset, size, result, fault] = state.frames.subarray(i * FRAME_NUMBERS, (i + 1) * FRAME_NUMBERS);
+    const isShown = i + 1 === state.frame;
+    const made = element('div', {role: 'option', class: `line${isShown ? ' selected' : ''}`, id: `frame-${i}`,
+        'data-frame': `${i + 1}`, 'aria-selected': `${isShown}`},
+        `${i + 1}  at byte ${offset}, ${size} bytes  `,
+        element('span', {class: result === 0 ? 'kind' : 'wrong'}, result === 0 ? 'decodes' : `result ${result} at byte ${fault}`));
+    if (isShown)
+        part('frames').setAttribute('aria-activedescendant', made.id);
+    return made;
+});
+
+/** @param {number} number from 1 */
+async function showFrame(number) {
+    if (!(number >= 1 && number <= state.frames.length / FRAME_NUMBERS))
+        return;
+    const offset = state.frames[(number - 1) * FRAME_NUMBERS];
+    const size = state.frames[(number - 1) * FRAME_NUMBERS + 1];
+    const kept = inspector.kept.get(state.source) ?? new Uint8Array(0);
+    const bytes = kept instanceof Blob ? new Uint8Array(await kept.slice(offset + 4, offset + 4 + size).arrayBuffer())
+        : kept.slice(offset + 4, offset + 4 + size);
+    state.frame = number;
+    state.before = [];
+    state.after = [];
+    view.row = -1;
+    frameList.draw();
+    await show(bytes);
+}
+
+/** Shows a message as state.name; guesses the name if there is none. @param {Uint8Array} bytes */
+async function show(bytes) {
+    const turn = ++state.turn;
+    inspector.keep('shown', bytes);
+    if (state.name === '' && !await guess())
+        return;
+    const [look, rows] = await Promise.all([
+        inspector.run({command: 'look', name: state.name, input: 'shown'}),
+        inspector.run({command: 'rows', name: state.name, input: 'shown'})]);
+    if (turn !== state.turn)
+        return;
+    if (look.status === 2 || rows.status === 2)
+        return say('refusal', look.errors || rows.errors);
+    state.bytes = bytes;
+    state.look = JSON.parse(look.text);
+    state.name = state.look.message;
+    part('message').value = state.name;
+    part('result-part').hidden = false;
+    view.set(bytes, new Rows(rows.bytes, catalogue));
+    showVerdict();
+    showHistory();
+    document.body.dataset.shown = `${turn}`;
+    await showAdapters();
+}
+
+// ---- which message -----------------------------------------------------------------------------------------------
+
+/** Chooses the likeliest message, and offers the others. */
+async function guess() {
+    const answer = await inspector.run({command: 'guess', input: 'shown', format: 'raw', json: true});
+    const candidates = answer.text === '' ? [] : JSON.parse(answer.text).candidates;
+    if (candidates.length === 0)
+        return chooseFurthest();
+    state.name = candidates[0].message;
+    offer('It can be: ', candidates.map((/** @type {any} */ one) => ({name: one.message, words: one.unknown_bytes === 0 ?
+        `${one.odd_forms} odd forms` : `${one.unknown_bytes} bytes unknown`})));
+    return true;
+}
+
+/** None decodes: the message whose decoder reads most of it. */
+async function chooseFurthest() {
+    const looks = await Promise.all(catalogue.map((message) =>
+        inspector.run({command: 'look', name: message.name, input: 'shown'})));
+    const reached = looks.filter((answer) => answer.text !== '').map((answer) => JSON.parse(answer.text))
+        .sort((one, other) => other.fault.offset - one.fault.offset);
+    if (reached.length === 0) {
+        say('refusal', looks[0].errors);
+        return false;
+    }
+    state.name = reached[0].message;
+    offer('None of the messages decodes; read furthest: ',
+        reached.slice(0, 8).map((look) => ({name: look.message, words: `result ${look.result} at byte ${look.fault.offset}`})));
+    return true;
+}
+
+/** @param {string} words @param {{name: string, words: string}[]} candidates */
+function offer(words, candidates) {
+    part('candidates').replaceChildren(words, ...candidates.map((one) => {
+        const button = element('button', {type: 'button'}, `${one.name} (${one.words})`);
+        button.addEventListener('click', () => {
+            state.name = one.name;
+            show(state.bytes);
+        });
+        return button;
+    }));
+}
+
+// ---- what is wrong, and what arrives ------------------------------------------------------------------------------
+
+function showVerdict() {
+    const {fault, message, bytes} = state.look;
+    part('verdict').className = fault ? 'wrong' : '';
+    if (!fault) {
+        part('verdict').textContent = `${message}, ${bytes} bytes: decodes`;
+        return part('explanation').replaceChildren();
+    }
+    part('verdict').textContent = `${message}, ${bytes} bytes: malformed at byte ${fault.offset}, result ${state.look.result}`;
+    const show = element('button', {type: 'button'}, 'Show the byte');
+    show.addEventListener('click', () => {
+        view.select(view.rows.fault, fault.offset);
+        part('bytes').focus();
+    });
+    part('explanation').replaceChildren(
+        element('p', {class: 'wrong'}, inert(fault.rule)),
+        element('p', {}, ...withRules(`Field: ${fault.path || 'none'}. The fields above this place in the tree were decoded; `
+            + 'what follows was not read. An application receives the first part, and no error (L15, L16).')), show);
+    if (view.row <= 0)
+        view.select(view.rows.fault, fault.offset);
+}
+
+async function showAdapters() {
+    const adapters = state.look.adapters;
+    part('adapters').replaceChildren(...adapters.map((/** @type {any} */ adapter) => {
+        const button = element('button', {type: 'button'}, adapter.name);
+        button.addEventListener('click', () => showAdapter(adapter));
+        return button;
+    }));
+    const memory = state.look.memory;
+    const segments = state.look.segments === undefined ? '' : `${counted(state.look.segments, 'segment')} when its bytes fields are left in place; `;
+    part('facts').textContent = `${state.look.bytes} bytes; ${segments}a decode asks for ${counted(memory.blocks, 'block')} with ${counted(memory.bytes, 'byte')}.`;
+    part('record-part').hidden = adapters.length === 0;
+    part('findings').replaceChildren();
+    part('findings-sum').textContent = adapters.length === 0 ? 'No adapter carries this message by itself.' : '';
+    if (adapters.length > 0)
+        await showAdapter(adapters[0]);
+}
+
+/** @param {{name: string, max_size: number}} adapter */
+async function showAdapter(adapter) {
+    const turn = state.turn;
+    const answer = await inspector.run({command: 'adapter', name: adapter.name, input: 'shown'});
+    if (turn !== state.turn || answer.text === '')
+        return;
+    const seen = JSON.parse(answer.text);
+    part('findings-sum').textContent = `${adapter.name}: ${counted(seen.finding_count, 'finding')}; the record has ${seen.record_bytes} bytes. `
+        + `The largest message of this adapter has ${adapter.max_size} bytes.`;
+    part('findings').replaceChildren(...seen.findings.slice(0, 100).map((/** @type {any} */ finding) =>
+        element('li', {}, ...withRules(finding.text))));
+    part('record').textContent = seen.record.split('\n').map(inert).join('\n');
+}
+
+// ---- edits -------------------------------------------------------------------------------------------------------
+
+/** @param {Uint8Array} bytes */
+function change(bytes) {
+    state.before.push({bytes: state.bytes, name: state.name});
+    state.after = [];
+    let held = 0;
+    let keep = state.before.length;
+    while (keep > 0 && held + state.before[keep - 1].bytes.length <= MOST_UNDO_BYTES)
+        held += state.before[--keep].bytes.length;
+    state.before.splice(0, keep);
+    return show(bytes);
+}
+
+/** @param {{bytes: Uint8Array, name: string}[]} from @param {{bytes: Uint8Array, name: string}[]} to */
+function step(from, to) {
+    const last = from.pop();
+    if (last === undefined)
+        return;
+    to.push({bytes: state.bytes, name: state.name});
+    state.name = last.name;
+    return show(last.bytes);
+}
+
+function showHistory() {
+    part('undo').disabled = state.before.length === 0;
+    part('redo').disabled = state.after.length === 0;
+}
+
+/** @param {number} offset @param {number | string} typed */
+function typeByte(offset, typed) {
+    const bytes = state.bytes;
+    if (typed === 'Insert')
+        return change(Uint8Array.from([...bytes.subarray(0, offset), 0, ...bytes.subarray(offset)]));
+    if (bytes.length === 0)
+        return;
+    if (typed === 'Delete') {
+        const shorter = new Uint8Array(bytes.length - 1);
+        shorter.set(bytes.subarray(0, offset));
+        shorter.set(bytes.subarray(offset + 1), offset);
+        return change(shorter);
+    }
+    const digit = Number(typed);
+    const isSecond = state.half === offset;
+    const changed = bytes.slice();
+    changed[offset] = isSecond ? (bytes[offset] & 0xF0) | digit : digit << 4 | (bytes[offset] & 0x0F);
+    state.half = isSecond ? -1 : offset;
+    if (isSecond && offset + 1 < bytes.length)
+        view.offset = offset + 1;
+    return change(changed);
+}
+
+/** @param {KeyboardEvent} event @param {number} row */
+function treeKey(event, row) {
+    if (event.key === 'Enter')
+        part('value').focus();
+    else if (event.key === 'Delete' && row >= 0)
+        removeField();
+    else
+        return false;
+    return true;
+}
+
+/** The record that a row belongs to, or is; -1: the message itself. @param {number} row */
+function recordAround(row) {
+    const {rows} = view;
+    return row >= 0 && rows.kind(row) === ROW.record ? row : row < 0 ? -1 : rows.parents[row];
+}
+
+/** @param {number} row */
+function showSelected(row) {
+    const {rows} = view;
+    state.half = state.half === view.offset ? state.half : -1;
+    const isField = row >= 0 && rows.kind(row) <= ROW.undecoded;
+    const field = row >= 0 ? rows.field(row) : undefined;
+    const told = view.texts.get(row);
+    part('selected').textContent = isField ? rows.path(row) : row >= 0 ? NO_FIELDS[rows.kind(row)] : '';
+    part('selected-place').textContent = isField ? `${field?.kind ?? 'unknown'} ${field?.message ?? field?.content ?? ''}; `
+        + `bytes ${rows.offset(row)} to ${rows.end(row) - 1}, value from byte ${rows.valueOffset(row)}` : '';
+    say('selected-notes', told?.notes.join('; ') ?? '');
+    const canChange = row >= 0 && rows.kind(row) === ROW.value;
+    part('value').disabled = !canChange;
+    part('apply').disabled = !canChange;
+    part('remove').disabled = !isField || rows.kind(row) === ROW.undecoded;
+    if (document.activeElement !== part('value'))
+        part('value').value = canChange && told && field ? editable(told.text, field) : '';
+    offerAbsent(row);
+}
+
+/** A value as it is typed. @param {string} text @param {Message['fields'][0]} field */
+function editable(text, field) {
+    const value = text === '(empty)' ? '' : text.replace(/^.* = /, '');
+    if (!field.kind.includes('text'))
+        return value;
+    const parsed = JSON.parse(text);
+    return typeof parsed === 'string' ? parsed : text;
+}
+
+/** @param {number} row */
+function offerAbsent(row) {
+    const {rows} = view;
+    const record = recordAround(row);
+    const message = record < 0 ? catalogue.find((each) => each.name === state.name)
+        : catalogue.find((each) => each.name === rows.field(record)?.message);
+    const present = new Set();
+    const end = record < 0 ? rows.count : Math.min(rows.count, record + 1 + 4096);
+    for (let i = record + 1; i < Math.min(end, record + 4096); ++i) {
+        if (record >= 0 && rows.depth(i) <= rows.depth(record))
+            break;
+        if (rows.parents[i] === record && rows.kind(i) <= ROW.record)
+            present.add(rows.number(i));
+    }
+    const options = (message?.fields ?? []).filter((field) => !present.has(field.number) || field.kind.startsWith('array'));
+    part('absent').replaceChildren(...options.map((field) =>
+        element('option', {value: `${field.number}`}, `${field.number} ${field.name}, ${field.kind}`)));
+    part('add').disabled = options.length === 0;
+    part('add').dataset.record = `${record}`;
+}
+
+/** @param {string} path @param {string | undefined} value JSON; undefined: it is removed */
+async function edit(path, value) {
+    const head = JSON.stringify({command: 'edit', name: state.name, input: 'shown', path});
+    const request = value === undefined ? head : `${head.slice(0, -1)},"value":${value}}`;
+    const answer = await inspector.run(request);
+    say('edit-refusal', answer.errors);
+    if (answer.status === 2)
+        return;
+    const lost = lossOfEdit();
+    await change(answer.bytes);
+    if (lost !== '')
+        say('edit-refusal', lost);
+}
+
+/** What writing the message again leaves behind. */
+function lossOfEdit() {
+    let unknown = 0;
+    for (const row of view.rows.holders)
+        unknown += view.rows.kind(row) === ROW.unknown ? 1 : 0;
+    const words = [];
+    if (unknown > 0)
+        words.push(`${unknown} unknown fields`);
+    if (state.look.fault)
+        words.push('what was not decoded');
+    return words.length === 0 ? '' : `The library wrote the message again, without ${words.join(' and ')}; Undo brings it back.`;
+}
+
+function changeValue() {
+    const {rows} = view;
+    const field = view.row < 0 ? undefined : rows.field(view.row);
+    if (!field)
+        return;
+    const typed = part('value').value;
+    const isLiteral = (field.kind === 'varint' && /^\s*\d+\s*$/.test(typed)) || /^\{"(hex|text)":.*\}$/.test(typed);
+    return edit(rows.pointer(view.row), isLiteral ? typed : JSON.stringify(typed));
+}
+
+function removeField() {
+    const {rows} = view;
+    if (view.row < 0 || rows.kind(view.row) > ROW.unknown)
+        return;
+    if (rows.kind(view.row) !== ROW.unknown)
+        return edit(rows.pointer(view.row), undefined);
+    // The library does not know it, and would drop all of its kind.
+    if (rows.depth(view.row) > 0)
+        return say('edit-refusal', 'An unknown field in a record is removed with its bytes, and the lengths around it.');
+    const kept = new Uint8Array(state.bytes.length - (rows.end(view.row) - rows.offset(view.row)));
+    kept.set(state.bytes.subarray(0, rows.offset(view.row)));
+    kept.set(state.bytes.subarray(rows.end(view.row)), rows.offset(view.row));
+    return change(kept);
+}
+
+function addField() {
+    const {rows} = view;
+    const record = Number(part('add').dataset.record);
+    const message = catalogue.find((each) => each.name === (record < 0 ? state.name : rows.field(record)?.message));
+    const field = message?.fields[Number(part('absent').value) - 1];
+    if (!field)
+        return;
+    const path = `${rows.pointer(record)}/${field.name}`;
+    /** @type {Record<string, string>} */
+    const empty = {varint: '0', fixed32: '"0.0.0.0"', bytes: '""', text: '""', record: '{}', 'array of records': '{}',
+        'array of texts': '""'};
+    let isThere = false;
+    for (let i = record + 1; i < rows.count && !isThere; ++i)
+        isThere = rows.parents[i] === record && rows.kind(i) <= ROW.record && rows.number(i) === field.number;
+    if (!field.kind.startsWith('array'))
+        return isThere ? say('edit-refusal', `${field.name} is there already; change its value`) : edit(path, empty[field.kind]);
+    return edit(isThere ? `${path}/-` : path, isThere ? empty[field.kind] : `[${empty[field.kind]}]`);
+}
+
+// ---- copies ------------------------------------------------------------------------------------------------------
+
+async function copy() {
+    const form = part('copy-form').value;
+    if (state.bytes.length > LONGEST_COPY_BYTES)
+        return say('edit-refusal', 'The message is too long for the clipboard; copy it with mava-tum.');
+    const pairs = Array.from(state.bytes, hexOf);
+    let text = pairs.join(' ');
+    if (form === 'c')
+        text = `static const uint8_t ${state.name}[] = {${pairs.map((pair) => `0x${pair}`).join(', ')}};\n`;
+    else if (form === 'json')
+        text = (await inspector.run({command: 'decode', name: state.name, input: 'shown', format: 'raw', json: true})).text;
+    else if (form !== 'hex')
+        text = (await inspector.run({command: 'report', name: state.name, input: 'shown', redacted: form === 'redacted'})).text;
+    part('copied-part').hidden = false;
+    part('copied').value = text;
+    try {
+        await navigator.clipboard.writeText(text);
+    } catch {
+        part('copied').select(); // no permission: it is there to be taken
+    }
+}
+
+// ---- comparison --------------------------------------------------------------------------------------------------
+
+/** @param {Uint8Array | Blob} content */
+async function compareWith(content) {
+    inspector.keep('the other input', content);
+    const read = await inspector.run({command: 'message', name: state.name, input: 'the other input', number: 1});
+    if (read.status === 2)
+        return say('differences-sum', read.errors);
+    inspector.keep('the other message', read.bytes);
+    const [answer, rows] = await Promise.all([
+        inspector.run({command: 'diff', name: state.name, input: 'shown', second: 'the other message', format: 'raw', json: true}),
+        inspector.run({command: 'rows', name: state.name, input: 'the other message'})]);
+    part('other-view').hidden = false;
+    otherView.set(read.bytes, new Rows(rows.bytes, catalogue));
+    const found = answer.text === '' ? {differences: []} : JSON.parse(answer.text);
+    const differences = found.differences ?? [];
+    view.different = new Set(differences.map((/** @type {any} */ one) => one.path));
+    otherView.different = view.different;
+    say('differences-sum', found.fault ?? (answer.errors || (differences.length > 0 ? counted(differences.length, 'difference') :
+        found.same_bytes ? 'the same bytes' : 'the same fields, in other bytes')));
+    part('differences').replaceChildren(...differences.slice(0, 200).map((/** @type {any} */ one) =>
+        element('li', {}, inert(`${one.path}: ${one.a ?? 'absent'} \u2192 ${one.b ?? 'absent'}`))));
+    view.draw();
+    otherView.draw();
+}
+
+// ---- the start ---------------------------------------------------------------------------------------------------
+
+/** @param {string} name @param {string} text */
+function showText(name, text) {
+    part('message').value = name;
+    part('input').value = text;
+    part('format').value = 'auto';
+    return readPaste();
+}
+
+/** @param {FileList | undefined | null} files @param {(content: File) => void} take */
+function takeFile(files, take) {
+    if (files && files.length > 0)
+        take(files[0]);
+}
+
+function listen() {
+    const openFile = (/** @type {File} */ file) => takeInput(file.name, file);
+    part('inspect').addEventListener('click', readPaste);
+    part('input').addEventListener('paste', () => setTimeout(readPaste));
+    part('input').addEventListener('keydown', (/** @type {KeyboardEvent} */ event) => {
+        if (event.key === 'Enter' && (event.ctrlKey || event.metaKey))
+            readPaste();
+    });
+    part('message').addEventListener('change', () => {
+        part('candidates').replaceChildren();
+        state.name = part('message').value.trim();
+        if (state.source !== '')
+            readInput();
+    });
+    part('file').addEventListener('change', () => takeFile(part('file').files, openFile));
+    part('other-file').addEventListener('change', () => takeFile(part('other-file').files, compareWith));
+    document.addEventListener('dragover', (event) => {
+        event.preventDefault();
+        document.body.classList.add('dropping');
+    });
+    document.addEventListener('dragleave', () => document.body.classList.remove('dropping'));
+    document.addEventListener('drop', (event) => {
+        event.preventDefault();
+        document.body.classList.remove('dropping');
+        takeFile(event.dataTransfer?.files, openFile);
+    });
+    part('example').addEventListener('click', () => {
+        part('try-part').hidden = false;
+        showText(EXAMPLE.name, EXAMPLE.hex);
+    });
+    part('break').addEventListener('click', () => change(state.bytes.slice(0, -4)));
+    part('cancel').addEventListener('click', () => {
+        showBusy('');
+        inspector.restart('cancelled');
+    });
+    part('undo').addEventListener('click', () => step(state.before, state.after));
+    part('redo').addEventListener('click', () => step(state.after, state.before));
+    document.addEventListener('keydown', (event) => {
+        const isTyping = event.target instanceof HTMLInputElement || event.target instanceof HTMLTextAreaElement;
+        if (!(event.ctrlKey || event.metaKey) || isTyping || !['z', 'y'].includes(event.key))
+            return;
+        event.preventDefault();
+        part(event.key === 'z' ? 'undo' : 'redo').click();
+    });
+    part('editor').addEventListener('submit', (/** @type {Event} */ event) => {
+        event.preventDefault();
+        changeValue();
+    });
+    part('remove').addEventListener('click', removeField);
+    part('add').addEventListener('click', addField);
+    part('copy').addEventListener('click', copy);
+    part('compare').addEventListener('click', () => {
+        part('compare-part').hidden = !part('compare-part').hidden;
+        part('compare').setAttribute('aria-expanded', `${!part('compare-part').hidden}`);
+    });
+    part('compare-now').addEventListener('click', () => compareWith(new TextEncoder().encode(part('other').value)));
+    part('frames-wrong').addEventListener('change', filterFrames);
+    part('frames-number').addEventListener('change', () => showFrame(Number(part('frames-number').value)));
+    part('frames').addEventListener('click', (/** @type {Event} */ event) =>
+        showFrame(Number(/** @type {HTMLElement | null} */ (/** @type {HTMLElement} */ (event.target).closest('[data-frame]'))?.dataset.frame)));
+    part('frames').addEventListener('keydown', (/** @type {KeyboardEvent} */ event) => {
+        const by = {ArrowDown: 1, ArrowUp: -1}[event.key];
+        if (by === undefined)
+            return;
+        event.preventDefault();
+        const line = state.framesShown.indexOf(state.frame - 1) + by;
+        if (line < 0 || line >= state.framesShown.length)
+            return;
+        frameList.show(line);
+        showFrame(state.framesShown[line] + 1);
+    });
+}
+
+/** What the page was made with (mava-tum web), what its address says, or the example. */
+function showFirst() {
+    const given = JSON.parse(part('given').textContent);
+    const asked = new URLSearchParams(location.hash.slice(1));
+    if (given) {
+        part('message').value = given.message;
+        part('format').value = given.format;
+        return takeInput(given.name, bytesOfBase64(given.bytes));
+    }
+    if (asked.has('hex'))
+        return showText(asked.get('message') ?? '', asked.get('hex') ?? '');
+    part('try-part').hidden = false;
+    return showText(EXAMPLE.name, EXAMPLE.hex);
+}
+
+/** What gzip made smaller. @param {BlobPart} bytes */
+function unpacked(bytes) {
+    return new Response(new Blob([bytes]).stream().pipeThrough(new DecompressionStream('gzip'))).arrayBuffer();
+}
+
+async function start() {
+    listen();
+    inspector = new Inspector(await WebAssembly.compile(await unpacked(bytesOfBase64(part('module').textContent))));
+    catalogue = JSON.parse((await inspector.run({command: 'list', json: true})).text);
+    part('messages').append(...catalogue.map((message) => element('option', {value: message.name})));
+    await showFirst();
+    document.body.dataset.ready = '1';
+}
+
+start().catch((error) => say('refusal', `This browser cannot run the inspector: ${error}`));
