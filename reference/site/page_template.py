@@ -1,7 +1,10 @@
 """The frame of each page: navigation, links to the next and previous page, light and dark styles."""
+from collections import namedtuple
 import html
 
 from pygments.formatters import HtmlFormatter
+
+Beside = namedtuple("Beside", "title words target")  # what is no page of the site
 
 STYLE = """
 :root { color-scheme: light dark; --page: #ffffff; --words: #1f2328; --faint: #59636e; --line: #d0d7de;
@@ -75,15 +78,14 @@ def stylesheet():
     return f"{style}{keep}\n@media (prefers-color-scheme: dark) {{\n{keep_dark}\n}}\n"
 
 
-def navigation_html(page, navigation, reference):
+def navigation_html(page, navigation, beside):
     lines = []
     for group in navigation:
         lines.append(f"<strong>{html.escape(group.title)}</strong>")
         for entry in group.entries:
             here = ' aria-current="page"' if entry.target == page.target else ""
             lines.append(f'<a href="{page.link_to(entry.target)}"{here}>{html.escape(entry.title)}</a>')
-    if reference:
-        lines.append(f'<strong>Reference</strong>\n<a href="{page.link_to(reference)}">Functions and records</a>')
+    lines += [f'<strong>{each.title}</strong>\n<a href="{page.link_to(each.target)}">{each.words}</a>' for each in beside]
     return "\n".join(lines)
 
 
@@ -109,7 +111,7 @@ def contents_html(page):
     return '<strong>On this page</strong>\n' + "\n".join(links)
 
 
-def page_html(page, navigation, reference, version):
+def page_html(page, navigation, beside, version):
     top = page.link_to("index.html").removesuffix("index.html")
     return f"""<!DOCTYPE html>
 <html lang="en" data-top="{top}">
@@ -126,7 +128,7 @@ def page_html(page, navigation, reference, version):
 <div id="found"></div>
 <label for="menu">Pages</label><input id="menu" type="checkbox">
 <div class="pages">
-{navigation_html(page, navigation, reference)}
+{navigation_html(page, navigation, beside)}
 </div>
 </div></nav>
 <main>

@@ -1,7 +1,7 @@
 #!/usr/bin/python3 -B
 """Renders README.md, the pages that docs/README.md lists, and every file that they link to.
 
-    render_site.py <project root> <output folder> [--reference URL]
+    render_site.py <project root> <output folder> [--reference URL] [--inspector FILE]
 
 A page in Markdown becomes a page; a picture is copied; any other file of the tree is shown with its lines numbered; a
 folder becomes the list of its files. Linked files are included. The output folder is emptied first.
@@ -12,8 +12,11 @@ import os
 import re
 import shutil
 
-from page_template import page_html, stylesheet
+from page_template import Beside, page_html, stylesheet
 from site_pages import Site
+
+INSPECTOR = "inspector.html"
+EXAMPLE = re.compile(r"<code>((?:[0-9A-F]{2} ?)+)</code>(?= in <code>([a-z0-9_]+)</code>)")
 
 
 def parse_arguments():
@@ -21,6 +24,7 @@ def parse_arguments():
     parser.add_argument("project")
     parser.add_argument("output")
     parser.add_argument("--reference", help="where the reference of the headers is, seen from the first page")
+    parser.add_argument("--inspector", help="inspector.html of a build: it is copied, and examples open in it")
     return parser.parse_args()
 
 
@@ -38,6 +42,12 @@ def clear(output):
     shutil.rmtree(output, ignore_errors=True)
 
 
+def opening_examples(page):
+    """The body of a page, with the wire bytes of known messages as links into the inspector."""
+    return EXAMPLE.sub(lambda found: f'<a href="{page.link_to(INSPECTOR)}#message={found[2]}&amp;'
+                                     f'hex={found[1].replace(" ", "")}">{found[0]}</a>', page.body)
+
+
 def search_index(pages):
     """One entry for each section of each page in Markdown."""
     return [{"target": page.target + (f"#{anchor}" if anchor else ""), "text": " ".join(text.split()),
@@ -51,8 +61,17 @@ def main():
     pages = list(site.all_pages())  # all pages before the first is written: a missing file of a link stops here
     version = re.search(r"^ +VERSION ([0-9.]+)$", site.read("CMakeLists.txt"), re.MULTILINE)[1]
     clear(arguments.output)
+    beside = []
+    if arguments.inspector:
+        beside.append(Beside("Try it", "Inspector", INSPECTOR))
+        with open(arguments.inspector, encoding="utf-8") as file:
+            write(arguments.output, INSPECTOR, file.read())
+        for page in pages:
+            page.body = opening_examples(page)
+    if arguments.reference:
+        beside.append(Beside("Reference", "Functions and records", arguments.reference))
     for page in pages:
-        write(arguments.output, page.target, page_html(page, site.navigation, arguments.reference, version))
+        write(arguments.output, page.target, page_html(page, site.navigation, beside, version))
     for copied in sorted(site.copied):
         target = os.path.join(arguments.output, copied)
         os.makedirs(os.path.dirname(target), exist_ok=True)
