@@ -1,7 +1,7 @@
 // The files of the module: the host, which is a page or a test, reads and keeps them. They stand in for
-// input_stream.cpp and all of output/ but the colours.
+// input_stream.cpp and all of output/ but the colours. A capture is refused: libpcap is a library of this machine.
 #include "bad_use.h"
-#include "error_line.h"
+#include "capture/capture_file.h"
 #include "input/input_stream.h"
 #include "module.h"
 #include "output/output_file.h"
@@ -84,6 +84,24 @@ byte_vector input_stream::read_all()
                 fmt::format("{}: more than {} MiB, which is no single message", m_name, message_limit_bytes >> 20));
     }
     return all;
+}
+
+struct capture_file::libpcap {
+};
+
+capture_file::capture_file(input_stream &stream, capture_choice choice, std::function<void(const std::string &)> note)
+    : m_messages(std::move(choice), std::move(note))
+{
+    throw bad_use(fmt::format(
+        "{}: a capture, which this page does not read; `mava-tum decode -f capture --json` prints its messages",
+        stream.name()));
+}
+
+capture_file::~capture_file() = default;
+
+bool capture_file::next(captured_message &)
+{
+    return false;
 }
 
 // The host knows how far an input is read.

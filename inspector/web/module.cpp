@@ -6,10 +6,12 @@
 // list, decode, encode, explain, check, guess, diff and app are the program's own. The others are the page's:
 //
 //     message   the bytes of message `number`; text: whether there can be several
-//     frames    all messages: per message four doubles: offset, bytes, result of a decode as `name`, offset of its
-//     fault look      what is wrong with a message, what it needs, and its adapters rows      the rows of its tree
-//     (module.h) texts     the texts of `count` rows from `first` adapter   what an application would get of it,
-//     through the adapter `name` edit      the bytes with `value` at `path` of its JSON, or without what is there
+//     frames    all messages: for each four doubles: offset, bytes, result of a decode as `name`, offset of its fault
+//     look      what is wrong with a message, what it needs, and its adapters
+//     rows      the rows of its tree (module.h)
+//     texts     the texts of `count` rows from `first`
+//     adapter   what an application would get of it, through the adapter `name`
+//     edit      the bytes with `value` at `path` of its JSON, or without what is there
 //     report    the lines of explain, for a bug report; `redacted`: without values
 //
 // Returns the exit status of the command.
@@ -19,7 +21,6 @@
 #include "commands/all_commands.h"
 #include "commands/decode_verdict.h"
 #include "commands/find_by_name.h"
-#include "error_line.h"
 #include "mava_tum_inspect.h"
 #include "message/decoded_json.h"
 #include "message/message_from_json.h"

@@ -7,23 +7,10 @@
 #include <cstring>
 #include <exception>
 #include <fmt/format.h>
-#include <initializer_list>
 #include <pcap/pcap.h>
 
 namespace mava_tum_cli
 {
-
-bool is_capture(std::span<const uint8_t> beginning)
-{
-    const auto has = [beginning](size_t at, std::initializer_list<uint8_t> bytes) {
-        return beginning.size() >= at + bytes.size() && std::ranges::equal(beginning.subspan(at, bytes.size()), bytes);
-    };
-    if (has(0, {0x0A, 0x0D, 0x0D, 0x0A})) // pcapng
-        return has(8, {0x1A, 0x2B, 0x3C, 0x4D}) || has(8, {0x4D, 0x3C, 0x2B, 0x1A});
-    const bool is_big = has(0, {0xA1, 0xB2, 0xC3, 0xD4}) || has(0, {0xA1, 0xB2, 0x3C, 0x4D});
-    const bool is_little = has(0, {0xD4, 0xC3, 0xB2, 0xA1}) || has(0, {0x4D, 0x3C, 0xB2, 0xA1});
-    return (is_big && has(4, {0, 2, 0, 4})) || (is_little && has(4, {2, 0, 4, 0})); // version 2.4
-}
 
 struct capture_file::libpcap {
     // libpcap reads a FILE; this one reads the stream. Exceptions do not pass through C: they wait in `failure`.

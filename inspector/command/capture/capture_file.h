@@ -11,9 +11,6 @@
 namespace mava_tum_cli
 {
 
-// Whether the input begins with the 8 bytes of a pcap or the 12 of a pcapng. No message does, but by intent.
-bool is_capture(std::span<const uint8_t> beginning);
-
 class capture_file
 {
 public:

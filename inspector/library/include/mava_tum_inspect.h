@@ -1,5 +1,5 @@
-/* Explains wire bytes: their fields, and why a decode of them fails. It is for a process that logs why a message
- * arrived in part: a result code does not say it, and an adapter has no result.
+/* Explains wire bytes: their fields and their faults. It is for a process that logs why a message arrived in part: a
+ * result code does not say it, and an adapter has no result.
  *
  *     describe   the 40 messages, their fields and the adapters, by name
  *     explain    wire bytes in annotated lines, and the verdict: result, byte, field, rule in words

@@ -291,6 +291,12 @@ class ModuleTest(unittest.TestCase):
         self.assertEqual(self.module.run(b"", command="no_such")["status"], 2)
         self.assertIn("there is no message", self.module.run(b"", command="look", name="sesion")["errors"])
 
+    def test_a_capture_is_refused_with_the_command_that_reads_it(self):
+        capture = bytes.fromhex("d4c3b2a1020004000000000000000000ffff000001000000")
+        answer = self.module.run(capture, command="message", name="session_context", format="auto")
+        self.assertEqual(answer["status"], 2, answer["errors"])
+        self.assertIn("a capture, which this page does not read; `mava-tum decode -f capture", answer["errors"])
+
 
 if __name__ == "__main__":
     unittest.main()
