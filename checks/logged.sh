@@ -1,12 +1,13 @@
 # shellcheck shell=bash
 # Sourced by the checks, which keep what their builds print in a file.
 
-# logged <log> <command...>: appends the command's output to the log. If the command fails, prints the last lines of the
-# log.
+# logged <file> <command...>: appends the output of the command to the file. If the command fails, prints the last lines
+# of the file. No name here is one that a command is likely to have made readonly.
 logged() {
-    local log=$1 status=0
+    local logged_in=$1 logged_status=0
     shift
-    "$@" >>"$log" || status=$?
-    [ "$status" -eq 0 ] || { tail -n 20 "$log" && echo "$1 ended with $status: see $log"; } >&2
-    return "$status"
+    "$@" >>"$logged_in" || logged_status=$?
+    [ "$logged_status" -eq 0 ] ||
+        { tail -n 20 "$logged_in" && echo "$1 ended with $logged_status: see $logged_in"; } >&2
+    return "$logged_status"
 }
