@@ -8,6 +8,15 @@
 namespace examples
 {
 
+void take_file(const std::string &argument, std::string &file)
+{
+    if (argument.starts_with('-'))
+        throw usage_error("unknown or incomplete argument " + argument + "; see --help");
+    if (!file.empty())
+        throw usage_error("more than one file: " + file + " and " + argument + "; give one");
+    file = argument;
+}
+
 int reported_run(const char *program, std::span<char *const> arguments, int (*run)(std::span<char *const>))
 {
     std::signal(SIGPIPE, SIG_IGN); // a reader that has gone away is an error message, not a silent end

@@ -5,6 +5,7 @@
 
 #include <span>
 #include <stdexcept>
+#include <string>
 
 namespace examples
 {
@@ -18,6 +19,9 @@ class usage_error : public std::runtime_error
 public:
     using std::runtime_error::runtime_error;
 };
+
+// Stores `argument` in `file`, which is empty before. Throws usage_error for an unknown option and for a second file.
+void take_file(const std::string &argument, std::string &file);
 
 // Calls `run` with the arguments behind the program's name and returns the status to exit with: what `run` returns, or
 // that of the error it threw, which is printed after `program`. An output that could not be written is an error too.

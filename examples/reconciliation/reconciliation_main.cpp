@@ -47,12 +47,8 @@ run_options parse_run_options(std::span<char *const> arguments)
             result.receiver = arguments[++i];
         else if (argument == "--spoil-one")
             result.spoils_one = true;
-        else if (argument.starts_with('-'))
-            throw usage_error("unknown or incomplete argument " + argument + "; see --help");
-        else if (result.file.empty())
-            result.file = argument;
         else
-            throw usage_error("more than one file: " + result.file + " and " + argument + "; give one");
+            take_file(argument, result.file);
     }
     if (result.file.empty())
         result.file = shipped_file;

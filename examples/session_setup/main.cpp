@@ -42,12 +42,8 @@ command_line parse_command_line(std::span<char *const> arguments)
             result.what = job::receive;
         else if (argument == "--receiver" && i + 1 < arguments.size())
             result.receiver = arguments[++i];
-        else if (argument.starts_with('-'))
-            throw usage_error("unknown or incomplete argument " + argument + "; see --help");
-        else if (result.file.empty())
-            result.file = argument;
         else
-            throw usage_error("more than one file: " + result.file + " and " + argument + "; give one");
+            take_file(argument, result.file);
     }
     if (result.file.empty())
         result.file = shipped_file;
