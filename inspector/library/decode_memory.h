@@ -13,14 +13,13 @@ struct memory_asked_for {
     uint64_t bytes = 0;
 };
 
-// Counts along a walk.
-class decode_memory
+class decode_memory final : public wire_visitor
 {
 public:
     // `aliases`: bytes fields point into the input and are not copied.
     explicit decode_memory(bool aliases) : aliases_(aliases) {}
 
-    void count_value(const occurrence &at)
+    void on_value(const occurrence &at) override
     {
         const field_kind kind = at.field->kind;
         if (kind == field_kind::text || kind == field_kind::text_array)
@@ -29,13 +28,13 @@ public:
             add(at.value.bytes);
     }
 
-    void count_run(const occurrence &first, uint64_t elements)
+    void on_run(const occurrence &first, uint64_t elements) override
     {
         const field_description &field = *first.field;
         add(elements * (field.nested != nullptr ? field.nested->record_bytes : sizeof(char *)));
     }
 
-    void count_fault(const wire_fault &fault)
+    void on_fault(const wire_fault &fault) override
     {
         if (fault.rule == fault_rule::text_too_long)
             add(0); // length + 1 in 32 bits

@@ -38,29 +38,6 @@ private:
     mava_tum_inspect_verdict &verdict_;
 };
 
-class memory_counter final : public wire_visitor
-{
-public:
-    explicit memory_counter(bool aliases) : memory(aliases) {}
-
-    void on_value(const occurrence &at) override
-    {
-        memory.count_value(at);
-    }
-
-    void on_run(const occurrence &first, uint64_t elements) override
-    {
-        memory.count_run(first, elements);
-    }
-
-    void on_fault(const wire_fault &fault) override
-    {
-        memory.count_fault(fault);
-    }
-
-    decode_memory memory;
-};
-
 // The largest useful number.
 constexpr uint32_t most_names = 8;
 
@@ -166,10 +143,10 @@ extern "C" int32_t mava_tum_inspect_memory(const char *message, const uint8_t *d
     const message_description *found = find_message(message);
     if (found == nullptr)
         return MAVA_TUM_INSPECT_NO_SUCH_NAME;
-    memory_counter visitor((flags & MAVA_TUM_ALIAS) != 0);
-    walk_message(*found, data, length, visitor);
-    *block_count = visitor.memory.asked().blocks;
-    *block_bytes = visitor.memory.asked().bytes;
+    decode_memory memory((flags & MAVA_TUM_ALIAS) != 0);
+    walk_message(*found, data, length, memory);
+    *block_count = memory.asked().blocks;
+    *block_bytes = memory.asked().bytes;
     return MAVA_TUM_OK;
 }
 

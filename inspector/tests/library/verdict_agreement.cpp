@@ -95,34 +95,11 @@ bool only_memory_changes(const message_description &message, const uint8_t *data
            failing == (has_failed ? MAVA_TUM_NO_MEMORY : verdict);
 }
 
-class memory_visitor final : public wire_visitor
-{
-public:
-    explicit memory_visitor(bool aliases) : memory(aliases) {}
-
-    void on_value(const occurrence &at) override
-    {
-        memory.count_value(at);
-    }
-
-    void on_run(const occurrence &first, uint64_t elements) override
-    {
-        memory.count_run(first, elements);
-    }
-
-    void on_fault(const wire_fault &fault) override
-    {
-        memory.count_fault(fault);
-    }
-
-    decode_memory memory;
-};
-
 outcome of_walk(const message_description &message, const uint8_t *data, uint64_t length, bool aliases)
 {
-    memory_visitor visitor(aliases);
-    const walk_result walked = walk_message(message, data, length, visitor);
-    return {result_of(walked.rule), walked.present, visitor.memory.asked()};
+    decode_memory memory(aliases);
+    const walk_result walked = walk_message(message, data, length, memory);
+    return {result_of(walked.rule), walked.present, memory.asked()};
 }
 
 std::string describe_difference(const message_description &message, const uint8_t *data, uint64_t length,
