@@ -1,23 +1,16 @@
-// The files of the module: the host, which is a page or a test, reads and keeps them. They stand in for
-// input_stream.cpp and all of output/ but the colours. A capture is refused: libpcap is a library of this machine.
+// Input and output of the module, which the host (a page or a test) reads and stores. This file replaces
+// input_file.cpp, capture_file.cpp, bad_use.cpp and output/ except the colours. Captures are rejected: libpcap is not
+// compiled for WebAssembly.
 #include "bad_use.h"
 #include "capture/capture_file.h"
 #include "input/input_stream.h"
 #include "module.h"
 #include "output/output_file.h"
 
-#include <algorithm>
 #include <fmt/format.h>
 
 namespace mava_tum_cli
 {
-
-namespace
-{
-
-constexpr size_t block_bytes = 256 * 1024;
-
-} // namespace
 
 // ---- input -------------------------------------------------------------------------------------------------------
 
@@ -42,48 +35,6 @@ void input_stream::refill(size_t wanted)
         m_buffer.resize(filled + received);
         m_at_end = received == 0;
     }
-}
-
-std::span<const uint8_t> input_stream::peek(size_t wanted)
-{
-    if (m_buffer.size() - m_taken < wanted)
-        refill(wanted);
-    const std::span<const uint8_t> waiting = std::span<const uint8_t>(m_buffer).subspan(m_taken);
-    return waiting.first(std::min(wanted, waiting.size()));
-}
-
-byte_vector input_stream::read_some()
-{
-    byte_vector some(block_bytes);
-    some.resize(read(some));
-    return some;
-}
-
-size_t input_stream::read(std::span<uint8_t> bytes)
-{
-    size_t total = 0;
-    while (total < bytes.size()) {
-        const std::span<const uint8_t> waiting = peek(std::min(bytes.size() - total, block_bytes));
-        if (waiting.empty())
-            break;
-        std::ranges::copy(waiting, bytes.begin() + static_cast<ptrdiff_t>(total));
-        m_taken += waiting.size();
-        total += waiting.size();
-        m_position += waiting.size();
-    }
-    return total;
-}
-
-byte_vector input_stream::read_all()
-{
-    byte_vector all;
-    for (byte_vector some = read_some(); !some.empty(); some = read_some()) {
-        all.insert(all.end(), some.begin(), some.end());
-        if (all.size() > message_limit_bytes)
-            throw bad_use(
-                fmt::format("{}: more than {} MiB, which is no single message", m_name, message_limit_bytes >> 20));
-    }
-    return all;
 }
 
 struct capture_file::libpcap {

@@ -68,6 +68,9 @@ public:
     }
 
 private:
+    static constexpr size_t block_bytes = 256 * 1024;
+
+    // Reads until `wanted` bytes wait in the buffer, or the file ends.
     void refill(size_t wanted);
 
     std::string m_name;
