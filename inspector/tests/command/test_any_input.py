@@ -1,65 +1,13 @@
 """Whatever the bytes are: every command ends as it says, and they agree."""
 import json
 import os
-import random
 import re
 import unittest
 
 from inspector import InspectorTest, frames, run
+from random_messages import RandomMessages
 
 MESSAGES_OF_A_RUN = 60
-
-
-def varint(value):
-    content = bytearray()
-    while value > 0x7F:
-        content.append(value & 0x7F | 0x80)
-        value >>= 7
-    content.append(value)
-    return bytes(content)
-
-
-class RandomMessages:
-    """Messages of the 40 kinds, of which half have been damaged."""
-
-    def __init__(self, seed, schema):
-        self.random = random.Random(seed)
-        self.schema = schema
-
-    def value(self, field):
-        kind = field["kind"]
-        if kind == "varint":
-            return varint(self.random.getrandbits(self.random.choice([3, 7, 31, 64])))
-        if kind == "fixed32":
-            return self.random.randbytes(4)
-        if "records" in kind or kind == "record":
-            inner = self.message(field["message"])
-        else:
-            inner = self.random.choice([b"", b"text", b"cut\0here", b"\xff\xfe", self.random.randbytes(16)])
-        return varint(len(inner)) + inner
-
-    def message(self, name):
-        content = b""
-        for field in self.schema[name]:
-            wire_type = {"varint": 0, "fixed32": 5}.get(field["kind"], 2)
-            repeated = self.random.randint(1, 3) if "array" in field["kind"] else 1
-            if self.random.random() < 0.4:
-                for _ in range(repeated):
-                    content += varint(field["number"] << 3 | wire_type) + self.value(field)
-        return content
-
-    def damaged(self, content):
-        position = self.random.randrange(len(content) + 1)
-        return self.random.choice([
-            content[:position],
-            content[:position] + self.random.randbytes(1) + content[position + 1:],
-            content[:position] + self.random.randbytes(2) + content[position:],
-            content + content,
-        ])
-
-    def maybe_damaged(self, name):
-        content = self.message(name)
-        return self.damaged(content) if self.random.random() < 0.5 else content
 
 
 class AnyInputTest(InspectorTest):
@@ -74,8 +22,7 @@ class AnyInputTest(InspectorTest):
                          for adapter in line.replace(",", "").split()[2:]}
 
     def inputs(self, name):
-        source = RandomMessages(name, self.schema)
-        return frames(*(source.maybe_damaged(name) for _ in range(MESSAGES_OF_A_RUN)))
+        return frames(*RandomMessages(name, self.schema).several(name, MESSAGES_OF_A_RUN))
 
     def ends_as_it_says(self, done, is_broken):
         self.assertEqual(done.status, 1 if is_broken else 0, done.errors)

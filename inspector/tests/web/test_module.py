@@ -2,15 +2,15 @@
 import base64
 import json
 import os
-import random
 import struct
 import subprocess
 import tempfile
 import unittest
 
-PROGRAM = os.environ["MAVA_TUM"]
+from inspector import PROGRAM, SOURCES, frames
+from random_messages import RandomMessages
+
 MODULE = os.environ["MAVA_TUM_WASM"]
-SOURCES = os.environ["MAVA_TUM_SOURCES"]
 INPUTS = int(os.environ.get("MAVA_TUM_WEB_INPUTS", "400"))
 SESSION = bytes.fromhex("08021807521010 2a2a05616c6963655205086410904e")
 BROKEN = bytes.fromhex("52052a09616c69")
@@ -60,73 +60,9 @@ def native(*arguments, data=b""):
     return subprocess.run([PROGRAM, *arguments], input=data, capture_output=True, timeout=60, check=False)
 
 
-# ---- inputs ----
-
-def varint(value):
-    text = bytearray()
-    while value > 127:
-        text.append(value & 127 | 128)
-        value >>= 7
-    text.append(value)
-    return bytes(text)
-
-
-def random_message(catalogue, name, rng, depth=0):
-    """Bytes with some fields of a message, in order."""
-    wire = b""
-    for field in catalogue[name]:
-        if rng.random() < 0.6:
-            continue
-        repeats = rng.randint(1, 3) if field["kind"].startswith("array") else 1
-        for _ in range(repeats):
-            wire += random_field(catalogue, field, rng, depth)
-    return wire
-
-
-def random_field(catalogue, field, rng, depth):
-    number, kind = field["number"], field["kind"]
-    if kind == "varint":
-        return varint(number << 3) + varint(rng.getrandbits(rng.choice((1, 7, 14, 32, 64))))
-    if kind == "fixed32":
-        return varint(number << 3 | 5) + rng.randbytes(4)
-    if "record" in kind:
-        value = random_message(catalogue, field["message"], rng, depth + 1) if depth < 3 else b""
-    elif kind == "bytes":
-        value = rng.randbytes(rng.choice((0, 3, 16)))
-    else:
-        value = bytes(rng.choice(b"abc\xc3\xa9\x00\"<&\xe2\x80\xae") for _ in range(rng.randint(0, 12)))
-    return varint(number << 3 | 2) + varint(len(value)) + value
-
-
-def mutated(wire, rng):
-    wire = bytearray(wire)
-    for _ in range(rng.randint(0, 2)):
-        if not wire:
-            break
-        at = rng.randrange(len(wire))
-        change = rng.randrange(4)
-        if change == 0:
-            wire[at] = rng.getrandbits(8)
-        elif change == 1:
-            del wire[at:]
-        elif change == 2:
-            wire[at:at] = rng.randbytes(rng.randint(1, 3))
-        else:
-            wire[at:at] = wire[at:at + rng.randint(1, 12)]
-    return bytes(wire)
-
-
 def messages_of_this_release():
     listed = json.loads(native("list", "--json").stdout)
     return {message["name"]: message["fields"] for message in listed}
-
-
-def inputs_for(catalogue, name, count, rng):
-    return [mutated(random_message(catalogue, name, rng), rng) for _ in range(count)]
-
-
-def frames(messages):
-    return b"".join(struct.pack(">I", len(message)) + message for message in messages)
 
 
 class ModuleTest(unittest.TestCase):
@@ -154,19 +90,19 @@ class ModuleTest(unittest.TestCase):
 
     def test_decodes_as_the_program(self):
         """Verdict, path, byte, values and places, of random and mutated inputs of all messages."""
-        rng = random.Random(17)
+        source = RandomMessages(17, self.catalogue)
         malformed = 0
         for name in self.catalogue:
-            wire = frames(inputs_for(self.catalogue, name, INPUTS // 40, rng))
+            wire = frames(*source.several(name, INPUTS // 40))
             expected, _ = self.same(("decode", "--json", "--fields", "-f", "frames", name), wire,
                                     command="decode", name=name, json=True, fields=True, format="frames")
             malformed += expected.stdout.count(b'"fault":')
         self.assertGreater(malformed, INPUTS // 20)
 
     def test_its_rows_are_the_fields_that_the_program_names(self):
-        rng = random.Random(18)
+        source = RandomMessages(18, self.catalogue)
         for name in self.catalogue:
-            for wire in inputs_for(self.catalogue, name, max(1, INPUTS // 400), rng):
+            for wire in source.several(name, max(1, INPUTS // 400)):
                 shown = json.loads(native("decode", "--json", "--fields", "-f", "raw", name, data=wire).stdout)
                 rows = [row for row in ROW.iter_unpack(self.module.run(wire, command="rows", name=name)["bytes"])
                         if row[0] & 255 <= LAST_WITH_TAG]
@@ -202,7 +138,7 @@ class ModuleTest(unittest.TestCase):
             answer = self.module.run(text.encode(), command="message", name="session_context")
             self.assertEqual((form, answer["bytes"]), (form, SESSION), answer["errors"])
         self.assertEqual(self.module.run(SESSION, command="message", name="session_context")["bytes"], SESSION)
-        several = self.module.run(frames([BROKEN, SESSION]), command="message", name="session_context", number=2)
+        several = self.module.run(frames(BROKEN, SESSION), command="message", name="session_context", number=2)
         self.assertEqual((several["bytes"], json.loads(several["text"])), (SESSION, {"several": True}))
 
     def test_refuses_input_as_the_program_does(self):
@@ -213,7 +149,7 @@ class ModuleTest(unittest.TestCase):
             self.assertEqual(f"mava-tum decode: {answer['errors']}\n", expected.stderr.decode())
 
     def test_lists_messages_with_their_verdicts(self):
-        answer = self.module.run(frames([SESSION, BROKEN, b""]), command="frames", name="session_context")
+        answer = self.module.run(frames(SESSION, BROKEN, b""), command="frames", name="session_context")
         rows = list(struct.iter_unpack("<4d", answer["bytes"]))
         self.assertEqual(rows, [(0, len(SESSION), 0, 0), (4 + len(SESSION), 7, -1, 3), (15 + len(SESSION), 0, 0, 0)])
 
@@ -234,14 +170,14 @@ class ModuleTest(unittest.TestCase):
 
     def test_an_edit_that_changes_nothing_is_the_message_as_the_program_encodes_it(self):
         """Of every message: the bytes of a random one, with one of its fields set to the value that it has."""
-        rng = random.Random(20)
+        source = RandomMessages(20, self.catalogue)
         edits = 0
         for name in self.catalogue:
-            wire = random_message(self.catalogue, name, rng)
+            wire = source.message(name)
             shown = json.loads(native("decode", "--json", "-f", "raw", name, data=wire).stdout)
             if not shown["record"] or "fault" in shown:
                 continue
-            path = rng.choice(list(shown["record"]))
+            path = source.random.choice(list(shown["record"]))
             expected = native("encode", name, data=json.dumps(shown["record"]).encode()).stdout
             answer = self.module.run(wire, command="edit", name=name, path=f"/{path}", value=shown["record"][path])
             self.assertEqual((name, answer["bytes"]), (name, expected), answer["errors"])

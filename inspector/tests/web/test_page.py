@@ -2,8 +2,6 @@
 import json
 import os
 import pathlib
-import random
-import subprocess
 import tempfile
 import time
 import unittest
@@ -13,7 +11,9 @@ from selenium.webdriver.common.by import By
 from selenium.webdriver.common.keys import Keys
 from selenium.webdriver.support.ui import Select, WebDriverWait
 
-from test_module import BROKEN, INPUTS, SESSION, frames, inputs_for, messages_of_this_release, native
+from inspector import frames
+from random_messages import RandomMessages
+from test_module import BROKEN, INPUTS, SESSION, messages_of_this_release, native
 
 PAGE = pathlib.Path(os.environ["MAVA_TUM_PAGE"]).resolve()
 ARTEFACTS = pathlib.Path(os.environ.get("MAVA_TUM_WEB_ARTEFACTS", tempfile.gettempdir()))
@@ -175,7 +175,7 @@ class PageTest(unittest.TestCase):
         self.assertIn("l2tp_data", self.text("verdict"))
 
     def test_a_file_of_messages_is_listed_with_verdicts(self):
-        path = self.keep_file(frames([SESSION, BROKEN, SESSION]))
+        path = self.keep_file(frames(SESSION, BROKEN, SESSION))
         self.js("part('message').value = 'session_context'")
         self.changes(lambda: self.find("file").send_keys(path))
         self.wait(lambda: "3 as session_context, 1 malformed" in self.text("frames-sum"))
@@ -197,7 +197,7 @@ class PageTest(unittest.TestCase):
 
     def test_a_page_that_the_program_made_shows_its_input(self):
         for form in ((), ("--name", "session_context"), ("-f", "frames", "--name", "session_context")):
-            content = frames([BROKEN, SESSION]) if "frames" in form else BROKEN
+            content = frames(BROKEN, SESSION) if "frames" in form else BROKEN
             made = native("web", "--page", str(PAGE), *form, data=content)
             self.assertEqual(made.returncode, 0, made.stderr)
             page = ARTEFACTS / "made.html"
@@ -209,9 +209,9 @@ class PageTest(unittest.TestCase):
 
     def test_every_message_is_shown_as_the_program_decodes_it(self):
         """Verdict, path, byte and tree of random and mutated inputs, through the worker of the page."""
-        rng = random.Random(19)
+        source = RandomMessages(19, self.catalogue)
         for name in self.catalogue:
-            content = frames(inputs_for(self.catalogue, name, INPUTS // 40, rng))
+            content = frames(*source.several(name, INPUTS // 40))
             expected = native("decode", "--json", "--fields", "-f", "frames", name, data=content).stdout.decode()
             self.js("inspector.keep('standard input', Uint8Array.from(arguments[0]))", list(content))
             answer = self.ask(command="decode", name=name, input="standard input", json=True, fields=True,
@@ -313,7 +313,7 @@ class PageTest(unittest.TestCase):
         self.assertEqual(self.js("return view.offset"), 999_999)
 
     def test_reading_a_long_file_can_be_cancelled(self):
-        path = self.keep_file(frames([SESSION]) * 3_000_000, "long.frames")
+        path = self.keep_file(frames(SESSION) * 3_000_000, "long.frames")
         self.js("part('message').value = 'session_context'; part('format').value = 'frames'")
         self.changes(lambda: self.find("file").send_keys(path))
         self.wait(self.find("cancel").is_displayed)
