@@ -287,8 +287,8 @@ void add_report_line(const mava_tum_inspect_line *line, void *context)
 {
     auto &writer = *static_cast<report_writer *>(context);
     if (writer.is_redacted && holds_a_value(*line)) {
-        writer.text += fmt::format("{:>8}  {:{}}({} left out)\n", line->offset, "", 24 + 2 * line->depth,
-            line->byte_count == 1 ? "1 byte" : fmt::format("{} bytes", line->byte_count));
+        writer.text += fmt::format(
+            "{:>8}  {:{}}({} left out)\n", line->offset, "", 24 + 2 * line->depth, counted(line->byte_count, "byte"));
         return;
     }
     std::array<char, 1024> text{};
