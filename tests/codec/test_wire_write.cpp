@@ -210,31 +210,29 @@ void for_each_width(const expectation &expect)
     }
 }
 
+// Both tags before a value of each width, written by `put`.
+template <class Value>
+void expect_plain_bytes_of_each_width(uint8_t *(*put)(uint8_t *at, field_tag tag, Value value))
+{
+    for_each_width<Value>([put](Value value) {
+        for (const field_tag tag : {one_byte_tag, two_byte_tag})
+            expect_plain_bytes([&](uint8_t *at, field_tag of) { return put(at, of, value); }, tag, value);
+    });
+}
+
 TEST(wire_write_varints, a_counter_of_each_width_has_the_plain_bytes)
 {
-    for_each_width<uint32_t>([](uint32_t value) {
-        for (const field_tag tag : {one_byte_tag, two_byte_tag})
-            expect_plain_bytes(
-                [&](uint8_t *at, field_tag of) { return mava_tum::put_counter(at, of, value); }, tag, value);
-    });
+    expect_plain_bytes_of_each_width<uint32_t>(mava_tum::put_counter);
 }
 
 TEST(wire_write_varints, a_32_bit_number_of_each_width_has_the_plain_bytes)
 {
-    for_each_width<uint32_t>([](uint32_t value) {
-        for (const field_tag tag : {one_byte_tag, two_byte_tag})
-            expect_plain_bytes(
-                [&](uint8_t *at, field_tag of) { return mava_tum::put_varint32(at, of, value); }, tag, value);
-    });
+    expect_plain_bytes_of_each_width<uint32_t>(mava_tum::put_varint32);
 }
 
 TEST(wire_write_varints, a_64_bit_number_of_each_width_has_the_plain_bytes)
 {
-    for_each_width<uint64_t>([](uint64_t value) {
-        for (const field_tag tag : {one_byte_tag, two_byte_tag})
-            expect_plain_bytes(
-                [&](uint8_t *at, field_tag of) { return mava_tum::put_varint64(at, of, value); }, tag, value);
-    });
+    expect_plain_bytes_of_each_width<uint64_t>(mava_tum::put_varint64);
 }
 
 // The plain one, compared with seven bits at a time.
