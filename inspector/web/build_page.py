@@ -46,7 +46,7 @@ def text_of(body):
 
 
 def inside_script(text):
-    """As it may stand in a script element."""
+    """The text, after a check that it cannot end its script element."""
     if re.search(r"</script|<!--", text, re.IGNORECASE):
         sys.exit("build_page.py: a source would end its script element")
     return text

@@ -13,10 +13,9 @@
 namespace mava_tum_behaviour
 {
 
-// The seed of random choices, besides the input: the same in all runs of the program.
 struct wire_input {
     std::span<const uint8_t> wire;
-    uint64_t seed;
+    uint64_t seed;   // of random choices, the same in all runs of the program
     bool every_part; // otherwise the decodes, and a few of the rest chosen by `seed`
 };
 

@@ -250,7 +250,7 @@ TEST(wire_read, an_empty_span_decodes_without_looking_at_its_pointer)
 
 // ---- at the start of a span that is longer than a signed 64-bit number can say ----
 
-// Nothing stands behind the first bytes of it: a read that looked further would stop the program.
+// Its first bytes end before an inaccessible page: a read beyond them stops the program.
 
 class wire_read_long_spans : public testing::Test
 {

@@ -7,7 +7,7 @@
 //                                     slices (stopwatch.h)
 //   time    milliseconds of a sample  operation, side, nanoseconds per call on the first message
 //   cold    calls                     operation, side, nanoseconds of a call with warm and with cold caches
-// Operations and sides run in an order that is drawn from the seed. Before an operation is timed, it is checked on
+// Operations and sides run in a random order, which <seed> repeats. Before an operation is timed, it is checked on
 // every message: if one result differs from the corpus, the program exits with 1 and prints no time of it.
 #include "peers/harness/peer_program.h"
 #include "peers/harness/stopwatch.h"

@@ -1,5 +1,5 @@
-// The messages in the packets of a capture: each UDP datagram is one, and TCP carries them behind their lengths. Takes
-// packets from whoever reads them.
+// The messages in the packets of a capture: each UDP datagram is one, and TCP carries them after their lengths. The
+// caller reads the packets.
 #pragma once
 
 #include "capture/tcp_direction.h"

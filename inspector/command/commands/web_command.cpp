@@ -22,7 +22,7 @@ std::string text_of_file(const std::string &path)
     return {bytes.begin(), bytes.end()};
 }
 
-// As it may stand in a script element: what would end the element is escaped.
+// The value as text for a script element: characters that could end the element are escaped.
 std::string inside_script(const json &value)
 {
     std::string text = value.dump(-1, ' ', true, json::error_handler_t::replace);

@@ -78,7 +78,7 @@ output_place file_place(const std::string &path)
                                : output_place{place_kind::refused, errno, {}};
     if (!S_ISREG(status.st_mode))
         return {place_kind::special, -1, path};
-    // Whoever may write to the folder could replace a file that is protected from writing.
+    // Write permission for the folder is enough to replace a file, but a file without write permission is kept.
     if (faccessat(AT_FDCWD, path.c_str(), W_OK, AT_EACCESS) != 0)
         return {place_kind::refused, errno, {}};
     return {place_kind::file, -1, path};
