@@ -10,7 +10,7 @@ namespace
 
 constexpr std::string_view state_key = "state", consumer = "replica", message_name = "m", batch = "500";
 constexpr std::size_t most_unanswered = 500;
-const std::string wait_words = std::to_string(longest_wait_ms);
+const std::string short_wait = std::to_string(short_wait_ms), longest_wait = std::to_string(longest_wait_ms);
 
 std::string_view as_text(std::span<const uint8_t> bytes)
 {
@@ -139,7 +139,7 @@ std::vector<entry> engine::entries_of(const words &command)
 
 std::vector<entry> engine::read(std::string_view stream, std::string_view after)
 {
-    return entries_of({"XREAD", "COUNT", batch, "BLOCK", wait_words, "STREAMS", stream, after});
+    return entries_of({"XREAD", "COUNT", batch, "BLOCK", short_wait, "STREAMS", stream, after});
 }
 
 void engine::make_group(std::string_view stream, std::string_view group)
@@ -156,7 +156,7 @@ std::vector<entry> engine::pending(std::string_view stream, std::string_view gro
 std::vector<entry> engine::fresh(std::string_view stream, std::string_view group)
 {
     return entries_of(
-        {"XREADGROUP", "GROUP", group, consumer, "COUNT", batch, "BLOCK", wait_words, "STREAMS", stream, ">"});
+        {"XREADGROUP", "GROUP", group, consumer, "COUNT", batch, "BLOCK", longest_wait, "STREAMS", stream, ">"});
 }
 
 void engine::acknowledge(std::string_view stream, std::string_view group, std::span<const entry> entries)

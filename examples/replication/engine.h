@@ -29,7 +29,7 @@ struct entry {
     std::vector<uint8_t> message;
 };
 
-inline constexpr int longest_wait_ms = 60'000;
+inline constexpr int short_wait_ms = 1'000, longest_wait_ms = 60'000;
 
 // One connection; not for several threads at once. Each call may throw engine_error.
 class engine
@@ -47,14 +47,14 @@ public:
     // Puts a message at the end of `stream`. It is sent at once, and certain after wait_for_answers().
     void append(std::string_view stream, std::span<const uint8_t> message);
     uint64_t length_of(std::string_view stream);
-    // The entries after an id, "0" for the first. Waits for one; none came in longest_wait_ms: none.
+    // The entries after an id, "0" for the first. Waits for one; none came in short_wait_ms: none.
     std::vector<entry> read(std::string_view stream, std::string_view after);
 
     // A group gets each entry of the stream, from the first on. Making one that exists changes nothing.
     void make_group(std::string_view stream, std::string_view group);
     // Entries that were delivered and never acknowledged, after an id.
     std::vector<entry> pending(std::string_view stream, std::string_view group, std::string_view after);
-    // Entries that were never delivered; waits as read() does.
+    // Entries that were never delivered. Waits for one; none came in longest_wait_ms: none.
     std::vector<entry> fresh(std::string_view stream, std::string_view group);
     void acknowledge(std::string_view stream, std::string_view group, std::span<const entry> entries);
 

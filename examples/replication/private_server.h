@@ -1,5 +1,5 @@
-// A server of this run's own, on a socket in a folder of its own, with an append-only file beside it. It ends with this
-// process, however that ends.
+// A server of this run's own, on a socket in a folder of its own, with an append-only file beside it. Both are gone
+// after this process, however it ends.
 #ifndef REPLICATION_PRIVATE_SERVER_H
 #define REPLICATION_PRIVATE_SERVER_H
 
@@ -20,23 +20,10 @@ namespace examples::replication
 class private_server
 {
 public:
-    private_server() : m_folder(new_folder())
+    private_server() : m_folder(new_folder()), m_remover(remover(m_folder))
     {
-        try {
-            start();
-        } catch (...) {
-            remove();
-            throw;
-        }
+        start();
     }
-
-    ~private_server()
-    {
-        remove();
-    }
-
-    private_server(const private_server &) = delete;
-    private_server &operator=(const private_server &) = delete;
 
     std::string socket_path() const
     {
@@ -52,12 +39,19 @@ public:
     // With SIGKILL, and starts it again over the same append-only file.
     void kill_and_restart()
     {
-        m_process->kill();
         m_process.reset();
         start();
     }
 
 private:
+    struct kill_first {
+        void operator()(child_process *process) const
+        {
+            process->kill();
+            delete process;
+        }
+    };
+
     static constexpr auto between_attempts = std::chrono::milliseconds(20);
     static constexpr int most_attempts = 6000; // 2 minutes: a large append-only file is read at the start
 
@@ -76,10 +70,9 @@ private:
     {
         if (std::system("command -v redis-server >/dev/null") != 0)
             throw engine_error("cannot start a server: redis-server is not installed");
-        m_process = std::make_unique<child_process>(
-            std::vector<std::string>{"/usr/bin/setpriv", "--pdeathsig", "KILL", "redis-server", "--port", "0",
-                "--unixsocket", socket_path(), "--dir", m_folder.string(), "--logfile", file("log"), "--save", "",
-                "--appendonly", "yes", "--appendfsync", "always", "--auto-aof-rewrite-percentage", "0"});
+        m_process.reset(new child_process({"/usr/bin/setpriv", "--pdeathsig", "KILL", "redis-server", "--port", "0",
+            "--unixsocket", socket_path(), "--dir", m_folder.string(), "--logfile", file("log"), "--save", "",
+            "--appendonly", "yes", "--appendfsync", "always", "--auto-aof-rewrite-percentage", "0"}));
         wait_until_it_answers();
     }
 
@@ -98,17 +91,15 @@ private:
         }
     }
 
-    void remove()
+    // A shell that removes the folder when its input ends: when this process closes the pipe, or is killed.
+    static std::vector<std::string> remover(const std::filesystem::path &folder)
     {
-        if (m_process)
-            m_process->kill();
-        m_process.reset();
-        std::error_code ignored;
-        std::filesystem::remove_all(m_folder, ignored);
+        return {"/bin/sh", "-c", "trap '' INT TERM HUP; read -r end; /bin/rm -rf \"$0\"", folder.string()};
     }
 
-    std::filesystem::path m_folder;
-    std::unique_ptr<child_process> m_process;
+    const std::filesystem::path m_folder;
+    const child_process m_remover; // before the server, and so ended after it
+    std::unique_ptr<child_process, kill_first> m_process;
 };
 
 } // namespace examples::replication

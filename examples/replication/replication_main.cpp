@@ -301,7 +301,8 @@ private:
     void reconcile_stale_replica()
     {
         child_process replica({this_program, "--stale", m_server.socket_path(), std::to_string(m_sessions)});
-        stream_link(m_server.socket_path(), "to-keeper", "to-replica").run([&](int input, int output) {
+        stream_link link(m_server.socket_path(), "to-keeper", "to-replica", [&replica] { return replica.has_ended(); });
+        link.run([&](int input, int output) {
             reconciliation::message_channel channel(input, output);
             reconciliation::keeper keeper(m_publisher.acknowledged, channel);
             const reconciliation::run_totals totals = m_reconciled.measure([&] { return keeper.reconcile(); });

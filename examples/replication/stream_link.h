@@ -9,6 +9,7 @@
 #include <array>
 #include <exception>
 #include <fcntl.h>
+#include <functional>
 #include <thread>
 #include <unistd.h>
 
@@ -18,8 +19,12 @@ namespace examples::replication
 class stream_link
 {
 public:
-    stream_link(std::string socket_path, std::string stream_in, std::string stream_out)
-        : m_socket_path(std::move(socket_path)), m_stream_in(std::move(stream_in)), m_stream_out(std::move(stream_out))
+    // `other_side_has_ended` saves a side that knows it the longest wait. It is called in another thread.
+    stream_link(
+        std::string socket_path, std::string stream_in, std::string stream_out,
+        std::function<bool()> other_side_has_ended = [] { return false; })
+        : m_socket_path(std::move(socket_path)), m_stream_in(std::move(stream_in)), m_stream_out(std::move(stream_out)),
+          m_other_side_has_ended(std::move(other_side_has_ended))
     {
     }
 
@@ -88,10 +93,7 @@ private:
         engine connection(m_socket_path);
         std::string after = "0";
         for (;;) {
-            const std::vector<entry> entries = connection.read(m_stream_in, after);
-            if (entries.empty())
-                throw engine_error(
-                    "the other side sent nothing for " + std::to_string(longest_wait_ms / 1000) + " seconds");
+            const std::vector<entry> entries = next_entries(connection, after);
             for (const entry &each : entries) {
                 if (each.message.empty())
                     return;
@@ -101,7 +103,22 @@ private:
         }
     }
 
+    // At least one.
+    std::vector<entry> next_entries(engine &connection, const std::string &after) const
+    {
+        for (int waited_ms = 0; waited_ms < longest_wait_ms; waited_ms += short_wait_ms) {
+            const bool has_ended = m_other_side_has_ended(); // before reading: what it sent first is there
+            std::vector<entry> entries = connection.read(m_stream_in, after);
+            if (!entries.empty())
+                return entries;
+            if (has_ended)
+                throw engine_error("the other side ended before its last message");
+        }
+        throw engine_error("the other side sent nothing for " + std::to_string(longest_wait_ms / 1000) + " seconds");
+    }
+
     const std::string m_socket_path, m_stream_in, m_stream_out;
+    const std::function<bool()> m_other_side_has_ended;
 };
 
 } // namespace examples::replication

@@ -75,6 +75,14 @@ void expect_refused(const std::string &message, const std::string &reason)
     EXPECT_EQ(read_file(store), nothing_applied);
 }
 
+// Runs the program with its folder below `folder`, which the commands after it also find as $folder.
+program_result run_below(const scratch_folder &scratch, const std::string &sessions, const std::string &commands)
+{
+    const std::string folder = std::filesystem::path(scratch.file("here", "")).parent_path().string();
+    return run_program("folder=" + folder + "; export TMPDIR=$folder\n" + program + " " + sessions +
+                       " & publisher=$!\n" + "is_running() { kill -0 $publisher || exit 3; sleep 0.02; }\n" + commands);
+}
+
 } // namespace
 
 TEST(replication, of_20000_sessions_loses_nothing_when_the_server_and_the_replica_are_killed)
@@ -111,6 +119,38 @@ TEST(replication, a_server_that_refuses_a_command_ends_the_run_with_one_line)
     EXPECT_TRUE(std::regex_match(result.errors, std::regex("replication: the server refuses: OOM [^\n]*\n")))
         << result.errors;
     EXPECT_EQ(result.output, "");
+}
+
+TEST(replication, a_publisher_that_is_killed_leaves_no_server_and_no_folder)
+{
+    if (server_is_missing())
+        GTEST_SKIP() << "redis-server is not installed";
+    const scratch_folder scratch;
+    const program_result result = run_below(scratch, "2000000",
+        "until [ -s $folder/replication-*/store ]; do is_running; done\n"
+        "kill -KILL $publisher\n"
+        "for second in $(seq 60); do\n"
+        "    [ -e $folder/replication-* ] || grep -qsa \"[u]nixsocket.$folder\" /proc/[0-9]*/cmdline || exit 0\n"
+        "    sleep 1\n"
+        "done\n"
+        "exit 4");
+    EXPECT_EQ(result.status, 0) << result.output << result.errors;
+}
+
+TEST(replication, a_stale_replica_that_is_killed_ends_the_run_with_one_line)
+{
+    if (server_is_missing())
+        GTEST_SKIP() << "redis-server is not installed";
+    const scratch_folder scratch;
+    const program_result result = run_below(scratch, "5000",
+        "until found=$(grep -lsa \"[-]-stale.$folder\" /proc/[0-9]*/cmdline); do is_running; done\n"
+        "kill -KILL $(echo $found | tr -dc 0-9)\n"
+        "wait $publisher");
+    EXPECT_EQ(result.status, 1) << result.output;
+    EXPECT_TRUE(
+        std::regex_match(result.errors, std::regex("replica: the server has gone away: [^\n]*\n"
+                                                   "replication: the other side ended before its last message\n")))
+        << result.errors;
 }
 
 TEST(replication, a_replica_takes_what_an_earlier_life_left_and_cuts_off_half_a_message)
