@@ -30,6 +30,12 @@ public:
         return used_bytes_;
     }
 
+    // The address of the next block.
+    const unsigned char *unused() const
+    {
+        return block_.get() + used_bytes_;
+    }
+
     // The allocator callback; `allocator` is the bump_allocator.
     static void *allocate(uint64_t size, void *allocator)
     {

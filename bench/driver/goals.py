@@ -1,4 +1,7 @@
-"""The project's goals for its speed, compared with the measurements. A missed goal is no failure."""
+"""The project's goals for its speed, compared with the measurements. A missed goal is no failure.
+
+Beside a missed goal stands its floor: how many times as fast as the named side the least work of the operation is.
+"""
 
 from dataclasses import dataclass
 
@@ -24,6 +27,8 @@ AT_MOST = {
     ("decode", "ours calloc", "heap calls"): {"realistic": (1.5, 1.5, 1.5), "random": (1.5, 1.5, 1.5)},
     ("duplicate", "ours", "heap calls"): {"realistic": (1.5, 1.5, 1.5), "random": (1.5, 1.5, 1.5)},
 }
+# The side that does only the least work (bench/README.md).
+FLOOR = "memcpy"
 WORKLOADS = tuple(name for name, workload in WORKLOAD_OF_NAME.items() if len(workload.sets) > 1)
 
 
@@ -35,21 +40,35 @@ class Verdict:
     bar: float
     measured: float = None  # None: not measured
     met: bool = False
+    floor: float = None
 
     def __str__(self):
         if self.measured is None:
             return f"?/{self.bar:g}"
-        return f"{self.measured:.2f}/{self.bar:g}{'' if self.met else ' not met'}"
+        if self.met:
+            return f"{self.measured:.2f}/{self.bar:g}"
+        floor = "" if self.floor is None else f", floor {self.floor:.1f}"
+        return f"{self.measured:.2f}/{self.bar:g} not met{floor}"
+
+
+def _ratio(results, content, workload, operation, ours, other):
+    for result in results:
+        if (*result.cell, result.operation, result.ours, result.other) == (workload, content, operation, ours, other):
+            return result.ratio
+    return None
 
 
 def _verdict(results, goal, content, workload, bar, at_most):
     operation, ours, other = goal
     title = f"{OPERATIONS[operation].split(':')[0]}, {ours}, against {other}" + (", at most" if at_most else "")
     verdict = Verdict(title, content, workload, bar)
-    for result in results:
-        if (*result.cell, result.operation, result.ours, result.other) == (workload, content, *goal):
-            verdict.measured = 1 / result.ratio if at_most else result.ratio
-            verdict.met = verdict.measured <= bar if at_most else verdict.measured >= bar
+    ratio = _ratio(results, content, workload, *goal)
+    if ratio is None:
+        return verdict
+    verdict.measured = 1 / ratio if at_most else ratio
+    verdict.met = verdict.measured <= bar if at_most else verdict.measured >= bar
+    floor = None if at_most else _ratio(results, content, workload, operation, ours, FLOOR)
+    verdict.floor = 1 if at_most else floor and ratio / floor
     return verdict
 
 

@@ -126,6 +126,12 @@ class Goals(unittest.TestCase):
         self.assertTrue(self.verdict([(0, 149, 100)], sides).met)
         self.assertFalse(self.verdict([(0, 160, 100)], sides).met)
 
+    def test_beside_a_missed_goal_is_how_fast_the_least_work_is(self):
+        results = (results_of([(0, 100, 200)], sides=("decode", "ours bump", "protobuf reused")) +
+                   results_of([(0, 100, 40)], sides=("decode", "ours bump", "memcpy")))
+        missed = [str(verdict) for verdict in goals.judge(results) if verdict.measured is not None]
+        self.assertEqual(missed, ["2.00/2.8 not met, floor 5.0"])
+
     def test_what_was_not_measured_is_neither_met_nor_failed(self):
         self.assertEqual(goals.count(goals.judge([])), "0 of 0 measured goals met")
         self.assertEqual(str(goals.judge([])[0]), "?/2.8")

@@ -46,12 +46,15 @@ struct decoded_corpus {
     {
         for (size_t i = 0; i < records.size(); ++i) {
             const std::vector<uint8_t> &wire = content.wires[i];
+            const unsigned char *first_block = memory.unused();
             Codec::decode(records[i], wire.data(), wire.size(), of_bump(memory), MAVA_TUM_ALIAS);
+            blocks.emplace_back(first_block, memory.unused());
         }
     }
 
     bump_allocator memory;
     std::vector<typename Codec::record> records;
+    std::vector<byte_view> blocks; // of each record
 };
 
 template <class Codec>
@@ -93,7 +96,62 @@ void add_decode(suite &operations, uint32_t flags)
         [=](size_t i) { return wire_after(i, heap); });
 }
 
-// Into a large buffer, into one of exactly the size, and a size request. Lower bound: a copy of the wire.
+template <class Object>
+byte_view bytes_of(const Object &object)
+{
+    return {reinterpret_cast<const uint8_t *>(&object), sizeof object};
+}
+
+// Of the records that an encoder reads: the cache lines that are not all zero, message by message.
+class used_lines
+{
+public:
+    void add(byte_view memory)
+    {
+        while (!memory.empty()) {
+            const size_t left_in_line = line_bytes - reinterpret_cast<uintptr_t>(memory.data()) % line_bytes;
+            const byte_view line = memory.first(std::min(memory.size(), left_in_line));
+            if (std::ranges::any_of(line, [](uint8_t byte) { return byte != 0; }))
+                lines_.push_back(line.data());
+            memory = memory.subspan(line.size());
+        }
+    }
+
+    // The lines added since the last call belong to the next message.
+    void end_message()
+    {
+        ends_.push_back(lines_.size());
+    }
+
+    void read(size_t message) const
+    {
+        unsigned sum = 0;
+        for (size_t i = message == 0 ? 0 : ends_[message - 1]; i != ends_[message]; ++i)
+            sum += *lines_[i];
+        keep(sum);
+    }
+
+private:
+    static constexpr size_t line_bytes = 64;
+
+    std::vector<const uint8_t *> lines_;
+    std::vector<size_t> ends_; // for each message, the number of lines up to and with it
+};
+
+// A lower bound of an encode: reads the lines and copies the wire.
+inline void add_encode_floor(suite &operations, const char *operation, used_lines lines)
+{
+    const corpus &content = operations.content();
+    auto buffer = std::make_shared<std::vector<uint8_t>>(content.longest_wire());
+    operations.add_encode(operation, "memcpy", [&content, lines = std::move(lines), buffer](size_t i) {
+        const std::vector<uint8_t> &wire = content.wires[i];
+        lines.read(i);
+        std::memcpy(buffer->data(), wire.data(), wire.size());
+        return byte_view(buffer->data(), wire.size());
+    });
+}
+
+// Into a large buffer, into one of exactly the size, and a size request.
 template <class Codec>
 void add_encode(suite &operations)
 {
@@ -111,11 +169,13 @@ void add_encode(suite &operations)
     operations.add_floor("encode", "size request", [decoded, &content](size_t i) {
         return Codec::encode(decoded->records[i], nullptr, 0) == content.wires[i].size();
     });
-    operations.add_encode("encode", "memcpy", [&content, buffer](size_t i) {
-        const std::vector<uint8_t> &wire = content.wires[i];
-        std::memcpy(buffer->data(), wire.data(), wire.size());
-        return byte_view(buffer->data(), wire.size());
-    });
+    used_lines lines;
+    for (size_t i = 0; i < content.message_count(); ++i) {
+        lines.add(bytes_of(decoded->records[i]));
+        lines.add(decoded->blocks[i]);
+        lines.end_message();
+    }
+    add_encode_floor(operations, "encode", std::move(lines));
 }
 
 template <class Codec>
@@ -159,6 +219,28 @@ private:
     }
 };
 
+// A lower bound of a decode: makes the same allocator calls, and copies the wire into the blocks and the record.
+template <class Record>
+void add_decode_floor(suite &operations, std::vector<std::vector<uint64_t>> block_sizes)
+{
+    const corpus &content = operations.content();
+    auto memory = std::make_shared<bump_allocator>(bump_bytes_for(content.longest_wire()));
+    auto record = std::make_shared<Record>();
+    operations.add_floor("decode", "memcpy", [&content, memory, record, sizes = std::move(block_sizes)](size_t i) {
+        byte_view left = content.wires[i];
+        const auto copy_to = [&left](void *place, uint64_t size) {
+            const byte_view copied = left.first(std::min<size_t>(size, left.size()));
+            std::memcpy(place, copied.data(), copied.size());
+            left = left.subspan(copied.size());
+        };
+        memory->reset();
+        for (const uint64_t size : sizes[i])
+            copy_to(bump_allocator::allocate(size, memory.get()), size);
+        copy_to(record.get(), sizeof(Record));
+        return true;
+    });
+}
+
 // Makes only the heap calls of an operation.
 inline void add_heap_floor(suite &operations, const char *operation, std::vector<std::vector<uint64_t>> block_sizes)
 {
@@ -174,9 +256,9 @@ inline void add_heap_floor(suite &operations, const char *operation, std::vector
     });
 }
 
-// Of a decode and of a duplicate.
+// Of a decode, and of a duplicate with the heap.
 template <class Codec>
-void add_heap_floors(suite &operations)
+void add_decode_floors(suite &operations)
 {
     if (!operations.wants("decode") && !operations.wants("duplicate"))
         return;
@@ -195,6 +277,7 @@ void add_heap_floors(suite &operations)
         of_decode.push_back(std::move(decoding.sizes));
         of_duplicate.push_back(std::move(duplicating.sizes));
     }
+    add_decode_floor<typename Codec::record>(operations, of_decode);
     add_heap_floor(operations, "decode", std::move(of_decode));
     add_heap_floor(operations, "duplicate", std::move(of_duplicate));
 }
@@ -205,7 +288,7 @@ void add_codec(suite &operations)
     add_decode<Codec>(operations, MAVA_TUM_ALIAS);
     add_encode<Codec>(operations);
     add_duplicate<Codec>(operations);
-    add_heap_floors<Codec>(operations);
+    add_decode_floors<Codec>(operations);
 }
 
 // Decodes as the example decode_into_arena: its arena is reset instead of freeing the record.
@@ -269,11 +352,26 @@ void add_adapter(suite &operations)
         const auto capacity = static_cast<uint32_t>(buffer->size());
         return byte_view(buffer->data(), Adapter::encode(&sent[i], buffer->data(), capacity));
     });
+    if (operations.wants("encode_adapter")) {
+        used_lines lines;
+        for (const application &record : sent) {
+            lines.add(bytes_of(record));
+            lines.end_message();
+        }
+        add_encode_floor(operations, "encode_adapter", std::move(lines));
+    }
     auto received = std::make_shared<application>();
     operations.add_decode_adapter("ours", [&content, received](size_t i) -> const application & {
         const std::vector<uint8_t> &wire = content.wires[i];
         Adapter::decode(wire.data(), static_cast<uint32_t>(wire.size()), received.get());
         return *received;
+    });
+    // A lower bound: clears the application record and copies the wire into it.
+    operations.add_floor("decode_adapter", "memcpy", [&content, received](size_t i) {
+        const std::vector<uint8_t> &wire = content.wires[i];
+        std::memset(received.get(), 0, sizeof(application));
+        std::memcpy(received.get(), wire.data(), std::min(wire.size(), sizeof(application)));
+        return true;
     });
 }
 
