@@ -31,8 +31,8 @@ def fill_line(field):
     nested = field.of
     if field.kind == "record":
         return f"    fill_{nested}(target.edit_{name}());"
-    return (f"    for (auto element : target.make_{name}(list_length))\n"
-            f"        fill_{nested}(element);")
+    return (f"    fill_{nested}(target.make_{name}(list_length - 1)[0]);\n"
+            f"    fill_{nested}(target.add_{name}().value());")
 
 
 def expect_filled_line(field):
@@ -70,7 +70,7 @@ def empty_line(field):
     if field.kind == "record":
         return f"    target.clear_{name}();"
     if field.kind == "array of records":
-        return f"    EXPECT_TRUE(target.make_{name}(0).empty());"
+        return f"    target.clear_{name}();"
     if field.kind == "array of texts":
         return f"    EXPECT_EQ(target.set_{name}({{}}), tum::result::ok);"
     if field.kind in NUMBER_TYPES:

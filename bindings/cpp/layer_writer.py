@@ -49,9 +49,14 @@ def setters(field):
     if field.kind == "array of texts":
         return [("result", f"set_{name}(argument_span<const std::string_view> texts)",
                  f"return change::set_texts<{n}>({target}, texts);")]
-    editors = f"{field.of}_editors"
+    editors, editor = f"{field.of}_editors", f"{field.of}_editor"
     return [(editors, f"make_{name}(exact_number<std::uint64_t> count)",
-             f"return change::make_list<{n}, {editors}>({target}, count.number());")]
+             f"return change::make_list<{n}, {editors}>({target}, count.number());"),
+            (editors, f"edit_{name}()", f"return change::edit_list<{n}, {editors}>({target});"),
+            (f"std::optional<{editor}>", f"add_{name}()", f"return change::add_element<{n}, {editor}>({target});"),
+            ("result", f"resize_{name}(exact_number<std::uint64_t> count)",
+             f"return change::resize_list<{n}>({target}, count.number());"),
+            ("void", f"clear_{name}()", f"change::clear_list<{n}>({target.removesuffix(', blocks()')});")]
 
 
 def functions(type_name, declaration, qualifier, call, refers_to_record):
@@ -103,11 +108,13 @@ def changes_class(message):
 
 def codec_class(message, owns_memory):
     name, record = message.name, message.c_type
+    yield f"class {name};"
     yield f"class {name}_view;"
     yield f"class {name}_editor;"
     yield ""
     yield "template <>"
     yield f"struct codec_of<{record}> {{"
+    yield f"    using owner = {name};"
     yield f"    using view = {name}_view;"
     yield f"    using editor = {name}_editor;"
     yield f"    static constexpr bool owns_memory = {'true' if owns_memory else 'false'};"

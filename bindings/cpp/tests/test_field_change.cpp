@@ -1,6 +1,9 @@
 // Setters; if a block is refused, they change nothing.
 #include "counting_resource.h"
 #include "field_values.h"
+#include "support/hex.h"
+
+#include <array>
 
 namespace mava_tum_test
 {
@@ -82,6 +85,117 @@ TEST(cpp_field_change_of_texts, leaves_them_as_they_are_whichever_block_is_refus
     resource.refuse_block(0);
     ASSERT_EQ(start.set_field_5(second), tum::result::ok);
     EXPECT_EQ(start.field_5()[1], "c");
+}
+
+TEST(cpp_field_change_of_lists, changes_one_element_of_a_decoded_list)
+{
+    tum::session_context session;
+    ASSERT_EQ(session.decode(bytes_of("5A 02 08 05 5A 02 08 06 5A 02 08 07")), tum::result::ok);
+    session.edit_qos()[1].set_field_1(9);
+    EXPECT_EQ(session.encode(), bytes_of("5A 02 08 05 5A 02 08 09 5A 02 08 07"));
+}
+
+TEST(cpp_field_change_of_lists, edits_nothing_of_an_absent_list_even_where_a_pointer_is_set)
+{
+    tum::session_context session;
+    EXPECT_TRUE(session.edit_qos().empty());
+    mava_tum_subscriber_qos in_c = {};
+    session.mutable_c_record().qos = &in_c;
+    session.mutable_c_record().qos_count = 1;
+    EXPECT_TRUE(session.edit_qos().empty());
+    ASSERT_TRUE(session.add_qos());
+    EXPECT_EQ(session.qos().size(), 1U);
+    EXPECT_NE(session.c_record().qos, &in_c);
+}
+
+TEST(cpp_field_change_of_lists, adds_elements_after_those_of_a_decoded_list)
+{
+    tum::session_context session;
+    ASSERT_EQ(session.decode(bytes_of("5A 02 08 05 5A 02 08 06")), tum::result::ok);
+    for (std::uint32_t number = 7; number < 10; ++number)
+        session.add_qos()->set_field_1(number);
+    EXPECT_EQ(session.encode(), bytes_of("5A 02 08 05 5A 02 08 06 5A 02 08 07 5A 02 08 08 5A 02 08 09"));
+}
+
+// Two lists in turns, one inside an element of the other: each keeps its room.
+TEST(cpp_field_change_of_lists, asks_for_few_blocks_when_elements_are_added_one_by_one)
+{
+    counting_resource resource;
+    tum::rec_sess_replay_req replay(&resource);
+    for (std::uint32_t number = 0; number < 64; ++number) {
+        auto session = replay.add_field_4();
+        ASSERT_TRUE(session);
+        session->set_feature_mask(number);
+        for (std::uint32_t qos = 0; qos < 4; ++qos)
+            session->add_qos()->set_field_1(number + qos);
+    }
+    EXPECT_EQ(resource.asked(), 7U + 64U * 3U); // 1, 2, 4 ... 64 sessions; 1, 2, 4 entries in each
+    for (std::uint32_t number = 0; number < 64; ++number) {
+        ASSERT_EQ(replay.field_4()[number].feature_mask(), number);
+        ASSERT_EQ(replay.field_4()[number].qos()[3].field_1(), number + 3);
+    }
+}
+
+TEST(cpp_field_change_of_lists, keeps_the_elements_that_a_smaller_list_has_and_forgets_the_others)
+{
+    tum::session_context session;
+    for (std::uint32_t number = 1; number <= 4; ++number)
+        session.add_qos()->set_field_1(number);
+    ASSERT_EQ(session.resize_qos(2), tum::result::ok);
+    EXPECT_EQ(session.encode(), bytes_of("5A 02 08 01 5A 02 08 02"));
+    ASSERT_EQ(session.resize_qos(3), tum::result::ok);
+    EXPECT_EQ(session.encode(), bytes_of("5A 02 08 01 5A 02 08 02 5A 00"));
+    ASSERT_EQ(session.resize_qos(0), tum::result::ok);
+    EXPECT_EQ(session.c_record().presence_mask, 0U);
+    ASSERT_TRUE(session.add_qos());
+    EXPECT_FALSE(session.qos()[0].field_1());
+    session.clear_qos();
+    EXPECT_EQ(session.c_record().presence_mask, 0U);
+    EXPECT_EQ(session.c_record().qos, nullptr);
+}
+
+TEST(cpp_field_change_of_lists, leaves_a_list_as_it_is_when_the_block_is_refused)
+{
+    counting_resource resource;
+    tum::session_context session(&resource);
+    ASSERT_EQ(session.decode(bytes_of("5A 02 08 05")), tum::result::ok);
+    resource.refuse_block(1);
+    EXPECT_FALSE(session.add_qos());
+    resource.refuse_block(1);
+    EXPECT_EQ(session.resize_qos(5), tum::result::no_memory);
+    EXPECT_EQ(session.resize_qos(std::uint64_t{1} << 32), tum::result::no_memory);
+    EXPECT_EQ(session.encode(), bytes_of("5A 02 08 05"));
+    resource.refuse_block(1);
+    EXPECT_EQ(session.resize_qos(1), tum::result::ok); // nothing to do, no block
+}
+
+TEST(cpp_field_change_of_lists, grows_in_memory_that_is_not_released)
+{
+    std::array<std::byte, 4096> buffer;
+    std::pmr::monotonic_buffer_resource resource(buffer.data(), buffer.size(), std::pmr::null_memory_resource());
+    tum::rec_sess_req request(tum::memory(tum::monotonic, &resource));
+    std::uint32_t added = 0;
+    for (auto state = request.add_field_3(); state; state = request.add_field_3())
+        state->set_field_1(++added);
+    ASSERT_GT(added, 16U);
+    ASSERT_EQ(request.field_3().size(), added);
+    for (std::uint32_t i = 0; i < added; ++i)
+        EXPECT_EQ(request.field_3()[i].field_1(), i + 1);
+}
+
+TEST(cpp_field_change_of_lists, has_no_room_left_from_what_was_there_before_a_decode_or_a_move)
+{
+    tum::session_context session;
+    for (int i = 0; i < 3; ++i)
+        ASSERT_TRUE(session.add_qos());
+    tum::session_context moved = std::move(session);
+    ASSERT_TRUE(moved.add_qos());
+    ASSERT_TRUE(session.add_qos());
+    EXPECT_EQ(moved.qos().size(), 4U);
+    EXPECT_EQ(session.qos().size(), 1U);
+    ASSERT_EQ(moved.decode(bytes_of("5A 02 08 05")), tum::result::ok);
+    ASSERT_TRUE(moved.add_qos()); // the address sanitizer detects an error
+    EXPECT_EQ(moved.encode(), bytes_of("5A 02 08 05 5A 00"));
 }
 
 TEST(cpp_field_change_of_presence, marks_no_field_but_its_own_and_keeps_spare_bits)

@@ -24,7 +24,11 @@ public:
     explicit block_list(const memory &source) noexcept : source_(source) {}
 
     // The blocks change their owner, and their source goes with them. The other list is empty and keeps its source.
-    block_list(block_list &&other) noexcept : source_(other.source_), newest_(std::exchange(other.newest_, nullptr)) {}
+    block_list(block_list &&other) noexcept
+        : source_(other.source_), newest_(std::exchange(other.newest_, nullptr)),
+          newest_growing_(std::exchange(other.newest_growing_, nullptr))
+    {
+    }
 
     block_list &operator=(block_list &&other) noexcept
     {
@@ -32,6 +36,7 @@ public:
             release_all();
             source_ = other.source_;
             newest_ = std::exchange(other.newest_, nullptr);
+            newest_growing_ = std::exchange(other.newest_growing_, nullptr);
         }
         return *this;
     }
@@ -58,8 +63,41 @@ public:
         return allocator()(size, context());
     }
 
+    // A block of `size` bytes for an array that is to grow, which room_of() finds again. Null if it is refused.
+    void *take_growing(std::uint64_t size) noexcept
+    {
+        const std::uint64_t with_header = size + header_bytes<growing>;
+        void *const taken = with_header < size ? nullptr : take(with_header);
+        if (taken == nullptr)
+            return nullptr;
+        void *const elements = static_cast<unsigned char *>(taken) + header_bytes<growing>;
+        newest_growing_ = ::new (taken) growing{newest_growing_, elements, size};
+        return elements;
+    }
+
+    // In bytes, of the array at `elements`; 0 if take_growing() did not return it. An array that was found is the first
+    // to be looked at next time: those that grow in turns, such as sessions and the QoS entries of each, are near.
+    std::uint64_t room_of(const void *elements) noexcept
+    {
+        for (growing **link = &newest_growing_; *link != nullptr; link = &(*link)->next) {
+            growing *const found = *link;
+            if (found->elements != elements)
+                continue;
+            *link = found->next;
+            found->next = std::exchange(newest_growing_, found);
+            return found->size;
+        }
+        return 0;
+    }
+
+    const memory &source() const noexcept
+    {
+        return source_;
+    }
+
     void release_all() noexcept
     {
+        newest_growing_ = nullptr;
         while (newest_ != nullptr) {
             block *const released = newest_;
             newest_ = released->next;
@@ -73,9 +111,17 @@ private:
         std::uint64_t size; // with the header
     };
 
+    // In front of an array that grows, inside of its block.
+    struct growing {
+        growing *next;
+        const void *elements;
+        std::uint64_t size; // without the header
+    };
+
     // What follows is aligned as the whole is, also where a block is smaller than the widest alignment.
-    static constexpr std::size_t header_bytes =
-        (sizeof(block) + alignof(std::max_align_t) - 1) / alignof(std::max_align_t) * alignof(std::max_align_t);
+    template <class Header>
+    static constexpr std::size_t header_bytes = (sizeof(Header) + alignof(std::max_align_t) - 1) /
+                                                alignof(std::max_align_t) * alignof(std::max_align_t);
 
     static void *take_remembered(std::uint64_t size, void *list) noexcept
     {
@@ -84,18 +130,19 @@ private:
 
     void *remember(std::uint64_t size) noexcept
     {
-        const std::uint64_t with_header = size + header_bytes;
+        const std::uint64_t with_header = size + header_bytes<block>;
         if (with_header < size)
             return nullptr;
         void *const taken = source_.allocate(with_header);
         if (taken == nullptr)
             return nullptr;
         newest_ = ::new (taken) block{newest_, with_header};
-        return static_cast<unsigned char *>(taken) + header_bytes;
+        return static_cast<unsigned char *>(taken) + header_bytes<block>;
     }
 
     memory source_;
     block *newest_ = nullptr;
+    growing *newest_growing_ = nullptr;
 };
 
 // Stands in for the list in records that never own anything: keeps nothing, and gives nothing.

@@ -13,6 +13,7 @@ namespace mava_tum::cpp
 {
 
 // What the layer knows of a message, by its codec record. Specialised beside each message:
+//     owner                  the class that owns a record
 //     view, editor           the classes that read and change a record that lies somewhere else
 //     owns_memory            whether a record ever owns a block
 //     decode, encode, duplicate   the codec's functions

@@ -18,11 +18,13 @@ namespace mava_tum::cpp
 
 // ---- subscriber_qos ------------------------------------------------------------------------------------------------
 
+class subscriber_qos;
 class subscriber_qos_view;
 class subscriber_qos_editor;
 
 template <>
 struct codec_of<mava_tum_subscriber_qos> {
+    using owner = subscriber_qos;
     using view = subscriber_qos_view;
     using editor = subscriber_qos_editor;
     static constexpr bool owns_memory = true;
@@ -126,11 +128,13 @@ public:
 
 // ---- subscriber_acl ------------------------------------------------------------------------------------------------
 
+class subscriber_acl;
 class subscriber_acl_view;
 class subscriber_acl_editor;
 
 template <>
 struct codec_of<mava_tum_subscriber_acl> {
+    using owner = subscriber_acl;
     using view = subscriber_acl_view;
     using editor = subscriber_acl_editor;
     static constexpr bool owns_memory = true;
@@ -210,11 +214,13 @@ public:
 
 // ---- subscriber_httpr ----------------------------------------------------------------------------------------------
 
+class subscriber_httpr;
 class subscriber_httpr_view;
 class subscriber_httpr_editor;
 
 template <>
 struct codec_of<mava_tum_subscriber_httpr> {
+    using owner = subscriber_httpr;
     using view = subscriber_httpr_view;
     using editor = subscriber_httpr_editor;
     static constexpr bool owns_memory = true;
@@ -282,11 +288,13 @@ public:
 
 // ---- subscriber_li -------------------------------------------------------------------------------------------------
 
+class subscriber_li;
 class subscriber_li_view;
 class subscriber_li_editor;
 
 template <>
 struct codec_of<mava_tum_subscriber_li> {
+    using owner = subscriber_li;
     using view = subscriber_li_view;
     using editor = subscriber_li_editor;
     static constexpr bool owns_memory = true;
@@ -373,11 +381,13 @@ public:
 
 // ---- subscriber_urpf -----------------------------------------------------------------------------------------------
 
+class subscriber_urpf;
 class subscriber_urpf_view;
 class subscriber_urpf_editor;
 
 template <>
 struct codec_of<mava_tum_subscriber_urpf> {
+    using owner = subscriber_urpf;
     using view = subscriber_urpf_view;
     using editor = subscriber_urpf_editor;
     static constexpr bool owns_memory = false;
@@ -443,11 +453,13 @@ public:
 
 // ---- subscriber_icmp -----------------------------------------------------------------------------------------------
 
+class subscriber_icmp;
 class subscriber_icmp_view;
 class subscriber_icmp_editor;
 
 template <>
 struct codec_of<mava_tum_subscriber_icmp> {
+    using owner = subscriber_icmp;
     using view = subscriber_icmp_view;
     using editor = subscriber_icmp_editor;
     static constexpr bool owns_memory = false;
@@ -510,11 +522,13 @@ public:
 
 // ---- subscriber_mtu ------------------------------------------------------------------------------------------------
 
+class subscriber_mtu;
 class subscriber_mtu_view;
 class subscriber_mtu_editor;
 
 template <>
 struct codec_of<mava_tum_subscriber_mtu> {
+    using owner = subscriber_mtu;
     using view = subscriber_mtu_view;
     using editor = subscriber_mtu_editor;
     static constexpr bool owns_memory = false;
@@ -577,11 +591,13 @@ public:
 
 // ---- subscriber_acct -----------------------------------------------------------------------------------------------
 
+class subscriber_acct;
 class subscriber_acct_view;
 class subscriber_acct_editor;
 
 template <>
 struct codec_of<mava_tum_subscriber_acct> {
+    using owner = subscriber_acct;
     using view = subscriber_acct_view;
     using editor = subscriber_acct_editor;
     static constexpr bool owns_memory = false;
@@ -650,11 +666,13 @@ public:
 
 // ---- subscriber_route_ipv4 -----------------------------------------------------------------------------------------
 
+class subscriber_route_ipv4;
 class subscriber_route_ipv4_view;
 class subscriber_route_ipv4_editor;
 
 template <>
 struct codec_of<mava_tum_subscriber_route_ipv4> {
+    using owner = subscriber_route_ipv4;
     using view = subscriber_route_ipv4_view;
     using editor = subscriber_route_ipv4_editor;
     static constexpr bool owns_memory = true;
@@ -745,11 +763,13 @@ public:
 
 // ---- subscriber_route_ipv6 -----------------------------------------------------------------------------------------
 
+class subscriber_route_ipv6;
 class subscriber_route_ipv6_view;
 class subscriber_route_ipv6_editor;
 
 template <>
 struct codec_of<mava_tum_subscriber_route_ipv6> {
+    using owner = subscriber_route_ipv6;
     using view = subscriber_route_ipv6_view;
     using editor = subscriber_route_ipv6_editor;
     static constexpr bool owns_memory = true;

@@ -91,6 +91,14 @@ void clear_record(Record &record, Nested &member) noexcept
 // What the count of an array can hold.
 inline constexpr std::uint32_t most_elements = UINT32_MAX;
 
+// Starts the elements from `first` to `end` without content.
+template <class Element>
+void make_empty(Element *elements, std::uint32_t first, std::uint32_t end) noexcept
+{
+    for (std::uint32_t i = first; i < end; ++i)
+        ::new (static_cast<void *>(elements + i)) Element();
+}
+
 // `count` elements without content; null if there are to be none, or if the block is refused.
 template <class Element>
 Element *make_elements(block_list &blocks, std::uint32_t count) noexcept
@@ -99,8 +107,7 @@ Element *make_elements(block_list &blocks, std::uint32_t count) noexcept
     if (block == nullptr)
         return nullptr;
     auto *const elements = static_cast<Element *>(block);
-    for (std::uint32_t i = 0; i < count; ++i)
-        ::new (static_cast<void *>(elements + i)) Element();
+    make_empty(elements, 0, count);
     return elements;
 }
 
@@ -119,6 +126,67 @@ List make_list(
     member_count = count;
     mark<number>(record, count != 0);
     return List(elements, count, {blocks});
+}
+
+// The elements that there are.
+template <unsigned number, class List, class Record, class Element>
+List edit_list(Record &record, Element *elements, std::uint32_t count, block_list *blocks) noexcept
+{
+    return access::is_present<number>(record) ? List(elements, count, {blocks}) : List();
+}
+
+template <unsigned number, class Record, class Element>
+void clear_list(Record &record, Element *&member, std::uint32_t &member_count) noexcept
+{
+    member = nullptr;
+    member_count = 0;
+    mark<number>(record, false);
+}
+
+// `member` with room for `count` elements, of which the first `used` are there; null when the block is refused. A block
+// has room for twice as many as there are, so that elements can be added one by one.
+template <class Element>
+Element *with_room_for(std::uint32_t count, Element *member, std::uint32_t used, block_list &blocks) noexcept
+{
+    if (member != nullptr && blocks.room_of(member) / sizeof(Element) >= count)
+        return member;
+    const std::uint64_t wanted = std::uint64_t{used} * 2 > count ? std::uint64_t{used} * 2 : count;
+    auto *const elements = static_cast<Element *>(blocks.take_growing(sizeof(Element) * wanted));
+    if (elements != nullptr && used != 0)
+        std::memcpy(static_cast<void *>(elements), member, sizeof(Element) * std::size_t{used});
+    return elements;
+}
+
+// New elements are empty. When a block is refused the field stays as it is.
+template <unsigned number, class Record, class Element>
+result resize_list(
+    Record &record, Element *&member, std::uint32_t &member_count, block_list *blocks, std::uint64_t given) noexcept
+{
+    if (given > most_elements)
+        return result::no_memory;
+    const std::uint32_t used = access::is_present<number>(record) ? member_count : 0;
+    const auto count = static_cast<std::uint32_t>(given);
+    if (count > used) {
+        Element *const elements = with_room_for(count, member, used, *blocks);
+        if (elements == nullptr)
+            return result::no_memory;
+        make_empty(elements, used, count);
+        member = elements;
+    }
+    member_count = count;
+    mark<number>(record, count != 0);
+    return result::ok;
+}
+
+// An empty element after the others; nothing when a block is refused.
+template <unsigned number, class Editor, class Record, class Element>
+std::optional<Editor> add_element(
+    Record &record, Element *&member, std::uint32_t &member_count, block_list *blocks) noexcept
+{
+    const std::uint64_t used = access::is_present<number>(record) ? member_count : 0;
+    if (resize_list<number>(record, member, member_count, blocks, used + 1) != result::ok)
+        return std::nullopt;
+    return Editor(member[used], blocks);
 }
 
 // All of them, or when a block is refused none: the field stays as it is.

@@ -20,11 +20,13 @@ namespace mava_tum::cpp
 
 // ---- rec_start_req -------------------------------------------------------------------------------------------------
 
+class rec_start_req;
 class rec_start_req_view;
 class rec_start_req_editor;
 
 template <>
 struct codec_of<mava_tum_rec_start_req> {
+    using owner = rec_start_req;
     using view = rec_start_req_view;
     using editor = rec_start_req_editor;
     static constexpr bool owns_memory = true;
@@ -98,11 +100,13 @@ public:
 
 // ---- rec_complete_req ----------------------------------------------------------------------------------------------
 
+class rec_complete_req;
 class rec_complete_req_view;
 class rec_complete_req_editor;
 
 template <>
 struct codec_of<mava_tum_rec_complete_req> {
+    using owner = rec_complete_req;
     using view = rec_complete_req_view;
     using editor = rec_complete_req_editor;
     static constexpr bool owns_memory = true;
@@ -176,11 +180,13 @@ public:
 
 // ---- rec_resp ------------------------------------------------------------------------------------------------------
 
+class rec_resp;
 class rec_resp_view;
 class rec_resp_editor;
 
 template <>
 struct codec_of<mava_tum_rec_resp> {
+    using owner = rec_resp;
     using view = rec_resp_view;
     using editor = rec_resp_editor;
     static constexpr bool owns_memory = true;
@@ -251,11 +257,13 @@ public:
 
 // ---- rec_session_state ---------------------------------------------------------------------------------------------
 
+class rec_session_state;
 class rec_session_state_view;
 class rec_session_state_editor;
 
 template <>
 struct codec_of<mava_tum_rec_session_state> {
+    using owner = rec_session_state;
     using view = rec_session_state_view;
     using editor = rec_session_state_editor;
     static constexpr bool owns_memory = false;
@@ -324,11 +332,13 @@ public:
 
 // ---- rec_sess_req --------------------------------------------------------------------------------------------------
 
+class rec_sess_req;
 class rec_sess_req_view;
 class rec_sess_req_editor;
 
 template <>
 struct codec_of<mava_tum_rec_sess_req> {
+    using owner = rec_sess_req;
     using view = rec_sess_req_view;
     using editor = rec_sess_req_editor;
     static constexpr bool owns_memory = true;
@@ -371,6 +381,12 @@ public:
     void set_field_2(exact_number<std::uint32_t> value) noexcept { change::set_number<2>(c(), c().field_2, value); }
     rec_session_state_editors make_field_3(exact_number<std::uint64_t> count) & noexcept { return change::make_list<3, rec_session_state_editors>(c(), c().field_3, c().field_3_count, blocks(), count.number()); }
     rec_session_state_editors make_field_3(exact_number<std::uint64_t> count) && noexcept { return access::lasting<Derived>(*this).make_field_3(count); }
+    rec_session_state_editors edit_field_3() & noexcept { return change::edit_list<3, rec_session_state_editors>(c(), c().field_3, c().field_3_count, blocks()); }
+    rec_session_state_editors edit_field_3() && noexcept { return access::lasting<Derived>(*this).edit_field_3(); }
+    std::optional<rec_session_state_editor> add_field_3() & noexcept { return change::add_element<3, rec_session_state_editor>(c(), c().field_3, c().field_3_count, blocks()); }
+    std::optional<rec_session_state_editor> add_field_3() && noexcept { return access::lasting<Derived>(*this).add_field_3(); }
+    result resize_field_3(exact_number<std::uint64_t> count) noexcept { return change::resize_list<3>(c(), c().field_3, c().field_3_count, blocks(), count.number()); }
+    void clear_field_3() noexcept { change::clear_list<3>(c(), c().field_3, c().field_3_count); }
     result set_field_4(std::optional<std::string_view> text) noexcept { return change::set_text<4>(c(), c().field_4, blocks(), text); }
     result set_field_5(std::optional<std::string_view> text) noexcept { return change::set_text<5>(c(), c().field_5, blocks(), text); }
     void set_field_6(exact_number<std::uint32_t> value) noexcept { change::set_number<6>(c(), c().field_6, value); }
@@ -411,11 +427,13 @@ public:
 
 // ---- rec_sess_resp -------------------------------------------------------------------------------------------------
 
+class rec_sess_resp;
 class rec_sess_resp_view;
 class rec_sess_resp_editor;
 
 template <>
 struct codec_of<mava_tum_rec_sess_resp> {
+    using owner = rec_sess_resp;
     using view = rec_sess_resp_view;
     using editor = rec_sess_resp_editor;
     static constexpr bool owns_memory = true;
@@ -451,6 +469,12 @@ public:
     void set_field_1(exact_number<std::uint32_t> value) noexcept { change::set_number<1>(c(), c().field_1, value); }
     rec_session_state_editors make_field_2(exact_number<std::uint64_t> count) & noexcept { return change::make_list<2, rec_session_state_editors>(c(), c().field_2, c().field_2_count, blocks(), count.number()); }
     rec_session_state_editors make_field_2(exact_number<std::uint64_t> count) && noexcept { return access::lasting<Derived>(*this).make_field_2(count); }
+    rec_session_state_editors edit_field_2() & noexcept { return change::edit_list<2, rec_session_state_editors>(c(), c().field_2, c().field_2_count, blocks()); }
+    rec_session_state_editors edit_field_2() && noexcept { return access::lasting<Derived>(*this).edit_field_2(); }
+    std::optional<rec_session_state_editor> add_field_2() & noexcept { return change::add_element<2, rec_session_state_editor>(c(), c().field_2, c().field_2_count, blocks()); }
+    std::optional<rec_session_state_editor> add_field_2() && noexcept { return access::lasting<Derived>(*this).add_field_2(); }
+    result resize_field_2(exact_number<std::uint64_t> count) noexcept { return change::resize_list<2>(c(), c().field_2, c().field_2_count, blocks(), count.number()); }
+    void clear_field_2() noexcept { change::clear_list<2>(c(), c().field_2, c().field_2_count); }
     void set_field_3(exact_number<std::uint32_t> value) noexcept { change::set_number<3>(c(), c().field_3, value); }
     void set_field_4(exact_number<std::uint32_t> value) noexcept { change::set_number<4>(c(), c().field_4, value); }
 
@@ -490,11 +514,13 @@ public:
 
 // ---- rec_sess_replay_req -------------------------------------------------------------------------------------------
 
+class rec_sess_replay_req;
 class rec_sess_replay_req_view;
 class rec_sess_replay_req_editor;
 
 template <>
 struct codec_of<mava_tum_rec_sess_replay_req> {
+    using owner = rec_sess_replay_req;
     using view = rec_sess_replay_req_view;
     using editor = rec_sess_replay_req_editor;
     static constexpr bool owns_memory = true;
@@ -537,6 +563,12 @@ public:
     void set_field_3(exact_number<std::uint32_t> value) noexcept { change::set_number<3>(c(), c().field_3, value); }
     session_context_editors make_field_4(exact_number<std::uint64_t> count) & noexcept { return change::make_list<4, session_context_editors>(c(), c().field_4, c().field_4_count, blocks(), count.number()); }
     session_context_editors make_field_4(exact_number<std::uint64_t> count) && noexcept { return access::lasting<Derived>(*this).make_field_4(count); }
+    session_context_editors edit_field_4() & noexcept { return change::edit_list<4, session_context_editors>(c(), c().field_4, c().field_4_count, blocks()); }
+    session_context_editors edit_field_4() && noexcept { return access::lasting<Derived>(*this).edit_field_4(); }
+    std::optional<session_context_editor> add_field_4() & noexcept { return change::add_element<4, session_context_editor>(c(), c().field_4, c().field_4_count, blocks()); }
+    std::optional<session_context_editor> add_field_4() && noexcept { return access::lasting<Derived>(*this).add_field_4(); }
+    result resize_field_4(exact_number<std::uint64_t> count) noexcept { return change::resize_list<4>(c(), c().field_4, c().field_4_count, blocks(), count.number()); }
+    void clear_field_4() noexcept { change::clear_list<4>(c(), c().field_4, c().field_4_count); }
     void set_field_5(exact_number<std::uint32_t> value) noexcept { change::set_number<5>(c(), c().field_5, value); }
     result set_field_6(std::optional<std::string_view> text) noexcept { return change::set_text<6>(c(), c().field_6, blocks(), text); }
 
@@ -576,11 +608,13 @@ public:
 
 // ---- rec_sess_replay_fail ------------------------------------------------------------------------------------------
 
+class rec_sess_replay_fail;
 class rec_sess_replay_fail_view;
 class rec_sess_replay_fail_editor;
 
 template <>
 struct codec_of<mava_tum_rec_sess_replay_fail> {
+    using owner = rec_sess_replay_fail;
     using view = rec_sess_replay_fail_view;
     using editor = rec_sess_replay_fail_editor;
     static constexpr bool owns_memory = true;
@@ -653,11 +687,13 @@ public:
 
 // ---- sess_svc_start ------------------------------------------------------------------------------------------------
 
+class sess_svc_start;
 class sess_svc_start_view;
 class sess_svc_start_editor;
 
 template <>
 struct codec_of<mava_tum_sess_svc_start> {
+    using owner = sess_svc_start;
     using view = sess_svc_start_view;
     using editor = sess_svc_start_editor;
     static constexpr bool owns_memory = true;
@@ -734,11 +770,13 @@ public:
 
 // ---- rec_sess_replay_resp ------------------------------------------------------------------------------------------
 
+class rec_sess_replay_resp;
 class rec_sess_replay_resp_view;
 class rec_sess_replay_resp_editor;
 
 template <>
 struct codec_of<mava_tum_rec_sess_replay_resp> {
+    using owner = rec_sess_replay_resp;
     using view = rec_sess_replay_resp_view;
     using editor = rec_sess_replay_resp_editor;
     static constexpr bool owns_memory = true;
@@ -778,8 +816,20 @@ public:
     void set_field_1(exact_number<std::uint32_t> value) noexcept { change::set_number<1>(c(), c().field_1, value); }
     rec_sess_replay_fail_editors make_field_2(exact_number<std::uint64_t> count) & noexcept { return change::make_list<2, rec_sess_replay_fail_editors>(c(), c().field_2, c().field_2_count, blocks(), count.number()); }
     rec_sess_replay_fail_editors make_field_2(exact_number<std::uint64_t> count) && noexcept { return access::lasting<Derived>(*this).make_field_2(count); }
+    rec_sess_replay_fail_editors edit_field_2() & noexcept { return change::edit_list<2, rec_sess_replay_fail_editors>(c(), c().field_2, c().field_2_count, blocks()); }
+    rec_sess_replay_fail_editors edit_field_2() && noexcept { return access::lasting<Derived>(*this).edit_field_2(); }
+    std::optional<rec_sess_replay_fail_editor> add_field_2() & noexcept { return change::add_element<2, rec_sess_replay_fail_editor>(c(), c().field_2, c().field_2_count, blocks()); }
+    std::optional<rec_sess_replay_fail_editor> add_field_2() && noexcept { return access::lasting<Derived>(*this).add_field_2(); }
+    result resize_field_2(exact_number<std::uint64_t> count) noexcept { return change::resize_list<2>(c(), c().field_2, c().field_2_count, blocks(), count.number()); }
+    void clear_field_2() noexcept { change::clear_list<2>(c(), c().field_2, c().field_2_count); }
     sess_svc_start_editors make_field_3(exact_number<std::uint64_t> count) & noexcept { return change::make_list<3, sess_svc_start_editors>(c(), c().field_3, c().field_3_count, blocks(), count.number()); }
     sess_svc_start_editors make_field_3(exact_number<std::uint64_t> count) && noexcept { return access::lasting<Derived>(*this).make_field_3(count); }
+    sess_svc_start_editors edit_field_3() & noexcept { return change::edit_list<3, sess_svc_start_editors>(c(), c().field_3, c().field_3_count, blocks()); }
+    sess_svc_start_editors edit_field_3() && noexcept { return access::lasting<Derived>(*this).edit_field_3(); }
+    std::optional<sess_svc_start_editor> add_field_3() & noexcept { return change::add_element<3, sess_svc_start_editor>(c(), c().field_3, c().field_3_count, blocks()); }
+    std::optional<sess_svc_start_editor> add_field_3() && noexcept { return access::lasting<Derived>(*this).add_field_3(); }
+    result resize_field_3(exact_number<std::uint64_t> count) noexcept { return change::resize_list<3>(c(), c().field_3, c().field_3_count, blocks(), count.number()); }
+    void clear_field_3() noexcept { change::clear_list<3>(c(), c().field_3, c().field_3_count); }
     result set_field_4(std::optional<std::string_view> text) noexcept { return change::set_text<4>(c(), c().field_4, blocks(), text); }
     void set_field_5(exact_number<std::uint32_t> value) noexcept { change::set_number<5>(c(), c().field_5, value); }
 

@@ -18,11 +18,13 @@ namespace mava_tum::cpp
 
 // ---- srg_group_rec_start_req ---------------------------------------------------------------------------------------
 
+class srg_group_rec_start_req;
 class srg_group_rec_start_req_view;
 class srg_group_rec_start_req_editor;
 
 template <>
 struct codec_of<mava_tum_srg_group_rec_start_req> {
+    using owner = srg_group_rec_start_req;
     using view = srg_group_rec_start_req_view;
     using editor = srg_group_rec_start_req_editor;
     static constexpr bool owns_memory = false;
@@ -91,11 +93,13 @@ public:
 
 // ---- srg_group_rec_resp --------------------------------------------------------------------------------------------
 
+class srg_group_rec_resp;
 class srg_group_rec_resp_view;
 class srg_group_rec_resp_editor;
 
 template <>
 struct codec_of<mava_tum_srg_group_rec_resp> {
+    using owner = srg_group_rec_resp;
     using view = srg_group_rec_resp_view;
     using editor = srg_group_rec_resp_editor;
     static constexpr bool owns_memory = false;
@@ -161,11 +165,13 @@ public:
 
 // ---- srg_group_rec_complete_req ------------------------------------------------------------------------------------
 
+class srg_group_rec_complete_req;
 class srg_group_rec_complete_req_view;
 class srg_group_rec_complete_req_editor;
 
 template <>
 struct codec_of<mava_tum_srg_group_rec_complete_req> {
+    using owner = srg_group_rec_complete_req;
     using view = srg_group_rec_complete_req_view;
     using editor = srg_group_rec_complete_req_editor;
     static constexpr bool owns_memory = false;
@@ -234,11 +240,13 @@ public:
 
 // ---- srg_group_data ------------------------------------------------------------------------------------------------
 
+class srg_group_data;
 class srg_group_data_view;
 class srg_group_data_editor;
 
 template <>
 struct codec_of<mava_tum_srg_group_data> {
+    using owner = srg_group_data;
     using view = srg_group_data_view;
     using editor = srg_group_data_editor;
     static constexpr bool owns_memory = true;
@@ -315,11 +323,13 @@ public:
 
 // ---- srg_group_rec_replay_req --------------------------------------------------------------------------------------
 
+class srg_group_rec_replay_req;
 class srg_group_rec_replay_req_view;
 class srg_group_rec_replay_req_editor;
 
 template <>
 struct codec_of<mava_tum_srg_group_rec_replay_req> {
+    using owner = srg_group_rec_replay_req;
     using view = srg_group_rec_replay_req_view;
     using editor = srg_group_rec_replay_req_editor;
     static constexpr bool owns_memory = true;
@@ -356,6 +366,12 @@ public:
     void set_field_2(exact_number<std::uint32_t> value) noexcept { change::set_number<2>(c(), c().field_2, value); }
     srg_group_data_editors make_field_3(exact_number<std::uint64_t> count) & noexcept { return change::make_list<3, srg_group_data_editors>(c(), c().field_3, c().field_3_count, blocks(), count.number()); }
     srg_group_data_editors make_field_3(exact_number<std::uint64_t> count) && noexcept { return access::lasting<Derived>(*this).make_field_3(count); }
+    srg_group_data_editors edit_field_3() & noexcept { return change::edit_list<3, srg_group_data_editors>(c(), c().field_3, c().field_3_count, blocks()); }
+    srg_group_data_editors edit_field_3() && noexcept { return access::lasting<Derived>(*this).edit_field_3(); }
+    std::optional<srg_group_data_editor> add_field_3() & noexcept { return change::add_element<3, srg_group_data_editor>(c(), c().field_3, c().field_3_count, blocks()); }
+    std::optional<srg_group_data_editor> add_field_3() && noexcept { return access::lasting<Derived>(*this).add_field_3(); }
+    result resize_field_3(exact_number<std::uint64_t> count) noexcept { return change::resize_list<3>(c(), c().field_3, c().field_3_count, blocks(), count.number()); }
+    void clear_field_3() noexcept { change::clear_list<3>(c(), c().field_3, c().field_3_count); }
     void set_field_4(exact_number<std::uint32_t> value) noexcept { change::set_number<4>(c(), c().field_4, value); }
 
 private:
@@ -394,11 +410,13 @@ public:
 
 // ---- srg_group_rec_replay_resp -------------------------------------------------------------------------------------
 
+class srg_group_rec_replay_resp;
 class srg_group_rec_replay_resp_view;
 class srg_group_rec_replay_resp_editor;
 
 template <>
 struct codec_of<mava_tum_srg_group_rec_replay_resp> {
+    using owner = srg_group_rec_replay_resp;
     using view = srg_group_rec_replay_resp_view;
     using editor = srg_group_rec_replay_resp_editor;
     static constexpr bool owns_memory = true;
@@ -435,8 +453,20 @@ public:
     void set_field_1(exact_number<std::uint32_t> value) noexcept { change::set_number<1>(c(), c().field_1, value); }
     srg_group_data_editors make_field_2(exact_number<std::uint64_t> count) & noexcept { return change::make_list<2, srg_group_data_editors>(c(), c().field_2, c().field_2_count, blocks(), count.number()); }
     srg_group_data_editors make_field_2(exact_number<std::uint64_t> count) && noexcept { return access::lasting<Derived>(*this).make_field_2(count); }
+    srg_group_data_editors edit_field_2() & noexcept { return change::edit_list<2, srg_group_data_editors>(c(), c().field_2, c().field_2_count, blocks()); }
+    srg_group_data_editors edit_field_2() && noexcept { return access::lasting<Derived>(*this).edit_field_2(); }
+    std::optional<srg_group_data_editor> add_field_2() & noexcept { return change::add_element<2, srg_group_data_editor>(c(), c().field_2, c().field_2_count, blocks()); }
+    std::optional<srg_group_data_editor> add_field_2() && noexcept { return access::lasting<Derived>(*this).add_field_2(); }
+    result resize_field_2(exact_number<std::uint64_t> count) noexcept { return change::resize_list<2>(c(), c().field_2, c().field_2_count, blocks(), count.number()); }
+    void clear_field_2() noexcept { change::clear_list<2>(c(), c().field_2, c().field_2_count); }
     srg_group_data_editors make_field_3(exact_number<std::uint64_t> count) & noexcept { return change::make_list<3, srg_group_data_editors>(c(), c().field_3, c().field_3_count, blocks(), count.number()); }
     srg_group_data_editors make_field_3(exact_number<std::uint64_t> count) && noexcept { return access::lasting<Derived>(*this).make_field_3(count); }
+    srg_group_data_editors edit_field_3() & noexcept { return change::edit_list<3, srg_group_data_editors>(c(), c().field_3, c().field_3_count, blocks()); }
+    srg_group_data_editors edit_field_3() && noexcept { return access::lasting<Derived>(*this).edit_field_3(); }
+    std::optional<srg_group_data_editor> add_field_3() & noexcept { return change::add_element<3, srg_group_data_editor>(c(), c().field_3, c().field_3_count, blocks()); }
+    std::optional<srg_group_data_editor> add_field_3() && noexcept { return access::lasting<Derived>(*this).add_field_3(); }
+    result resize_field_3(exact_number<std::uint64_t> count) noexcept { return change::resize_list<3>(c(), c().field_3, c().field_3_count, blocks(), count.number()); }
+    void clear_field_3() noexcept { change::clear_list<3>(c(), c().field_3, c().field_3_count); }
     void set_field_4(exact_number<std::uint32_t> value) noexcept { change::set_number<4>(c(), c().field_4, value); }
 
 private:

@@ -19,11 +19,13 @@ namespace mava_tum::cpp
 
 // ---- sub_route -----------------------------------------------------------------------------------------------------
 
+class sub_route;
 class sub_route_view;
 class sub_route_editor;
 
 template <>
 struct codec_of<mava_tum_sub_route> {
+    using owner = sub_route;
     using view = sub_route_view;
     using editor = sub_route_editor;
     static constexpr bool owns_memory = true;
@@ -66,8 +68,20 @@ public:
     void set_field_3(exact_number<std::uint32_t> value) noexcept { change::set_number<3>(c(), c().field_3, value); }
     subscriber_route_ipv4_editors make_ipv4_routes(exact_number<std::uint64_t> count) & noexcept { return change::make_list<4, subscriber_route_ipv4_editors>(c(), c().ipv4_routes, c().ipv4_route_count, blocks(), count.number()); }
     subscriber_route_ipv4_editors make_ipv4_routes(exact_number<std::uint64_t> count) && noexcept { return access::lasting<Derived>(*this).make_ipv4_routes(count); }
+    subscriber_route_ipv4_editors edit_ipv4_routes() & noexcept { return change::edit_list<4, subscriber_route_ipv4_editors>(c(), c().ipv4_routes, c().ipv4_route_count, blocks()); }
+    subscriber_route_ipv4_editors edit_ipv4_routes() && noexcept { return access::lasting<Derived>(*this).edit_ipv4_routes(); }
+    std::optional<subscriber_route_ipv4_editor> add_ipv4_routes() & noexcept { return change::add_element<4, subscriber_route_ipv4_editor>(c(), c().ipv4_routes, c().ipv4_route_count, blocks()); }
+    std::optional<subscriber_route_ipv4_editor> add_ipv4_routes() && noexcept { return access::lasting<Derived>(*this).add_ipv4_routes(); }
+    result resize_ipv4_routes(exact_number<std::uint64_t> count) noexcept { return change::resize_list<4>(c(), c().ipv4_routes, c().ipv4_route_count, blocks(), count.number()); }
+    void clear_ipv4_routes() noexcept { change::clear_list<4>(c(), c().ipv4_routes, c().ipv4_route_count); }
     subscriber_route_ipv6_editors make_ipv6_routes(exact_number<std::uint64_t> count) & noexcept { return change::make_list<5, subscriber_route_ipv6_editors>(c(), c().ipv6_routes, c().ipv6_route_count, blocks(), count.number()); }
     subscriber_route_ipv6_editors make_ipv6_routes(exact_number<std::uint64_t> count) && noexcept { return access::lasting<Derived>(*this).make_ipv6_routes(count); }
+    subscriber_route_ipv6_editors edit_ipv6_routes() & noexcept { return change::edit_list<5, subscriber_route_ipv6_editors>(c(), c().ipv6_routes, c().ipv6_route_count, blocks()); }
+    subscriber_route_ipv6_editors edit_ipv6_routes() && noexcept { return access::lasting<Derived>(*this).edit_ipv6_routes(); }
+    std::optional<subscriber_route_ipv6_editor> add_ipv6_routes() & noexcept { return change::add_element<5, subscriber_route_ipv6_editor>(c(), c().ipv6_routes, c().ipv6_route_count, blocks()); }
+    std::optional<subscriber_route_ipv6_editor> add_ipv6_routes() && noexcept { return access::lasting<Derived>(*this).add_ipv6_routes(); }
+    result resize_ipv6_routes(exact_number<std::uint64_t> count) noexcept { return change::resize_list<5>(c(), c().ipv6_routes, c().ipv6_route_count, blocks(), count.number()); }
+    void clear_ipv6_routes() noexcept { change::clear_list<5>(c(), c().ipv6_routes, c().ipv6_route_count); }
     void set_field_6(exact_number<std::uint32_t> value) noexcept { change::set_number<6>(c(), c().field_6, value); }
 
 private:
@@ -106,11 +120,13 @@ public:
 
 // ---- subscriber_route_resp -----------------------------------------------------------------------------------------
 
+class subscriber_route_resp;
 class subscriber_route_resp_view;
 class subscriber_route_resp_editor;
 
 template <>
 struct codec_of<mava_tum_subscriber_route_resp> {
+    using owner = subscriber_route_resp;
     using view = subscriber_route_resp_view;
     using editor = subscriber_route_resp_editor;
     static constexpr bool owns_memory = true;

@@ -21,11 +21,13 @@ namespace mava_tum::cpp
 
 // ---- session_context -----------------------------------------------------------------------------------------------
 
+class session_context;
 class session_context_view;
 class session_context_editor;
 
 template <>
 struct codec_of<mava_tum_session_context> {
+    using owner = session_context;
     using view = session_context_view;
     using editor = session_context_editor;
     static constexpr bool owns_memory = true;
@@ -133,6 +135,12 @@ public:
     void clear_session_data() noexcept { change::clear_record<10>(c(), c().session_data); }
     subscriber_qos_editors make_qos(exact_number<std::uint64_t> count) & noexcept { return change::make_list<11, subscriber_qos_editors>(c(), c().qos, c().qos_count, blocks(), count.number()); }
     subscriber_qos_editors make_qos(exact_number<std::uint64_t> count) && noexcept { return access::lasting<Derived>(*this).make_qos(count); }
+    subscriber_qos_editors edit_qos() & noexcept { return change::edit_list<11, subscriber_qos_editors>(c(), c().qos, c().qos_count, blocks()); }
+    subscriber_qos_editors edit_qos() && noexcept { return access::lasting<Derived>(*this).edit_qos(); }
+    std::optional<subscriber_qos_editor> add_qos() & noexcept { return change::add_element<11, subscriber_qos_editor>(c(), c().qos, c().qos_count, blocks()); }
+    std::optional<subscriber_qos_editor> add_qos() && noexcept { return access::lasting<Derived>(*this).add_qos(); }
+    result resize_qos(exact_number<std::uint64_t> count) noexcept { return change::resize_list<11>(c(), c().qos, c().qos_count, blocks(), count.number()); }
+    void clear_qos() noexcept { change::clear_list<11>(c(), c().qos, c().qos_count); }
     subscriber_acl_editor edit_acl() & noexcept { return change::edit_record<12, subscriber_acl_editor>(c(), c().acl, blocks()); }
     subscriber_acl_editor edit_acl() && noexcept { return access::lasting<Derived>(*this).edit_acl(); }
     void clear_acl() noexcept { change::clear_record<12>(c(), c().acl); }
@@ -168,8 +176,20 @@ public:
     void clear_acct() noexcept { change::clear_record<22>(c(), c().acct); }
     subscriber_route_ipv4_editors make_route_ipv4(exact_number<std::uint64_t> count) & noexcept { return change::make_list<23, subscriber_route_ipv4_editors>(c(), c().route_ipv4, c().route_ipv4_count, blocks(), count.number()); }
     subscriber_route_ipv4_editors make_route_ipv4(exact_number<std::uint64_t> count) && noexcept { return access::lasting<Derived>(*this).make_route_ipv4(count); }
+    subscriber_route_ipv4_editors edit_route_ipv4() & noexcept { return change::edit_list<23, subscriber_route_ipv4_editors>(c(), c().route_ipv4, c().route_ipv4_count, blocks()); }
+    subscriber_route_ipv4_editors edit_route_ipv4() && noexcept { return access::lasting<Derived>(*this).edit_route_ipv4(); }
+    std::optional<subscriber_route_ipv4_editor> add_route_ipv4() & noexcept { return change::add_element<23, subscriber_route_ipv4_editor>(c(), c().route_ipv4, c().route_ipv4_count, blocks()); }
+    std::optional<subscriber_route_ipv4_editor> add_route_ipv4() && noexcept { return access::lasting<Derived>(*this).add_route_ipv4(); }
+    result resize_route_ipv4(exact_number<std::uint64_t> count) noexcept { return change::resize_list<23>(c(), c().route_ipv4, c().route_ipv4_count, blocks(), count.number()); }
+    void clear_route_ipv4() noexcept { change::clear_list<23>(c(), c().route_ipv4, c().route_ipv4_count); }
     subscriber_route_ipv6_editors make_route_ipv6(exact_number<std::uint64_t> count) & noexcept { return change::make_list<24, subscriber_route_ipv6_editors>(c(), c().route_ipv6, c().route_ipv6_count, blocks(), count.number()); }
     subscriber_route_ipv6_editors make_route_ipv6(exact_number<std::uint64_t> count) && noexcept { return access::lasting<Derived>(*this).make_route_ipv6(count); }
+    subscriber_route_ipv6_editors edit_route_ipv6() & noexcept { return change::edit_list<24, subscriber_route_ipv6_editors>(c(), c().route_ipv6, c().route_ipv6_count, blocks()); }
+    subscriber_route_ipv6_editors edit_route_ipv6() && noexcept { return access::lasting<Derived>(*this).edit_route_ipv6(); }
+    std::optional<subscriber_route_ipv6_editor> add_route_ipv6() & noexcept { return change::add_element<24, subscriber_route_ipv6_editor>(c(), c().route_ipv6, c().route_ipv6_count, blocks()); }
+    std::optional<subscriber_route_ipv6_editor> add_route_ipv6() && noexcept { return access::lasting<Derived>(*this).add_route_ipv6(); }
+    result resize_route_ipv6(exact_number<std::uint64_t> count) noexcept { return change::resize_list<24>(c(), c().route_ipv6, c().route_ipv6_count, blocks(), count.number()); }
+    void clear_route_ipv6() noexcept { change::clear_list<24>(c(), c().route_ipv6, c().route_ipv6_count); }
 
 private:
     mava_tum_session_context &c() noexcept { return static_cast<Derived &>(*this).mutable_c_record(); }
@@ -207,11 +227,13 @@ public:
 
 // ---- session_delete ------------------------------------------------------------------------------------------------
 
+class session_delete;
 class session_delete_view;
 class session_delete_editor;
 
 template <>
 struct codec_of<mava_tum_session_delete> {
+    using owner = session_delete;
     using view = session_delete_view;
     using editor = session_delete_editor;
     static constexpr bool owns_memory = false;
@@ -286,11 +308,13 @@ public:
 
 // ---- sess_oper_resp ------------------------------------------------------------------------------------------------
 
+class sess_oper_resp;
 class sess_oper_resp_view;
 class sess_oper_resp_editor;
 
 template <>
 struct codec_of<mava_tum_sess_oper_resp> {
+    using owner = sess_oper_resp;
     using view = sess_oper_resp_view;
     using editor = sess_oper_resp_editor;
     static constexpr bool owns_memory = true;

@@ -18,11 +18,13 @@ namespace mava_tum::cpp
 
 // ---- stats ---------------------------------------------------------------------------------------------------------
 
+class stats;
 class stats_view;
 class stats_editor;
 
 template <>
 struct codec_of<mava_tum_stats> {
+    using owner = stats;
     using view = stats_view;
     using editor = stats_editor;
     static constexpr bool owns_memory = false;
@@ -136,11 +138,13 @@ public:
 
 // ---- service_stats -------------------------------------------------------------------------------------------------
 
+class service_stats;
 class service_stats_view;
 class service_stats_editor;
 
 template <>
 struct codec_of<mava_tum_service_stats> {
+    using owner = service_stats;
     using view = service_stats_view;
     using editor = service_stats_editor;
     static constexpr bool owns_memory = true;
@@ -211,11 +215,13 @@ public:
 
 // ---- subscriber_stats ----------------------------------------------------------------------------------------------
 
+class subscriber_stats;
 class subscriber_stats_view;
 class subscriber_stats_editor;
 
 template <>
 struct codec_of<mava_tum_subscriber_stats> {
+    using owner = subscriber_stats;
     using view = subscriber_stats_view;
     using editor = subscriber_stats_editor;
     static constexpr bool owns_memory = true;
@@ -278,6 +284,12 @@ public:
     void clear_field_7() noexcept { change::clear_record<7>(c(), c().field_7); }
     service_stats_editors make_field_8(exact_number<std::uint64_t> count) & noexcept { return change::make_list<8, service_stats_editors>(c(), c().field_8, c().field_8_count, blocks(), count.number()); }
     service_stats_editors make_field_8(exact_number<std::uint64_t> count) && noexcept { return access::lasting<Derived>(*this).make_field_8(count); }
+    service_stats_editors edit_field_8() & noexcept { return change::edit_list<8, service_stats_editors>(c(), c().field_8, c().field_8_count, blocks()); }
+    service_stats_editors edit_field_8() && noexcept { return access::lasting<Derived>(*this).edit_field_8(); }
+    std::optional<service_stats_editor> add_field_8() & noexcept { return change::add_element<8, service_stats_editor>(c(), c().field_8, c().field_8_count, blocks()); }
+    std::optional<service_stats_editor> add_field_8() && noexcept { return access::lasting<Derived>(*this).add_field_8(); }
+    result resize_field_8(exact_number<std::uint64_t> count) noexcept { return change::resize_list<8>(c(), c().field_8, c().field_8_count, blocks(), count.number()); }
+    void clear_field_8() noexcept { change::clear_list<8>(c(), c().field_8, c().field_8_count); }
     void set_field_9(exact_number<std::uint32_t> value) noexcept { change::set_number<9>(c(), c().field_9, value); }
     stats_editor edit_field_10() & noexcept { return change::edit_record<10, stats_editor>(c(), c().field_10, blocks()); }
     stats_editor edit_field_10() && noexcept { return access::lasting<Derived>(*this).edit_field_10(); }

@@ -18,11 +18,13 @@ namespace mava_tum::cpp
 
 // ---- subscriber_v4 -------------------------------------------------------------------------------------------------
 
+class subscriber_v4;
 class subscriber_v4_view;
 class subscriber_v4_editor;
 
 template <>
 struct codec_of<mava_tum_subscriber_v4> {
+    using owner = subscriber_v4;
     using view = subscriber_v4_view;
     using editor = subscriber_v4_editor;
     static constexpr bool owns_memory = false;
@@ -88,11 +90,13 @@ public:
 
 // ---- subscriber_v6 -------------------------------------------------------------------------------------------------
 
+class subscriber_v6;
 class subscriber_v6_view;
 class subscriber_v6_editor;
 
 template <>
 struct codec_of<mava_tum_subscriber_v6> {
+    using owner = subscriber_v6;
     using view = subscriber_v6_view;
     using editor = subscriber_v6_editor;
     static constexpr bool owns_memory = true;
@@ -178,11 +182,13 @@ public:
 
 // ---- ppp_data ------------------------------------------------------------------------------------------------------
 
+class ppp_data;
 class ppp_data_view;
 class ppp_data_editor;
 
 template <>
 struct codec_of<mava_tum_ppp_data> {
+    using owner = ppp_data;
     using view = ppp_data_view;
     using editor = ppp_data_editor;
     static constexpr bool owns_memory = true;
@@ -262,11 +268,13 @@ public:
 
 // ---- l2tp_data -----------------------------------------------------------------------------------------------------
 
+class l2tp_data;
 class l2tp_data_view;
 class l2tp_data_editor;
 
 template <>
 struct codec_of<mava_tum_l2tp_data> {
+    using owner = l2tp_data;
     using view = l2tp_data_view;
     using editor = l2tp_data_editor;
     static constexpr bool owns_memory = true;
@@ -387,11 +395,13 @@ public:
 
 // ---- vlan_info -----------------------------------------------------------------------------------------------------
 
+class vlan_info;
 class vlan_info_view;
 class vlan_info_editor;
 
 template <>
 struct codec_of<mava_tum_vlan_info> {
+    using owner = vlan_info;
     using view = vlan_info_view;
     using editor = vlan_info_editor;
     static constexpr bool owns_memory = false;
@@ -457,11 +467,13 @@ public:
 
 // ---- session_data --------------------------------------------------------------------------------------------------
 
+class session_data;
 class session_data_view;
 class session_data_editor;
 
 template <>
 struct codec_of<mava_tum_session_data> {
+    using owner = session_data;
     using view = session_data_view;
     using editor = session_data_editor;
     static constexpr bool owns_memory = true;
