@@ -266,6 +266,52 @@ TEST(cpp_record_editor, clears_a_record_with_all_that_is_in_it)
     EXPECT_EQ(session.encoded_size(), 0U);
 }
 
+TEST(cpp_record_editor, copies_a_record_with_memory_of_the_record_around_it)
+{
+    counting_resource resource;
+    tum::rec_sess_replay_req replay(&resource);
+    {
+        tum::session_context stored;
+        ASSERT_EQ(stored.set_field_6(bytes_value(6)), tum::result::ok);
+        ASSERT_EQ(stored.edit_session_data().set_field_5("user@example.com"), tum::result::ok);
+        for (int copies = 0; copies < 2; ++copies)
+            ASSERT_EQ(replay.add_field_4()->copy_from(stored), tum::result::ok);
+        ASSERT_EQ(replay.add_field_4()->copy_from(tum::session_context_view()), tum::result::ok);
+    }
+    ASSERT_EQ(replay.edit_field_4()[1].copy_from(replay.edit_field_4()[1]), tum::result::ok);
+    EXPECT_EQ(replay.field_4()[0].session_data().field_5(), "user@example.com");
+    EXPECT_TRUE(is_bytes_value(replay.field_4()[1].field_6(), 6));
+    EXPECT_EQ(replay.field_4()[2].encoded_size(), 0U);
+    replay.clear();
+    EXPECT_EQ(resource.blocks_out(), 0U);
+}
+
+TEST(cpp_record_editor, stays_as_it_is_when_a_block_of_a_copy_is_refused)
+{
+    tum::session_context stored;
+    ASSERT_EQ(stored.set_field_6(bytes_value(6)), tum::result::ok);
+    ASSERT_EQ(stored.edit_session_data().set_field_5("new"), tum::result::ok);
+    counting_resource resource;
+    tum::rec_sess_replay_req replay(&resource);
+    auto editor = replay.add_field_4();
+    ASSERT_EQ(editor->edit_session_data().set_field_5("old"), tum::result::ok);
+    for (std::size_t refused = 1; refused <= 2; ++refused) {
+        resource.refuse_block(refused);
+        EXPECT_EQ(editor->copy_from(stored), tum::result::no_memory);
+        EXPECT_EQ(editor->session_data().field_5(), "old");
+        EXPECT_FALSE(editor->field_6());
+    }
+}
+
+TEST(cpp_record_editor, needs_no_memory_to_copy_a_record_of_numbers)
+{
+    tum::vlan_info vlan;
+    vlan.set_field_1(100);
+    tum::vlan_info copy;
+    ASSERT_EQ(tum::vlan_info_editor(copy.mutable_c_record(), nullptr).copy_from(vlan), tum::result::ok);
+    EXPECT_EQ(copy.field_1(), 100U);
+}
+
 TEST(cpp_record_editor, reads_what_it_has_set)
 {
     tum::session_context session;

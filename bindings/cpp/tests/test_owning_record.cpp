@@ -181,6 +181,79 @@ TEST(cpp_owning_record, never_releases_a_pointer_that_was_set_past_the_setters)
     EXPECT_FALSE(stats.field_1());
 }
 
+TEST(cpp_owning_record, is_made_from_a_view_or_an_editor_of_a_record_within_another)
+{
+    tum::rec_sess_replay_req replay;
+    ASSERT_EQ(replay.add_field_4()->edit_session_data().set_field_5("name"), tum::result::ok);
+    counting_resource resource;
+    {
+        std::optional<tum::session_context> of_view = replay.field_4()[0].clone(&resource);
+        std::optional<tum::session_data> of_editor = replay.edit_field_4()[0].edit_session_data().clone(&resource);
+        replay.clear();
+        ASSERT_TRUE(of_view && of_editor);
+        EXPECT_EQ(of_view->session_data().field_5(), "name");
+        EXPECT_EQ(of_editor->field_5(), "name");
+        EXPECT_EQ(resource.blocks_out(), 2U);
+        resource.refuse_block(1);
+        EXPECT_FALSE(of_view->session_data().clone(&resource));
+    }
+    const std::optional<tum::session_data> of_nothing = tum::session_data_view().clone();
+    ASSERT_TRUE(of_nothing);
+    EXPECT_EQ(of_nothing->encoded_size(), 0U);
+}
+
+TEST(cpp_owning_record, compacted_gives_back_the_blocks_of_replaced_values)
+{
+    counting_resource resource;
+    tum::session_context session(&resource);
+    for (int i = 0; i < 10; ++i)
+        ASSERT_EQ(session.set_field_6(bytes_value(1)), tum::result::ok);
+    for (int i = 0; i < 5; ++i)
+        ASSERT_TRUE(session.add_qos());
+    const auto wire = session.encode();
+    ASSERT_EQ(resource.blocks_out(), 14U);
+    ASSERT_EQ(session.compact(), tum::result::ok);
+    EXPECT_EQ(resource.blocks_out(), 2U);
+    EXPECT_EQ(session.encode(), wire);
+    ASSERT_TRUE(session.add_qos());
+    EXPECT_EQ(session.qos().size(), 6U);
+}
+
+TEST(cpp_owning_record, compacted_owns_the_bytes_that_it_aliased)
+{
+    auto wire = session_wire();
+    tum::session_context session;
+    ASSERT_EQ(session.decode(tum::alias, wire), tum::result::ok);
+    ASSERT_EQ(session.compact(), tum::result::ok);
+    std::fill(wire.begin(), wire.end(), std::uint8_t{0});
+    EXPECT_TRUE(is_bytes_value(session.field_6(), 6));
+}
+
+TEST(cpp_owning_record, stays_as_it_is_when_it_cannot_be_compacted)
+{
+    counting_resource resource;
+    tum::session_context session(&resource);
+    const auto wire = session_wire();
+    ASSERT_EQ(session.decode(wire), tum::result::ok);
+    resource.refuse_block(3);
+    EXPECT_EQ(session.compact(), tum::result::no_memory);
+    EXPECT_EQ(session.encode(), wire);
+    EXPECT_EQ(resource.blocks_out(), 6U);
+}
+
+TEST(cpp_owning_record, compacted_asks_for_nothing_where_no_block_goes_back)
+{
+    std::array<std::byte, 4096> buffer;
+    std::pmr::monotonic_buffer_resource resource(buffer.data(), buffer.size(), std::pmr::null_memory_resource());
+    tum::session_context session(tum::memory(tum::monotonic, &resource));
+    ASSERT_EQ(session.decode(session_wire()), tum::result::ok);
+    const char *const name = session.session_data().field_5()->data();
+    EXPECT_EQ(session.compact(), tum::result::ok);
+    EXPECT_EQ(session.session_data().field_5()->data(), name);
+    tum::vlan_info vlan;
+    EXPECT_EQ(vlan.compact(), tum::result::ok);
+}
+
 TEST(cpp_owning_record, takes_its_blocks_from_callbacks_and_hands_them_back)
 {
     recording_allocator allocator; // fails the test if a block is not released

@@ -88,10 +88,22 @@ public:
     // A deep copy that takes its blocks from `source`; nothing when a block is refused.
     std::optional<Derived> clone(const memory &source = memory()) const noexcept
     {
-        std::optional<Derived> copy(std::in_place, source);
-        if (copy->copy_from(view()) != result::ok)
-            copy.reset();
-        return copy;
+        return view().clone(source);
+    }
+
+    // Copies all fields to new blocks and gives the old ones back, also those that setters replaced. The record then
+    // owns its bytes fields, too. When a block is refused, it stays as it is. Does nothing if blocks do not go back.
+    result compact() noexcept
+    {
+        if constexpr (message::owns_memory) {
+            if (blocks_.source().is_monotonic())
+                return result::ok;
+            Derived copy(blocks_.source());
+            if (copy.copy_from(view()) != result::ok)
+                return result::no_memory;
+            *this = std::move(copy);
+        }
+        return result::ok;
     }
 
     // Gives all blocks back. The record is as new.

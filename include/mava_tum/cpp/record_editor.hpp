@@ -6,6 +6,8 @@
 #include "mava_tum/cpp/block_list.hpp"
 #include "mava_tum/cpp/encoding.hpp"
 
+#include <optional>
+
 namespace mava_tum::cpp
 {
 
@@ -20,6 +22,30 @@ public:
 
     // `blocks` is the list of the record that owns all of it.
     record_editor(Record &record, block_list *blocks) noexcept : record_(&record), blocks_(blocks) {}
+
+    // Replaces all fields by a deep copy of those of `source`, also by those of an absent one, which has none. When a
+    // block is refused, the record stays as it is.
+    result copy_from(const typename codec_of<Record>::view &source) const noexcept
+    {
+        Record copy{};
+        const auto code = static_cast<result>(call_codec(codec_of<Record>::duplicate, &copy, &source.c_record(),
+            blocks_ == nullptr ? nullptr : blocks_->allocator(), blocks_ == nullptr ? nullptr : blocks_->context()));
+        if (code == result::ok)
+            *record_ = copy;
+        return code;
+    }
+
+    // The same, also of a record that ends with the statement.
+    result copy_from(const typename codec_of<Record>::owner &source) const noexcept
+    {
+        return copy_from(source.view());
+    }
+
+    // A deep copy that takes its blocks from `source`; nothing when a block is refused.
+    std::optional<typename codec_of<Record>::owner> clone(const memory &source = memory()) const noexcept
+    {
+        return view().clone(source);
+    }
 
     // To be read only.
     typename codec_of<Record>::view view() const noexcept

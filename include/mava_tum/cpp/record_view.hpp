@@ -4,6 +4,9 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "mava_tum/cpp/encoding.hpp"
+#include "mava_tum/cpp/memory.hpp"
+
+#include <optional>
 
 namespace mava_tum::cpp
 {
@@ -21,6 +24,9 @@ class record_view : public encoding<Derived>
 public:
     // The codec's record lies somewhere else.
     static constexpr bool holds_record = false;
+
+    // Of an absent record.
+    record_view() noexcept : record_view(absent_record<Record>, false) {}
 
     // Any record of the codec can be read through a view.
     explicit record_view(const Record &record, bool present = true) noexcept
@@ -54,6 +60,16 @@ public:
     const Derived *operator->() const noexcept
     {
         return static_cast<const Derived *>(this);
+    }
+
+    // A deep copy that takes its blocks from `source`; nothing when a block is refused. Of an absent record: one
+    // without content.
+    std::optional<typename codec_of<Record>::owner> clone(const memory &source = memory()) const noexcept
+    {
+        std::optional<typename codec_of<Record>::owner> copy(std::in_place, source);
+        if (copy->copy_from(static_cast<const Derived &>(*this)) != result::ok)
+            copy.reset();
+        return copy;
     }
 
     // For the C functions. Of an absent record: one without content.
