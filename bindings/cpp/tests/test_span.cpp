@@ -23,9 +23,42 @@ TEST(cpp_span, takes_whatever_has_data_and_size)
     EXPECT_TRUE(tum::bytes_view().empty());
 }
 
+TEST(cpp_span, takes_bytes_of_any_type)
+{
+    const std::string text = "abc";
+    const std::vector<std::byte> bytes = {std::byte{1}, std::byte{2}};
+    const std::vector<char> characters = {'d'};
+    const std::byte plain[] = {std::byte{7}, std::byte{8}};
+    EXPECT_EQ(tum::bytes_view(text)[2], 'c');
+    EXPECT_EQ(tum::bytes_view(std::string_view(text)).size(), 3U);
+    EXPECT_EQ(tum::bytes_view(bytes)[1], 2U);
+    EXPECT_EQ(tum::bytes_view(characters)[0], 'd');
+    EXPECT_EQ(tum::bytes_view(plain)[1], 8U);
+    std::string written(2, ' ');
+    const tum::span<std::uint8_t> writable = written;
+    writable[1] = 'x';
+    EXPECT_EQ(written, " x");
+}
+
+TEST(cpp_span, equals_what_has_equal_elements)
+{
+    const std::vector<std::uint8_t> bytes = {'a', 'b'};
+    const std::string text = "ab";
+    EXPECT_EQ(tum::bytes_view(bytes), tum::bytes_view(text));
+    EXPECT_NE(tum::bytes_view(bytes), tum::bytes_view(text).first(1));
+    EXPECT_NE(tum::bytes_view(bytes), tum::bytes_of("aB"));
+}
+
 static_assert(!std::is_constructible_v<tum::span<std::uint8_t>, const std::vector<std::uint8_t> &>,
     "elements that are const stay const");
-static_assert(!std::is_constructible_v<tum::bytes_view, const std::vector<char> &>, "bytes are not characters");
+static_assert(!std::is_constructible_v<tum::span<std::uint8_t>, const std::string &>);
+static_assert(!std::is_constructible_v<tum::span<std::uint8_t>, std::string_view>);
+static_assert(!std::is_constructible_v<tum::bytes_view, const char (&)[3]>, "the NUL of a literal is not a byte");
+static_assert(!std::is_constructible_v<tum::bytes_argument, const char (&)[3]>);
+static_assert(!std::is_constructible_v<tum::bytes_view, const std::vector<std::int8_t> &>);
+static_assert(!std::is_constructible_v<tum::bytes_view, const std::vector<std::uint16_t> &>);
+static_assert(!std::is_constructible_v<tum::bytes_view, const std::wstring &>);
+static_assert(!std::is_constructible_v<tum::span<const std::string_view>, const std::string &>);
 static_assert(!std::is_constructible_v<tum::bytes_view, int>);
 
 TEST(cpp_result, is_the_code_of_the_c_functions_and_has_a_text_of_its_own)

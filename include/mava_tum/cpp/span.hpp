@@ -6,11 +6,18 @@
 #define MAVA_TUM_CPP_SPAN_HPP
 // SPDX-License-Identifier: Apache-2.0
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <string_view>
 #include <type_traits>
 #include <utility>
+#if __has_include(<version>)
+#include <version>
+#endif
+#if defined(__cpp_lib_ranges)
+#include <ranges>
+#endif
 
 // Where the compiler has it: warns when the result outlives what it was made from.
 #if defined(__clang__) && __has_cpp_attribute(clang::lifetimebound)
@@ -22,17 +29,38 @@
 namespace mava_tum::cpp
 {
 
-// `size()` elements from `data()` on.
+// A type that holds one byte, whatever it is called.
+template <class Type>
+inline constexpr bool is_byte =
+    std::is_same_v<std::remove_cv_t<Type>, std::uint8_t> || std::is_same_v<std::remove_cv_t<Type>, std::byte> ||
+    std::is_same_v<std::remove_cv_t<Type>, char>;
+
+// `size()` elements from `data()` on. If Element is a byte, the bytes of a std::string or of a std::vector<std::byte>
+// are elements, too.
 template <class Element>
 class span
 {
-    // Of a container whose elements are ours, or ours without const.
+    // Elements of ours, or ours without const; or bytes of another type, unless they are const and ours are not.
+    template <class Given>
+    static constexpr bool is_element = std::is_convertible_v<Given (*)[], Element (*)[]> ||
+                                       (is_byte<Given> && is_byte<Element> &&
+                                           (std::is_const_v<Element> || !std::is_const_v<Given>));
+
+    template <class Given>
+    static constexpr Element *elements_at(Given *data) noexcept
+    {
+        if constexpr (std::is_convertible_v<Given(*)[], Element(*)[]>)
+            return data;
+        else
+            return reinterpret_cast<Element *>(data);
+    }
+
+    // Of a container of elements.
     template <class Container>
-    using data_of = std::enable_if_t<
-        std::is_convertible_v<std::remove_pointer_t<decltype(std::declval<Container &>().data())> (*)[],
-            Element (*)[]> &&
-            std::is_convertible_v<decltype(std::declval<Container &>().size()), std::size_t>,
-        decltype(std::declval<Container &>().data())>;
+    using data_of =
+        std::enable_if_t<is_element<std::remove_pointer_t<decltype(std::declval<Container &>().data())>> &&
+                             std::is_convertible_v<decltype(std::declval<Container &>().size()), std::size_t>,
+            decltype(std::declval<Container &>().data())>;
 
     // The elements of a std::span are not const when it is itself: it does not own them. Those of a std::vector are.
     template <class Container>
@@ -62,15 +90,22 @@ public:
     {
     }
 
+    // All of an array of std::byte. Not of characters: the last one of a text is its NUL, see bytes_of().
+    template <class Given, std::size_t size,
+        class = std::enable_if_t<is_element<Given> && std::is_same_v<std::remove_cv_t<Given>, std::byte>>>
+    constexpr span(Given (&array MAVA_TUM_LIFETIMEBOUND)[size]) noexcept : data_(elements_at(array)), size_(size)
+    {
+    }
+
     // What another view refers to: a std::span, a span without const.
     template <class View, class = if_view<const View>>
-    constexpr span(const View &view) noexcept : data_(view.data()), size_(view.size())
+    constexpr span(const View &view) noexcept : data_(elements_at(view.data())), size_(view.size())
     {
     }
 
     // What a container holds at the time: a std::vector, a std::array, a std::string.
     template <class Owner, class = if_owner<Owner>>
-    constexpr span(Owner &owner MAVA_TUM_LIFETIMEBOUND) noexcept : data_(owner.data()), size_(owner.size())
+    constexpr span(Owner &owner MAVA_TUM_LIFETIMEBOUND) noexcept : data_(elements_at(owner.data())), size_(owner.size())
     {
     }
 
@@ -115,6 +150,17 @@ public:
         return {data_, count};
     }
 
+    // Elements that are equal, one by one.
+    friend bool operator==(const span &left, const span &right) noexcept
+    {
+        return std::equal(left.begin(), left.end(), right.begin(), right.end());
+    }
+
+    friend bool operator!=(const span &left, const span &right) noexcept
+    {
+        return !(left == right);
+    }
+
 private:
     Element *data_ = nullptr;
     std::size_t size_ = 0;
@@ -140,7 +186,8 @@ public:
 
     // What a container holds at the time, with or without a name.
     template <class Container, class = decltype(span<Element>(std::declval<std::remove_reference_t<Container> &>()))>
-    constexpr argument_span(Container &&container) noexcept : span<Element>(container.data(), container.size())
+    constexpr argument_span(Container &&container) noexcept
+        : span<Element>(static_cast<std::remove_reference_t<Container> &>(container))
     {
     }
 };
@@ -158,5 +205,12 @@ inline bytes_view bytes_of(std::string_view text MAVA_TUM_LIFETIMEBOUND) noexcep
 }
 
 } // namespace mava_tum::cpp
+
+#if defined(__cpp_lib_ranges)
+template <class Element>
+inline constexpr bool std::ranges::enable_view<mava_tum::cpp::span<Element>> = true;
+template <class Element>
+inline constexpr bool std::ranges::enable_borrowed_range<mava_tum::cpp::span<Element>> = true;
+#endif
 
 #endif
