@@ -3,7 +3,7 @@ from header_reader import HeaderError
 
 # Names of the classes' own members, which no field may have.
 RESERVED = {
-    "decode", "encode", "encode_to", "encoded_size", "copy_from", "clone", "clear", "view", "c_record",
+    "decode", "encode", "encode_to", "encoded_size", "copy_from", "clone", "clear", "compact", "has_fields_of", "view", "c_record",
     "mutable_c_record", "own_blocks", "has_value", "holds_record", "c", "blocks",
 }
 
@@ -82,6 +82,9 @@ def fields_class(message):
         note = f"; {field.note}" if field.note else ""
         yield f"    // {field.number}: {field.kind}{note}"
         yield from functions(type_name, f"{field.name}()", " const", f"return {call};", field.kind not in NUMBER_TYPES)
+    yield "    // Whether all fields are those of `other`."
+    equal = " && ".join(f"{field.name}() == other.{field.name}()" for field in message.fields)
+    yield f"    bool has_fields_of(const {message.name}_fields &other) const noexcept {{ return {equal}; }}"
     yield ""
     yield "private:"
     yield (f"    const {message.c_type} &c() const noexcept "

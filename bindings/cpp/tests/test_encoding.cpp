@@ -51,6 +51,29 @@ TEST(cpp_encoding, gives_a_container_exactly_the_message)
     EXPECT_EQ(response().encode(), response_wire);
 }
 
+TEST(cpp_encoding, fills_containers_and_buffers_of_bytes_of_any_type)
+{
+    std::string text = "what it held before";
+    response().encode_to(text);
+    EXPECT_EQ(tum::bytes_view(text), tum::bytes_view(response_wire));
+    std::vector<std::byte> bytes;
+    response().encode_to(bytes);
+    EXPECT_EQ(tum::bytes_view(bytes), tum::bytes_view(response_wire));
+    std::byte buffer[6];
+    EXPECT_TRUE(response().encode(buffer));
+    EXPECT_EQ(tum::bytes_view(buffer), tum::bytes_view(response_wire));
+
+    tum::rec_resp decoded;
+    for (const tum::bytes_view wire : {tum::bytes_view(text), tum::bytes_view(bytes), tum::bytes_view(buffer)}) {
+        ASSERT_EQ(decoded.decode(wire), tum::result::ok);
+        EXPECT_EQ(decoded, response());
+    }
+    EXPECT_EQ(decoded.decode(text), tum::result::ok);
+    EXPECT_EQ(decoded.decode(std::string(text)), tum::result::ok);
+    EXPECT_EQ(decoded.decode(bytes), tum::result::ok);
+    EXPECT_EQ(decoded.decode(buffer), tum::result::ok);
+}
+
 TEST(cpp_encoding, of_an_empty_record_is_complete_and_has_no_bytes)
 {
     EXPECT_TRUE(tum::rec_resp().encode(tum::span<std::uint8_t>()));

@@ -112,6 +112,24 @@ TYPED_TEST(cpp_every_message, lives_on_in_a_clone_when_it_is_gone)
     expect_filled(*clone);
 }
 
+TYPED_TEST(cpp_every_message, equals_a_record_with_the_same_fields_and_no_other)
+{
+    TypeParam record;
+    fill(record);
+    std::optional<TypeParam> clone = record.clone();
+    ASSERT_TRUE(clone);
+    EXPECT_TRUE(record == *clone && record.view() == *clone && !(record != clone->view()));
+    TypeParam decoded;
+    ASSERT_EQ(decoded.decode(record.encode()), tum::result::ok);
+    EXPECT_EQ(decoded, record);
+    EXPECT_NE(record, TypeParam());
+    const auto mask = record.c_record().presence_mask;
+    for (unsigned bit = 0; mask >> bit != 0; ++bit) {
+        clone->mutable_c_record().presence_mask = static_cast<std::decay_t<decltype(mask)>>(mask & ~(1U << bit));
+        EXPECT_EQ(record == *clone, (mask >> bit & 1U) == 0) << "bit " << bit;
+    }
+}
+
 TYPED_TEST(cpp_every_message, gives_every_block_back_whichever_is_refused_in_a_decode)
 {
     const auto wire = this->full_wire();

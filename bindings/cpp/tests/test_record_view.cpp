@@ -109,6 +109,62 @@ TEST(cpp_record_view, encodes_the_record_that_it_shows)
     EXPECT_EQ(session.subscriber_v4().encode(), bytes_of("08 07"));
 }
 
+TEST(cpp_record_view, of_nothing_shows_an_absent_record)
+{
+    const tum::session_context_view nothing;
+    EXPECT_FALSE(nothing);
+    EXPECT_FALSE(nothing.session_data().vlan().field_1());
+    EXPECT_EQ(nothing, tum::session_context_view());
+    EXPECT_NE(nothing, tum::session_context());
+}
+
+TEST(cpp_record_view, equals_another_with_the_same_content_at_every_depth)
+{
+    tum::session_context first, second;
+    for (tum::session_context *session : {&first, &second}) {
+        ASSERT_EQ(session->set_field_6(bytes_value(6)), tum::result::ok);
+        session->edit_session_data().edit_vlan().set_field_1(1);
+        ASSERT_EQ(session->add_qos()->set_field_3("gold"), tum::result::ok);
+    }
+    EXPECT_EQ(first.qos(), second.qos());
+    EXPECT_EQ(first.edit_qos()[0], second.qos()[0]);
+    EXPECT_EQ(first, second);
+
+    second.edit_session_data().edit_vlan().set_field_1(2);
+    EXPECT_NE(first, second);
+    second.edit_session_data().edit_vlan().set_field_1(1);
+    EXPECT_EQ(first, second);
+
+    second.edit_subscriber_v4(); // present and empty
+    EXPECT_NE(first, second);
+    second.clear_subscriber_v4();
+
+    ASSERT_EQ(second.edit_qos()[0].set_field_3("Gold"), tum::result::ok);
+    EXPECT_NE(first, second);
+    EXPECT_NE(first.qos(), second.qos());
+    ASSERT_EQ(second.edit_qos()[0].set_field_3("gold"), tum::result::ok);
+    ASSERT_TRUE(second.add_qos());
+    EXPECT_NE(first.qos(), second.qos());
+}
+
+TEST(cpp_list_view, is_walked_in_steps_of_any_size)
+{
+    tum::rec_sess_req request;
+    ASSERT_EQ(request.decode(bytes_of("1A 02 08 05 1A 02 08 06 1A 02 08 07")), tum::result::ok);
+    const tum::rec_session_state_list states = request.field_3();
+    auto at = states.begin();
+    EXPECT_EQ(states.end() - at, 3);
+    EXPECT_EQ((*(at + 2)).field_1(), 7U);
+    EXPECT_EQ(at[1].field_1(), 6U);
+    at += 2;
+    EXPECT_EQ((*at--).field_1(), 7U);
+    EXPECT_EQ((*at).field_1(), 6U);
+    EXPECT_EQ((*--at).field_1(), 5U);
+    EXPECT_TRUE(at == states.end() - 3 && at < 1 + at && at + 1 > at && at <= at && at >= at);
+    EXPECT_FALSE(at < at || at > at || at + 1 <= at || at >= at + 1 || at != states.begin());
+    EXPECT_EQ((at += 3, at -= 1, (*at).field_1()), 7U);
+}
+
 TEST(cpp_list_view, shows_elements_in_the_order_of_the_wire)
 {
     tum::rec_sess_req request;

@@ -43,7 +43,8 @@ public:
         return {size, size <= buffer.size()};
     }
 
-    // Gives `container`, of uint8_t, exactly the message; what it held before is gone. Allocates as resize() does.
+    // Gives `container`, of bytes of any type, exactly the message; what it held before is gone. Allocates as resize()
+    // does.
     template <class Container>
     void encode_to(Container &container) const
     {
@@ -62,6 +63,26 @@ public:
 protected:
     ~encoding() = default; // no record is destroyed through this base
 };
+
+// The class of the views of what Derived holds or refers to.
+template <class Derived>
+using view_of = typename codec_of<std::decay_t<decltype(std::declval<const Derived &>().c_record())>>::view;
+
+// Whether the same fields are present, with the same content, at every depth. Of records, views and editors of one
+// message; an absent record equals only another one.
+template <class Left, class Right, class = std::enable_if_t<std::is_same_v<view_of<Left>, view_of<Right>>>>
+bool operator==(const encoding<Left> &left, const encoding<Right> &right) noexcept
+{
+    const view_of<Left> first = static_cast<const Left &>(left).view();
+    const view_of<Right> second = static_cast<const Right &>(right).view();
+    return first.has_value() == second.has_value() && first.has_fields_of(second);
+}
+
+template <class Left, class Right, class = std::enable_if_t<std::is_same_v<view_of<Left>, view_of<Right>>>>
+bool operator!=(const encoding<Left> &left, const encoding<Right> &right) noexcept
+{
+    return !(left == right);
+}
 
 } // namespace mava_tum::cpp
 

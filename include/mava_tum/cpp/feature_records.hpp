@@ -69,6 +69,8 @@ public:
     // 12: text
     std::optional<std::string_view> field_12() const & noexcept { return access::text_of<12>(c(), c().field_12); }
     std::optional<std::string_view> field_12() const && noexcept { return access::lasting<Derived>(*this).field_12(); }
+    // Whether all fields are those of `other`.
+    bool has_fields_of(const subscriber_qos_fields &other) const noexcept { return field_1() == other.field_1() && field_2() == other.field_2() && field_3() == other.field_3() && field_4() == other.field_4() && field_5() == other.field_5() && field_6() == other.field_6() && field_7() == other.field_7() && field_8() == other.field_8() && field_9() == other.field_9() && field_10() == other.field_10() && field_11() == other.field_11() && field_12() == other.field_12(); }
 
 private:
     const mava_tum_subscriber_qos &c() const noexcept { return static_cast<const Derived &>(*this).c_record(); }
@@ -162,6 +164,8 @@ public:
     // 5: text
     std::optional<std::string_view> field_5() const & noexcept { return access::text_of<5>(c(), c().field_5); }
     std::optional<std::string_view> field_5() const && noexcept { return access::lasting<Derived>(*this).field_5(); }
+    // Whether all fields are those of `other`.
+    bool has_fields_of(const subscriber_acl_fields &other) const noexcept { return field_1() == other.field_1() && field_2() == other.field_2() && field_3() == other.field_3() && field_4() == other.field_4() && field_5() == other.field_5(); }
 
 private:
     const mava_tum_subscriber_acl &c() const noexcept { return static_cast<const Derived &>(*this).c_record(); }
@@ -239,6 +243,8 @@ public:
     // 2: text
     std::optional<std::string_view> field_2() const & noexcept { return access::text_of<2>(c(), c().field_2); }
     std::optional<std::string_view> field_2() const && noexcept { return access::lasting<Derived>(*this).field_2(); }
+    // Whether all fields are those of `other`.
+    bool has_fields_of(const subscriber_httpr_fields &other) const noexcept { return field_1() == other.field_1() && field_2() == other.field_2(); }
 
 private:
     const mava_tum_subscriber_httpr &c() const noexcept { return static_cast<const Derived &>(*this).c_record(); }
@@ -326,6 +332,8 @@ public:
     // 8: bytes
     std::optional<bytes_view> field_8() const & noexcept { return access::bytes_of<8>(c(), c().field_8); }
     std::optional<bytes_view> field_8() const && noexcept { return access::lasting<Derived>(*this).field_8(); }
+    // Whether all fields are those of `other`.
+    bool has_fields_of(const subscriber_li_fields &other) const noexcept { return field_1() == other.field_1() && field_2() == other.field_2() && field_3() == other.field_3() && field_4() == other.field_4() && field_5() == other.field_5() && field_6() == other.field_6() && field_7() == other.field_7() && field_8() == other.field_8(); }
 
 private:
     const mava_tum_subscriber_li &c() const noexcept { return static_cast<const Derived &>(*this).c_record(); }
@@ -405,6 +413,8 @@ public:
     std::optional<std::uint32_t> field_1() const noexcept { return access::number_of<1>(c(), c().field_1); }
     // 2: varint
     std::optional<std::uint32_t> field_2() const noexcept { return access::number_of<2>(c(), c().field_2); }
+    // Whether all fields are those of `other`.
+    bool has_fields_of(const subscriber_urpf_fields &other) const noexcept { return field_1() == other.field_1() && field_2() == other.field_2(); }
 
 private:
     const mava_tum_subscriber_urpf &c() const noexcept { return static_cast<const Derived &>(*this).c_record(); }
@@ -475,6 +485,8 @@ class subscriber_icmp_fields
 public:
     // 1: varint
     std::optional<std::uint32_t> field_1() const noexcept { return access::number_of<1>(c(), c().field_1); }
+    // Whether all fields are those of `other`.
+    bool has_fields_of(const subscriber_icmp_fields &other) const noexcept { return field_1() == other.field_1(); }
 
 private:
     const mava_tum_subscriber_icmp &c() const noexcept { return static_cast<const Derived &>(*this).c_record(); }
@@ -544,6 +556,8 @@ class subscriber_mtu_fields
 public:
     // 1: varint
     std::optional<std::uint32_t> field_1() const noexcept { return access::number_of<1>(c(), c().field_1); }
+    // Whether all fields are those of `other`.
+    bool has_fields_of(const subscriber_mtu_fields &other) const noexcept { return field_1() == other.field_1(); }
 
 private:
     const mava_tum_subscriber_mtu &c() const noexcept { return static_cast<const Derived &>(*this).c_record(); }
@@ -617,6 +631,8 @@ public:
     std::optional<std::uint32_t> field_2() const noexcept { return access::number_of<2>(c(), c().field_2); }
     // 3: varint
     std::optional<std::uint32_t> field_3() const noexcept { return access::number_of<3>(c(), c().field_3); }
+    // Whether all fields are those of `other`.
+    bool has_fields_of(const subscriber_acct_fields &other) const noexcept { return field_1() == other.field_1() && field_2() == other.field_2() && field_3() == other.field_3(); }
 
 private:
     const mava_tum_subscriber_acct &c() const noexcept { return static_cast<const Derived &>(*this).c_record(); }
@@ -707,6 +723,8 @@ public:
     // 9: text
     std::optional<std::string_view> field_9() const & noexcept { return access::text_of<9>(c(), c().field_9); }
     std::optional<std::string_view> field_9() const && noexcept { return access::lasting<Derived>(*this).field_9(); }
+    // Whether all fields are those of `other`.
+    bool has_fields_of(const subscriber_route_ipv4_fields &other) const noexcept { return field_1() == other.field_1() && field_2() == other.field_2() && field_3() == other.field_3() && field_4() == other.field_4() && field_5() == other.field_5() && field_6() == other.field_6() && field_7() == other.field_7() && field_8() == other.field_8() && field_9() == other.field_9(); }
 
 private:
     const mava_tum_subscriber_route_ipv4 &c() const noexcept { return static_cast<const Derived &>(*this).c_record(); }
@@ -806,6 +824,8 @@ public:
     // 9: text
     std::optional<std::string_view> field_9() const & noexcept { return access::text_of<9>(c(), c().field_9); }
     std::optional<std::string_view> field_9() const && noexcept { return access::lasting<Derived>(*this).field_9(); }
+    // Whether all fields are those of `other`.
+    bool has_fields_of(const subscriber_route_ipv6_fields &other) const noexcept { return field_1() == other.field_1() && field_2() == other.field_2() && field_3() == other.field_3() && field_4() == other.field_4() && field_5() == other.field_5() && field_6() == other.field_6() && field_7() == other.field_7() && field_8() == other.field_8() && field_9() == other.field_9(); }
 
 private:
     const mava_tum_subscriber_route_ipv6 &c() const noexcept { return static_cast<const Derived &>(*this).c_record(); }

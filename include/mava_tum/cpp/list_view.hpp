@@ -3,10 +3,17 @@
 #define MAVA_TUM_CPP_LIST_VIEW_HPP
 // SPDX-License-Identifier: Apache-2.0
 
+#include <algorithm>
 #include <cstddef>
 #include <iterator>
 #include <string_view>
 #include <utility>
+#if __has_include(<version>)
+#include <version>
+#endif
+#if defined(__cpp_lib_ranges)
+#include <ranges>
+#endif
 
 namespace mava_tum::cpp
 {
@@ -21,11 +28,14 @@ class list_view
 public:
     using value_type = decltype(std::declval<const Show &>()(std::declval<Element &>()));
 
-    // Goes over the elements.
+    // Goes over the elements, in steps of any size.
     class iterator
     {
     public:
-        using iterator_category = std::input_iterator_tag; // since what it refers to is made on the spot
+#if defined(__cpp_lib_ranges)
+        using iterator_concept = std::random_access_iterator_tag;
+#endif
+        using iterator_category = std::input_iterator_tag; // of C++17, since what it refers to is made on the spot
         using value_type = list_view::value_type;
         using difference_type = std::ptrdiff_t;
         using pointer = void;
@@ -42,6 +52,11 @@ public:
             return show_(*element_);
         }
 
+        value_type operator[](difference_type steps) const noexcept
+        {
+            return show_(element_[steps]);
+        }
+
         iterator &operator++() noexcept
         {
             ++element_;
@@ -53,6 +68,49 @@ public:
             return iterator(element_++, show_);
         }
 
+        iterator &operator--() noexcept
+        {
+            --element_;
+            return *this;
+        }
+
+        iterator operator--(int) noexcept
+        {
+            return iterator(element_--, show_);
+        }
+
+        iterator &operator+=(difference_type steps) noexcept
+        {
+            element_ += steps;
+            return *this;
+        }
+
+        iterator &operator-=(difference_type steps) noexcept
+        {
+            element_ -= steps;
+            return *this;
+        }
+
+        friend iterator operator+(iterator from, difference_type steps) noexcept
+        {
+            return from += steps;
+        }
+
+        friend iterator operator+(difference_type steps, iterator from) noexcept
+        {
+            return from += steps;
+        }
+
+        friend iterator operator-(iterator from, difference_type steps) noexcept
+        {
+            return from -= steps;
+        }
+
+        friend difference_type operator-(iterator left, iterator right) noexcept
+        {
+            return left.element_ - right.element_;
+        }
+
         friend bool operator==(iterator left, iterator right) noexcept
         {
             return left.element_ == right.element_;
@@ -61,6 +119,26 @@ public:
         friend bool operator!=(iterator left, iterator right) noexcept
         {
             return left.element_ != right.element_;
+        }
+
+        friend bool operator<(iterator left, iterator right) noexcept
+        {
+            return left.element_ < right.element_;
+        }
+
+        friend bool operator>(iterator left, iterator right) noexcept
+        {
+            return right < left;
+        }
+
+        friend bool operator<=(iterator left, iterator right) noexcept
+        {
+            return !(right < left);
+        }
+
+        friend bool operator>=(iterator left, iterator right) noexcept
+        {
+            return !(left < right);
         }
 
     private:
@@ -101,6 +179,17 @@ public:
     iterator end() const noexcept
     {
         return iterator(elements_ + size_, show_);
+    }
+
+    // Elements that are equal, one by one.
+    friend bool operator==(const list_view &left, const list_view &right) noexcept
+    {
+        return std::equal(left.begin(), left.end(), right.begin(), right.end());
+    }
+
+    friend bool operator!=(const list_view &left, const list_view &right) noexcept
+    {
+        return !(left == right);
     }
 
 private:
@@ -154,5 +243,12 @@ template <class Editor, class Record>
 using editor_list = list_view<Record, show_editor<Editor>>;
 
 } // namespace mava_tum::cpp
+
+#if defined(__cpp_lib_ranges)
+template <class Element, class Show>
+inline constexpr bool std::ranges::enable_view<mava_tum::cpp::list_view<Element, Show>> = true;
+template <class Element, class Show>
+inline constexpr bool std::ranges::enable_borrowed_range<mava_tum::cpp::list_view<Element, Show>> = true;
+#endif
 
 #endif

@@ -49,6 +49,8 @@ public:
     // 4: text
     std::optional<std::string_view> field_4() const & noexcept { return access::text_of<4>(c(), c().field_4); }
     std::optional<std::string_view> field_4() const && noexcept { return access::lasting<Derived>(*this).field_4(); }
+    // Whether all fields are those of `other`.
+    bool has_fields_of(const rec_start_req_fields &other) const noexcept { return field_1() == other.field_1() && field_2() == other.field_2() && field_3() == other.field_3() && field_4() == other.field_4(); }
 
 private:
     const mava_tum_rec_start_req &c() const noexcept { return static_cast<const Derived &>(*this).c_record(); }
@@ -129,6 +131,8 @@ public:
     // 4: text
     std::optional<std::string_view> field_4() const & noexcept { return access::text_of<4>(c(), c().field_4); }
     std::optional<std::string_view> field_4() const && noexcept { return access::lasting<Derived>(*this).field_4(); }
+    // Whether all fields are those of `other`.
+    bool has_fields_of(const rec_complete_req_fields &other) const noexcept { return field_1() == other.field_1() && field_2() == other.field_2() && field_3() == other.field_3() && field_4() == other.field_4(); }
 
 private:
     const mava_tum_rec_complete_req &c() const noexcept { return static_cast<const Derived &>(*this).c_record(); }
@@ -207,6 +211,8 @@ public:
     std::optional<std::string_view> field_2() const && noexcept { return access::lasting<Derived>(*this).field_2(); }
     // 3: varint
     std::optional<std::uint32_t> field_3() const noexcept { return access::number_of<3>(c(), c().field_3); }
+    // Whether all fields are those of `other`.
+    bool has_fields_of(const rec_resp_fields &other) const noexcept { return field_1() == other.field_1() && field_2() == other.field_2() && field_3() == other.field_3(); }
 
 private:
     const mava_tum_rec_resp &c() const noexcept { return static_cast<const Derived &>(*this).c_record(); }
@@ -283,6 +289,8 @@ public:
     std::optional<std::uint64_t> field_2() const noexcept { return access::number_of<2>(c(), c().field_2); }
     // 3: varint
     std::optional<std::uint32_t> field_3() const noexcept { return access::number_of<3>(c(), c().field_3); }
+    // Whether all fields are those of `other`.
+    bool has_fields_of(const rec_session_state_fields &other) const noexcept { return field_1() == other.field_1() && field_2() == other.field_2() && field_3() == other.field_3(); }
 
 private:
     const mava_tum_rec_session_state &c() const noexcept { return static_cast<const Derived &>(*this).c_record(); }
@@ -367,6 +375,8 @@ public:
     std::optional<std::string_view> field_5() const && noexcept { return access::lasting<Derived>(*this).field_5(); }
     // 6: varint
     std::optional<std::uint32_t> field_6() const noexcept { return access::number_of<6>(c(), c().field_6); }
+    // Whether all fields are those of `other`.
+    bool has_fields_of(const rec_sess_req_fields &other) const noexcept { return field_1() == other.field_1() && field_2() == other.field_2() && field_3() == other.field_3() && field_4() == other.field_4() && field_5() == other.field_5() && field_6() == other.field_6(); }
 
 private:
     const mava_tum_rec_sess_req &c() const noexcept { return static_cast<const Derived &>(*this).c_record(); }
@@ -456,6 +466,8 @@ public:
     std::optional<std::uint32_t> field_3() const noexcept { return access::number_of<3>(c(), c().field_3); }
     // 4: varint
     std::optional<std::uint32_t> field_4() const noexcept { return access::number_of<4>(c(), c().field_4); }
+    // Whether all fields are those of `other`.
+    bool has_fields_of(const rec_sess_resp_fields &other) const noexcept { return field_1() == other.field_1() && field_2() == other.field_2() && field_3() == other.field_3() && field_4() == other.field_4(); }
 
 private:
     const mava_tum_rec_sess_resp &c() const noexcept { return static_cast<const Derived &>(*this).c_record(); }
@@ -548,6 +560,8 @@ public:
     // 6: text
     std::optional<std::string_view> field_6() const & noexcept { return access::text_of<6>(c(), c().field_6); }
     std::optional<std::string_view> field_6() const && noexcept { return access::lasting<Derived>(*this).field_6(); }
+    // Whether all fields are those of `other`.
+    bool has_fields_of(const rec_sess_replay_req_fields &other) const noexcept { return field_1() == other.field_1() && field_2() == other.field_2() && field_3() == other.field_3() && field_4() == other.field_4() && field_5() == other.field_5() && field_6() == other.field_6(); }
 
 private:
     const mava_tum_rec_sess_replay_req &c() const noexcept { return static_cast<const Derived &>(*this).c_record(); }
@@ -635,6 +649,8 @@ public:
     // 3: record
     subscriber_stats_view field_3() const & noexcept { return access::record_of<3, subscriber_stats_view>(c(), c().field_3); }
     subscriber_stats_view field_3() const && noexcept { return access::lasting<Derived>(*this).field_3(); }
+    // Whether all fields are those of `other`.
+    bool has_fields_of(const rec_sess_replay_fail_fields &other) const noexcept { return field_1() == other.field_1() && field_2() == other.field_2() && field_3() == other.field_3(); }
 
 private:
     const mava_tum_rec_sess_replay_fail &c() const noexcept { return static_cast<const Derived &>(*this).c_record(); }
@@ -718,6 +734,8 @@ public:
     // 5: array of texts
     text_list field_5() const & noexcept { return access::list_of<5, text_list>(c(), c().field_5, c().field_5_count); }
     text_list field_5() const && noexcept { return access::lasting<Derived>(*this).field_5(); }
+    // Whether all fields are those of `other`.
+    bool has_fields_of(const sess_svc_start_fields &other) const noexcept { return field_1() == other.field_1() && field_2() == other.field_2() && field_3() == other.field_3() && field_4() == other.field_4() && field_5() == other.field_5(); }
 
 private:
     const mava_tum_sess_svc_start &c() const noexcept { return static_cast<const Derived &>(*this).c_record(); }
@@ -803,6 +821,8 @@ public:
     std::optional<std::string_view> field_4() const && noexcept { return access::lasting<Derived>(*this).field_4(); }
     // 5: varint
     std::optional<std::uint32_t> field_5() const noexcept { return access::number_of<5>(c(), c().field_5); }
+    // Whether all fields are those of `other`.
+    bool has_fields_of(const rec_sess_replay_resp_fields &other) const noexcept { return field_1() == other.field_1() && field_2() == other.field_2() && field_3() == other.field_3() && field_4() == other.field_4() && field_5() == other.field_5(); }
 
 private:
     const mava_tum_rec_sess_replay_resp &c() const noexcept { return static_cast<const Derived &>(*this).c_record(); }

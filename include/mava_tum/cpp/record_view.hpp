@@ -72,6 +72,12 @@ public:
         return copy;
     }
 
+    // This one, as of an owner or an editor.
+    Derived view() const noexcept
+    {
+        return static_cast<const Derived &>(*this);
+    }
+
     // For the C functions. Of an absent record: one without content.
     const Record &c_record() const noexcept
     {

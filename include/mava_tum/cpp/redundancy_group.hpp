@@ -44,6 +44,8 @@ public:
     std::optional<std::uint32_t> field_2() const noexcept { return access::number_of<2>(c(), c().field_2); }
     // 3: varint
     std::optional<std::uint32_t> field_3() const noexcept { return access::number_of<3>(c(), c().field_3); }
+    // Whether all fields are those of `other`.
+    bool has_fields_of(const srg_group_rec_start_req_fields &other) const noexcept { return field_1() == other.field_1() && field_2() == other.field_2() && field_3() == other.field_3(); }
 
 private:
     const mava_tum_srg_group_rec_start_req &c() const noexcept { return static_cast<const Derived &>(*this).c_record(); }
@@ -117,6 +119,8 @@ public:
     std::optional<std::uint32_t> field_1() const noexcept { return access::number_of<1>(c(), c().field_1); }
     // 2: varint
     std::optional<std::uint32_t> field_2() const noexcept { return access::number_of<2>(c(), c().field_2); }
+    // Whether all fields are those of `other`.
+    bool has_fields_of(const srg_group_rec_resp_fields &other) const noexcept { return field_1() == other.field_1() && field_2() == other.field_2(); }
 
 private:
     const mava_tum_srg_group_rec_resp &c() const noexcept { return static_cast<const Derived &>(*this).c_record(); }
@@ -191,6 +195,8 @@ public:
     std::optional<std::uint32_t> field_2() const noexcept { return access::number_of<2>(c(), c().field_2); }
     // 3: varint
     std::optional<std::uint32_t> field_3() const noexcept { return access::number_of<3>(c(), c().field_3); }
+    // Whether all fields are those of `other`.
+    bool has_fields_of(const srg_group_rec_complete_req_fields &other) const noexcept { return field_1() == other.field_1() && field_2() == other.field_2() && field_3() == other.field_3(); }
 
 private:
     const mava_tum_srg_group_rec_complete_req &c() const noexcept { return static_cast<const Derived &>(*this).c_record(); }
@@ -271,6 +277,8 @@ public:
     // 5: text
     std::optional<std::string_view> field_5() const & noexcept { return access::text_of<5>(c(), c().field_5); }
     std::optional<std::string_view> field_5() const && noexcept { return access::lasting<Derived>(*this).field_5(); }
+    // Whether all fields are those of `other`.
+    bool has_fields_of(const srg_group_data_fields &other) const noexcept { return field_1() == other.field_1() && field_2() == other.field_2() && field_3() == other.field_3() && field_4() == other.field_4() && field_5() == other.field_5(); }
 
 private:
     const mava_tum_srg_group_data &c() const noexcept { return static_cast<const Derived &>(*this).c_record(); }
@@ -352,6 +360,8 @@ public:
     srg_group_data_list field_3() const && noexcept { return access::lasting<Derived>(*this).field_3(); }
     // 4: varint
     std::optional<std::uint32_t> field_4() const noexcept { return access::number_of<4>(c(), c().field_4); }
+    // Whether all fields are those of `other`.
+    bool has_fields_of(const srg_group_rec_replay_req_fields &other) const noexcept { return field_1() == other.field_1() && field_2() == other.field_2() && field_3() == other.field_3() && field_4() == other.field_4(); }
 
 private:
     const mava_tum_srg_group_rec_replay_req &c() const noexcept { return static_cast<const Derived &>(*this).c_record(); }
@@ -440,6 +450,8 @@ public:
     srg_group_data_list field_3() const && noexcept { return access::lasting<Derived>(*this).field_3(); }
     // 4: varint
     std::optional<std::uint32_t> field_4() const noexcept { return access::number_of<4>(c(), c().field_4); }
+    // Whether all fields are those of `other`.
+    bool has_fields_of(const srg_group_rec_replay_resp_fields &other) const noexcept { return field_1() == other.field_1() && field_2() == other.field_2() && field_3() == other.field_3() && field_4() == other.field_4(); }
 
 private:
     const mava_tum_srg_group_rec_replay_resp &c() const noexcept { return static_cast<const Derived &>(*this).c_record(); }

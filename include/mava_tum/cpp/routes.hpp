@@ -53,6 +53,8 @@ public:
     subscriber_route_ipv6_list ipv6_routes() const && noexcept { return access::lasting<Derived>(*this).ipv6_routes(); }
     // 6: varint
     std::optional<std::uint32_t> field_6() const noexcept { return access::number_of<6>(c(), c().field_6); }
+    // Whether all fields are those of `other`.
+    bool has_fields_of(const sub_route_fields &other) const noexcept { return field_1() == other.field_1() && field_2() == other.field_2() && field_3() == other.field_3() && ipv4_routes() == other.ipv4_routes() && ipv6_routes() == other.ipv6_routes() && field_6() == other.field_6(); }
 
 private:
     const mava_tum_sub_route &c() const noexcept { return static_cast<const Derived &>(*this).c_record(); }
@@ -150,6 +152,8 @@ public:
     // 4: text
     std::optional<std::string_view> field_4() const & noexcept { return access::text_of<4>(c(), c().field_4); }
     std::optional<std::string_view> field_4() const && noexcept { return access::lasting<Derived>(*this).field_4(); }
+    // Whether all fields are those of `other`.
+    bool has_fields_of(const subscriber_route_resp_fields &other) const noexcept { return field_1() == other.field_1() && field_2() == other.field_2() && field_3() == other.field_3() && field_4() == other.field_4(); }
 
 private:
     const mava_tum_subscriber_route_resp &c() const noexcept { return static_cast<const Derived &>(*this).c_record(); }

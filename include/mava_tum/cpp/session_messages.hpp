@@ -107,6 +107,8 @@ public:
     // 24: array of records
     subscriber_route_ipv6_list route_ipv6() const & noexcept { return access::list_of<24, subscriber_route_ipv6_list>(c(), c().route_ipv6, c().route_ipv6_count); }
     subscriber_route_ipv6_list route_ipv6() const && noexcept { return access::lasting<Derived>(*this).route_ipv6(); }
+    // Whether all fields are those of `other`.
+    bool has_fields_of(const session_context_fields &other) const noexcept { return field_1() == other.field_1() && field_2() == other.field_2() && field_3() == other.field_3() && field_4() == other.field_4() && feature_mask() == other.feature_mask() && field_6() == other.field_6() && field_7() == other.field_7() && subscriber_v4() == other.subscriber_v4() && subscriber_v6() == other.subscriber_v6() && session_data() == other.session_data() && qos() == other.qos() && acl() == other.acl() && httpr() == other.httpr() && li() == other.li() && urpf_1() == other.urpf_1() && urpf_2() == other.urpf_2() && icmp_1() == other.icmp_1() && icmp_2() == other.icmp_2() && mtu_1() == other.mtu_1() && mtu_2() == other.mtu_2() && mtu_3() == other.mtu_3() && acct() == other.acct() && route_ipv4() == other.route_ipv4() && route_ipv6() == other.route_ipv6(); }
 
 private:
     const mava_tum_session_context &c() const noexcept { return static_cast<const Derived &>(*this).c_record(); }
@@ -257,6 +259,8 @@ public:
     std::optional<std::uint64_t> field_4() const noexcept { return access::number_of<4>(c(), c().field_4); }
     // 5: varint
     std::optional<std::uint32_t> field_5() const noexcept { return access::number_of<5>(c(), c().field_5); }
+    // Whether all fields are those of `other`.
+    bool has_fields_of(const session_delete_fields &other) const noexcept { return field_1() == other.field_1() && field_2() == other.field_2() && field_3() == other.field_3() && field_4() == other.field_4() && field_5() == other.field_5(); }
 
 private:
     const mava_tum_session_delete &c() const noexcept { return static_cast<const Derived &>(*this).c_record(); }
@@ -353,6 +357,8 @@ public:
     // 10: bytes
     std::optional<bytes_view> field_10() const & noexcept { return access::bytes_of<10>(c(), c().field_10); }
     std::optional<bytes_view> field_10() const && noexcept { return access::lasting<Derived>(*this).field_10(); }
+    // Whether all fields are those of `other`.
+    bool has_fields_of(const sess_oper_resp_fields &other) const noexcept { return field_1() == other.field_1() && field_2() == other.field_2() && field_3() == other.field_3() && field_4() == other.field_4() && field_5() == other.field_5() && field_6() == other.field_6() && field_7() == other.field_7() && field_8() == other.field_8() && field_9() == other.field_9() && field_10() == other.field_10(); }
 
 private:
     const mava_tum_sess_oper_resp &c() const noexcept { return static_cast<const Derived &>(*this).c_record(); }

@@ -74,6 +74,8 @@ public:
     std::optional<std::uint32_t> field_17() const noexcept { return access::number_of<17>(c(), c().field_17); }
     // 18: varint
     std::optional<std::uint32_t> field_18() const noexcept { return access::number_of<18>(c(), c().field_18); }
+    // Whether all fields are those of `other`.
+    bool has_fields_of(const stats_fields &other) const noexcept { return field_1() == other.field_1() && field_2() == other.field_2() && field_3() == other.field_3() && field_4() == other.field_4() && field_5() == other.field_5() && field_6() == other.field_6() && field_7() == other.field_7() && field_8() == other.field_8() && field_9() == other.field_9() && field_10() == other.field_10() && field_11() == other.field_11() && field_12() == other.field_12() && field_13() == other.field_13() && field_14() == other.field_14() && field_15() == other.field_15() && field_16() == other.field_16() && field_17() == other.field_17() && field_18() == other.field_18(); }
 
 private:
     const mava_tum_stats &c() const noexcept { return static_cast<const Derived &>(*this).c_record(); }
@@ -164,6 +166,8 @@ public:
     // 2: record
     stats_view field_2() const & noexcept { return access::record_of<2, stats_view>(c(), c().field_2); }
     stats_view field_2() const && noexcept { return access::lasting<Derived>(*this).field_2(); }
+    // Whether all fields are those of `other`.
+    bool has_fields_of(const service_stats_fields &other) const noexcept { return field_1() == other.field_1() && field_2() == other.field_2(); }
 
 private:
     const mava_tum_service_stats &c() const noexcept { return static_cast<const Derived &>(*this).c_record(); }
@@ -263,6 +267,8 @@ public:
     // 12: record
     stats_view field_12() const & noexcept { return access::record_of<12, stats_view>(c(), c().field_12); }
     stats_view field_12() const && noexcept { return access::lasting<Derived>(*this).field_12(); }
+    // Whether all fields are those of `other`.
+    bool has_fields_of(const subscriber_stats_fields &other) const noexcept { return field_1() == other.field_1() && field_2() == other.field_2() && field_3() == other.field_3() && field_4() == other.field_4() && field_5() == other.field_5() && field_6() == other.field_6() && field_7() == other.field_7() && field_8() == other.field_8() && field_9() == other.field_9() && field_10() == other.field_10() && field_11() == other.field_11() && field_12() == other.field_12(); }
 
 private:
     const mava_tum_subscriber_stats &c() const noexcept { return static_cast<const Derived &>(*this).c_record(); }

@@ -42,6 +42,8 @@ public:
     std::optional<std::uint32_t> field_1() const noexcept { return access::number_of<1>(c(), c().field_1); }
     // 2: fixed32; IPv4 address in network byte order
     std::optional<std::uint32_t> ipv4_address() const noexcept { return access::number_of<2>(c(), c().ipv4_address); }
+    // Whether all fields are those of `other`.
+    bool has_fields_of(const subscriber_v4_fields &other) const noexcept { return field_1() == other.field_1() && ipv4_address() == other.ipv4_address(); }
 
 private:
     const mava_tum_subscriber_v4 &c() const noexcept { return static_cast<const Derived &>(*this).c_record(); }
@@ -128,6 +130,8 @@ public:
     std::optional<bytes_view> field_6() const && noexcept { return access::lasting<Derived>(*this).field_6(); }
     // 7: varint
     std::optional<std::uint32_t> field_7() const noexcept { return access::number_of<7>(c(), c().field_7); }
+    // Whether all fields are those of `other`.
+    bool has_fields_of(const subscriber_v6_fields &other) const noexcept { return field_1() == other.field_1() && field_2() == other.field_2() && field_3() == other.field_3() && field_4() == other.field_4() && field_5() == other.field_5() && field_6() == other.field_6() && field_7() == other.field_7(); }
 
 private:
     const mava_tum_subscriber_v6 &c() const noexcept { return static_cast<const Derived &>(*this).c_record(); }
@@ -215,6 +219,8 @@ public:
     std::optional<bytes_view> field_5() const && noexcept { return access::lasting<Derived>(*this).field_5(); }
     // 6: varint
     std::optional<std::uint32_t> field_6() const noexcept { return access::number_of<6>(c(), c().field_6); }
+    // Whether all fields are those of `other`.
+    bool has_fields_of(const ppp_data_fields &other) const noexcept { return field_1() == other.field_1() && field_2() == other.field_2() && field_3() == other.field_3() && field_4() == other.field_4() && field_5() == other.field_5() && field_6() == other.field_6(); }
 
 private:
     const mava_tum_ppp_data &c() const noexcept { return static_cast<const Derived &>(*this).c_record(); }
@@ -329,6 +335,8 @@ public:
     // 19: text
     std::optional<std::string_view> field_19() const & noexcept { return access::text_of<19>(c(), c().field_19); }
     std::optional<std::string_view> field_19() const && noexcept { return access::lasting<Derived>(*this).field_19(); }
+    // Whether all fields are those of `other`.
+    bool has_fields_of(const l2tp_data_fields &other) const noexcept { return field_1() == other.field_1() && field_2() == other.field_2() && field_3() == other.field_3() && field_4() == other.field_4() && field_5() == other.field_5() && field_6() == other.field_6() && field_7() == other.field_7() && field_8() == other.field_8() && field_9() == other.field_9() && field_10() == other.field_10() && field_11() == other.field_11() && field_12() == other.field_12() && field_13() == other.field_13() && field_14() == other.field_14() && field_15() == other.field_15() && field_16() == other.field_16() && field_17() == other.field_17() && field_18() == other.field_18() && field_19() == other.field_19(); }
 
 private:
     const mava_tum_l2tp_data &c() const noexcept { return static_cast<const Derived &>(*this).c_record(); }
@@ -419,6 +427,8 @@ public:
     std::optional<std::uint32_t> field_1() const noexcept { return access::number_of<1>(c(), c().field_1); }
     // 2: varint
     std::optional<std::uint32_t> field_2() const noexcept { return access::number_of<2>(c(), c().field_2); }
+    // Whether all fields are those of `other`.
+    bool has_fields_of(const vlan_info_fields &other) const noexcept { return field_1() == other.field_1() && field_2() == other.field_2(); }
 
 private:
     const mava_tum_vlan_info &c() const noexcept { return static_cast<const Derived &>(*this).c_record(); }
@@ -516,6 +526,8 @@ public:
     vlan_info_view vlan() const && noexcept { return access::lasting<Derived>(*this).vlan(); }
     // 11: varint
     std::optional<std::uint32_t> field_11() const noexcept { return access::number_of<11>(c(), c().field_11); }
+    // Whether all fields are those of `other`.
+    bool has_fields_of(const session_data_fields &other) const noexcept { return field_1() == other.field_1() && field_2() == other.field_2() && ppp() == other.ppp() && l2tp() == other.l2tp() && field_5() == other.field_5() && field_6() == other.field_6() && field_7() == other.field_7() && field_8() == other.field_8() && field_9() == other.field_9() && vlan() == other.vlan() && field_11() == other.field_11(); }
 
 private:
     const mava_tum_session_data &c() const noexcept { return static_cast<const Derived &>(*this).c_record(); }
