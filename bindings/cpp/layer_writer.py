@@ -3,8 +3,8 @@ from header_reader import HeaderError
 
 # Names of the classes' own members, which no field may have.
 RESERVED = {
-    "decode", "encode", "encode_to", "encoded_size", "copy_from", "clone", "clear", "compact", "has_fields_of", "view", "c_record",
-    "mutable_c_record", "own_blocks", "has_value", "holds_record", "c", "blocks",
+    "decode", "encode", "encode_to", "gather", "encoded_size", "copy_from", "clone", "clear", "compact",
+    "has_fields_of", "view", "c_record", "mutable_c_record", "own_blocks", "has_value", "holds_record", "c", "blocks",
 }
 
 LICENCE = "// SPDX-" "License-Identifier: Apache-2.0"  # in two parts: it is not about this file
@@ -109,6 +109,12 @@ def changes_class(message):
     yield "};"
 
 
+def most_segments(message):
+    """Each bytes field is a segment, with one before, between and after them; 0 if the message cannot be gathered."""
+    bytes_fields = sum(field.kind == "bytes" for field in message.fields)
+    return 0 if not bytes_fields or any(field.of for field in message.fields) else 2 * bytes_fields + 1
+
+
 def codec_class(message, owns_memory):
     name, record = message.name, message.c_type
     yield f"class {name};"
@@ -120,7 +126,9 @@ def codec_class(message, owns_memory):
     yield f"    using owner = {name};"
     yield f"    using view = {name}_view;"
     yield f"    using editor = {name}_editor;"
+    yield f'    static constexpr const char *name = "{name}";'
     yield f"    static constexpr bool owns_memory = {'true' if owns_memory else 'false'};"
+    yield f"    static constexpr std::size_t most_segments = {most_segments(message)};"
     for function in ("decode", "encode", "duplicate"):
         suffix = "" if function == "duplicate" else "_ext"
         yield f"    static constexpr auto {function} = {record}_{function}{suffix};"

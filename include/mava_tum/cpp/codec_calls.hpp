@@ -15,7 +15,9 @@ namespace mava_tum::cpp
 // What the layer knows of a message, by its codec record. Specialised beside each message:
 //     owner                  the class that owns a record
 //     view, editor           the classes that read and change a record that lies somewhere else
+//     name                   of the message
 //     owns_memory            whether a record ever owns a block
+//     most_segments          in gather output; 0 if its segments are not the message, or if nothing is gained
 //     decode, encode, duplicate   the codec's functions
 template <class Record>
 struct codec_of;

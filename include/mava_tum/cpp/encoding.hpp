@@ -5,6 +5,7 @@
 
 #include "mava_tum/cpp/codec_calls.hpp"
 
+#include <array>
 #include <vector>
 
 namespace mava_tum::cpp
@@ -21,6 +22,70 @@ struct [[nodiscard]] encoded {
         return complete;
     }
 };
+
+// The segments of a message in order: pairs of address and length in bytes, such as mava_tum_segment or iovec. They
+// point into the record and into the buffer of the call.
+template <class Pair, std::size_t most>
+class gathered
+{
+public:
+    // From what the codec returned.
+    gathered(const std::array<mava_tum_segment, most> &segments, std::uint32_t count, bool complete) noexcept
+        : count_(count), complete_(complete)
+    {
+        for (std::size_t i = 0; i < count; ++i) {
+            pairs_[i] =
+                Pair{const_cast<std::uint8_t *>(segments[i].data), static_cast<std::size_t>(segments[i].length)};
+            byte_count_ += segments[i].length;
+        }
+    }
+
+    const Pair *data() const noexcept
+    {
+        return pairs_.data();
+    }
+
+    std::size_t size() const noexcept
+    {
+        return count_;
+    }
+
+    const Pair *begin() const noexcept
+    {
+        return data();
+    }
+
+    const Pair *end() const noexcept
+    {
+        return data() + count_;
+    }
+
+    // Of the message.
+    std::uint64_t byte_count() const noexcept
+    {
+        return byte_count_;
+    }
+
+    // False: the buffer was too small: do not send it.
+    explicit operator bool() const noexcept
+    {
+        return complete_;
+    }
+
+private:
+    std::array<Pair, most> pairs_{};
+    std::size_t count_;
+    std::uint64_t byte_count_ = 0;
+    bool complete_;
+};
+
+// What the layer knows of the message of Derived.
+template <class Derived>
+using message_of = codec_of<std::decay_t<decltype(std::declval<const Derived &>().c_record())>>;
+
+// The class of the views of what Derived holds or refers to.
+template <class Derived>
+using view_of = typename message_of<Derived>::view;
 
 // What encodes. Derived has c_record().
 template <class Derived>
@@ -43,6 +108,30 @@ public:
         return {size, size <= buffer.size()};
     }
 
+    // The message as segments for writev(), as gather<iovec>(buffer). Bytes fields stay in the record; `buffer`
+    // receives the bytes between them. Only for messages without nested records: the segments of others are not the
+    // message.
+    template <class Pair = mava_tum_segment, class Encoding = Derived>
+    auto gather(span<std::uint8_t> buffer) const &noexcept
+    {
+        using message = message_of<Encoding>;
+        static_assert(message::most_segments != 0,
+            "the segments of a message with nested records are not the message; without bytes fields, none is saved: "
+            "use encode()");
+        std::array<mava_tum_segment, message::most_segments> segments;
+        std::uint32_t count = message::most_segments;
+        const std::uint64_t in_buffer = call_codec(message::encode, &static_cast<const Derived &>(*this).c_record(),
+            buffer.data(), buffer.size(), segments.data(), &count, std::uint32_t{MAVA_TUM_ALIAS});
+        return gathered<Pair, message::most_segments>(segments, count, in_buffer <= buffer.size());
+    }
+    // The same, of a view or an editor.
+    template <class Pair = mava_tum_segment, class Encoding = Derived>
+    auto gather(span<std::uint8_t> buffer) const &&noexcept
+    {
+        static_assert(!Encoding::holds_record, "the segments refer to a record that ends with the statement");
+        return static_cast<const encoding &>(*this).template gather<Pair>(buffer);
+    }
+
     // Gives `container`, of bytes of any type, exactly the message; what it held before is gone. Allocates as resize()
     // does.
     template <class Container>
@@ -63,10 +152,6 @@ public:
 protected:
     ~encoding() = default; // no record is destroyed through this base
 };
-
-// The class of the views of what Derived holds or refers to.
-template <class Derived>
-using view_of = typename codec_of<std::decay_t<decltype(std::declval<const Derived &>().c_record())>>::view;
 
 // Whether the same fields are present, with the same content, at every depth. Of records, views and editors of one
 // message; an absent record equals only another one.

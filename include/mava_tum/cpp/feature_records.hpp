@@ -27,7 +27,9 @@ struct codec_of<mava_tum_subscriber_qos> {
     using owner = subscriber_qos;
     using view = subscriber_qos_view;
     using editor = subscriber_qos_editor;
+    static constexpr const char *name = "subscriber_qos";
     static constexpr bool owns_memory = true;
+    static constexpr std::size_t most_segments = 0;
     static constexpr auto decode = mava_tum_subscriber_qos_decode_ext;
     static constexpr auto encode = mava_tum_subscriber_qos_encode_ext;
     static constexpr auto duplicate = mava_tum_subscriber_qos_duplicate;
@@ -139,7 +141,9 @@ struct codec_of<mava_tum_subscriber_acl> {
     using owner = subscriber_acl;
     using view = subscriber_acl_view;
     using editor = subscriber_acl_editor;
+    static constexpr const char *name = "subscriber_acl";
     static constexpr bool owns_memory = true;
+    static constexpr std::size_t most_segments = 0;
     static constexpr auto decode = mava_tum_subscriber_acl_decode_ext;
     static constexpr auto encode = mava_tum_subscriber_acl_encode_ext;
     static constexpr auto duplicate = mava_tum_subscriber_acl_duplicate;
@@ -227,7 +231,9 @@ struct codec_of<mava_tum_subscriber_httpr> {
     using owner = subscriber_httpr;
     using view = subscriber_httpr_view;
     using editor = subscriber_httpr_editor;
+    static constexpr const char *name = "subscriber_httpr";
     static constexpr bool owns_memory = true;
+    static constexpr std::size_t most_segments = 0;
     static constexpr auto decode = mava_tum_subscriber_httpr_decode_ext;
     static constexpr auto encode = mava_tum_subscriber_httpr_encode_ext;
     static constexpr auto duplicate = mava_tum_subscriber_httpr_duplicate;
@@ -303,7 +309,9 @@ struct codec_of<mava_tum_subscriber_li> {
     using owner = subscriber_li;
     using view = subscriber_li_view;
     using editor = subscriber_li_editor;
+    static constexpr const char *name = "subscriber_li";
     static constexpr bool owns_memory = true;
+    static constexpr std::size_t most_segments = 5;
     static constexpr auto decode = mava_tum_subscriber_li_decode_ext;
     static constexpr auto encode = mava_tum_subscriber_li_encode_ext;
     static constexpr auto duplicate = mava_tum_subscriber_li_duplicate;
@@ -398,7 +406,9 @@ struct codec_of<mava_tum_subscriber_urpf> {
     using owner = subscriber_urpf;
     using view = subscriber_urpf_view;
     using editor = subscriber_urpf_editor;
+    static constexpr const char *name = "subscriber_urpf";
     static constexpr bool owns_memory = false;
+    static constexpr std::size_t most_segments = 0;
     static constexpr auto decode = mava_tum_subscriber_urpf_decode_ext;
     static constexpr auto encode = mava_tum_subscriber_urpf_encode_ext;
     static constexpr auto duplicate = mava_tum_subscriber_urpf_duplicate;
@@ -472,7 +482,9 @@ struct codec_of<mava_tum_subscriber_icmp> {
     using owner = subscriber_icmp;
     using view = subscriber_icmp_view;
     using editor = subscriber_icmp_editor;
+    static constexpr const char *name = "subscriber_icmp";
     static constexpr bool owns_memory = false;
+    static constexpr std::size_t most_segments = 0;
     static constexpr auto decode = mava_tum_subscriber_icmp_decode_ext;
     static constexpr auto encode = mava_tum_subscriber_icmp_encode_ext;
     static constexpr auto duplicate = mava_tum_subscriber_icmp_duplicate;
@@ -543,7 +555,9 @@ struct codec_of<mava_tum_subscriber_mtu> {
     using owner = subscriber_mtu;
     using view = subscriber_mtu_view;
     using editor = subscriber_mtu_editor;
+    static constexpr const char *name = "subscriber_mtu";
     static constexpr bool owns_memory = false;
+    static constexpr std::size_t most_segments = 0;
     static constexpr auto decode = mava_tum_subscriber_mtu_decode_ext;
     static constexpr auto encode = mava_tum_subscriber_mtu_encode_ext;
     static constexpr auto duplicate = mava_tum_subscriber_mtu_duplicate;
@@ -614,7 +628,9 @@ struct codec_of<mava_tum_subscriber_acct> {
     using owner = subscriber_acct;
     using view = subscriber_acct_view;
     using editor = subscriber_acct_editor;
+    static constexpr const char *name = "subscriber_acct";
     static constexpr bool owns_memory = false;
+    static constexpr std::size_t most_segments = 0;
     static constexpr auto decode = mava_tum_subscriber_acct_decode_ext;
     static constexpr auto encode = mava_tum_subscriber_acct_encode_ext;
     static constexpr auto duplicate = mava_tum_subscriber_acct_duplicate;
@@ -691,7 +707,9 @@ struct codec_of<mava_tum_subscriber_route_ipv4> {
     using owner = subscriber_route_ipv4;
     using view = subscriber_route_ipv4_view;
     using editor = subscriber_route_ipv4_editor;
+    static constexpr const char *name = "subscriber_route_ipv4";
     static constexpr bool owns_memory = true;
+    static constexpr std::size_t most_segments = 0;
     static constexpr auto decode = mava_tum_subscriber_route_ipv4_decode_ext;
     static constexpr auto encode = mava_tum_subscriber_route_ipv4_encode_ext;
     static constexpr auto duplicate = mava_tum_subscriber_route_ipv4_duplicate;
@@ -790,7 +808,9 @@ struct codec_of<mava_tum_subscriber_route_ipv6> {
     using owner = subscriber_route_ipv6;
     using view = subscriber_route_ipv6_view;
     using editor = subscriber_route_ipv6_editor;
+    static constexpr const char *name = "subscriber_route_ipv6";
     static constexpr bool owns_memory = true;
+    static constexpr std::size_t most_segments = 5;
     static constexpr auto decode = mava_tum_subscriber_route_ipv6_decode_ext;
     static constexpr auto encode = mava_tum_subscriber_route_ipv6_encode_ext;
     static constexpr auto duplicate = mava_tum_subscriber_route_ipv6_duplicate;

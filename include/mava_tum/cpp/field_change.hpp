@@ -143,8 +143,8 @@ void clear_list(Record &record, Element *&member, std::uint32_t &member_count) n
     mark<number>(record, false);
 }
 
-// `member` with room for `count` elements, of which the first `used` are there; null when the block is refused. A block
-// has room for twice as many as there are, so that elements can be added one by one.
+// `member` with room for `count` elements, after the first `used`, which are kept; null when the block is refused. A
+// block has room for twice as many as there are, so that elements can be added one by one.
 template <class Element>
 Element *with_room_for(std::uint32_t count, Element *member, std::uint32_t used, block_list &blocks) noexcept
 {

@@ -29,7 +29,9 @@ struct codec_of<mava_tum_rec_start_req> {
     using owner = rec_start_req;
     using view = rec_start_req_view;
     using editor = rec_start_req_editor;
+    static constexpr const char *name = "rec_start_req";
     static constexpr bool owns_memory = true;
+    static constexpr std::size_t most_segments = 0;
     static constexpr auto decode = mava_tum_rec_start_req_decode_ext;
     static constexpr auto encode = mava_tum_rec_start_req_encode_ext;
     static constexpr auto duplicate = mava_tum_rec_start_req_duplicate;
@@ -111,7 +113,9 @@ struct codec_of<mava_tum_rec_complete_req> {
     using owner = rec_complete_req;
     using view = rec_complete_req_view;
     using editor = rec_complete_req_editor;
+    static constexpr const char *name = "rec_complete_req";
     static constexpr bool owns_memory = true;
+    static constexpr std::size_t most_segments = 0;
     static constexpr auto decode = mava_tum_rec_complete_req_decode_ext;
     static constexpr auto encode = mava_tum_rec_complete_req_encode_ext;
     static constexpr auto duplicate = mava_tum_rec_complete_req_duplicate;
@@ -193,7 +197,9 @@ struct codec_of<mava_tum_rec_resp> {
     using owner = rec_resp;
     using view = rec_resp_view;
     using editor = rec_resp_editor;
+    static constexpr const char *name = "rec_resp";
     static constexpr bool owns_memory = true;
+    static constexpr std::size_t most_segments = 0;
     static constexpr auto decode = mava_tum_rec_resp_decode_ext;
     static constexpr auto encode = mava_tum_rec_resp_encode_ext;
     static constexpr auto duplicate = mava_tum_rec_resp_duplicate;
@@ -272,7 +278,9 @@ struct codec_of<mava_tum_rec_session_state> {
     using owner = rec_session_state;
     using view = rec_session_state_view;
     using editor = rec_session_state_editor;
+    static constexpr const char *name = "rec_session_state";
     static constexpr bool owns_memory = false;
+    static constexpr std::size_t most_segments = 0;
     static constexpr auto decode = mava_tum_rec_session_state_decode_ext;
     static constexpr auto encode = mava_tum_rec_session_state_encode_ext;
     static constexpr auto duplicate = mava_tum_rec_session_state_duplicate;
@@ -349,7 +357,9 @@ struct codec_of<mava_tum_rec_sess_req> {
     using owner = rec_sess_req;
     using view = rec_sess_req_view;
     using editor = rec_sess_req_editor;
+    static constexpr const char *name = "rec_sess_req";
     static constexpr bool owns_memory = true;
+    static constexpr std::size_t most_segments = 0;
     static constexpr auto decode = mava_tum_rec_sess_req_decode_ext;
     static constexpr auto encode = mava_tum_rec_sess_req_encode_ext;
     static constexpr auto duplicate = mava_tum_rec_sess_req_duplicate;
@@ -446,7 +456,9 @@ struct codec_of<mava_tum_rec_sess_resp> {
     using owner = rec_sess_resp;
     using view = rec_sess_resp_view;
     using editor = rec_sess_resp_editor;
+    static constexpr const char *name = "rec_sess_resp";
     static constexpr bool owns_memory = true;
+    static constexpr std::size_t most_segments = 0;
     static constexpr auto decode = mava_tum_rec_sess_resp_decode_ext;
     static constexpr auto encode = mava_tum_rec_sess_resp_encode_ext;
     static constexpr auto duplicate = mava_tum_rec_sess_resp_duplicate;
@@ -535,7 +547,9 @@ struct codec_of<mava_tum_rec_sess_replay_req> {
     using owner = rec_sess_replay_req;
     using view = rec_sess_replay_req_view;
     using editor = rec_sess_replay_req_editor;
+    static constexpr const char *name = "rec_sess_replay_req";
     static constexpr bool owns_memory = true;
+    static constexpr std::size_t most_segments = 0;
     static constexpr auto decode = mava_tum_rec_sess_replay_req_decode_ext;
     static constexpr auto encode = mava_tum_rec_sess_replay_req_encode_ext;
     static constexpr auto duplicate = mava_tum_rec_sess_replay_req_duplicate;
@@ -631,7 +645,9 @@ struct codec_of<mava_tum_rec_sess_replay_fail> {
     using owner = rec_sess_replay_fail;
     using view = rec_sess_replay_fail_view;
     using editor = rec_sess_replay_fail_editor;
+    static constexpr const char *name = "rec_sess_replay_fail";
     static constexpr bool owns_memory = true;
+    static constexpr std::size_t most_segments = 0;
     static constexpr auto decode = mava_tum_rec_sess_replay_fail_decode_ext;
     static constexpr auto encode = mava_tum_rec_sess_replay_fail_encode_ext;
     static constexpr auto duplicate = mava_tum_rec_sess_replay_fail_duplicate;
@@ -712,7 +728,9 @@ struct codec_of<mava_tum_sess_svc_start> {
     using owner = sess_svc_start;
     using view = sess_svc_start_view;
     using editor = sess_svc_start_editor;
+    static constexpr const char *name = "sess_svc_start";
     static constexpr bool owns_memory = true;
+    static constexpr std::size_t most_segments = 0;
     static constexpr auto decode = mava_tum_sess_svc_start_decode_ext;
     static constexpr auto encode = mava_tum_sess_svc_start_encode_ext;
     static constexpr auto duplicate = mava_tum_sess_svc_start_duplicate;
@@ -797,7 +815,9 @@ struct codec_of<mava_tum_rec_sess_replay_resp> {
     using owner = rec_sess_replay_resp;
     using view = rec_sess_replay_resp_view;
     using editor = rec_sess_replay_resp_editor;
+    static constexpr const char *name = "rec_sess_replay_resp";
     static constexpr bool owns_memory = true;
+    static constexpr std::size_t most_segments = 0;
     static constexpr auto decode = mava_tum_rec_sess_replay_resp_decode_ext;
     static constexpr auto encode = mava_tum_rec_sess_replay_resp_encode_ext;
     static constexpr auto duplicate = mava_tum_rec_sess_replay_resp_duplicate;

@@ -27,7 +27,9 @@ struct codec_of<mava_tum_srg_group_rec_start_req> {
     using owner = srg_group_rec_start_req;
     using view = srg_group_rec_start_req_view;
     using editor = srg_group_rec_start_req_editor;
+    static constexpr const char *name = "srg_group_rec_start_req";
     static constexpr bool owns_memory = false;
+    static constexpr std::size_t most_segments = 0;
     static constexpr auto decode = mava_tum_srg_group_rec_start_req_decode_ext;
     static constexpr auto encode = mava_tum_srg_group_rec_start_req_encode_ext;
     static constexpr auto duplicate = mava_tum_srg_group_rec_start_req_duplicate;
@@ -104,7 +106,9 @@ struct codec_of<mava_tum_srg_group_rec_resp> {
     using owner = srg_group_rec_resp;
     using view = srg_group_rec_resp_view;
     using editor = srg_group_rec_resp_editor;
+    static constexpr const char *name = "srg_group_rec_resp";
     static constexpr bool owns_memory = false;
+    static constexpr std::size_t most_segments = 0;
     static constexpr auto decode = mava_tum_srg_group_rec_resp_decode_ext;
     static constexpr auto encode = mava_tum_srg_group_rec_resp_encode_ext;
     static constexpr auto duplicate = mava_tum_srg_group_rec_resp_duplicate;
@@ -178,7 +182,9 @@ struct codec_of<mava_tum_srg_group_rec_complete_req> {
     using owner = srg_group_rec_complete_req;
     using view = srg_group_rec_complete_req_view;
     using editor = srg_group_rec_complete_req_editor;
+    static constexpr const char *name = "srg_group_rec_complete_req";
     static constexpr bool owns_memory = false;
+    static constexpr std::size_t most_segments = 0;
     static constexpr auto decode = mava_tum_srg_group_rec_complete_req_decode_ext;
     static constexpr auto encode = mava_tum_srg_group_rec_complete_req_encode_ext;
     static constexpr auto duplicate = mava_tum_srg_group_rec_complete_req_duplicate;
@@ -255,7 +261,9 @@ struct codec_of<mava_tum_srg_group_data> {
     using owner = srg_group_data;
     using view = srg_group_data_view;
     using editor = srg_group_data_editor;
+    static constexpr const char *name = "srg_group_data";
     static constexpr bool owns_memory = true;
+    static constexpr std::size_t most_segments = 0;
     static constexpr auto decode = mava_tum_srg_group_data_decode_ext;
     static constexpr auto encode = mava_tum_srg_group_data_encode_ext;
     static constexpr auto duplicate = mava_tum_srg_group_data_duplicate;
@@ -340,7 +348,9 @@ struct codec_of<mava_tum_srg_group_rec_replay_req> {
     using owner = srg_group_rec_replay_req;
     using view = srg_group_rec_replay_req_view;
     using editor = srg_group_rec_replay_req_editor;
+    static constexpr const char *name = "srg_group_rec_replay_req";
     static constexpr bool owns_memory = true;
+    static constexpr std::size_t most_segments = 0;
     static constexpr auto decode = mava_tum_srg_group_rec_replay_req_decode_ext;
     static constexpr auto encode = mava_tum_srg_group_rec_replay_req_encode_ext;
     static constexpr auto duplicate = mava_tum_srg_group_rec_replay_req_duplicate;
@@ -429,7 +439,9 @@ struct codec_of<mava_tum_srg_group_rec_replay_resp> {
     using owner = srg_group_rec_replay_resp;
     using view = srg_group_rec_replay_resp_view;
     using editor = srg_group_rec_replay_resp_editor;
+    static constexpr const char *name = "srg_group_rec_replay_resp";
     static constexpr bool owns_memory = true;
+    static constexpr std::size_t most_segments = 0;
     static constexpr auto decode = mava_tum_srg_group_rec_replay_resp_decode_ext;
     static constexpr auto encode = mava_tum_srg_group_rec_replay_resp_encode_ext;
     static constexpr auto duplicate = mava_tum_srg_group_rec_replay_resp_duplicate;

@@ -28,7 +28,9 @@ struct codec_of<mava_tum_sub_route> {
     using owner = sub_route;
     using view = sub_route_view;
     using editor = sub_route_editor;
+    static constexpr const char *name = "sub_route";
     static constexpr bool owns_memory = true;
+    static constexpr std::size_t most_segments = 0;
     static constexpr auto decode = mava_tum_sub_route_decode_ext;
     static constexpr auto encode = mava_tum_sub_route_encode_ext;
     static constexpr auto duplicate = mava_tum_sub_route_duplicate;
@@ -131,7 +133,9 @@ struct codec_of<mava_tum_subscriber_route_resp> {
     using owner = subscriber_route_resp;
     using view = subscriber_route_resp_view;
     using editor = subscriber_route_resp_editor;
+    static constexpr const char *name = "subscriber_route_resp";
     static constexpr bool owns_memory = true;
+    static constexpr std::size_t most_segments = 0;
     static constexpr auto decode = mava_tum_subscriber_route_resp_decode_ext;
     static constexpr auto encode = mava_tum_subscriber_route_resp_encode_ext;
     static constexpr auto duplicate = mava_tum_subscriber_route_resp_duplicate;

@@ -30,7 +30,9 @@ struct codec_of<mava_tum_session_context> {
     using owner = session_context;
     using view = session_context_view;
     using editor = session_context_editor;
+    static constexpr const char *name = "session_context";
     static constexpr bool owns_memory = true;
+    static constexpr std::size_t most_segments = 0;
     static constexpr auto decode = mava_tum_session_context_decode_ext;
     static constexpr auto encode = mava_tum_session_context_encode_ext;
     static constexpr auto duplicate = mava_tum_session_context_duplicate;
@@ -238,7 +240,9 @@ struct codec_of<mava_tum_session_delete> {
     using owner = session_delete;
     using view = session_delete_view;
     using editor = session_delete_editor;
+    static constexpr const char *name = "session_delete";
     static constexpr bool owns_memory = false;
+    static constexpr std::size_t most_segments = 0;
     static constexpr auto decode = mava_tum_session_delete_decode_ext;
     static constexpr auto encode = mava_tum_session_delete_encode_ext;
     static constexpr auto duplicate = mava_tum_session_delete_duplicate;
@@ -321,7 +325,9 @@ struct codec_of<mava_tum_sess_oper_resp> {
     using owner = sess_oper_resp;
     using view = sess_oper_resp_view;
     using editor = sess_oper_resp_editor;
+    static constexpr const char *name = "sess_oper_resp";
     static constexpr bool owns_memory = true;
+    static constexpr std::size_t most_segments = 0;
     static constexpr auto decode = mava_tum_sess_oper_resp_decode_ext;
     static constexpr auto encode = mava_tum_sess_oper_resp_encode_ext;
     static constexpr auto duplicate = mava_tum_sess_oper_resp_duplicate;

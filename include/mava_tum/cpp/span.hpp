@@ -29,7 +29,7 @@
 namespace mava_tum::cpp
 {
 
-// A type that holds one byte, whatever it is called.
+// A type of one byte, const or not.
 template <class Type>
 inline constexpr bool is_byte =
     std::is_same_v<std::remove_cv_t<Type>, std::uint8_t> || std::is_same_v<std::remove_cv_t<Type>, std::byte> ||

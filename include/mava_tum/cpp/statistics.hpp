@@ -27,7 +27,9 @@ struct codec_of<mava_tum_stats> {
     using owner = stats;
     using view = stats_view;
     using editor = stats_editor;
+    static constexpr const char *name = "stats";
     static constexpr bool owns_memory = false;
+    static constexpr std::size_t most_segments = 0;
     static constexpr auto decode = mava_tum_stats_decode_ext;
     static constexpr auto encode = mava_tum_stats_encode_ext;
     static constexpr auto duplicate = mava_tum_stats_duplicate;
@@ -149,7 +151,9 @@ struct codec_of<mava_tum_service_stats> {
     using owner = service_stats;
     using view = service_stats_view;
     using editor = service_stats_editor;
+    static constexpr const char *name = "service_stats";
     static constexpr bool owns_memory = true;
+    static constexpr std::size_t most_segments = 0;
     static constexpr auto decode = mava_tum_service_stats_decode_ext;
     static constexpr auto encode = mava_tum_service_stats_encode_ext;
     static constexpr auto duplicate = mava_tum_service_stats_duplicate;
@@ -228,7 +232,9 @@ struct codec_of<mava_tum_subscriber_stats> {
     using owner = subscriber_stats;
     using view = subscriber_stats_view;
     using editor = subscriber_stats_editor;
+    static constexpr const char *name = "subscriber_stats";
     static constexpr bool owns_memory = true;
+    static constexpr std::size_t most_segments = 0;
     static constexpr auto decode = mava_tum_subscriber_stats_decode_ext;
     static constexpr auto encode = mava_tum_subscriber_stats_encode_ext;
     static constexpr auto duplicate = mava_tum_subscriber_stats_duplicate;

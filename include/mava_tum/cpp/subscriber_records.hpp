@@ -27,7 +27,9 @@ struct codec_of<mava_tum_subscriber_v4> {
     using owner = subscriber_v4;
     using view = subscriber_v4_view;
     using editor = subscriber_v4_editor;
+    static constexpr const char *name = "subscriber_v4";
     static constexpr bool owns_memory = false;
+    static constexpr std::size_t most_segments = 0;
     static constexpr auto decode = mava_tum_subscriber_v4_decode_ext;
     static constexpr auto encode = mava_tum_subscriber_v4_encode_ext;
     static constexpr auto duplicate = mava_tum_subscriber_v4_duplicate;
@@ -101,7 +103,9 @@ struct codec_of<mava_tum_subscriber_v6> {
     using owner = subscriber_v6;
     using view = subscriber_v6_view;
     using editor = subscriber_v6_editor;
+    static constexpr const char *name = "subscriber_v6";
     static constexpr bool owns_memory = true;
+    static constexpr std::size_t most_segments = 9;
     static constexpr auto decode = mava_tum_subscriber_v6_decode_ext;
     static constexpr auto encode = mava_tum_subscriber_v6_encode_ext;
     static constexpr auto duplicate = mava_tum_subscriber_v6_duplicate;
@@ -195,7 +199,9 @@ struct codec_of<mava_tum_ppp_data> {
     using owner = ppp_data;
     using view = ppp_data_view;
     using editor = ppp_data_editor;
+    static constexpr const char *name = "ppp_data";
     static constexpr bool owns_memory = true;
+    static constexpr std::size_t most_segments = 3;
     static constexpr auto decode = mava_tum_ppp_data_decode_ext;
     static constexpr auto encode = mava_tum_ppp_data_encode_ext;
     static constexpr auto duplicate = mava_tum_ppp_data_duplicate;
@@ -283,7 +289,9 @@ struct codec_of<mava_tum_l2tp_data> {
     using owner = l2tp_data;
     using view = l2tp_data_view;
     using editor = l2tp_data_editor;
+    static constexpr const char *name = "l2tp_data";
     static constexpr bool owns_memory = true;
+    static constexpr std::size_t most_segments = 5;
     static constexpr auto decode = mava_tum_l2tp_data_decode_ext;
     static constexpr auto encode = mava_tum_l2tp_data_encode_ext;
     static constexpr auto duplicate = mava_tum_l2tp_data_duplicate;
@@ -412,7 +420,9 @@ struct codec_of<mava_tum_vlan_info> {
     using owner = vlan_info;
     using view = vlan_info_view;
     using editor = vlan_info_editor;
+    static constexpr const char *name = "vlan_info";
     static constexpr bool owns_memory = false;
+    static constexpr std::size_t most_segments = 0;
     static constexpr auto decode = mava_tum_vlan_info_decode_ext;
     static constexpr auto encode = mava_tum_vlan_info_encode_ext;
     static constexpr auto duplicate = mava_tum_vlan_info_duplicate;
@@ -486,7 +496,9 @@ struct codec_of<mava_tum_session_data> {
     using owner = session_data;
     using view = session_data_view;
     using editor = session_data_editor;
+    static constexpr const char *name = "session_data";
     static constexpr bool owns_memory = true;
+    static constexpr std::size_t most_segments = 0;
     static constexpr auto decode = mava_tum_session_data_decode_ext;
     static constexpr auto encode = mava_tum_session_data_encode_ext;
     static constexpr auto duplicate = mava_tum_session_data_duplicate;
