@@ -179,6 +179,112 @@ def message_lines(message, owns_memory):
         yield ""
 
 
+ADAPTERS_HEAD = """\
+// Application records to and from wire bytes, with the adapters of tum_nal/; generated from their headers by
+// bindings/cpp/make_cpp_layer.
+//
+//     tum_nal_data_session_context session{{}};
+//     const std::vector<std::uint8_t> wire = tum::encode(session);
+//     const auto received = tum::decode<tum_nal_data_session_context>(wire);
+//
+// An adapter reports no fault: adapter_contract.h. Change the headers or the generator, not this file.
+#ifndef MAVA_TUM_CPP_ADAPTERS_HPP
+#define MAVA_TUM_CPP_ADAPTERS_HPP
+{licence}
+
+#include "mava_tum/cpp/encoding.hpp"
+{includes}
+
+#include <algorithm>
+#include <cstring>
+
+namespace mava_tum::cpp
+{{
+
+// What the layer knows of an application record: its adapters, and the bytes of the largest message. A record with the
+// adapters of two messages has those of one: they do the same.
+template <class Record>
+struct adapter_of;
+
+"""
+
+ADAPTERS_TAIL = """\
+// As much of `size` as an adapter can be told of.
+inline std::uint32_t within_32_bits(std::size_t size) noexcept
+{
+    return static_cast<std::uint32_t>(std::min<std::uint64_t>(size, UINT32_MAX));
+}
+
+// Allocates nothing. `buffer` must not overlap `record`.
+template <class Record, auto adapter = adapter_of<Record>::encode>
+encoded encode(const Record &record, span<std::uint8_t> buffer) noexcept
+{
+    const std::uint64_t size = adapter(&record, buffer.data(), within_32_bits(buffer.size()));
+    return {size, size <= buffer.size()};
+}
+
+// Gives `container`, of bytes of any type, exactly the message; what it held before is gone. Needs a stack for the
+// largest message.
+template <class Record, class Container, auto adapter = adapter_of<Record>::encode>
+void encode_to(const Record &record, Container &container)
+{
+    std::array<std::uint8_t, adapter_of<Record>::max_size> buffer;
+    const auto size = static_cast<std::size_t>(encode(record, buffer).size);
+    container.resize(size);
+    if (size != 0)
+        std::memcpy(container.data(), buffer.data(), size);
+}
+
+// The message in a vector of its own.
+template <class Record, auto adapter = adapter_of<Record>::encode>
+std::vector<std::uint8_t> encode(const Record &record)
+{
+    std::vector<std::uint8_t> wire;
+    encode_to(record, wire);
+    return wire;
+}
+
+// Overwrites `record` completely.
+template <class Record, auto adapter = adapter_of<Record>::decode>
+void decode(bytes_argument wire, Record &record) noexcept
+{
+    adapter(wire.data(), within_32_bits(wire.size()), &record);
+}
+
+// The same, for a record that is named by its type alone.
+template <class Record, auto adapter = adapter_of<Record>::decode>
+Record decode(bytes_argument wire) noexcept
+{
+    Record record;
+    adapter(wire.data(), within_32_bits(wire.size()), &record);
+    return record;
+}
+
+} // namespace mava_tum::cpp
+
+#endif
+"""
+
+
+def adapters_header(library):
+    """The adapters of each application record."""
+    functions = {}
+    for adapter in reversed(library.adapters_in_documented_order()):
+        functions.setdefault(adapter.sent, {}).update(
+            encode=adapter.encode.name, max_size=f"TUM_NAL_{adapter.name.upper()}_MAX_SIZE")
+        functions.setdefault(adapter.received, {}).update(decode=adapter.decode.name)
+    names = {function.name for function in (a.encode for a in library.adapters.values())}
+    paths = sorted(header.path for header in library.headers if names & {each.name for each in header.functions})
+    text = ADAPTERS_HEAD.format(licence=LICENCE, includes="\n".join(f'#include "{path}"' for path in paths))
+    for record, members in reversed(functions.items()):
+        text += f"template <>\nstruct adapter_of<{record}> {{\n"
+        for member, value in sorted(members.items()):
+            kind = "std::size_t" if member == "max_size" else "auto"
+            text += f"    static constexpr {kind} {member} = {value};\n"
+        text += "};\n\n"
+    return text + ADAPTERS_TAIL
+
+
 def layer_header(messages, owning):
     """The classes of the messages of one header."""
     header = messages[0].header

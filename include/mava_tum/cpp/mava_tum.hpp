@@ -15,6 +15,7 @@
 #define MAVA_TUM_CPP_MAVA_TUM_HPP
 // SPDX-License-Identifier: Apache-2.0
 
+#include "mava_tum/cpp/adapters.hpp"
 #include "mava_tum/cpp/feature_records.hpp"
 #include "mava_tum/cpp/ipv4.hpp"
 #include "mava_tum/cpp/reconciliation.hpp"
