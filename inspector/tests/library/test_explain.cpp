@@ -3,9 +3,13 @@
 #include "support/wire_builder.h"
 #include "verdict_agreement.h"
 
+#include "mava_tum/cpp/mava_tum.hpp"
+#include "mava_tum/cpp/print.hpp"
+
 #include <gtest/gtest.h>
 
 #include <cstring>
+#include <sstream>
 #include <string>
 
 namespace
@@ -210,5 +214,50 @@ TEST(inspect_format_line, cuts_to_the_capacity_and_returns_the_whole_length)
     EXPECT_EQ(mava_tum_inspect_format_line(&line, data, text, 41), 40u);
     EXPECT_STREQ(text, "       0  08                       words");
 }
+
+namespace tum = mava_tum::cpp;
+
+TEST(cpp_print, shows_the_values_that_are_present_in_one_line)
+{
+    tum::session_context session;
+    session.set_field_1(7);
+    session.edit_subscriber_v4().set_ipv4_address(0x010200C0);
+    ASSERT_EQ(session.edit_session_data().set_field_5("a \"b\"\n"), tum::result::ok);
+    ASSERT_EQ(session.add_qos()->set_field_3(""), tum::result::ok);
+    ASSERT_TRUE(session.add_qos());
+    const std::string expected = "{field_1: 7, subscriber_v4.ipv4_address: 192.0.2.1, session_data.field_5: "
+                                 "\"a \\\"b\\\"\\x0A\", qos[0].field_3: empty, qos[1]: empty}";
+    EXPECT_EQ(to_string(session), expected);
+    std::ostringstream stream;
+    stream << session.view();
+    EXPECT_EQ(stream.str(), expected);
+    stream.str("");
+    stream << session.subscriber_v4() << session.edit_qos()[0];
+    EXPECT_EQ(stream.str(), "{ipv4_address: 192.0.2.1}{field_3: empty}");
+}
+
+TEST(cpp_print, tells_an_absent_record_from_an_empty_one)
+{
+    EXPECT_EQ(to_string(tum::session_context_view()), "absent");
+    EXPECT_EQ(to_string(tum::session_context()), "{}");
+}
+
+TEST(cpp_print, shows_a_long_value_once)
+{
+    tum::session_context session;
+    ASSERT_EQ(session.set_field_6(std::string(100, 'x')), tum::result::ok);
+    ASSERT_EQ(session.edit_session_data().set_field_5(std::string(60, 'y')), tum::result::ok);
+    EXPECT_EQ(to_string(session),
+        "{field_6: 100 bytes, session_data.field_5: \"" + std::string(48, 'y') + "\"... (60 bytes)}");
+}
+
+#if defined(__cpp_lib_format)
+TEST(cpp_print, is_what_std_format_writes)
+{
+    tum::vlan_info vlan;
+    vlan.set_field_1(5);
+    EXPECT_EQ(std::format("{:>14}|{}", vlan, vlan.view()), "  {field_1: 5}|{field_1: 5}");
+}
+#endif
 
 } // namespace
