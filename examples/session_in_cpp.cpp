@@ -1,19 +1,21 @@
 // A session through the classes of the C++ layer: filled, encoded, decoded into a buffer without a call of the heap,
-// and read field by field. Nothing has to be freed by hand. Prints what came back; then what a decode into a buffer
-// that is too small says.
+// and read field by field. Nothing has to be freed by hand. Prints what came back, and the segments of a record for
+// writev(); then what a decode into a buffer that is too small says.
 #include "mava_tum/cpp/ipv4.hpp"
 #include "mava_tum/cpp/session_messages.hpp"
 
 #include <array>
 #include <cstdio>
+#include <string>
+#include <sys/uio.h>
 
 namespace tum = mava_tum::cpp;
 
 namespace
 {
 
-// Empty if there was no memory.
-std::vector<std::uint8_t> make_message()
+// Empty if there was no memory. Wire bytes can be in any container of bytes.
+std::string make_message()
 {
     tum::session_context session;
     session.set_feature_mask(5);
@@ -23,7 +25,11 @@ std::vector<std::uint8_t> make_message()
     std::uint32_t number = 0;
     for (auto qos : session.make_qos(2))
         qos.set_field_1(++number);
-    return session.encode();
+    if (session.edit_session_data().edit_ppp().set_field_5(std::string(9, '#')) != tum::result::ok)
+        return {};
+    std::string wire;
+    session.encode_to(wire);
+    return wire;
 }
 
 // All fields of a record that is absent are absent: no need to ask for each record on the way.
@@ -37,11 +43,14 @@ void print(const tum::session_context_view &session)
     }
     for (const auto qos : session.qos())
         std::printf("QoS: %u\n", qos.field_1().value_or(0));
+    std::uint8_t buffer[32];
+    for (const iovec &segment : session.session_data().ppp().gather<iovec>(buffer))
+        std::printf("segment: %zu bytes\n", segment.iov_len);
 }
 
 // The buffer is all the memory that the message can get.
 template <std::size_t size>
-tum::result receive(const std::vector<std::uint8_t> &wire)
+tum::result receive(const std::string &wire)
 {
     std::array<std::byte, size> buffer;
     std::pmr::monotonic_buffer_resource resource(buffer.data(), buffer.size(), std::pmr::null_memory_resource());
@@ -58,7 +67,7 @@ tum::result receive(const std::vector<std::uint8_t> &wire)
 
 int main()
 {
-    const std::vector<std::uint8_t> wire = make_message();
+    const std::string wire = make_message();
     std::printf("%zu bytes\n", wire.size());
     const bool decoded = receive<1024>(wire) == tum::result::ok;
     const bool refused = receive<64>(wire) == tum::result::no_memory;

@@ -51,9 +51,9 @@ void keeper::start()
     request.field_2 = TUM_NAL_REC_SESSION_STATES;
     request.field_3 = static_cast<uint32_t>(m_sessions.size());
     set_text(request.field_4, "the receiver has restarted");
-    m_channel.send(message_kind::rec_start_req, request, tum_nal_data_gpb_encode_tum_rec_start_req);
+    m_channel.send(message_kind::rec_start_req, request);
     tum_nal_data_rec_res response;
-    m_channel.receive(message_kind::rec_start_res, response, tum_nal_data_gpb_decode_tum_rec_start_res);
+    m_channel.receive(message_kind::rec_start_res, response);
     require(response.field_1 == 0, message_kind::rec_start_res, response.field_2);
     m_totals.restored = response.field_3;
 }
@@ -87,9 +87,9 @@ void keeper::send_states(tum_nal_data_rec_sess_req &request)
 tum_nal_data_rec_sess_res keeper::ask_for_states(tum_nal_data_rec_sess_req &request)
 {
     request.field_1 = ++m_requests;
-    m_channel.send(message_kind::rec_sess_req, request, tum_nal_data_gpb_encode_tum_rec_sess_req);
+    m_channel.send(message_kind::rec_sess_req, request);
     tum_nal_data_rec_sess_res response;
-    m_channel.receive(message_kind::rec_sess_res, response, tum_nal_data_gpb_decode_tum_rec_sess_res);
+    m_channel.receive(message_kind::rec_sess_res, response);
     require(response.field_1 == m_requests, message_kind::rec_sess_res, "answers another request");
     return response;
 }
@@ -125,9 +125,9 @@ void keeper::remove(session_number number)
     request.field_1 = delete_session;
     request.field_2 = ++m_requests;
     request.field_4 = number;
-    m_channel.send(message_kind::session_delete, request, tum_nal_data_gpb_encode_tum_session_delete);
+    m_channel.send(message_kind::session_delete, request);
     tum_nal_data_sess_oper_resp response;
-    m_channel.receive(message_kind::sess_oper_resp, response, tum_nal_data_gpb_decode_tum_sess_oper_resp);
+    m_channel.receive(message_kind::sess_oper_resp, response);
     require(response.field_2 == m_requests && response.field_4 == number, message_kind::sess_oper_resp,
         "answers another request");
     require(response.field_1 == 0, message_kind::sess_oper_resp, response.field_6);
@@ -146,9 +146,9 @@ void keeper::replay_all()
 void keeper::replay_one(const replay &what)
 {
     const tum_nal_data_rec_sess_replay_req_encode request = replay_request(what);
-    m_channel.send(message_kind::rec_sess_replay_req, request, tum_nal_data_gpb_encode_tum_rec_sess_replay_req);
+    m_channel.send(message_kind::rec_sess_replay_req, request);
     tum_nal_data_rec_sess_replay_resp response;
-    m_channel.receive(message_kind::rec_sess_replay_resp, response, tum_nal_data_gpb_decode_tum_rec_sess_replay_resp);
+    m_channel.receive(message_kind::rec_sess_replay_resp, response);
     require(response.field_1 == m_requests, message_kind::rec_sess_replay_resp, "answers another request");
     if (response.field_2_count != 0)
         note_refusal(what, request.field_4[0], response);
@@ -206,9 +206,9 @@ void keeper::complete()
     request.field_1 = run_number;
     request.field_2 = static_cast<uint32_t>(m_sessions.size());
     set_text(request.field_4, "every session was named and replayed");
-    m_channel.send(message_kind::rec_complete_req, request, tum_nal_data_gpb_encode_tum_rec_complete_req);
+    m_channel.send(message_kind::rec_complete_req, request);
     tum_nal_data_rec_res response;
-    m_channel.receive(message_kind::rec_complete_res, response, tum_nal_data_gpb_decode_tum_rec_complete_res);
+    m_channel.receive(message_kind::rec_complete_res, response);
     require(response.field_1 == 0, message_kind::rec_complete_res, response.field_2);
     m_totals.held = response.field_3;
 }

@@ -9,6 +9,8 @@
 #include "frame_stream.h"
 #include "stopwatch.h"
 
+#include "mava_tum/cpp/adapters.hpp"
+
 #include <array>
 #include <cstddef>
 #include <cstdint>
@@ -47,13 +49,13 @@ class message_channel
 public:
     message_channel(int reading_fd, int writing_fd);
 
-    // `encode` is the adapter of the message, called once. Throws stream_error when the message cannot be sent.
+    // Calls the record's adapter once. Throws stream_error when the message cannot be sent.
     template <typename Record>
-    void send(message_kind kind, const Record &record, uint64_t (*encode)(const Record *, uint8_t *, uint32_t))
+    void send(message_kind kind, const Record &record)
     {
-        const uint64_t size = m_in_adapters.measure(
-            [&] { return encode(&record, m_outgoing.data() + 1, static_cast<uint32_t>(m_outgoing.size() - 1)); });
-        send_encoded(kind, size);
+        const auto outcome =
+            m_in_adapters.measure([&] { return mava_tum::cpp::encode(record, std::span(m_outgoing).subspan(1)); });
+        send_encoded(kind, outcome.size);
     }
 
     // Waits for the next message, and returns false when the other process has closed its stream instead.
@@ -63,11 +65,11 @@ public:
     message_kind kind() const;
     std::span<const uint8_t> message() const;
 
-    // `decode` is the adapter of the message that next() found, called once.
+    // Decodes the message that next() found, with the record's adapter.
     template <typename Record>
-    void read(Record &record, void (*decode)(const uint8_t *, uint32_t, Record *))
+    void read(Record &record)
     {
-        m_in_adapters.measure([&] { decode(message().data(), static_cast<uint32_t>(message().size()), &record); });
+        m_in_adapters.measure([&] { mava_tum::cpp::decode(message(), record); });
     }
 
     // Waits for the next message, which must be of this kind. Throws stream_error otherwise.
@@ -75,10 +77,10 @@ public:
 
     // The same, and decodes it.
     template <typename Record>
-    void receive(message_kind wanted, Record &record, void (*decode)(const uint8_t *, uint32_t, Record *))
+    void receive(message_kind wanted, Record &record)
     {
         expect(wanted);
-        read(record, decode);
+        read(record);
     }
 
     // Both directions together: no kind goes both ways.

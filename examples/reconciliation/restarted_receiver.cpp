@@ -54,19 +54,19 @@ void restarted_receiver::answer()
 void restarted_receiver::answer_start()
 {
     tum_nal_data_rec_start_req request;
-    m_channel.read(request, tum_nal_data_gpb_decode_tum_rec_start_req);
+    m_channel.read(request);
     m_sessions_wanted = request.field_1; // what was sent as `field_3`
     tum_nal_data_rec_res response{};
     response.field_1 = result_done;
     set_text(response.field_2, "restored from the store");
     response.field_3 = static_cast<uint32_t>(m_sessions.size());
-    m_channel.send(message_kind::rec_start_res, response, tum_nal_data_gpb_encode_tum_rec_start_res);
+    m_channel.send(message_kind::rec_start_res, response);
 }
 
 void restarted_receiver::answer_states()
 {
     tum_nal_data_rec_sess_req request;
-    m_channel.read(request, tum_nal_data_gpb_decode_tum_rec_sess_req);
+    m_channel.read(request);
     tum_nal_data_rec_sess_res response{};
     response.field_1 = request.field_1;
     response.field_4 = static_cast<uint32_t>(m_sessions.size());
@@ -74,7 +74,7 @@ void restarted_receiver::answer_states()
         name_unknown(response);
     else
         name_different(request, response);
-    m_channel.send(message_kind::rec_sess_res, response, tum_nal_data_gpb_encode_tum_rec_sess_res);
+    m_channel.send(message_kind::rec_sess_res, response);
 }
 
 // An answer has as much room as a request: should all sessions of one differ, they fit.
@@ -109,7 +109,7 @@ void restarted_receiver::name_unknown(tum_nal_data_rec_sess_res &response) const
 void restarted_receiver::answer_delete()
 {
     tum_nal_data_session_delete request;
-    m_channel.read(request, tum_nal_data_gpb_decode_tum_session_delete);
+    m_channel.read(request);
     tum_nal_data_sess_oper_resp response{};
     response.field_1 = result_wrong;
     response.field_2 = request.field_2;
@@ -122,14 +122,14 @@ void restarted_receiver::answer_delete()
         fill_statistics(response.field_9, request.field_4, session); // its last ones
         m_sessions.remove(request.field_4);
     }
-    m_channel.send(message_kind::sess_oper_resp, response, tum_nal_data_gpb_encode_tum_sess_oper_resp);
+    m_channel.send(message_kind::sess_oper_resp, response);
 }
 
 // The record is of another type than the one that the keeper filled: the members stand in another order.
 void restarted_receiver::answer_replay()
 {
     tum_nal_data_rec_sess_replay_req_decode request;
-    m_channel.read(request, tum_nal_data_gpb_decode_tum_rec_sess_replay_req);
+    m_channel.read(request);
     if (request.field_4_count != 1)
         throw stream_error("a rec_sess_replay_req without a session came");
     tum_nal_data_rec_sess_replay_resp response{};
@@ -138,7 +138,7 @@ void restarted_receiver::answer_replay()
         refuse(request.field_4[0], response);
     else
         take(request.field_4[0], response);
-    m_channel.send(message_kind::rec_sess_replay_resp, response, tum_nal_data_gpb_encode_tum_rec_sess_replay_resp);
+    m_channel.send(message_kind::rec_sess_replay_resp, response);
 }
 
 void restarted_receiver::refuse(
@@ -172,20 +172,19 @@ bool restarted_receiver::refuses(uint16_t attempt)
 void restarted_receiver::answer_complete()
 {
     tum_nal_data_rec_complete_req request;
-    m_channel.read(request, tum_nal_data_gpb_decode_tum_rec_complete_req);
+    m_channel.read(request);
     tum_nal_data_rec_res response{};
     response.field_1 = request.field_2 == m_sessions.size() ? result_done : result_wrong;
     set_text(response.field_2, response.field_1 == result_done ? "complete" : "the receiver holds another number");
     response.field_3 = static_cast<uint32_t>(m_sessions.size());
-    m_channel.send(message_kind::rec_complete_res, response, tum_nal_data_gpb_encode_tum_rec_complete_res);
+    m_channel.send(message_kind::rec_complete_res, response);
     m_is_complete = true;
 }
 
 void restarted_receiver::send_held_sessions()
 {
     for (const auto &[number, entry] : m_sessions.entries())
-        m_channel.send(
-            message_kind::held_session, m_sessions.session(number), tum_nal_data_gpb_encode_tum_session_context);
+        m_channel.send(message_kind::held_session, m_sessions.session(number));
 }
 
 void restarted_receiver::spoil_one()

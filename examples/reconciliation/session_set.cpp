@@ -1,7 +1,8 @@
 #include "session_set.h"
 
+#include "mava_tum/cpp/adapters.hpp"
+
 #include <algorithm>
-#include <array>
 #include <stdexcept>
 
 namespace examples::reconciliation
@@ -18,20 +19,6 @@ uint64_t hash_of(const Bytes &bytes)
     for (const auto byte : bytes)
         hash = (hash ^ static_cast<uint8_t>(byte)) * 0x100000001B3;
     return hash;
-}
-
-tum_nal_data_session_context decoded(std::span<const uint8_t> wire)
-{
-    tum_nal_data_session_context session;
-    tum_nal_data_gpb_decode_tum_session_context(wire.data(), static_cast<uint32_t>(wire.size()), &session);
-    return session;
-}
-
-std::vector<uint8_t> encoded(const tum_nal_data_session_context &session)
-{
-    std::array<uint8_t, TUM_NAL_SESSION_CONTEXT_MAX_SIZE> buffer;
-    const uint64_t size = tum_nal_data_gpb_encode_tum_session_context(&session, buffer.data(), buffer.size());
-    return {buffer.data(), buffer.data() + size};
 }
 
 std::string difference_of(const session_set::entry &wanted, const session_set::entry &held)
@@ -51,12 +38,12 @@ session_number number_of(std::string_view line)
 
 void session_set::put(const tum_nal_data_session_context &session)
 {
-    put_entry(session.session_text, encoded(session));
+    put_entry(session.session_text, mava_tum::cpp::encode(session));
 }
 
 void session_set::put_wire(std::span<const uint8_t> wire)
 {
-    put_entry(decoded(wire).session_text, {wire.begin(), wire.end()});
+    put_entry(mava_tum::cpp::decode<tum_nal_data_session_context>(wire).session_text, {wire.begin(), wire.end()});
 }
 
 void session_set::put_entry(std::string line, std::vector<uint8_t> wire)
@@ -86,7 +73,7 @@ const session_set::entry &session_set::at(session_number number) const
 
 tum_nal_data_session_context session_set::session(session_number number) const
 {
-    return decoded(at(number).wire);
+    return mava_tum::cpp::decode<tum_nal_data_session_context>(at(number).wire);
 }
 
 tum_nal_data_session_state session_set::state(session_number number) const

@@ -14,6 +14,8 @@
 #include "stream_link.h"
 #include "subscriber_file.h"
 
+#include "mava_tum/cpp/adapters.hpp"
+
 #include <algorithm>
 #include <charconv>
 #include <chrono>
@@ -141,8 +143,7 @@ private:
         std::vector<uint64_t> sizes(sessions.size());
         const std::clock_t start = std::clock();
         for (size_t i = 0; i < sessions.size(); ++i)
-            sizes[i] = tum_nal_data_gpb_encode_tum_session_context(
-                sessions[i], m_encoded.data() + i * place_bytes, place_bytes);
+            sizes[i] = mava_tum::cpp::encode(*sessions[i], {m_encoded.data() + i * place_bytes, place_bytes}).size;
         m_in_adapter += std::clock() - start;
         m_batch.clear();
         for (size_t i = 0; i < sessions.size(); ++i)

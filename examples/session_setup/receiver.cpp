@@ -7,6 +7,8 @@
 #include "stopwatch.h"
 #include "wire_annotation.h"
 
+#include "mava_tum/cpp/adapters.hpp"
+
 #include <iostream>
 #include <unistd.h>
 #include <utility>
@@ -27,10 +29,7 @@ public:
 
     void receive(const subscriber &who, std::span<const uint8_t> message)
     {
-        m_decoding.measure([&] {
-            tum_nal_data_gpb_decode_tum_session_context(
-                message.data(), static_cast<uint32_t>(message.size()), &m_session);
-        });
+        m_decoding.measure([&] { mava_tum::cpp::decode(message, m_session); });
         if (m_sessions < table_rows)
             m_table.add(m_session, message.size());
         if (m_sessions == 0)

@@ -4,6 +4,8 @@
 #include "session_record.h"
 #include "stopwatch.h"
 
+#include "mava_tum/cpp/adapters.hpp"
+
 #include <unistd.h>
 
 namespace examples::session_setup
@@ -38,11 +40,8 @@ std::string send_sessions(const std::string &path, const std::vector<subscriber>
     size_t total_bytes = 0;
     for (const subscriber &who : subscribers) {
         fill_session_record(record, who);
-        const uint64_t size = encoding.measure([&] {
-            return tum_nal_data_gpb_encode_tum_session_context(
-                &record, buffer.data(), static_cast<uint32_t>(buffer.size()));
-        });
-        if (size > buffer.size()) // the output was cut
+        const auto [size, complete] = encoding.measure([&] { return mava_tum::cpp::encode(record, buffer); });
+        if (!complete)
             throw stream_error(place_of(path, who) + "needs " + std::to_string(size) +
                                " bytes, more than a frame may "
                                "have; shorten its texts");

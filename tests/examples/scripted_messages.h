@@ -31,10 +31,9 @@ public:
 
     // All messages of a script together must fit into the pipe, some 64 kB.
     template <typename Record>
-    void add(examples::reconciliation::message_kind kind, const Record &record,
-        uint64_t (*encode)(const Record *, uint8_t *, uint32_t))
+    void add(examples::reconciliation::message_kind kind, const Record &record)
     {
-        examples::reconciliation::message_channel(-1, m_ends[1]).send(kind, record, encode);
+        examples::reconciliation::message_channel(-1, m_ends[1]).send(kind, record);
     }
 
     // The stream ends after the last message.

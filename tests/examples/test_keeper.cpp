@@ -26,7 +26,7 @@ protected:
         tum_nal_data_rec_res response{};
         response.field_1 = result;
         strcpy(response.field_2, text);
-        m_script.add(message_kind::rec_start_res, response, tum_nal_data_gpb_encode_tum_rec_start_res);
+        m_script.add(message_kind::rec_start_res, response);
     }
 
     void answer_states(uint32_t request, const std::vector<session_number> &numbers, uint8_t more = 0)
@@ -36,7 +36,7 @@ protected:
         response.field_3 = more;
         for (const session_number number : numbers)
             response.field_2[response.field_2_count++] = {0, number, 0};
-        m_script.add(message_kind::rec_sess_res, response, tum_nal_data_gpb_encode_tum_rec_sess_res);
+        m_script.add(message_kind::rec_sess_res, response);
     }
 
     void answer_delete(uint32_t request, uint32_t result, const char *text)
@@ -46,7 +46,7 @@ protected:
         response.field_2 = request;
         response.field_4 = number_of("stranger");
         strcpy(response.field_6, text);
-        m_script.add(message_kind::sess_oper_resp, response, tum_nal_data_gpb_encode_tum_sess_oper_resp);
+        m_script.add(message_kind::sess_oper_resp, response);
     }
 
     tum_nal_data_rec_sess_replay_resp refusal(uint32_t request) const
@@ -71,14 +71,14 @@ protected:
 
     void answer_replay(const tum_nal_data_rec_sess_replay_resp &response)
     {
-        m_script.add(message_kind::rec_sess_replay_resp, response, tum_nal_data_gpb_encode_tum_rec_sess_replay_resp);
+        m_script.add(message_kind::rec_sess_replay_resp, response);
     }
 
     void answer_complete(uint32_t held)
     {
         tum_nal_data_rec_res response{};
         response.field_3 = held;
-        m_script.add(message_kind::rec_complete_res, response, tum_nal_data_gpb_encode_tum_rec_complete_res);
+        m_script.add(message_kind::rec_complete_res, response);
     }
 
     // Up to the replay of the one session, which is request 3.

@@ -18,7 +18,7 @@ protected:
         tum_nal_data_rec_start_req request{};
         request.field_1 = 5; // a number that does not arrive
         request.field_3 = sessions;
-        m_script.add(message_kind::rec_start_req, request, tum_nal_data_gpb_encode_tum_rec_start_req);
+        m_script.add(message_kind::rec_start_req, request);
     }
 
     void name(const std::vector<session_number> &numbers)
@@ -26,7 +26,7 @@ protected:
         tum_nal_data_rec_sess_req request{};
         for (const session_number number : numbers)
             request.field_3[request.field_3_count++] = {1, number, 1};
-        m_script.add(message_kind::rec_sess_req, request, tum_nal_data_gpb_encode_tum_rec_sess_req);
+        m_script.add(message_kind::rec_sess_req, request);
     }
 
     void replay(const tum_nal_data_session_context &session, uint32_t count = 1)
@@ -35,13 +35,12 @@ protected:
         request.field_2 = 1;
         request.field_4_count = count;
         request.field_4[0] = session;
-        m_script.add(message_kind::rec_sess_replay_req, request, tum_nal_data_gpb_encode_tum_rec_sess_replay_req);
+        m_script.add(message_kind::rec_sess_replay_req, request);
     }
 
     void complete()
     {
-        m_script.add(message_kind::rec_complete_req, tum_nal_data_rec_complete_req{},
-            tum_nal_data_gpb_encode_tum_rec_complete_req);
+        m_script.add(message_kind::rec_complete_req, tum_nal_data_rec_complete_req{});
     }
 
     std::string error_of_run()
@@ -87,6 +86,6 @@ TEST_F(scripted_keeper, that_ends_before_the_run_is_complete_is_an_error)
 
 TEST_F(scripted_keeper, that_sends_an_answer_is_refused)
 {
-    m_script.add(message_kind::rec_start_res, tum_nal_data_rec_res{}, tum_nal_data_gpb_encode_tum_rec_start_res);
+    m_script.add(message_kind::rec_start_res, tum_nal_data_rec_res{});
     EXPECT_EQ(error_of_run(), "a rec_start_res came, which a keeper does not send");
 }
