@@ -32,6 +32,7 @@ from collections.abc import Mapping
 from typing import Any, Final, Literal, overload
 
 from . import types as types
+from .application_reader import RecordView as RecordView, app_view as app_view
 from .errors import DecodeError as DecodeError, Error as Error, FieldTypeError as FieldTypeError
 from .errors import FieldValueError as FieldValueError, LibraryError as LibraryError
 from .errors import UnknownNameError as UnknownNameError

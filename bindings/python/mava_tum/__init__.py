@@ -2,6 +2,7 @@
 
     decode, encode            one of the 40 messages, as a dict of the fields that are present
     app_decode, app_encode    the same through one of the 19 adapters, as a dict of the application's record
+    app_view                  the same as app_decode, for those who read a few members
     to_json, app_to_json      such a dict with values that JSON has, in the form of the command mava-tum
     app_unsent                which members of such a record are not sent, and why
     messages, adapters        the names that these take
@@ -12,7 +13,7 @@ Everything that goes wrong is raised as an `Error`."""
 
 from __future__ import annotations
 
-from .application_reader import app_decode
+from .application_reader import RecordView, app_decode, app_view
 from .application_writer import app_encode
 from .codec_reader import decode
 from .codec_writer import encode
@@ -31,6 +32,7 @@ __all__ = [
     "FieldValueError",
     "LibraryError",
     "Member",
+    "RecordView",
     "UnknownNameError",
     "__version__",
     "adapters",
@@ -39,6 +41,7 @@ __all__ = [
     "app_members",
     "app_to_json",
     "app_unsent",
+    "app_view",
     "constants",
     "decode",
     "encode",

@@ -2,6 +2,7 @@
 
 from __future__ import annotations
 
+from collections.abc import Iterator, Mapping
 from typing import Any
 
 from .library import ffi, library
@@ -18,12 +19,55 @@ def app_decode(name: str, data: bytes | bytearray | memoryview, *, dotted: bool 
 
     An adapter reports nothing: of a malformed message, the part before the fault arrives. If you need the result, use
     `decode`."""
-    adapter = find_adapter(name)
+    c_type, record = _decode(name, data)
+    return read_record(c_type, record, dotted)
+
+
+def app_view(name: str, data: bytes | bytearray | memoryview, *, dotted: bool = False) -> RecordView:
+    """The same, for those who read a few members: each is converted when it is read."""
+    c_type, record = _decode(name, data)
+    return RecordView(c_type, record, dotted, record)
+
+
+class RecordView(Mapping[str, Any]):
+    """A decoded record as a mapping that cannot be changed. Nested records are such mappings, too."""
+
+    __slots__ = ("_members", "_record", "_dotted", "_owner")
+
+    def __init__(self, c_type: str, record: Any, dotted: bool, owner: Any) -> None:
+        self._members = APPLICATION_RECORDS[c_type]
+        self._record = record
+        self._dotted = dotted
+        self._owner = owner  # whose memory `record` is in
+
+    def __getitem__(self, name: str) -> Any:
+        member = self._members[name]
+        if member.kind == "record":
+            return RecordView(member.of, getattr(self._record, name), self._dotted, self._owner)
+        if member.kind == "record_array":
+            elements = getattr(self._record, name)
+            return [RecordView(member.of, elements[index], self._dotted, self._owner)
+                    for index in used_slots(member, self._record)]
+        return READERS[member.kind](member, self._record, self._dotted)
+
+    def __iter__(self) -> Iterator[str]:
+        return iter(self._members)
+
+    def __len__(self) -> int:
+        return len(self._members)
+
+    def __repr__(self) -> str:
+        return f"RecordView({dict(self)})"
+
+
+def _decode(name: str, data: bytes | bytearray | memoryview) -> tuple[str, Any]:
+    """The C type of the record, and the record."""
+    c_type = find_adapter(name).decode
     content = wire_bytes("data", data)
-    record = ffi.new(f"{adapter.decode} *")
+    record = ffi.new(f"{c_type} *")
     length = to_number("length of data", len(content), LENGTH_BITS)
     getattr(library, f"tum_nal_data_gpb_decode_tum_{name}")(ffi.from_buffer("uint8_t[]", content), length, record)
-    return read_record(adapter.decode, record, dotted)
+    return c_type, record
 
 
 def read_record(c_type: str, record: Any, dotted: bool) -> dict[str, Any]:

@@ -5,8 +5,8 @@ from __future__ import annotations
 from collections.abc import Mapping
 from typing import Any
 
-from .library import call_codec, encoded, ffi
-from .schema import MESSAGES, Field, Message, find_message
+from .library import encoded, ffi, library
+from .schema import MESSAGES, Field, find_message, unknown_name
 from .shapes import as_list, as_record
 from .values import CODEC_ORDER, from_bytes, from_text, to_number_or_address
 
@@ -18,69 +18,99 @@ def encode(name: str, fields: Mapping[str, Any]) -> bytes:
     and is left out. IPv4 addresses may be numbers or texts.
 
     Raises UnknownNameError, FieldTypeError or FieldValueError, with the path of the field."""
-    message = find_message(name)
+    find_message(name)
     blocks: Blocks = []
-    record = ffi.new(f"{message.c_type} *")
-    fill_record(message, record, fields, message.name, blocks)
-    arguments = {"record": record, "segments": ffi.NULL, "segment_count": ffi.NULL, "flags": 0}
-    return encoded(lambda buffer, length: call_codec(
-        message, "encode_ext", {**arguments, "buffer": buffer, "length": length}))
+    pointer, function, more = _FUNCTIONS[name]
+    record = ffi.new(pointer)
+    fill_record(name, record, fields, name, blocks)
+    return encoded(lambda buffer, length: function(record, buffer, length, *more))
 
 
-def fill_record(message: Message, record: Any, fields: Any, path: str, blocks: Blocks) -> None:
-    for name, value in as_record(path, fields, message.fields).items():
-        field = message.fields[name]
-        WRITERS[field.kind](field, record, value, f"{path}.{name}", blocks)
-        record.presence_mask |= 1 << field.bit
+def fill_record(message: str, record: Any, fields: Any, path: str, blocks: Blocks) -> None:
+    rows = _ROWS[message]
+    if type(fields) is not dict:
+        as_record(path, fields, rows)  # another mapping passes
+    mask = 0
+    for name, value in fields.items():
+        row = rows.get(name)
+        if row is None:
+            raise unknown_name(f"{path} has no field", name, rows)
+        bit, limit, field, write = row
+        mask |= bit
+        # The most frequent values are recognised by their type; the functions of `values` accept or refuse all others.
+        if type(value) is int and 0 <= value < limit:
+            setattr(record, name, value)
+        else:
+            write(field, record, value, path, blocks)
+    record.presence_mask = mask
 
 
-def write_number(field: Field, record: Any, value: Any, path: str, blocks: Blocks) -> None:
-    setattr(record, field.name, to_number_or_address(path, value, field.bits, field.address, CODEC_ORDER))
+def _write_number(field: Field, record: Any, value: Any, path: str, blocks: Blocks) -> None:
+    setattr(record, field.name,
+            to_number_or_address(f"{path}.{field.name}", value, field.bits, field.address, CODEC_ORDER))
 
 
-def write_bytes(field: Field, record: Any, value: Any, path: str, blocks: Blocks) -> None:
-    content = from_bytes(path, value)
-    block = ffi.new("uint8_t[]", content)
+def _write_bytes(field: Field, record: Any, value: Any, path: str, blocks: Blocks) -> None:
+    content = value if type(value) is bytes else from_bytes(f"{path}.{field.name}", value)
+    block = ffi.from_buffer(_OCTETS, content)
     blocks.append(block)
     target = getattr(record, field.name)
     target.data, target.length = block, len(content)
 
 
-def write_text(field: Field, record: Any, value: Any, path: str, blocks: Blocks) -> None:
-    block = ffi.new("char[]", from_text(path, value))
+def _text_block(content: bytes, blocks: Blocks) -> Any:
+    block = ffi.from_buffer(_CHARACTERS, content + b"\0")
     blocks.append(block)
-    setattr(record, field.name, block)
+    return block
 
 
-def write_nested(field: Field, record: Any, value: Any, path: str, blocks: Blocks) -> None:
-    fill_record(MESSAGES[field.of], getattr(record, field.name), value, path, blocks)
+def _write_text(field: Field, record: Any, value: Any, path: str, blocks: Blocks) -> None:
+    is_plain = type(value) is str and value.isascii() and "\0" not in value
+    content = value.encode() if is_plain else from_text(f"{path}.{field.name}", value)
+    setattr(record, field.name, _text_block(content, blocks))
 
 
-def write_record_array(field: Field, record: Any, value: Any, path: str, blocks: Blocks) -> None:
+def _write_nested(field: Field, record: Any, value: Any, path: str, blocks: Blocks) -> None:
+    fill_record(field.of, getattr(record, field.name), value, f"{path}.{field.name}", blocks)
+
+
+def _write_record_array(field: Field, record: Any, value: Any, path: str, blocks: Blocks) -> None:
+    path = f"{path}.{field.name}"
     values = as_list(path, value)
-    element = MESSAGES[field.of]
-    elements = ffi.new(f"{element.c_type}[]", len(values))
+    elements = ffi.new(_ARRAYS[field.of], len(values))
     blocks.append(elements)
     for index, each in enumerate(values):
-        fill_record(element, elements[index], each, f"{path}[{index}]", blocks)
+        fill_record(field.of, elements[index], each, f"{path}[{index}]", blocks)
     setattr(record, field.name, elements)
     setattr(record, field.count, len(values))
 
 
-def write_text_array(field: Field, record: Any, value: Any, path: str, blocks: Blocks) -> None:
-    texts = [ffi.new("char[]", from_text(f"{path}[{index}]", each)) for index, each in enumerate(as_list(path, value))]
+def _write_text_array(field: Field, record: Any, value: Any, path: str, blocks: Blocks) -> None:
+    path = f"{path}.{field.name}"
+    texts = [_text_block(from_text(f"{path}[{index}]", each), blocks) for index, each in enumerate(as_list(path, value))]
     elements = ffi.new("char *[]", texts)
-    blocks += [*texts, elements]
+    blocks.append(elements)
     setattr(record, field.name, elements)
     setattr(record, field.count, len(texts))
 
 
-WRITERS = {
-    "varint": write_number,
-    "fixed32": write_number,
-    "bytes": write_bytes,
-    "text": write_text,
-    "record": write_nested,
-    "record_array": write_record_array,
-    "text_array": write_text_array,
+_WRITERS = {
+    "varint": _write_number,
+    "fixed32": _write_number,
+    "bytes": _write_bytes,
+    "text": _write_text,
+    "record": _write_nested,
+    "record_array": _write_record_array,
+    "text_array": _write_text_array,
 }
+_CHARACTERS = ffi.typeof("char[]")
+_OCTETS = ffi.typeof("uint8_t[]")
+_ARRAYS = {name: ffi.typeof(f"{message.c_type}[]") for name, message in MESSAGES.items()}
+# With the limit of a number's values; of others, 0.
+_ROWS = {name: {field.name: (1 << field.bit, 1 << field.bits if field.bits else 0, field, _WRITERS[field.kind])
+                for field in message.fields.values()}
+         for name, message in MESSAGES.items()}
+# With the arguments behind the buffer: segments and their number, and for some messages the flags.
+_FUNCTIONS = {name: (ffi.typeof(f"{message.c_type} *"), getattr(library, f"{message.c_type}_encode_ext"),
+                     (ffi.NULL, ffi.NULL, 0)[:len(message.functions["encode_ext"]) - 3])
+              for name, message in MESSAGES.items()}

@@ -9,16 +9,15 @@ from __future__ import annotations
 
 import functools
 import os
-from collections.abc import Callable, Mapping
+from collections.abc import Callable
 from pathlib import Path
 from typing import Any
 
 from ._declarations import ffi
 from ._location import INSPECT_SONAME, LIBRARIES_FROM_PACKAGE, SONAME
 from .errors import LibraryError
-from .schema import Message
 
-__all__ = ["call_codec", "encoded", "ffi", "inspect_library", "library", "load"]
+__all__ = ["encoded", "ffi", "inspect_library", "library", "load"]
 
 
 def _file_to_load(variable: str, soname: str) -> str:
@@ -53,17 +52,18 @@ def inspect_library() -> Any | None:
 
 library = load()
 
-
-def call_codec(message: Message, function: str, arguments: Mapping[str, Any]) -> Any:
-    """Calls one of the four functions of a message. Their parameters differ between messages: arguments are passed by
-    name, and those without a parameter are left out."""
-    parameters = message.functions[function]
-    return getattr(library, f"{message.c_type}_{function}")(*[arguments[each] for each in parameters])
+FIRST_BUFFER_BYTES = 64 << 10
+_BUFFER = ffi.typeof("uint8_t[]")
+_new_buffer = ffi.new_allocator(should_clear_after_alloc=False)
 
 
-def encoded(encode: Callable[[Any, int], Any]) -> bytes:
-    """The output of an encode function: a size request first, then the encode."""
-    size = encode(ffi.NULL, 0)
-    buffer = ffi.new("uint8_t[]", size)
-    encode(buffer, size)
-    return bytes(ffi.buffer(buffer, size))
+def encoded(encode: Callable[[Any, int], int]) -> bytes:
+    """The output of an encode function. Nearly all messages fit the first buffer."""
+    capacity = FIRST_BUFFER_BYTES
+    while True:
+        buffer = _new_buffer(_BUFFER, capacity)
+        size = encode(buffer, capacity)
+        if size <= capacity:
+            output: bytes = ffi.buffer(buffer, size)[:]
+            return output
+        capacity = size

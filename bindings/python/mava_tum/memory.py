@@ -1,6 +1,6 @@
-"""The memory of one decode. Keeps a list of all blocks until the decode's record has been freed. So every block is
-released, also after an error, and also the blocks that are dropped when a nested record occurs twice. The objects of
-the result count, too: a few wire bytes may become a large dictionary."""
+"""The memory of one decode: blocks that are cut from a few chunks and released all together, also after an error, and
+also those that are dropped when a nested record occurs twice. The objects of the result count, too: a few wire bytes
+may become a large dictionary."""
 
 from __future__ import annotations
 
@@ -10,11 +10,18 @@ from typing import Any
 from .library import ffi
 
 WORD_BYTES = 8  # the alignment that the strictest record asks for
+FIRST_CHUNK_BYTES = 2 << 10  # enough for most messages
+CHUNK_BYTES = 64 << 10
+LARGE_BYTES = CHUNK_BYTES // 8
 # Measured with CPython 3.11. The content of texts and of blocks comes on top.
-BLOCK_BYTES = 160  # to remember a block
+BLOCK_BYTES = 160  # of the result: a text, or the list of an array
 RECORD_BYTES = 100  # of the result: a dictionary in a list
 FIELD_BYTES = 100  # an entry of a dictionary, and its value
 DEFAULT_LIMIT = 64 << 20
+NO_BLOCK = 0
+
+_WORDS = ffi.typeof("uint64_t[]")
+_ADDRESS = ffi.typeof("uintptr_t")
 
 
 class LimitReached(Exception):
@@ -22,62 +29,65 @@ class LimitReached(Exception):
 
 
 class Blocks:
-    """Allocates and releases blocks. The limit for blocks and counted records together is `limit` bytes (None: no
-    limit). A context manager."""
+    """Allocates blocks. The limit for blocks and counted records together is `limit` bytes (None: no limit). A context
+    manager: the blocks are released at its end."""
 
     def __init__(self, limit: int | None = None) -> None:
         self.limit = limit
-        self.spent_bytes = 0
+        self.left_bytes = float("inf") if limit is None else limit
         self.refused = False
-        self._blocks: dict[int, Any] = {}
-        self._handle = ffi.new_handle(self)
+        self.chunks: list[Any] = []
+        self._next = self._end = 0  # addresses in the last chunk
+        self.handle = ffi.new_handle(self.obtain)  # the context of ALLOC_FN
 
     def __enter__(self) -> Blocks:
         return self
 
     def __exit__(self, kind: type[BaseException] | None, error: BaseException | None,
                  trace: TracebackType | None) -> None:
-        self._handle = None  # it refers back to this object
-        self._blocks.clear()
+        self.handle = None  # it refers back to this object
+        self.chunks.clear()
 
-    def obtain(self, size: int) -> Any:
-        """A block, or null if the limit is reached or the allocation fails."""
-        if not self._spend(size + BLOCK_BYTES):
-            return ffi.NULL
+    def obtain(self, size: int) -> int:
+        """The address of a zeroed block, or NO_BLOCK if the limit is reached or the allocation fails."""
+        left_bytes = self.left_bytes - size - BLOCK_BYTES
+        if left_bytes < 0:
+            self.refused = True
+            return NO_BLOCK
+        self.left_bytes = left_bytes
+        block = self._next
+        end = block + (size + WORD_BYTES & -WORD_BYTES)  # an empty block has an address, too
+        if end > self._end:
+            return self._obtain_from_new_chunk(size)
+        self._next = end
+        return block
+
+    def _obtain_from_new_chunk(self, size: int) -> int:
+        is_large = size > LARGE_BYTES  # gets a chunk of its own: the last one stays in use
+        chunk_bytes = CHUNK_BYTES if self.chunks else FIRST_CHUNK_BYTES
         try:
-            # An empty block has an address, too: null would be a failure.
-            block = ffi.new("uint64_t[]", size // WORD_BYTES + 1)
+            chunk = ffi.new(_WORDS, (size if is_large else max(size, chunk_bytes)) // WORD_BYTES + 1)
         except (MemoryError, OverflowError):
             self.refused = True
-            return ffi.NULL
-        self._blocks[int(ffi.cast("uintptr_t", block))] = block
-        return ffi.cast("void *", block)
+            return NO_BLOCK
+        self.chunks.append(chunk)
+        block = int(ffi.cast(_ADDRESS, chunk))
+        if not is_large:
+            self._next, self._end = block + (size + WORD_BYTES & -WORD_BYTES), block + ffi.sizeof(chunk)
+        return block
 
-    def count_record(self, fields: dict[str, Any]) -> None:
+    def count_record(self, field_count: int) -> None:
         """Counts a record of the result and its values. Raises LimitReached."""
-        if not self._spend(RECORD_BYTES + FIELD_BYTES * len(fields)):
+        self.left_bytes -= RECORD_BYTES + FIELD_BYTES * field_count
+        if self.left_bytes < 0:
+            self.refused = True
             raise LimitReached
 
-    def _spend(self, size: int) -> bool:
-        if self.limit is not None and self.spent_bytes + size > self.limit:
-            self.refused = True
-            return False
-        self.spent_bytes += size
-        return True
 
-    def give_back(self, pointer: Any) -> None:
-        del self._blocks[int(ffi.cast("uintptr_t", pointer))]
-
-    def arguments(self) -> dict[str, Any]:
-        """The callbacks for decode and free functions, by the names of the parameters."""
-        return {"alloc_fn": _obtain, "alloc_ctx": self._handle, "release_fn": _give_back, "release_ctx": self._handle}
+@ffi.callback("uintptr_t(uint64_t, void *)", error=NO_BLOCK)
+def _obtain(size: int, context: Any) -> int:
+    block: int = ffi.from_handle(context)(size)
+    return block
 
 
-@ffi.callback("void *(uint64_t, void *)", error=ffi.NULL)
-def _obtain(size: int, context: Any) -> Any:
-    return ffi.from_handle(context).obtain(size)
-
-
-@ffi.callback("void(void *, void *)")
-def _give_back(pointer: Any, context: Any) -> None:
-    ffi.from_handle(context).give_back(pointer)
+ALLOC_FN = ffi.cast("mava_tum_alloc_fn", _obtain)

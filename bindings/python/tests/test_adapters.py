@@ -2,6 +2,7 @@
 
 from __future__ import annotations
 
+import gc
 from typing import Any
 
 import pytest
@@ -50,6 +51,35 @@ def test_what_an_adapter_sends_is_a_message_to_the_codec_and_to_the_runtime(adap
 def test_what_a_symmetric_adapter_sends_arrives(adapter: str, data: Any) -> None:
     fields = data.draw(application_records(ADAPTERS[adapter].encode))
     assert mava_tum.app_decode(adapter, mava_tum.app_encode(adapter, fields)) == fields
+
+
+@pytest.mark.parametrize("adapter", mava_tum.adapters())
+@pytest.mark.parametrize("dotted", [False, True])
+@for_all(data=st.data())
+def test_a_view_shows_what_a_decode_returns(adapter: str, dotted: bool, data: Any) -> None:
+    wire = mava_tum.app_encode(adapter, data.draw(application_records(ADAPTERS[adapter].encode)))
+    fields = mava_tum.app_decode(adapter, wire, dotted=dotted)
+    view = mava_tum.app_view(adapter, wire, dotted=dotted)
+    assert (view, list(view), len(view)) == (fields, list(fields), len(fields))
+    assert mava_tum.app_encode(adapter, view) == mava_tum.app_encode(adapter, fields)
+
+
+def test_a_part_of_a_view_outlives_the_view_and_the_input() -> None:
+    sent = {"feature_mask": 1 << 0, "qos": [{"text_3": "gold"}, {"text_3": "silver"}]}
+    wire = bytearray(mava_tum.app_encode("session_context", sent))
+    qos = mava_tum.app_view("session_context", wire)["qos"]
+    wire[:] = bytes(len(wire))
+    gc.collect()
+    assert [each["text_3"] for each in qos] == ["gold", "silver"]
+
+
+def test_a_view_has_the_members_of_its_record_only() -> None:
+    view = mava_tum.app_view("session_context", b"")
+    assert "mtu_1_value" in view and "qos_coun" not in view
+    with pytest.raises(KeyError):
+        view["qos_coun"]
+    with pytest.raises(TypeError):
+        view["mtu_1_value"] = 1  # type: ignore[index]
 
 
 @pytest.mark.parametrize("adapter", mava_tum.adapters())

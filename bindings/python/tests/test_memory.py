@@ -14,7 +14,7 @@ from hypothesis import strategies as st
 import mava_tum
 from mava_tum import codec_reader
 from mava_tum.library import ffi
-from mava_tum.memory import BLOCK_BYTES, Blocks
+from mava_tum.memory import BLOCK_BYTES, CHUNK_BYTES, NO_BLOCK, WORD_BYTES, Blocks
 from strategies import codec_records, for_all
 
 SESSION = {"field_6": b"\1\2", "session_data": {"field_5": "user", "l2tp": {"field_19": "name"}},
@@ -22,26 +22,19 @@ SESSION = {"field_6": b"\1\2", "session_data": {"field_5": "user", "l2tp": {"fie
 
 
 class CountingBlocks(Blocks):
-    """Counts allocations and releases, and fails on request."""
+    """Counts allocations, and fails on request."""
 
     every: list[CountingBlocks] = []
     fail_at: int | None = None
 
     def __init__(self, limit: int | None = None) -> None:
         super().__init__(limit)
-        self.obtained = self.given_back = self.calls = 0
+        self.calls = 0
         CountingBlocks.every.append(self)
 
-    def obtain(self, size: int) -> Any:
+    def obtain(self, size: int) -> int:
         self.calls += 1
-        if self.calls - 1 == CountingBlocks.fail_at:
-            return ffi.NULL
-        self.obtained += 1
-        return super().obtain(size)
-
-    def give_back(self, pointer: Any) -> None:
-        super().give_back(pointer)
-        self.given_back += 1
+        return NO_BLOCK if self.calls - 1 == CountingBlocks.fail_at else super().obtain(size)
 
 
 @pytest.fixture(autouse=True)
@@ -57,20 +50,23 @@ def only_one(counted: type[CountingBlocks]) -> CountingBlocks:
     return blocks
 
 
-def test_a_decode_gives_back_what_it_obtained(counted: type[CountingBlocks]) -> None:
+def test_a_decode_releases_what_it_obtained(counted: type[CountingBlocks]) -> None:
     assert mava_tum.decode("session_context", mava_tum.encode("session_context", SESSION)) == SESSION
     blocks = only_one(counted)
-    assert blocks.obtained == blocks.given_back == 7  # two arrays, five texts; bytes are not copied
+    assert (blocks.calls, blocks.chunks) == (7, [])  # two arrays, five texts; bytes are not copied
+    gone = weakref.ref(blocks)
+    counted.every.clear()
+    del blocks
+    assert gone() is None, "something still holds the blocks of a decode that is over"
 
 
 @pytest.mark.parametrize("message", mava_tum.messages())
 @for_all(data=st.data())
-def test_every_message_gives_back_what_it_obtained(message: str, data: Any) -> None:
+def test_every_message_releases_what_it_obtained(message: str, data: Any) -> None:
     wire = mava_tum.encode(message, data.draw(codec_records(message)))
     CountingBlocks.every.clear()
     mava_tum.decode(message, wire)
-    blocks = only_one(CountingBlocks)
-    assert blocks.obtained == blocks.given_back
+    assert not only_one(CountingBlocks).chunks
 
 
 def test_a_failing_allocation_leaves_nothing_behind(counted: type[CountingBlocks]) -> None:
@@ -80,11 +76,10 @@ def test_a_failing_allocation_leaves_nothing_behind(counted: type[CountingBlocks
         with pytest.raises(mava_tum.DecodeError, match=r"MAVA_TUM_NO_MEMORY \(-4\)"):
             mava_tum.decode("session_context", wire)
         blocks = only_one(counted)
-        assert blocks.calls == counted.fail_at + 1
-        assert blocks.obtained == blocks.given_back
+        assert (blocks.calls, blocks.chunks) == (counted.fail_at + 1, [])
 
 
-def test_a_broken_message_gives_back_what_it_obtained_before(counted: type[CountingBlocks]) -> None:
+def test_a_broken_message_releases_what_it_obtained_before(counted: type[CountingBlocks]) -> None:
     wire = mava_tum.encode("session_context", SESSION)
     for length in range(len(wire)):
         counted.every.clear()
@@ -92,19 +87,7 @@ def test_a_broken_message_gives_back_what_it_obtained_before(counted: type[Count
             mava_tum.decode("session_context", wire[:length])
         except mava_tum.DecodeError:
             pass
-        blocks = only_one(counted)
-        assert blocks.obtained == blocks.given_back
-
-
-def test_what_a_second_record_drops_goes_with_the_decode(counted: type[CountingBlocks]) -> None:
-    wire = mava_tum.encode("session_context", {"httpr": {"field_2": "first"}}) * 2
-    mava_tum.decode("session_context", wire)
-    blocks = only_one(counted)
-    assert (blocks.obtained, blocks.given_back) == (2, 1)
-    gone = weakref.ref(blocks)
-    counted.every.clear()
-    del blocks
-    assert gone() is None, "something still holds the blocks of a decode that is over"
+        assert not only_one(counted).chunks
 
 
 def test_memory_does_not_grow_with_the_number_of_calls(monkeypatch: pytest.MonkeyPatch) -> None:
@@ -132,23 +115,29 @@ def test_memory_does_not_grow_with_the_number_of_calls(monkeypatch: pytest.Monke
 
 def test_an_empty_block_is_a_block() -> None:
     with Blocks(limit=BLOCK_BYTES) as blocks:
-        assert blocks.obtain(0) != ffi.NULL
-        assert blocks.obtain(0) == ffi.NULL
+        assert blocks.obtain(0) != NO_BLOCK
+        assert blocks.obtain(0) == NO_BLOCK
         assert blocks.refused
 
 
-def test_a_block_that_was_given_back_is_no_longer_there() -> None:
+@for_all(sizes=st.lists(st.integers(0, CHUNK_BYTES), max_size=20))
+def test_blocks_are_aligned_zeroed_and_apart(sizes: list[int]) -> None:
     with Blocks() as blocks:
-        block = blocks.obtain(1)
-        blocks.give_back(block)
-        with pytest.raises(KeyError):
-            blocks.give_back(block)
+        taken = []
+        for size in sizes:
+            block = blocks.obtain(size)
+            content = ffi.buffer(ffi.cast("char *", block), size)
+            assert block % WORD_BYTES == 0 and content[:] == bytes(size)
+            content[:] = b"x" * size
+            taken.append((block, block + max(size, 1)))
+        taken.sort()
+        assert all(end <= start for (_, end), (start, _) in zip(taken, taken[1:]))
 
 
 def test_a_size_that_no_machine_has_is_refused() -> None:
     for size in (1 << 62, (1 << 64) - 1):
         with Blocks() as blocks:
-            assert blocks.obtain(size) == ffi.NULL
+            assert blocks.obtain(size) == NO_BLOCK
             assert blocks.refused
 
 
