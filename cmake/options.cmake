@@ -17,6 +17,7 @@ option(MAVA_TUM_BUILD_TOOLS "Build the tools around the library" ${PROJECT_IS_TO
 option(MAVA_TUM_BUILD_WEB "Build the inspector as a page for browsers" ${PROJECT_IS_TOP_LEVEL})
 option(MAVA_TUM_BUILD_BENCH "Build the benchmarks" OFF)
 option(MAVA_TUM_INSTALL "Install the library; as part of another project, with that project" ${PROJECT_IS_TOP_LEVEL})
+option(MAVA_TUM_PROBES "Put static probes for gdb, perf and bpftrace into the library, if <sys/sdt.h> is installed" ${PROJECT_IS_TOP_LEVEL})
 option(MAVA_TUM_REQUIRE_ALL "Stop if something that a part needs is not installed, rather than leave the part out" OFF)
 option(MAVA_TUM_WARNINGS_AS_ERRORS "Stop at the first compiler warning" OFF)
 option(MAVA_TUM_COVERAGE "Build everything with coverage counters" OFF)

@@ -14,6 +14,7 @@
 
 #include "codec/decode_unmatched.h"
 #include "codec/operations.h"
+#include "codec/probes.h"
 #include "codec/wire_read.h"
 
 #include <array>
@@ -29,6 +30,7 @@ struct decode_position {
     uint32_t first_byte; // of the tag at `at`, or a mark of `decode_unmatched`
     uint32_t present;
     int32_t result;
+    MAVA_TUM_PROBED(probed_place place{};)
 
     // False when the message is over.
     [[gnu::always_inline]] bool next_tag()
@@ -70,6 +72,7 @@ template <class Form, class Field>
         return true;
     const uint8_t *const value = position.at + Field::tag.length;
     const bool seen = (position.present & Field::bit) != 0;
+    MAVA_TUM_PROBED(position.place.field = Field::number;)
     if (!position.accept(Form::template place<Field>::read(record, seen, value, position.end, context)))
         return false;
     position.present |= Field::bit;
@@ -101,6 +104,7 @@ template <class Form>
     bool continues = position.next_tag();
     while (continues) {
         const uint8_t *const round_start = position.at;
+        MAVA_TUM_PROBED(position.place.round_start = round_start;)
         continues = decode_round<Form>(fields_of<typename Form::message>{}, record, position, context);
         if (!continues || position.at != round_start)
             continue;
@@ -108,9 +112,12 @@ template <class Form>
         position.at = unmatched.at;
         position.first_byte = unmatched.first_byte;
         position.result = unmatched.result;
+        MAVA_TUM_PROBED(position.place.field = 0;)
         continues = unmatched.at != nullptr;
     }
     Form::complete(record, position.present);
+    MAVA_TUM_PROBED(if (position.result != MAVA_TUM_OK)
+                        [[unlikely]] return report_fault<Form>(position.place, position.end, position.result);)
     return position.result;
 }
 
@@ -141,11 +148,14 @@ template <class Form>
     bool continues = position.next_tag();
     while (continues) {
         const uint8_t *const round_start = position.at;
+        MAVA_TUM_PROBED(position.place.round_start = round_start;)
         continues = decode_round<Form>(fields_of<typename Form::message>{}, record, position, {});
         if (continues && position.at == round_start) [[unlikely]]
             return decode_flat_rest<Form>(record, position.at, position.end, position.present);
     }
     Form::complete(record, position.present);
+    MAVA_TUM_PROBED(if (position.result != MAVA_TUM_OK)
+                        [[unlikely]] return report_fault<Form>(position.place, position.end, position.result);)
     return position.result;
 }
 

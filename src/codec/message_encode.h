@@ -3,6 +3,7 @@
 #pragma once
 
 #include "codec/encode_fields.h"
+#include "codec/probes.h"
 
 namespace mava_tum
 {
@@ -63,6 +64,7 @@ template <class Message, class Description, class Source>
     writer.finish();
     if (target.segment_count != nullptr)
         *target.segment_count = writer.segments.count;
+    MAVA_TUM_PROBED(report_size<Message>(writer.position, target.length);)
     return writer.position;
 }
 
