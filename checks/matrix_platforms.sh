@@ -9,7 +9,7 @@
 #   not_run       programs that are built and not run, each with the reason
 #   runner        what the test programs are started by; empty if they run by themselves
 # and exports what the programs read from their environment.
-readonly all_platforms=(address undefined memory thread valgrind i686 aarch64 s390x)
+readonly all_platforms=(address undefined memory thread valgrind clang15 clang16 i686 aarch64 s390x)
 
 # Without optimisations that would remove what a sanitizer checks. All others are optimised as for release.
 readonly clang=(-DCMAKE_C_COMPILER=clang-19 -DCMAKE_CXX_COMPILER=clang++-19
@@ -66,6 +66,30 @@ platform_valgrind() {
     packages=(valgrind libprotobuf-dev protobuf-compiler)
     runner=(valgrind --error-exitcode=99 --leak-check=full "--errors-for-leak-kinds=definite,indirect"
         --child-silent-after-fork=yes --log-file="$results/valgrind.%p.log")
+}
+
+# The older compilers of Debian 12. The other platforms run the whole suite with newer ones.
+platform_clang15() {
+    core_programs clang-15 clang++-15
+}
+
+platform_clang16() {
+    core_programs clang-16 clang++-16
+}
+
+core_programs() {
+    packages=("$1")
+    configure=(-DCMAKE_C_COMPILER="$1" -DCMAKE_CXX_COMPILER="$2")
+    targets=(test_codec test_messages test_leniency test_nal test_sweeps)
+    remark="only these programs: ${targets[*]}"
+}
+
+run_clang15() {
+    run_programs
+}
+
+run_clang16() {
+    run_programs
 }
 
 platform_i686() {
