@@ -1,8 +1,6 @@
 // Input and output of the module, which the host (a page or a test) reads and stores. This file replaces
-// input_file.cpp, capture_file.cpp, bad_use.cpp and output/ except the colours. Captures are rejected: libpcap is not
-// compiled for WebAssembly.
+// input_file.cpp, bad_use.cpp and output/ except the colours.
 #include "bad_use.h"
-#include "capture/capture_file.h"
 #include "input/input_stream.h"
 #include "module.h"
 #include "output/output_file.h"
@@ -35,24 +33,6 @@ void input_stream::refill(size_t wanted)
         m_buffer.resize(filled + received);
         m_at_end = received == 0;
     }
-}
-
-struct capture_file::libpcap {
-};
-
-capture_file::capture_file(input_stream &stream, capture_choice choice, std::function<void(const std::string &)> note)
-    : m_messages(std::move(choice), std::move(note))
-{
-    throw bad_use(fmt::format(
-        "{}: a capture, which this page does not read; `mava-tum decode -f capture --json` prints its messages",
-        stream.name()));
-}
-
-capture_file::~capture_file() = default;
-
-bool capture_file::next(captured_message &)
-{
-    return false;
 }
 
 // The host knows how far an input is read.

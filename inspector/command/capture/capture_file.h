@@ -1,4 +1,4 @@
-// The messages of a capture, pcap or pcapng, read with libpcap as they come.
+// The messages of a capture, pcap or pcapng, read packet by packet: memory holds one packet, and what waits for others.
 #pragma once
 
 #include "capture/capture_messages.h"
@@ -10,6 +10,11 @@
 
 namespace mava_tum_cli
 {
+
+class packet_reader;
+
+// Whether an input begins with the 8 bytes of a pcap or the 12 of a pcapng. No message does, but by intent.
+bool is_capture(std::span<const uint8_t> beginning);
 
 class capture_file
 {
@@ -24,9 +29,10 @@ public:
     bool next(captured_message &message);
 
 private:
-    struct libpcap;
+    // False at the end, and where the capture is broken: then there is a `problem`.
+    bool add_packet(std::string &problem);
 
-    std::unique_ptr<libpcap> m_libpcap;
+    std::unique_ptr<packet_reader> m_packets;
     capture_messages m_messages;
     bool m_is_finished = false;
 };

@@ -49,7 +49,17 @@ void capture_messages::add(const captured_packet &packet)
             packet.number));
     case packet_fault::not_ours:
         ++m_foreign_packets;
+        note_unknown_link(packet);
     }
+}
+
+// Of several, the last one: the number of notes is limited.
+void capture_messages::note_unknown_link(const captured_packet &packet)
+{
+    if (is_known_link(packet.link_type) || packet.link_type == m_unknown_link)
+        return;
+    m_unknown_link = packet.link_type;
+    note(fmt::format("packet {} is of link type {}, and such packets are not read", packet.number, packet.link_type));
 }
 
 void capture_messages::add_payload(const packet_payload &payload, uint64_t number)

@@ -22,7 +22,7 @@ struct capture_choice {
 
 struct captured_packet {
     uint64_t number = 0; // from 1
-    int link_type = 0;   // of libpcap
+    int link_type = 0;   // of the file, LINKTYPE_...
     packet_bytes content;
     size_t missing_bytes = 0; // so much longer was it on the link
 };
@@ -52,6 +52,7 @@ private:
     void forget_oldest_directions();
     void note(const std::string &text);
     void note_without_messages();
+    void note_unknown_link(const captured_packet &packet);
 
     capture_choice m_choice;
     std::function<void(const std::string &)> m_note;
@@ -61,6 +62,7 @@ private:
 
     uint64_t m_packets = 0, m_foreign_packets = 0, m_messages = 0;
     std::string m_first_not_chosen;
+    int m_unknown_link = -1; // the last one
 };
 
 } // namespace mava_tum_cli

@@ -76,7 +76,7 @@ private:
 // ---- links ---------------------------------------------------------------------------------------------------
 
 struct link_header {
-    int type; // as libpcap numbers it
+    int type; // LINKTYPE_...
     size_t size;
     int protocol_at; // -1: it names no protocol; that the packet is IP shows in the first half byte
 };

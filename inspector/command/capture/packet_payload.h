@@ -46,7 +46,7 @@ enum class packet_fault {
     cut,      // the capture has a part of the headers
 };
 
-// `link_type` is that of libpcap (DLT_...). `missing_bytes` is how much longer the packet was on the link.
+// `link_type` is that of the file (LINKTYPE_...). `missing_bytes` is how much longer the packet was on the link.
 packet_fault read_packet_payload(int link_type, packet_bytes packet, size_t missing_bytes, packet_payload &payload);
 
 // Whether packets of such a link can be read at all.

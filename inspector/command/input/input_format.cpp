@@ -1,13 +1,13 @@
 #include "input/input_format.h"
 
 #include "bad_use.h"
+#include "capture/capture_file.h"
 #include "input/c_text.h"
 #include "input/digit_text.h"
 #include "input/dump_text.h"
 
 #include <algorithm>
 #include <fmt/format.h>
-#include <initializer_list>
 #include <optional>
 
 namespace mava_tum_cli
@@ -15,19 +15,6 @@ namespace mava_tum_cli
 
 namespace
 {
-
-// Whether the input begins with the 8 bytes of a pcap or the 12 of a pcapng. No message does, but by intent.
-bool is_capture(std::span<const uint8_t> beginning)
-{
-    const auto has = [beginning](size_t at, std::initializer_list<uint8_t> bytes) {
-        return beginning.size() >= at + bytes.size() && std::ranges::equal(beginning.subspan(at, bytes.size()), bytes);
-    };
-    if (has(0, {0x0A, 0x0D, 0x0D, 0x0A})) // pcapng
-        return has(8, {0x1A, 0x2B, 0x3C, 0x4D}) || has(8, {0x4D, 0x3C, 0x2B, 0x1A});
-    const bool is_big = has(0, {0xA1, 0xB2, 0xC3, 0xD4}) || has(0, {0xA1, 0xB2, 0x3C, 0x4D});
-    const bool is_little = has(0, {0xD4, 0xC3, 0xB2, 0xA1}) || has(0, {0x4D, 0x3C, 0xB2, 0xA1});
-    return (is_big && has(4, {0, 2, 0, 4})) || (is_little && has(4, {2, 0, 4, 0})); // version 2.4
-}
 
 constexpr size_t looked_at_bytes = 64 * 1024;
 

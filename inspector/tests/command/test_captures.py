@@ -3,6 +3,7 @@ import ipaddress
 import json
 import os
 import random
+import shutil
 import struct
 import subprocess
 import unittest
@@ -49,14 +50,44 @@ def pcap(packets, link=RAW_IP, order="<", magic=0xA1B2C3D4, lengths=None):
     return struct.pack(order + "IHHiIII", magic, 2, 4, 0, 0, 262144, link) + records
 
 
-def pcapng(packets, link=RAW_IP, order="<", options=b""):
-    def block(kind, body):
-        body += bytes(-len(body) % 4)
-        return struct.pack(order + "II", kind, 12 + len(body)) + body + struct.pack(order + "I", 12 + len(body))
+class Blocks:
+    """The blocks of a pcapng, in one byte order."""
 
-    return (block(0x0A0D0D0A, struct.pack(order + "IHHq", 0x1A2B3C4D, 1, 0, -1)) +
-            block(1, struct.pack(order + "HHI", link, 0, 0) + options) +
-            b"".join(block(6, struct.pack(order + "IIIII", 0, 0, 0, len(each), len(each)) + each) for each in packets))
+    def __init__(self, order="<"):
+        self.order = order
+
+    def block(self, kind, body=b""):
+        body += bytes(-len(body) % 4)
+        ends = struct.pack(self.order + "I", 12 + len(body))
+        return struct.pack(self.order + "I", kind) + ends + body + ends
+
+    def section(self, version=1):
+        return self.block(0x0A0D0D0A, struct.pack(self.order + "IHHq", 0x1A2B3C4D, version, 0, -1))
+
+    def interface(self, link=RAW_IP, most_bytes=0, options=b""):
+        return self.block(1, struct.pack(self.order + "HHI", link, 0, most_bytes) + options)
+
+    def enhanced(self, packet_bytes, interface=0, options=b""):
+        size = len(packet_bytes)
+        padding = bytes(-size % 4)
+        return self.block(6, struct.pack(self.order + "5I", interface, 0, 0, size, size) + packet_bytes + padding + options)
+
+    def old(self, packet_bytes, interface=0):
+        size = len(packet_bytes)
+        return self.block(2, struct.pack(self.order + "HH4I", interface, 65535, 0, 0, size, size) + packet_bytes)
+
+    def simple(self, packet_bytes, sent=None):
+        return self.block(3, struct.pack(self.order + "I", sent or len(packet_bytes)) + packet_bytes)
+
+
+def pcapng(packets, link=RAW_IP, order="<", options=b""):
+    blocks = Blocks(order)
+    return (blocks.section() + blocks.interface(link, options=options) +
+            b"".join(blocks.enhanced(each) for each in packets))
+
+
+def ethernet(content):
+    return bytes(12) + b"\x08\x00" + content
 
 
 def tcp(*segments, start=1000, **more):
@@ -106,6 +137,90 @@ class FileTest(CaptureTest):
                 if size not in (first_packet, second_packet):
                     self.assertRegex(done.errors, "truncated|no Interface Description")
 
+    def test_interfaces_of_a_capture_may_have_different_links(self):
+        for blocks in (Blocks("<"), Blocks(">")):
+            capture = (blocks.section() + blocks.interface(ETHERNET) + blocks.interface(RAW_IP) +
+                       blocks.enhanced(packet(numbered(1)), 1) + blocks.enhanced(ethernet(packet(numbered(2))), 0) +
+                       blocks.interface(LINUX_COOKED) + blocks.old(bytes(14) + b"\x08\0" + packet(numbered(3)), 2))
+            self.assertEqual(self.decoded(capture), [(1, 1), (2, 2), (3, 3)])
+
+    def test_every_kind_of_packet_block_is_read_and_others_are_skipped(self):
+        for blocks in (Blocks("<"), Blocks(">")):
+            name_resolution, statistics, of_somebody = blocks.block(4, bytes(4)), blocks.block(5, bytes(12)), 0x80000BAD
+            capture = (blocks.section() + name_resolution + blocks.interface() + blocks.enhanced(packet(numbered(1))) +
+                       blocks.block(of_somebody, b"\x0a\x0d\x0d\x0a" * 5000) + blocks.old(packet(numbered(2))) +
+                       blocks.block(of_somebody) + blocks.simple(packet(numbered(3))) + statistics +
+                       blocks.enhanced(packet(numbered(4)), options=bytes(8)))
+            self.assertEqual(self.decoded(capture), [(1, 1), (2, 2), (3, 3), (4, 4)])
+
+    def test_a_simple_packet_ends_at_the_limit_of_its_interface(self):
+        blocks = Blocks()
+        whole = packet(numbered(1))
+        capture = (blocks.section() + blocks.interface(most_bytes=30) + blocks.simple(whole[:30], len(whole)) +
+                   blocks.enhanced(whole))
+        self.assertEqual(self.decoded(capture, notes=["packet 1 was captured in part, 5 bytes are missing"]), [(1, 2)])
+
+    def test_sections_follow_each_other_with_interfaces_and_byte_orders_of_their_own(self):
+        sections = [pcapng([packet(numbered(1))], order="<"), pcapng([ethernet(packet(numbered(2)))], ETHERNET, ">"),
+                    pcapng([packet(numbered(3))], order="<")]
+        self.assertEqual(self.decoded(b"".join(sections)), [(1, 1), (2, 2), (3, 3)])
+        without_interface = sections[0] + Blocks(">").section() + Blocks(">").enhanced(packet(V4))
+        self.assertEqual(self.decoded(without_interface, notes=["packet 2: nothing describes its interface, 0"]), [(1, 1)])
+
+    def test_packets_of_other_links_are_named_and_left_out(self):
+        blocks = Blocks()
+        wireless = blocks.section() + blocks.interface(105) + blocks.interface()
+        capture = wireless + blocks.enhanced(packet(V4), 0) * 2 + blocks.enhanced(packet(numbered(7)), 1)
+        self.assertEqual(self.decoded(capture, notes=["packet 1 is of link type 105"]), [(7, 3)])
+
+    def test_a_checksum_behind_packets_is_no_part_of_them(self):
+        with_checksum = ETHERNET | 1 << 26 | 4 << 28  # in units of 16 bits
+        self.assertEqual(self.decoded(pcap([ethernet(packet(numbered(5))) + b"sum!"], with_checksum)), [(5, 1)])
+
+    def test_blocks_that_contradict_themselves_end_the_capture(self):
+        blocks = Blocks()
+        begin = blocks.section() + blocks.interface() + blocks.enhanced(packet(numbered(1)))
+        whole = blocks.enhanced(packet(V4))
+        claims = struct.pack("<5I", 0, 0, 0, 1000, 1000)
+        for block, words in ((whole[:-4] + b"\0\0\0\0", "ends as one of 0"), (blocks.block(6), "has 0 bytes where 20"),
+                             (b"\x06\0\0\0\x0b\0\0\0" + bytes(20), "a block claims 11 bytes"),
+                             (b"\x06\0\0\0\x0d\0\0\0" + bytes(20), "a block claims 13 bytes"),
+                             (b"\x06\0\0\0\xfc\xff\xff\xff" + bytes(20), "truncated"),
+                             (blocks.simple(V4, 300), "has 8 bytes where 300 are claimed"),
+                             (blocks.block(6, claims), "has 0 bytes where 1000"),
+                             (blocks.block(3, struct.pack("<I", 300000) + bytes(300000)), "262144 is the limit"),
+                             (blocks.section(version=2), "not of version 1"),
+                             (blocks.interface() * 65536, "more than 65536 interfaces"),
+                             (blocks.enhanced(packet(V4), 1), "nothing describes its interface, 1"),
+                             (b"\xff" * 4 + struct.pack("<I", 0xFFFFFFFC) + bytes(100), "truncated")):
+            self.assertEqual(self.decoded(begin + block + whole, notes=["packet 2: "]), [(1, 1)], words)
+            self.assertIn(words, run("decode", "-j", "subscriber_v4", data=begin + block + whole).errors)
+        self.refused("decode", "subscriber_v4", data=blocks.section() + whole, says="nothing describes its interface")
+        record = struct.pack("<IIII", 0, 0, 262145, 262145)
+        self.assertEqual(self.decoded(pcap([packet(V4)]) + record + bytes(262145), notes=["262144 is the limit"]), [(1, 1)])
+
+    @unittest.skipUnless(shutil.which("editcap") and shutil.which("mergecap"), "wireshark-common is not installed")
+    def test_captures_that_another_program_writes_hold_the_same_messages(self):
+        """Of each form, from each form and byte order: so the other program reads the ones of this test as well."""
+        datagrams = [ethernet(packet(numbered(n))) for n in (1, 2, 3)]
+        for order in "<>":
+            for capture in (pcap(datagrams, ETHERNET, order), pcapng(datagrams, ETHERNET, order),
+                            pcap(datagrams, ETHERNET, order, magic=0xA1B23C4D)):
+                path = self.file("capture", capture)
+                for form in ("pcap", "nsecpcap", "pcapng"):
+                    self.assertEqual(self.decoded(self.written_by("editcap", "-F", form, path)), [(1, 1), (2, 2), (3, 3)])
+        path = self.file("raw", pcap([packet(numbered(4))]))
+        merged = self.written_by("mergecap", "-a", "-F", "pcapng", self.file("capture", pcap(datagrams, ETHERNET)), path)
+        self.assertEqual(self.decoded(merged), [(1, 1), (2, 2), (3, 3), (4, 4)])
+
+    def written_by(self, program, *arguments):
+        """What a program of Wireshark writes: editcap behind its input, mergecap as an option."""
+        output = os.path.join(self.folder, "written")
+        places = [*arguments, output] if program == "editcap" else ["-w", output, *arguments]
+        subprocess.run([program, *places], check=True, capture_output=True, timeout=60)
+        with open(output, "rb") as file:
+            return file.read()
+
     def test_tcp_segments_that_wait_are_read_where_a_capture_is_truncated(self):
         stream = frames(*[numbered(n) for n in (1, 2, 3)])
         capture = pcap(opened((0, stream[:16]), (18, stream[18:])) + [packet(numbered(4))])
@@ -113,7 +228,8 @@ class FileTest(CaptureTest):
                          [(1, 2), (3, 3)])
 
     def test_what_is_no_capture_is_refused(self):
-        self.refused("decode", "subscriber_v4", data=pcap([packet(V4)], link=105), says="link type 105, IEEE802_11")
+        for form in (pcap, pcapng):
+            self.refused("decode", "subscriber_v4", data=form([packet(V4)], link=105), says="link type 105")
         self.refused("guess", "-f", "capture", data=b"no capture at all, none", says=["no capture", "--format"])
 
     def test_bytes_that_begin_like_a_capture_are_none_without_its_version(self):
@@ -144,17 +260,20 @@ class FileTest(CaptureTest):
         done = run("diff", "-j", "subscriber_v4", sent, received)
         self.assertIn('"offset_a":11,"packet_b":2', done.output)
 
-    def test_damaged_captures_end_with_an_exit_code(self):
+    def test_damaged_captures_end_with_an_exit_code_and_in_sentences(self):
         chooser = random.Random(3)
         stream = frames(*[numbered(n) for n in range(9)])
         segments = opened((0, stream[:40]), (40, stream[40:]), version=6)
-        capture = pcap([bytes(12) + b"\x86\xdd" + each for each in segments] + [bytes(12) + b"\x08\x00" + packet(V4)],
-                       ETHERNET)
-        for _ in range(300 // STEP):
-            damaged = bytearray(capture)
+        packets = [bytes(12) + b"\x86\xdd" + each for each in segments] + [ethernet(packet(V4))]
+        captures = [pcap(packets, ETHERNET)] + [pcapng(packets, ETHERNET, order) for order in "<>"]
+        for _ in range(600 // STEP):
+            damaged = bytearray(chooser.choice(captures))
             for _ in range(chooser.randint(1, 6)):
-                damaged[chooser.randrange(24, len(damaged))] = chooser.randrange(256)
-            self.assertIn(run("decode", "-f", "capture", "subscriber_v4", data=bytes(damaged)).status, (0, 1, 2))
+                damaged[chooser.randrange(8, len(damaged))] = chooser.choice((chooser.randrange(256), 0, 255))
+            done = run("decode", "-f", "capture", "subscriber_v4", data=bytes(damaged[:chooser.choice((None, -5))]))
+            self.assertIn(done.status, (0, 1, 2), damaged.hex())
+            for line in done.errors.splitlines():
+                self.assertTrue(line.startswith("mava-tum"), (line, damaged.hex()))
 
 
 class DatagramTest(CaptureTest):

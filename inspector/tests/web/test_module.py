@@ -9,6 +9,7 @@ import unittest
 
 from inspector import PROGRAM, SOURCES, frames
 from random_messages import RandomMessages
+from test_captures import ETHERNET, ethernet, packet, pcap, pcapng
 
 MODULE = os.environ["MAVA_TUM_WASM"]
 INPUTS = int(os.environ.get("MAVA_TUM_WEB_INPUTS", "400"))
@@ -227,11 +228,13 @@ class ModuleTest(unittest.TestCase):
         self.assertEqual(self.module.run(b"", command="no_such")["status"], 2)
         self.assertIn("there is no message", self.module.run(b"", command="look", name="sesion")["errors"])
 
-    def test_a_capture_is_refused_with_the_command_that_reads_it(self):
-        capture = bytes.fromhex("d4c3b2a1020004000000000000000000ffff000001000000")
-        answer = self.module.run(capture, command="message", name="session_context", format="auto")
-        self.assertEqual(answer["status"], 2, answer["errors"])
-        self.assertIn("a capture, which this page does not read; `mava-tum decode -f capture", answer["errors"])
+    def test_reads_captures_as_the_program(self):
+        packets = [ethernet(packet(wire)) for wire in (SESSION, BROKEN)] + [ethernet(packet(frames(SESSION), "tcp"))]
+        for capture in (pcap(packets, ETHERNET), pcapng(packets, ETHERNET), pcapng(packets, ETHERNET, ">"),
+                        pcapng(packets, ETHERNET) + pcap(packets, ETHERNET)):
+            self.same(("decode", "--json", "session_context"), capture, command="decode", name="session_context", json=True)
+        for cut in range(len(packets[0])):
+            self.same(("guess", "--json"), capture[:-cut], command="guess", json=True)
 
 
 if __name__ == "__main__":
