@@ -54,7 +54,7 @@ def inside_script(text):
 
 def main():
     module, leniency, version, output = sys.argv[1:]
-    script = inside_script("\n" + source("view.js") + source("page.js").replace("'use strict';\n", "", 1))
+    script = inside_script("\n" + "".join(source(name) for name in ("view.js", "edit.js", "page.js")))
     template = source("page.html")
     style = re.search(r"<style>(.*?)</style>", template, re.DOTALL)[1]
     values = {

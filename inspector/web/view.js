@@ -2,7 +2,8 @@
 // lines that can be seen are in the document.
 'use strict';
 
-/** @typedef {{name: string, fields: {number: number, name: string, kind: string, message?: string, content?: string}[]}} Message */
+/** @typedef {{number: number, name: string, kind: string, message?: string, content?: string}} Field */
+/** @typedef {{name: string, fields: Field[]}} Message */
 
 const ROW = {value: 0, record: 1, unknown: 2, undecoded: 3, fault: 4, unread: 5, absent: 6};
 const ROW_NUMBERS = 8; // of each row, see module.h
@@ -16,6 +17,17 @@ function element(tag, attributes = {}, ...inside) {
         made.setAttribute(name, value);
     made.append(...inside);
     return made;
+}
+
+/**
+ * The number that an element around the place of an event has as data, -1: none has.
+ * @param {Event} event
+ * @param {string} name
+ */
+function numberAt(event, name) {
+    /** @type {HTMLElement | null} */
+    const holder = /** @type {HTMLElement} */ (event.target).closest(`[data-${name}]`);
+    return Number(holder?.dataset[name] ?? -1);
 }
 
 /** @param {number} byte */
@@ -84,7 +96,10 @@ class Rows {
         return this.field(row)?.name ?? `#${this.number(row)}`;
     }
 
-    /** The row that has a byte, -1: there is none. @param {number} offset */
+    /**
+     * The row that has a byte, -1: there is none.
+     * @param {number} offset
+     */
     at(offset) {
         let low = 0;
         let high = this.holders.length;
@@ -98,7 +113,11 @@ class Rows {
         return low === 0 ? -1 : this.holders[low - 1];
     }
 
-    /** "tag", "length" or "value". @param {number} row @param {number} offset */
+    /**
+     * "tag", "length" or "value".
+     * @param {number} row
+     * @param {number} offset
+     */
     partAt(row, offset) {
         if (this.kind(row) === ROW.unread || offset >= this.end(row))
             return 'unread'; // the latter: of the field that could not be decoded
@@ -107,7 +126,11 @@ class Rows {
         return offset < this.valueOffset(row) ? 'length' : 'value';
     }
 
-    /** "/qos/3/field_2". @param {number} row @returns {string} */
+    /**
+     * "/qos/3/field_2".
+     * @param {number} row
+     * @returns {string}
+     */
     pointer(row) {
         if (row < 0)
             return '';
@@ -115,7 +138,11 @@ class Rows {
         return `${this.pointer(this.parents[row])}/${this.name(row)}${index}`;
     }
 
-    /** "qos[3].field_2", as sentences have it. @param {number} row @returns {string} */
+    /**
+     * "qos[3].field_2", as sentences have it.
+     * @param {number} row
+     * @returns {string}
+     */
     path(row) {
         if (row < 0)
             return '';
@@ -124,7 +151,10 @@ class Rows {
         return `${above === '' ? '' : `${above}.`}${this.name(row)}${index}`;
     }
 
-    /** The absent fields of an "absent" row. @param {number} row */
+    /**
+     * The absent fields of an "absent" row.
+     * @param {number} row
+     */
     absent(row) {
         return this.message(row).fields.filter((field) => (this.number(row) >>> (field.number - 1) & 1) === 0);
     }
@@ -202,7 +232,8 @@ class LineList {
 class MessageView {
     /**
      * @param {{bytes: HTMLElement, tree: HTMLElement, id: string, selected: (row: number) => void,
-     *          typed: (offset: number, digit: number | string) => void, key: (event: KeyboardEvent, row: number) => boolean,
+     *          typed: (offset: number, digit: number | string) => void,
+     *          key: (event: KeyboardEvent, row: number) => boolean,
      *          texts: (first: number, count: number) => Promise<{text: string, notes: string[]}[]>}} parts
      */
     constructor(parts) {
@@ -282,10 +313,11 @@ class MessageView {
         if (this.rows.fault >= 0 && offset === this.rows.offset(this.rows.fault))
             classes.push('wrong');
         const shown = hexOf(this.data[offset]);
+        const owner = row < 0 || part === 'unread' ? '' : ` of ${this.rows.name(row)}`;
         const cell = element('span', {
             class: classes.join(' '), role: 'gridcell', id: `${this.parts.id}-byte-${offset}`,
             'data-offset': `${offset}`, 'aria-selected': `${offset === this.offset}`,
-            'aria-label': `${shown}, byte ${offset}, ${part}${row < 0 || part === 'unread' ? '' : ` of ${this.rows.name(row)}`}`,
+            'aria-label': `${shown}, byte ${offset}, ${part}${owner}`,
         }, shown);
         if (offset === this.offset)
             this.parts.bytes.setAttribute('aria-activedescendant', cell.id);
@@ -351,7 +383,10 @@ class MessageView {
         return cells;
     }
 
-    /** Fetches the texts around a row, once. @param {number} row */
+    /**
+     * Fetches the texts around a row, once.
+     * @param {number} row
+     */
     wantTexts(row) {
         const first = row - row % TEXTS_AT_ONCE;
         if (this.wanted === first)
@@ -375,10 +410,8 @@ class MessageView {
 
     listen() {
         const {bytes, tree} = this.parts;
-        const offsetOf = (/** @type {Event} */ event) =>
-            Number(/** @type {HTMLElement} */ (event.target).dataset?.offset ?? -1);
-        const rowOf = (/** @type {Event} */ event) =>
-            Number(/** @type {HTMLElement | null} */ (/** @type {HTMLElement} */ (event.target).closest('[data-row]'))?.dataset.row ?? -1);
+        const offsetOf = (/** @type {Event} */ event) => numberAt(event, 'offset');
+        const rowOf = (/** @type {Event} */ event) => numberAt(event, 'row');
         bytes.addEventListener('pointerover', (event) => this.hover(this.rows.at(offsetOf(event))));
         bytes.addEventListener('pointerleave', () => this.hover(-1));
         tree.addEventListener('pointerover', (event) => this.hover(rowOf(event)));

@@ -1,5 +1,5 @@
-// Runs the module: in a worker of the page, and in Node for its tests. The module keeps nothing from request to request;
-// what it reads are the files that were kept here before.
+// Runs the module: in a worker of the page, and in Node for its tests. The module keeps nothing from request to
+// request; what it reads are the files that were kept here before.
 'use strict';
 
 /** @typedef {{status: number, text: string, errors: string, bytes: Uint8Array, crashed: boolean}} Answer */
