@@ -33,16 +33,9 @@ struct field {
     const message *nested;     // record, record_array; else null
 };
 
-// The four functions have the same parameters for all messages; arguments that a message's own function does not have
-// are dropped.
-struct message {
-    const char *name; // as in mava_tum_<name>
-    std::size_t record_bytes;
-    std::size_t mask_offset;
-    std::size_t mask_bytes;        // 1, 2 or 4
-    bool holds_bytes;              // at any depth: the alias bit means something
-    bool allocates;                // at any depth: a decode may call the allocator
-    std::span<const field> fields; // field n is fields[n - 1]
+// A message's functions, with the same parameters for all messages: arguments that its own function does not have are
+// dropped.
+struct codec_calls {
     int32_t (*decode)(void *record, const uint8_t *data, uint64_t length, mava_tum_alloc_fn alloc_fn, void *alloc_ctx,
         uint32_t flags);
     uint64_t (*encode)(const void *record, uint8_t *buffer, uint64_t length, mava_tum_segment *segments,
@@ -51,29 +44,51 @@ struct message {
     void (*free)(void *record, mava_tum_release_fn release_fn, void *release_ctx, uint32_t flags);
 };
 
+struct message {
+    const char *name; // as in mava_tum_<name>
+    std::size_t record_bytes;
+    std::size_t mask_offset;
+    std::size_t mask_bytes;        // 1, 2 or 4
+    bool holds_bytes;              // at any depth: the alias bit means something
+    bool allocates;                // at any depth: a decode may call the allocator
+    std::span<const field> fields; // field n is fields[n - 1]
+
+    // In catalogue_calls.cpp: programs that only read the tables need not link the codec.
+    const codec_calls &calls() const;
+
+    int32_t decode(void *record, const uint8_t *data, uint64_t length, mava_tum_alloc_fn alloc_fn, void *alloc_ctx,
+        uint32_t flags) const
+    {
+        return calls().decode(record, data, length, alloc_fn, alloc_ctx, flags);
+    }
+
+    uint64_t encode(const void *record, uint8_t *buffer, uint64_t length, mava_tum_segment *segments,
+        uint32_t *segment_count, uint32_t flags) const
+    {
+        return calls().encode(record, buffer, length, segments, segment_count, flags);
+    }
+
+    int32_t duplicate(void *destination, const void *source, mava_tum_alloc_fn alloc_fn, void *alloc_ctx) const
+    {
+        return calls().duplicate(destination, source, alloc_fn, alloc_ctx);
+    }
+
+    void free(void *record, mava_tum_release_fn release_fn, void *release_ctx, uint32_t flags) const
+    {
+        calls().free(record, release_fn, release_ctx, flags);
+    }
+};
+
 // Of each codec record: `place` in tables::messages, and its functions `decode`, `encode`, `duplicate` and `release` as
 // the headers declare them.
 template <class Record>
 struct message_row;
 
-// A message's functions with these parameters. They are compiled once, in catalogue_calls.cpp, because they take long
-// to compile.
-template <class Record>
-struct message_calls {
-    static int32_t decode(void *record, const uint8_t *data, uint64_t length, mava_tum_alloc_fn alloc_fn,
-        void *alloc_ctx, uint32_t flags);
-    static uint64_t encode(const void *record, uint8_t *buffer, uint64_t length, mava_tum_segment *segments,
-        uint32_t *segment_count, uint32_t flags);
-    static int32_t duplicate(void *destination, const void *source, mava_tum_alloc_fn alloc_fn, void *alloc_ctx);
-    static void free(void *record, mava_tum_release_fn release_fn, void *release_ctx, uint32_t flags);
-};
-
 template <class Record>
 constexpr message describe_message(const char *name, std::span<const field> fields, bool holds_bytes, bool allocates)
 {
-    using calls = message_calls<Record>;
     return {name, sizeof(Record), offsetof(Record, presence_mask), sizeof(Record::presence_mask), holds_bytes,
-        allocates, fields, calls::decode, calls::encode, calls::duplicate, calls::free};
+        allocates, fields};
 }
 
 // ---- application records ----
@@ -148,28 +163,30 @@ inline constexpr std::size_t record_place = std::size_t(-1);
 
 // ---- adapters ----
 
+struct adapter_calls {
+    uint64_t (*encode)(const void *record, uint8_t *buffer, uint32_t capacity);
+    void (*decode)(const uint8_t *data, uint32_t length, void *record);
+};
+
 struct adapter {
     const char *name; // as in tum_nal_data_gpb_encode_tum_<name>
     const message *carried;
     const record_layout *sent; // one record has another layout for each direction
     const record_layout *received;
     uint32_t max_size; // bytes of its largest message, by its header
-    uint64_t (*encode)(const void *record, uint8_t *buffer, uint32_t capacity);
-    void (*decode)(const uint8_t *data, uint32_t length, void *record);
-};
 
-template <class Row>
-constexpr adapter describe_adapter(
-    const char *name, const message *carried, const record_layout *sent, const record_layout *received)
-{
-    return {name, carried, sent, received, Row::max_size,
-        [](const void *record, uint8_t *buffer, uint32_t capacity) {
-            return Row::encode(static_cast<const typename Row::sent *>(record), buffer, capacity);
-        },
-        [](const uint8_t *data, uint32_t length, void *record) {
-            Row::decode(data, length, static_cast<typename Row::received *>(record));
-        }};
-}
+    const adapter_calls &calls() const;
+
+    uint64_t encode(const void *record, uint8_t *buffer, uint32_t capacity) const
+    {
+        return calls().encode(record, buffer, capacity);
+    }
+
+    void decode(const uint8_t *data, uint32_t length, void *record) const
+    {
+        calls().decode(data, length, record);
+    }
+};
 
 // ---- lists of types ----
 

@@ -114,10 +114,10 @@ class CppWriter:
                 "};"]
 
     def adapters_table(self) -> list[str]:
-        rows = [f'    describe_adapter<{each.name}_adapter>("{each.name}", '
+        rows = [f'    {{"{each.name}", '
                 f"&tables::messages[{self.message_places[each.message]}], "
                 f"&tables::records[{self.record_places[each.sent]}], "
-                f"&tables::records[{self.record_places[each.received]}])," for each in self.adapters]
+                f"&tables::records[{self.record_places[each.received]}], {each.name}_adapter::max_size}}," for each in self.adapters]
         types = ",\n    ".join(f"{each.name}_adapter" for each in self.adapters)
         return ["", f"inline constexpr adapter tables::adapters[{len(rows)}] = {{", *rows, "};", "",
                 "using adapter_rows = type_list<", f"    {types}>;"]

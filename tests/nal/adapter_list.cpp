@@ -32,8 +32,8 @@ adapter entry(
     added.sent = bytes_of_record(sent_record);
     added.received = bytes_of_record(received_record);
     added.all_zero_wire = all_zero_wire;
-    added.encode = adapter_of<sent_type>().encode;
-    added.decode = adapter_of<received_type>().decode;
+    added.encode = adapter_of<sent_type>().calls().encode;
+    added.decode = adapter_of<received_type>().calls().decode;
     return added;
 }
 
@@ -52,7 +52,7 @@ adapter entry_of_numbers(const char *name, const char *all_zero_wire)
     uint64_t n = 0;
     for (const mava_tum_catalogue::record_member &member : of.sent->members)
         set_count(record, member.offset, member.size_bytes, ++n << (8 * member.size_bytes - 4));
-    return {name, record, record, all_zero_wire, of.encode, of.decode, {}, {}};
+    return {name, record, record, all_zero_wire, of.calls().encode, of.calls().decode, {}, {}};
 }
 
 // ---- messages ----
