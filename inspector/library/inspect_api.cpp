@@ -24,6 +24,28 @@ static_assert(MAVA_TUM_INSPECT_NO_ADDRESS == static_cast<int>(address_kind::none
 static_assert(MAVA_TUM_INSPECT_IPV4 == static_cast<int>(address_kind::ipv4));
 static_assert(MAVA_TUM_INSPECT_IPV6 == static_cast<int>(address_kind::ipv6));
 
+// ---- arguments ----
+
+bool is_missing(const void *array, uint64_t count)
+{
+    return array == nullptr && count != 0;
+}
+
+// Calls `use` with the message that `name` is. `are_missing`: of the other arguments.
+template <class Use>
+int32_t with_message(const char *name, bool are_missing, Use use)
+{
+    if (name == nullptr || are_missing)
+        return MAVA_TUM_INSPECT_NULL_ARGUMENT;
+    const message_description *found = find_message(name);
+    if (found == nullptr)
+        return MAVA_TUM_INSPECT_NO_SUCH_NAME;
+    use(*found);
+    return MAVA_TUM_OK;
+}
+
+// ---- visitors ----
+
 class judge final : public wire_visitor
 {
 public:
@@ -44,6 +66,8 @@ constexpr uint32_t most_names = 8;
 template <class Described>
 uint32_t similar_among(std::span<const Described> all, const char *wrong, const char **names, uint32_t capacity)
 {
+    if (wrong == nullptr || is_missing(names, capacity))
+        return 0;
     similar_name found[most_names];
     const std::span<similar_name> places(found, std::min(capacity, most_names));
     uint32_t count = 0;
@@ -92,17 +116,17 @@ extern "C" uint32_t mava_tum_inspect_similar_adapters(const char *wrong, const c
 
 extern "C" int32_t mava_tum_inspect_describe(const char *message, mava_tum_inspect_message *description)
 {
-    const message_description *found = find_message(message);
-    if (found == nullptr)
-        return MAVA_TUM_INSPECT_NO_SUCH_NAME;
-    *description = {found->name, static_cast<uint32_t>(found->fields.size()), found->record_bytes, found->mask_offset,
-        static_cast<uint32_t>(found->mask_bytes), found->holds_bytes};
-    return MAVA_TUM_OK;
+    return with_message(message, description == nullptr, [description](const message_description &found) {
+        *description = {found.name, static_cast<uint32_t>(found.fields.size()), found.record_bytes, found.mask_offset,
+            static_cast<uint32_t>(found.mask_bytes), found.holds_bytes};
+    });
 }
 
 extern "C" int32_t mava_tum_inspect_describe_field(
     const char *message, uint32_t number, mava_tum_inspect_field *description)
 {
+    if (message == nullptr || description == nullptr)
+        return MAVA_TUM_INSPECT_NULL_ARGUMENT;
     const message_description *found = find_message(message);
     const field_description *field = found == nullptr ? nullptr : find_field(*found, number);
     if (field == nullptr)
@@ -118,41 +142,38 @@ extern "C" int32_t mava_tum_inspect_describe_field(
 extern "C" int32_t mava_tum_inspect_judge(
     const char *message, const uint8_t *data, uint64_t length, mava_tum_inspect_verdict *verdict)
 {
-    const message_description *found = find_message(message);
-    if (found == nullptr)
-        return MAVA_TUM_INSPECT_NO_SUCH_NAME;
-    fill_success(*verdict, length);
-    judge visitor(*verdict);
-    walk_message(*found, data, length, visitor);
-    return MAVA_TUM_OK;
+    return with_message(message, is_missing(data, length) || verdict == nullptr, [&](const message_description &found) {
+        fill_success(*verdict, length);
+        judge visitor(*verdict);
+        walk_message(found, data, length, visitor);
+    });
 }
 
 extern "C" int32_t mava_tum_inspect_explain(const char *message, const uint8_t *data, uint64_t length,
     mava_tum_inspect_line_fn line_fn, void *context, mava_tum_inspect_verdict *verdict)
 {
-    const message_description *found = find_message(message);
-    if (found == nullptr)
-        return MAVA_TUM_INSPECT_NO_SUCH_NAME;
-    explain_message(*found, data, length, line_fn, context, verdict);
-    return MAVA_TUM_OK;
+    return with_message(message, is_missing(data, length) || line_fn == nullptr, [&](const message_description &found) {
+        explain_message(found, data, length, line_fn, context, verdict);
+    });
 }
 
 extern "C" int32_t mava_tum_inspect_memory(const char *message, const uint8_t *data, uint64_t length, uint32_t flags,
     uint64_t *block_count, uint64_t *block_bytes)
 {
-    const message_description *found = find_message(message);
-    if (found == nullptr)
-        return MAVA_TUM_INSPECT_NO_SUCH_NAME;
-    decode_memory memory((flags & MAVA_TUM_ALIAS) != 0);
-    walk_message(*found, data, length, memory);
-    *block_count = memory.asked().blocks;
-    *block_bytes = memory.asked().bytes;
-    return MAVA_TUM_OK;
+    const bool are_missing = is_missing(data, length) || block_count == nullptr || block_bytes == nullptr;
+    return with_message(message, are_missing, [&](const message_description &found) {
+        decode_memory memory((flags & MAVA_TUM_ALIAS) != 0);
+        walk_message(found, data, length, memory);
+        *block_count = memory.asked().blocks;
+        *block_bytes = memory.asked().bytes;
+    });
 }
 
 extern "C" int32_t mava_tum_inspect_check(const char *adapter, const uint8_t *data, uint64_t length,
     mava_tum_inspect_finding_fn finding_fn, void *context, mava_tum_inspect_check_result *result)
 {
+    if (adapter == nullptr || is_missing(data, length) || result == nullptr)
+        return MAVA_TUM_INSPECT_NULL_ARGUMENT;
     const adapter_description *found = find_adapter(adapter);
     if (found == nullptr)
         return MAVA_TUM_INSPECT_NO_SUCH_NAME;
@@ -163,5 +184,7 @@ extern "C" int32_t mava_tum_inspect_check(const char *adapter, const uint8_t *da
 extern "C" uint32_t mava_tum_inspect_guess(
     const uint8_t *data, uint64_t length, mava_tum_inspect_candidate *candidates, uint32_t capacity)
 {
+    if (is_missing(data, length) || is_missing(candidates, capacity))
+        return 0;
     return guess_messages(data, length, {candidates, capacity});
 }

@@ -59,6 +59,8 @@ const char *prefix_of(int32_t kind)
 extern "C" uint32_t mava_tum_inspect_format_line(
     const mava_tum_inspect_line *line, const uint8_t *data, char *buffer, uint32_t capacity)
 {
+    if (line == nullptr || (data == nullptr && line->byte_count != 0) || (buffer == nullptr && capacity != 0))
+        return 0;
     line_text text;
     add_offset(text, *line);
     text.add(" ");

@@ -12,6 +12,11 @@ namespace
 
 constexpr std::size_t longest_name = 63;
 
+std::string_view beginning_of(std::string_view name)
+{
+    return {name.data(), std::min(name.size(), longest_name)};
+}
+
 // Whether one is part of the other, and long enough for that to be no accident.
 bool contains_other(std::string_view wrong, std::string_view candidate)
 {
@@ -32,8 +37,8 @@ uint32_t distance_between(std::string_view wrong, std::string_view candidate)
 // Computes the table of distances between the beginnings of both, row by row.
 uint32_t edit_distance(std::string_view first, std::string_view second)
 {
-    first = first.substr(0, longest_name);
-    second = second.substr(0, longest_name);
+    first = beginning_of(first);
+    second = beginning_of(second);
     std::array<uint32_t, longest_name + 1> row;
     for (std::size_t column = 0; column <= second.size(); ++column)
         row[column] = static_cast<uint32_t>(column);
@@ -51,7 +56,7 @@ uint32_t edit_distance(std::string_view first, std::string_view second)
 
 uint32_t add_if_similar(std::string_view wrong, const char *candidate, std::span<similar_name> found, uint32_t count)
 {
-    wrong = wrong.substr(0, longest_name);
+    wrong = beginning_of(wrong);
     const uint32_t distance = distance_between(wrong, candidate);
     if (2 * distance > std::max(wrong.size(), std::strlen(candidate)))
         return count; // fewer than half of the characters can stay

@@ -16,8 +16,6 @@ namespace mava_tum_inspect
 class wire_visitor
 {
 public:
-    virtual ~wire_visitor() = default;
-
     virtual void on_value(const occurrence &) {}   // varint, fixed32, bytes, text, element of an array of texts
     virtual void on_unknown(const occurrence &) {} // skipped
     virtual void on_record(const occurrence &) {}  // a nested record or an element of an array; its fields follow
@@ -27,6 +25,9 @@ public:
     virtual void on_undecoded(const occurrence &) {} // an entry of a run that is not whole: no element of it is decoded
     virtual void on_fault(const wire_fault &) {}
     virtual void on_unread(const extent &) {} // what a fault leaves unread
+
+protected:
+    ~wire_visitor() = default; // not virtual: the deleting destructor would call the C++ runtime library
 };
 
 struct walk_result {

@@ -9,8 +9,8 @@
  * It is a separate library, libmava_tum_inspect; the codec library contains no names. The functions keep no
  * state, log nothing, allocate nothing, and any number of threads may call them. Input of any length is read in
  * constant memory. Messages are named as in the headers of the codec, without mava_tum_ ("session_context"), adapters
- * as in tum_nal_data_gpb_decode_tum_<name> ("rec_start_res"). Data may be null when its length is 0. Texts that a
- * function returns or a callback receives are NUL-terminated. Those of `describe` are valid as long as the library is
+ * as in tum_nal_data_gpb_decode_tum_<name> ("rec_start_res"). Data may be null when its length is 0, and an array when
+ * its capacity is 0; another null pointer is refused unless its function documents it. Texts that a function returns or a callback receives are NUL-terminated. Those of `describe` are valid as long as the library is
  * loaded, those of a callback until it returns.
  *
  * "L" and a number, in texts, is an entry of docs/leniency.md: something the decoders accept on purpose. */
@@ -27,10 +27,10 @@
 extern "C" {
 #endif
 
-/* What functions that take a name return besides MAVA_TUM_OK. */
+/* What functions that take a name return besides MAVA_TUM_OK. Nothing was written or called. */
 enum {
-    /* No such message, field or adapter; nothing was written or called. */
-    MAVA_TUM_INSPECT_NO_SUCH_NAME = 1
+    MAVA_TUM_INSPECT_NO_SUCH_NAME = 1, /* no such message, field or adapter */
+    MAVA_TUM_INSPECT_NULL_ARGUMENT = 2 /* a pointer is null that may not be. Functions that count return 0. */
 };
 
 /* Sizes, in bytes with the NUL: no path and no sentence is longer. */
