@@ -30,9 +30,10 @@ uint64_t elements_that_arrive(const member_limit &limit, uint64_t elements)
 class checker final : public wire_visitor
 {
 public:
-    checker(const adapter_description &adapter, const uint8_t *data, mava_tum_inspect_finding_fn finding_fn,
-        void *context, mava_tum_inspect_check_result &result)
-        : data_(data), finding_fn_(finding_fn), context_(context), result_(result)
+    checker(const adapter_description &adapter, const uint8_t *data, uint64_t finding_limit,
+        mava_tum_inspect_finding_fn finding_fn, void *context, mava_tum_inspect_check_result &result)
+        : data_(data), told_findings_(finding_fn == nullptr ? 0 : finding_limit), finding_fn_(finding_fn),
+          context_(context), result_(result)
     {
         frames_[0].members = adapter.received->limits;
         frames_[0].arrives = true;
@@ -94,6 +95,8 @@ public:
     void on_fault(const wire_fault &fault) override
     {
         fill_fault(result_.verdict, fault);
+        if (!is_told())
+            return;
         sentence text;
         text.add(result_.verdict.text).add("; the fields after it do not arrive (L15)");
         tell({MAVA_TUM_INSPECT_FAULT, fault.offset, 0, 0, result_.verdict.path, text.c_str()});
@@ -180,8 +183,16 @@ private:
         report({MAVA_TUM_INSPECT_PART_MISSING, value, &limit});
     }
 
+    // Counts the finding that comes now. The text of one that is only counted is not made.
+    bool is_told()
+    {
+        return result_.finding_count++ < told_findings_;
+    }
+
     void report(const raw_finding &finding)
     {
+        if (is_stopped() || !is_told())
+            return;
         sentence text;
         describe_finding(text, finding);
         path_text path;
@@ -191,12 +202,12 @@ private:
 
     void tell(const mava_tum_inspect_finding &finding)
     {
-        ++result_.finding_count;
-        if (finding_fn_ != nullptr)
-            finding_fn_(&finding, context_);
+        if (finding_fn_(&finding, context_) != 0)
+            stop();
     }
 
     const uint8_t *data_;
+    uint64_t told_findings_; // at most; the others are counted
     mava_tum_inspect_finding_fn finding_fn_;
     void *context_;
     mava_tum_inspect_check_result &result_;
@@ -206,14 +217,18 @@ private:
 
 } // namespace
 
-void check_message(const adapter_description &adapter, const uint8_t *data, uint64_t length,
+int32_t check_message(const adapter_description &adapter, const uint8_t *data, uint64_t length, uint64_t finding_limit,
     mava_tum_inspect_finding_fn finding_fn, void *context, mava_tum_inspect_check_result &result)
 {
     result = {};
     result.record_bytes = adapter.received->size_bytes;
     fill_success(result.verdict, length);
-    checker visitor(adapter, data, finding_fn, context, result);
+    checker visitor(adapter, data, finding_limit, finding_fn, context, result);
     walk_message(*adapter.carried, data, length, visitor);
+    if (!visitor.is_stopped())
+        return MAVA_TUM_OK;
+    result.verdict = {};
+    return MAVA_TUM_INSPECT_STOPPED;
 }
 
 } // namespace mava_tum_inspect

@@ -15,7 +15,7 @@ namespace
 class explainer final : public wire_visitor
 {
 public:
-    explainer(const uint8_t *data, mava_tum_inspect_line_fn line_fn, void *context, mava_tum_inspect_verdict *verdict)
+    explainer(const uint8_t *data, mava_tum_inspect_line_fn line_fn, void *context, mava_tum_inspect_verdict &verdict)
         : data_(data), line_fn_(line_fn), context_(context), verdict_(verdict)
     {
     }
@@ -67,8 +67,7 @@ public:
         path_text path;
         describe_fault_path(path, fault);
         tell(MAVA_TUM_INSPECT_LINE_FAULT, fault.at.depth, {fault.offset, 0}, path, text);
-        if (verdict_ != nullptr)
-            fill_fault(*verdict_, fault);
+        fill_fault(verdict_, fault);
     }
 
     void on_unread(const extent &rest) override
@@ -168,12 +167,18 @@ private:
     void tell(int32_t kind, uint32_t depth, const extent &place, const path_text &path, const sentence &text)
     {
         mava_tum_inspect_line line{kind, depth, place.offset, row_bytes(place.bytes), path.c_str(), text.c_str()};
-        line_fn_(&line, context_);
-        for (uint64_t told = line.byte_count; told < place.bytes; told += line.byte_count) {
+        tell(line);
+        for (uint64_t told = line.byte_count; told < place.bytes && !is_stopped(); told += line.byte_count) {
             line = {MAVA_TUM_INSPECT_LINE_MORE, depth, place.offset + told, row_bytes(place.bytes - told), path.c_str(),
                 ""};
-            line_fn_(&line, context_);
+            tell(line);
         }
+    }
+
+    void tell(const mava_tum_inspect_line &line)
+    {
+        if (!is_stopped() && line_fn_(&line, context_) != 0)
+            stop();
     }
 
     static uint32_t row_bytes(uint64_t bytes)
@@ -185,7 +190,7 @@ private:
     const uint8_t *data_;
     mava_tum_inspect_line_fn line_fn_;
     void *context_;
-    mava_tum_inspect_verdict *verdict_;
+    mava_tum_inspect_verdict &verdict_;
 };
 
 template <std::size_t Size>
@@ -216,13 +221,18 @@ void fill_fault(mava_tum_inspect_verdict &verdict, const wire_fault &fault)
     copy_text(verdict.text, text);
 }
 
-void explain_message(const message_description &message, const uint8_t *data, uint64_t length,
+int32_t explain_message(const message_description &message, const uint8_t *data, uint64_t length,
     mava_tum_inspect_line_fn line_fn, void *context, mava_tum_inspect_verdict *verdict)
 {
-    if (verdict != nullptr)
-        fill_success(*verdict, length);
-    explainer visitor(data, line_fn, context, verdict);
+    mava_tum_inspect_verdict found;
+    fill_success(found, length);
+    explainer visitor(data, line_fn, context, found);
     walk_message(message, data, length, visitor);
+    if (visitor.is_stopped())
+        return MAVA_TUM_INSPECT_STOPPED;
+    if (verdict != nullptr)
+        *verdict = found;
+    return MAVA_TUM_OK;
 }
 
 } // namespace mava_tum_inspect

@@ -11,7 +11,7 @@ namespace mava_tum_inspect
 {
 
 // Calls `line_fn` with the lines; offsets are from the start of `data`. `verdict` may be null.
-void explain_message(const message_description &message, const uint8_t *data, uint64_t length,
+int32_t explain_message(const message_description &message, const uint8_t *data, uint64_t length,
     mava_tum_inspect_line_fn line_fn, void *context, mava_tum_inspect_verdict *verdict);
 
 // Both for a single event of a walk, for other visitors.

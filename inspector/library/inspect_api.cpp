@@ -152,9 +152,12 @@ extern "C" int32_t mava_tum_inspect_judge(
 extern "C" int32_t mava_tum_inspect_explain(const char *message, const uint8_t *data, uint64_t length,
     mava_tum_inspect_line_fn line_fn, void *context, mava_tum_inspect_verdict *verdict)
 {
-    return with_message(message, is_missing(data, length) || line_fn == nullptr, [&](const message_description &found) {
-        explain_message(found, data, length, line_fn, context, verdict);
+    int32_t result = MAVA_TUM_OK;
+    const bool are_missing = is_missing(data, length) || line_fn == nullptr;
+    const int32_t refused = with_message(message, are_missing, [&](const message_description &found) {
+        result = explain_message(found, data, length, line_fn, context, verdict);
     });
+    return refused != MAVA_TUM_OK ? refused : result;
 }
 
 extern "C" int32_t mava_tum_inspect_memory(const char *message, const uint8_t *data, uint64_t length, uint32_t flags,
@@ -170,15 +173,15 @@ extern "C" int32_t mava_tum_inspect_memory(const char *message, const uint8_t *d
 }
 
 extern "C" int32_t mava_tum_inspect_check(const char *adapter, const uint8_t *data, uint64_t length,
-    mava_tum_inspect_finding_fn finding_fn, void *context, mava_tum_inspect_check_result *result)
+    uint64_t finding_limit, mava_tum_inspect_finding_fn finding_fn, void *context,
+    mava_tum_inspect_check_result *result)
 {
     if (adapter == nullptr || is_missing(data, length) || result == nullptr)
         return MAVA_TUM_INSPECT_NULL_ARGUMENT;
     const adapter_description *found = find_adapter(adapter);
     if (found == nullptr)
         return MAVA_TUM_INSPECT_NO_SUCH_NAME;
-    check_message(*found, data, length, finding_fn, context, *result);
-    return MAVA_TUM_OK;
+    return check_message(*found, data, length, finding_limit, finding_fn, context, *result);
 }
 
 extern "C" uint32_t mava_tum_inspect_guess(

@@ -31,7 +31,7 @@ public:
     walk_result walk(const message_description &message)
     {
         const record_frame frame{message, nullptr, 0};
-        if (!walk_fields(frame, result_.present) && cursor_.position < length_)
+        if (!walk_fields(frame, result_.present) && goes_on() && cursor_.position < length_)
             visitor_.on_unread({cursor_.position, length_ - cursor_.position});
         return result_;
     }
@@ -44,7 +44,7 @@ private:
         uint32_t depth;
     };
 
-    // Returns false if a fault has ended the decode. So do all functions below.
+    // Returns false if a fault has ended the decode, or the visitor has stopped. So do all functions below.
     bool walk_fields(const record_frame &frame, uint32_t &present)
     {
         while (cursor_.position != cursor_.end) {
@@ -121,7 +121,7 @@ private:
         at.stated_bytes = at.value.bytes;
         at.notes.add_if(seen, note::replaced_value);
         visitor_.on_value(at);
-        return true;
+        return goes_on();
     }
 
     // ---- bytes and texts ----
@@ -142,7 +142,7 @@ private:
         add_payload_notes(at, cursor_.data);
         cursor_.position += at.value.bytes;
         visitor_.on_value(at);
-        return true;
+        return goes_on();
     }
 
     // ---- nested records ----
@@ -160,6 +160,8 @@ private:
     bool walk_body(occurrence &at)
     {
         visitor_.on_record(at);
+        if (!goes_on())
+            return false;
         const uint64_t outer_end = cursor_.end;
         cursor_.end = at.value.offset + at.value.bytes;
         uint32_t present = 0;
@@ -167,7 +169,7 @@ private:
             return false;
         cursor_.end = outer_end;
         visitor_.on_record_end(at, present);
-        return true;
+        return goes_on();
     }
 
     // ---- arrays: a run is counted before its elements are decoded ----
@@ -190,6 +192,8 @@ private:
                 break;
             if (report)
                 visitor_.on_undecoded(entry);
+            if (!goes_on())
+                return scan;
             cursor_.position += entry.value.bytes;
             if (cursor_.position == cursor_.end)
                 return {scan.elements + 1, fault_rule::none};
@@ -230,7 +234,7 @@ private:
         if (scan.elements > UINT32_MAX)
             return fail(first, fault_rule::array_too_long, first.tag.offset);
         visitor_.on_run(first, scan.elements);
-        return walk_elements(frame, first, scan.elements);
+        return goes_on() && walk_elements(frame, first, scan.elements);
     }
 
     // The run has been counted: all of it is inside the record.
@@ -280,7 +284,7 @@ private:
         at.number_value = varint.value;
         at.stated_bytes = varint.place.bytes;
         visitor_.on_unknown(at);
-        return true;
+        return goes_on();
     }
 
     bool skip_length_delimited(occurrence &at)
@@ -299,7 +303,7 @@ private:
         at.notes.add_if(at.value.bytes < bytes, note::beyond_end);
         cursor_.position += at.value.bytes;
         visitor_.on_unknown(at);
-        return true;
+        return goes_on();
     }
 
     // ---- parts of an occurrence ----
@@ -343,6 +347,11 @@ private:
         const bool is_inside = length.value <= cursor_.left();
         at.value = {cursor_.position, is_inside ? length.value : cursor_.left()};
         return is_inside ? fault_rule::none : fault_rule::value_beyond_end;
+    }
+
+    bool goes_on() const
+    {
+        return !visitor_.is_stopped();
     }
 
     // Always false, for callers that return it.

@@ -12,10 +12,15 @@
 namespace mava_tum_inspect
 {
 
-// Events are in the order of the bytes. A visitor need not handle all of them.
+// Events are in the order of the bytes. A visitor need not handle all of them. After stop(), none follows.
 class wire_visitor
 {
 public:
+    bool is_stopped() const
+    {
+        return is_stopped_;
+    }
+
     virtual void on_value(const occurrence &) {}   // varint, fixed32, bytes, text, element of an array of texts
     virtual void on_unknown(const occurrence &) {} // skipped
     virtual void on_record(const occurrence &) {}  // a nested record or an element of an array; its fields follow
@@ -28,6 +33,14 @@ public:
 
 protected:
     ~wire_visitor() = default; // not virtual: the deleting destructor would call the C++ runtime library
+
+    void stop()
+    {
+        is_stopped_ = true;
+    }
+
+private:
+    bool is_stopped_ = false;
 };
 
 struct walk_result {

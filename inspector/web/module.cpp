@@ -221,11 +221,11 @@ exit_status run_texts(const json &request)
     return exit_ok;
 }
 
-void add_finding(const mava_tum_inspect_finding *finding, void *context)
+int32_t add_finding(const mava_tum_inspect_finding *finding, void *context)
 {
     json &findings = *static_cast<json *>(context);
-    if (findings.size() < most_findings)
-        findings.push_back({{"path", finding->path}, {"offset", finding->offset}, {"text", finding->text}});
+    findings.push_back({{"path", finding->path}, {"offset", finding->offset}, {"text", finding->text}});
+    return 0;
 }
 
 exit_status run_adapter(const json &request)
@@ -234,7 +234,7 @@ exit_status run_adapter(const json &request)
     const byte_vector wire = whole_input(request);
     json findings = json::array();
     mava_tum_inspect_check_result result{};
-    mava_tum_inspect_check(adapter.name, wire.data(), wire.size(), add_finding, &findings, &result);
+    mava_tum_inspect_check(adapter.name, wire.data(), wire.size(), most_findings, add_finding, &findings, &result);
     // As text: a page would round numbers of 64 bits.
     const std::string record = decode_record(adapter, wire).dump(2, ' ', false, json::error_handler_t::replace);
     send_json({{"adapter", adapter.name}, {"finding_count", result.finding_count}, {"findings", findings},
@@ -283,18 +283,19 @@ bool holds_a_value(const mava_tum_inspect_line &line)
            line.kind == MAVA_TUM_INSPECT_LINE_UNREAD;
 }
 
-void add_report_line(const mava_tum_inspect_line *line, void *context)
+int32_t add_report_line(const mava_tum_inspect_line *line, void *context)
 {
     auto &writer = *static_cast<report_writer *>(context);
     if (writer.is_redacted && holds_a_value(*line)) {
         writer.text += fmt::format(
             "{:>8}  {:{}}({} left out)\n", line->offset, "", 24 + 2 * line->depth, counted(line->byte_count, "byte"));
-        return;
+        return 0;
     }
     std::array<char, 1024> text{};
     mava_tum_inspect_format_line(line, writer.wire.data(), text.data(), text.size());
     writer.text += text.data();
     writer.text += '\n';
+    return 0;
 }
 
 exit_status run_report(const json &request)

@@ -19,10 +19,11 @@ struct finding_writer {
     output_file &output;
 };
 
-void write_finding(const mava_tum_inspect_finding *finding, void *context)
+int32_t write_finding(const mava_tum_inspect_finding *finding, void *context)
 {
     auto &writer = *static_cast<finding_writer *>(context);
     writer.output.write(writer.place + finding->text + "\n");
+    return 0;
 }
 
 mava_tum_inspect_check_result check_in_words(const char *adapter, const message_source &source, output_file &output)
@@ -30,7 +31,8 @@ mava_tum_inspect_check_result check_in_words(const char *adapter, const message_
     const message_place place = source.place();
     finding_writer writer{place.is_empty() ? "" : place.to_string() + ": ", output};
     mava_tum_inspect_check_result result{};
-    mava_tum_inspect_check(adapter, source.message().data(), source.message().size(), write_finding, &writer, &result);
+    mava_tum_inspect_check(
+        adapter, source.message().data(), source.message().size(), UINT64_MAX, write_finding, &writer, &result);
     return result;
 }
 
@@ -43,7 +45,7 @@ std::string_view kind_of_finding(int32_t kind)
     return names[kind];
 }
 
-void write_json_finding(const mava_tum_inspect_finding *finding, void *context)
+int32_t write_json_finding(const mava_tum_inspect_finding *finding, void *context)
 {
     auto &writer = *static_cast<json_writer *>(context);
     writer.open_object(json_writer::layout::one_line);
@@ -60,6 +62,7 @@ void write_json_finding(const mava_tum_inspect_finding *finding, void *context)
     writer.name("text");
     writer.string(finding->text);
     writer.close();
+    return 0;
 }
 
 mava_tum_inspect_check_result check_as_json(
@@ -73,7 +76,7 @@ mava_tum_inspect_check_result check_as_json(
     writer.name("findings");
     writer.open_array();
     mava_tum_inspect_check_result result{};
-    mava_tum_inspect_check(adapter.name, wire.data(), wire.size(), write_json_finding, &writer, &result);
+    mava_tum_inspect_check(adapter.name, wire.data(), wire.size(), UINT64_MAX, write_json_finding, &writer, &result);
     writer.close();
     writer.name("record_bytes");
     writer.number(result.record_bytes);

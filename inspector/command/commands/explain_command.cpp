@@ -36,12 +36,13 @@ ink ink_of(int32_t line_kind)
     }
 }
 
-void write_line(const mava_tum_inspect_line *line, void *context)
+int32_t write_line(const mava_tum_inspect_line *line, void *context)
 {
     const auto &writer = *static_cast<const line_writer *>(context);
     std::array<char, line_capacity> text{};
     mava_tum_inspect_format_line(line, writer.wire.data(), text.data(), line_capacity);
     writer.output.write(writer.colour.paint(ink_of(line->kind), text.data()) + "\n");
+    return 0;
 }
 
 // ---- as JSON -------------------------------------------------------------------------------------------------
@@ -57,7 +58,7 @@ std::string_view kind_of_line(int32_t line_kind)
     return names[line_kind];
 }
 
-void write_json_line(const mava_tum_inspect_line *line, void *context)
+int32_t write_json_line(const mava_tum_inspect_line *line, void *context)
 {
     const auto &[wire, writer] = *static_cast<const json_line_writer *>(context);
     writer.open_object(json_writer::layout::one_line);
@@ -74,6 +75,7 @@ void write_json_line(const mava_tum_inspect_line *line, void *context)
     writer.name("text");
     writer.string(line->text);
     writer.close();
+    return 0;
 }
 
 void explain_as_json(const message_source &source, const char *message, output_file &output)

@@ -10,8 +10,9 @@
  * state, log nothing, allocate nothing, and any number of threads may call them. Input of any length is read in
  * constant memory. Messages are named as in the headers of the codec, without mava_tum_ ("session_context"), adapters
  * as in tum_nal_data_gpb_decode_tum_<name> ("rec_start_res"). Data may be null when its length is 0, and an array when
- * its capacity is 0; another null pointer is refused unless its function documents it. Texts that a function returns or a callback receives are NUL-terminated. Those of `describe` are valid as long as the library is
- * loaded, those of a callback until it returns.
+ * its capacity is 0; another null pointer is refused unless its function documents it. Texts that a function returns or
+ * a callback receives are NUL-terminated. Those of `describe` are valid as long as the library is loaded, those of a
+ * callback until it returns.
  *
  * "L" and a number, in texts, is an entry of docs/leniency.md: something the decoders accept on purpose. */
 #ifndef MAVA_TUM_INSPECT_H
@@ -27,10 +28,11 @@
 extern "C" {
 #endif
 
-/* What functions that take a name return besides MAVA_TUM_OK. Nothing was written or called. */
+/* What functions that take a name return besides MAVA_TUM_OK. After the first two, nothing was written or called. */
 enum {
-    MAVA_TUM_INSPECT_NO_SUCH_NAME = 1, /* no such message, field or adapter */
-    MAVA_TUM_INSPECT_NULL_ARGUMENT = 2 /* a pointer is null that may not be. Functions that count return 0. */
+    MAVA_TUM_INSPECT_NO_SUCH_NAME = 1,  /* no such message, field or adapter */
+    MAVA_TUM_INSPECT_NULL_ARGUMENT = 2, /* a pointer is null that may not be. Functions that count return 0. */
+    MAVA_TUM_INSPECT_STOPPED = 3        /* a callback returned another value than 0: the rest was not read */
 };
 
 /* Sizes, in bytes with the NUL: no path and no sentence is longer. */
@@ -141,11 +143,12 @@ typedef struct mava_tum_inspect_line {
     const char *text;    /* what the bytes are; "" where the line before says it */
 } mava_tum_inspect_line;
 
-/* Receives a line. Its pointers are valid until the callback returns. */
-typedef void (*mava_tum_inspect_line_fn)(const mava_tum_inspect_line *line, void *context);
+/* Receives a line. Its pointers are valid until the callback returns. A return value other than 0 stops: no line
+ * follows. */
+typedef int32_t (*mava_tum_inspect_line_fn)(const mava_tum_inspect_line *line, void *context);
 
-/* Calls `line_fn` for each line, in the order of the bytes. `verdict` may be null. Returns MAVA_TUM_OK for each
- * verdict, or MAVA_TUM_INSPECT_NO_SUCH_NAME. */
+/* Calls `line_fn` for each line, in the order of the bytes. `verdict` may be null; it is not written if the callback
+ * stops. Returns MAVA_TUM_OK for each verdict, MAVA_TUM_INSPECT_STOPPED or MAVA_TUM_INSPECT_NO_SUCH_NAME. */
 MAVA_TUM_API int32_t mava_tum_inspect_explain(const char *message, const uint8_t *data, uint64_t length,
     mava_tum_inspect_line_fn line_fn, void *context, mava_tum_inspect_verdict *verdict);
 
@@ -182,22 +185,24 @@ typedef struct mava_tum_inspect_finding {
     const char *text; /* "`session_name` has 70 characters at byte 12, of which 64 arrive" */
 } mava_tum_inspect_finding;
 
-/* Receives a finding. Its pointers are valid until the callback returns. */
-typedef void (*mava_tum_inspect_finding_fn)(const mava_tum_inspect_finding *finding, void *context);
+/* Receives a finding. Its pointers are valid until the callback returns. A return value other than 0 stops. */
+typedef int32_t (*mava_tum_inspect_finding_fn)(const mava_tum_inspect_finding *finding, void *context);
 
 /* The result of a check. */
 typedef struct mava_tum_inspect_check_result {
-    uint64_t finding_count;           /* findings, also without a callback */
+    uint64_t finding_count;           /* findings, also above the limit and without a callback */
     uint64_t record_bytes;            /* sizeof the application record */
-    mava_tum_inspect_verdict verdict; /* on the message itself, as mava_tum_inspect_judge finds it */
+    mava_tum_inspect_verdict verdict; /* as mava_tum_inspect_judge finds it; all zero if the callback stopped */
 } mava_tum_inspect_check_result;
 
 /* Looks at a message as the adapter `adapter` decodes it (a message with one adapter may also be named itself). Calls
- * `finding_fn`, which may be null, for each finding, in the order of the bytes; a finding about a whole record comes
- * at its end. Zeros and empty texts that have no member are no finding: an absent value reads the same. Returns
- * MAVA_TUM_OK, also with findings, or MAVA_TUM_INSPECT_NO_SUCH_NAME. */
+ * `finding_fn`, which may be null, for the first `finding_limit` findings, in the order of the bytes; a finding about a
+ * whole record comes at its end. The others are counted: untrusted input can have a finding for every two bytes. Zeros
+ * and empty texts that have no member are no finding: an absent value reads the same. Returns MAVA_TUM_OK, also with
+ * findings, MAVA_TUM_INSPECT_STOPPED or MAVA_TUM_INSPECT_NO_SUCH_NAME. */
 MAVA_TUM_API int32_t mava_tum_inspect_check(const char *adapter, const uint8_t *data, uint64_t length,
-    mava_tum_inspect_finding_fn finding_fn, void *context, mava_tum_inspect_check_result *result);
+    uint64_t finding_limit, mava_tum_inspect_finding_fn finding_fn, void *context,
+    mava_tum_inspect_check_result *result);
 
 /* Counts the blocks, and the sum of their sizes in bytes, that mava_tum_<message>_decode_ext asks its allocator for
  * with `flags` (MAVA_TUM_ALIAS or 0). Returns MAVA_TUM_OK or MAVA_TUM_INSPECT_NO_SUCH_NAME. */

@@ -17,17 +17,19 @@ static void expect(int holds, const char *what)
 
 static const uint8_t input[] = {0x08, 0x07, 0x98, 0x06, 0x01, 0x15, 0x01};
 
-static void count_line(const mava_tum_inspect_line *line, void *context)
+static int32_t count_line(const mava_tum_inspect_line *line, void *context)
 {
     char text[200];
     expect(mava_tum_inspect_format_line(line, input, text, sizeof text) < sizeof text, "a line fits 200 characters");
     ++*(int *)context;
+    return 0;
 }
 
-static void count_finding(const mava_tum_inspect_finding *finding, void *context)
+static int32_t count_finding(const mava_tum_inspect_finding *finding, void *context)
 {
     expect(finding->text[0] == '`', "a finding begins with its field");
     ++*(int *)context;
+    return 0;
 }
 
 static void describe(void)
@@ -71,7 +73,7 @@ static void check_and_guess(void)
     mava_tum_inspect_check_result result;
     mava_tum_inspect_candidate candidate;
     int findings = 0;
-    mava_tum_inspect_check("session_delete", input, 5, count_finding, &findings, &result);
+    mava_tum_inspect_check("session_delete", input, 5, 10, count_finding, &findings, &result);
     expect(findings == 1 && result.finding_count == 1, "the unknown field is found");
     expect(mava_tum_inspect_guess(input, 2, &candidate, 1) > 1, "many messages begin like that");
     expect(candidate.unknown_fields == 0, "the likeliest knows the field");

@@ -32,6 +32,7 @@ inline explained explain(const char *message, const byte_vector &input)
         char text[512];
         EXPECT_LT(mava_tum_inspect_format_line(line, written.input.data(), text, sizeof(text)), sizeof(text));
         written.lines += std::string(text) + "\n";
+        return 0;
     };
     EXPECT_EQ(mava_tum_inspect_explain(message, input.data(), input.size(), add_line, &listing, &result.verdict),
         MAVA_TUM_OK);
@@ -85,8 +86,10 @@ inline checked check(const char *adapter, const byte_vector &input)
     const auto add_finding = [](const mava_tum_inspect_finding *told, void *context) {
         static_cast<checked *>(context)->findings.push_back(
             {told->kind, told->offset, told->found, told->allowed, told->path, told->text});
+        return 0;
     };
-    EXPECT_EQ(mava_tum_inspect_check(adapter, input.data(), input.size(), add_finding, &all, &all.result), MAVA_TUM_OK);
+    EXPECT_EQ(mava_tum_inspect_check(adapter, input.data(), input.size(), UINT64_MAX, add_finding, &all, &all.result),
+        MAVA_TUM_OK);
     EXPECT_EQ(all.result.finding_count, all.findings.size());
     return all;
 }

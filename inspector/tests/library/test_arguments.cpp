@@ -9,7 +9,10 @@ namespace
 
 const byte_vector input = bytes_of("08 07");
 
-void no_line(const mava_tum_inspect_line *, void *) {}
+int32_t no_line(const mava_tum_inspect_line *, void *)
+{
+    return 0;
+}
 
 } // namespace
 
@@ -27,7 +30,7 @@ TEST(arguments, a_null_name_is_refused)
     EXPECT_EQ(mava_tum_inspect_judge(nullptr, input.data(), 2, &verdict), refused);
     EXPECT_EQ(mava_tum_inspect_explain(nullptr, input.data(), 2, no_line, nullptr, &verdict), refused);
     EXPECT_EQ(mava_tum_inspect_memory(nullptr, input.data(), 2, 0, &blocks, &bytes), refused);
-    EXPECT_EQ(mava_tum_inspect_check(nullptr, input.data(), 2, nullptr, nullptr, &result), refused);
+    EXPECT_EQ(mava_tum_inspect_check(nullptr, input.data(), 2, 0, nullptr, nullptr, &result), refused);
     const char *name = nullptr;
     EXPECT_EQ(mava_tum_inspect_similar_messages(nullptr, &name, 1), 0u);
     EXPECT_EQ(mava_tum_inspect_similar_adapters(nullptr, &name, 1), 0u);
@@ -45,7 +48,7 @@ TEST(arguments, data_may_be_null_only_without_a_length)
         EXPECT_EQ(mava_tum_inspect_judge("vlan_info", nullptr, length, &verdict), expected);
         EXPECT_EQ(mava_tum_inspect_explain("vlan_info", nullptr, length, no_line, nullptr, nullptr), expected);
         EXPECT_EQ(mava_tum_inspect_memory("vlan_info", nullptr, length, 0, &blocks, &bytes), expected);
-        EXPECT_EQ(mava_tum_inspect_check("sub_route", nullptr, length, nullptr, nullptr, &result), expected);
+        EXPECT_EQ(mava_tum_inspect_check("sub_route", nullptr, length, 0, nullptr, nullptr, &result), expected);
         EXPECT_EQ(mava_tum_inspect_guess(nullptr, length, &candidate, 1), length == 0 ? 40u : 0u);
     }
 }
@@ -60,7 +63,7 @@ TEST(arguments, a_null_place_for_a_result_is_refused)
     EXPECT_EQ(mava_tum_inspect_explain("vlan_info", input.data(), 2, nullptr, nullptr, nullptr), refused);
     EXPECT_EQ(mava_tum_inspect_memory("vlan_info", input.data(), 2, 0, nullptr, &number), refused);
     EXPECT_EQ(mava_tum_inspect_memory("vlan_info", input.data(), 2, 0, &number, nullptr), refused);
-    EXPECT_EQ(mava_tum_inspect_check("sub_route", input.data(), 2, nullptr, nullptr, nullptr), refused);
+    EXPECT_EQ(mava_tum_inspect_check("sub_route", input.data(), 2, 0, nullptr, nullptr, nullptr), refused);
 }
 
 TEST(arguments, an_array_may_be_null_only_without_a_capacity)

@@ -108,14 +108,48 @@ TEST(inspect_check, tells_the_size_of_the_record_and_the_verdict)
     EXPECT_STREQ(all.result.verdict.text, "14 bytes decode: result 0");
 }
 
+int32_t stop_at_third(const mava_tum_inspect_finding *, void *context)
+{
+    return ++*static_cast<uint64_t *>(context) == 3;
+}
+
+TEST(inspect_check, ends_when_the_callback_stops)
+{
+    const byte_vector zeros(16 << 20); // 8,388,608 unknown fields
+    mava_tum_inspect_check_result result;
+    uint64_t seen = 0;
+    EXPECT_EQ(mava_tum_inspect_check(
+                  "session_context", zeros.data(), zeros.size(), UINT64_MAX, stop_at_third, &seen, &result),
+        MAVA_TUM_INSPECT_STOPPED);
+    EXPECT_EQ(seen, 3u);
+    EXPECT_EQ(result.finding_count, 3u);
+    EXPECT_STREQ(result.verdict.text, "");
+}
+
+TEST(inspect_check, reports_findings_up_to_the_limit_and_counts_all)
+{
+    const byte_vector zeros(64);
+    for (const uint64_t limit : {0, 1, 2, 32, 33}) {
+        mava_tum_inspect_check_result result;
+        uint64_t seen = 100; // stop_at_third never stops
+        EXPECT_EQ(
+            mava_tum_inspect_check("session_context", zeros.data(), zeros.size(), limit, stop_at_third, &seen, &result),
+            MAVA_TUM_OK);
+        EXPECT_EQ(seen, 100 + (limit < 32 ? limit : 32));
+        EXPECT_EQ(result.finding_count, 32u);
+        EXPECT_STREQ(result.verdict.text, "64 bytes decode: result 0");
+    }
+}
+
 TEST(inspect_check, works_without_a_callback_and_knows_its_adapters)
 {
     mava_tum_inspect_check_result result;
     const byte_vector input = bytes_of("98 06 00");
-    ASSERT_EQ(mava_tum_inspect_check("rec_sess_resp", input.data(), input.size(), nullptr, nullptr, &result), 0);
+    ASSERT_EQ(mava_tum_inspect_check("rec_sess_resp", input.data(), input.size(), 0, nullptr, nullptr, &result), 0);
     EXPECT_EQ(result.finding_count, 1u);
-    EXPECT_EQ(mava_tum_inspect_check("stats", nullptr, 0, nullptr, nullptr, &result), MAVA_TUM_INSPECT_NO_SUCH_NAME);
-    EXPECT_EQ(mava_tum_inspect_check("rec_resp", nullptr, 0, nullptr, nullptr, &result), MAVA_TUM_INSPECT_NO_SUCH_NAME);
+    EXPECT_EQ(mava_tum_inspect_check("stats", nullptr, 0, 0, nullptr, nullptr, &result), MAVA_TUM_INSPECT_NO_SUCH_NAME);
+    EXPECT_EQ(
+        mava_tum_inspect_check("rec_resp", nullptr, 0, 0, nullptr, nullptr, &result), MAVA_TUM_INSPECT_NO_SUCH_NAME);
 }
 
 TEST(inspect_memory, counts_bytes_fields_only_when_they_are_copied)

@@ -170,6 +170,7 @@ byte_vector bytes_of_lines(const char *message, const byte_vector &input)
         EXPECT_TRUE(line->byte_count == 0 || line->offset == seen.bytes.size());
         const auto first = seen.input.begin() + static_cast<std::ptrdiff_t>(line->offset);
         seen.bytes.insert(seen.bytes.end(), first, first + line->byte_count);
+        return 0;
     };
     mava_tum_inspect_explain(message, input.data(), input.size(), follow, &lines, nullptr);
     return lines.bytes;
@@ -187,6 +188,40 @@ TEST(inspect_explain, shows_every_byte_once_and_in_order)
     }
 }
 
+// Stops at the given line, counted from 1.
+struct stopping {
+    uint64_t at;
+    uint64_t seen = 0;
+};
+
+template <class Told>
+int32_t stop_at(const Told *, void *context)
+{
+    stopping &stop = *static_cast<stopping *>(context);
+    return ++stop.seen == stop.at ? -7 : 0;
+}
+
+TEST(inspect_explain, ends_after_the_line_at_which_the_callback_stops)
+{
+    // All kinds of lines: the array, the texts, values of many lines, a fault and what it leaves unread.
+    for (const char *wire : {"08 02 98 06 01 52 12 2A 10 61 61 61 61 61 61 61 61 61 61 61 61 61 61 61 61 5A 02 08 01 "
+                             "5A 00 10 80 00 08",
+             "5A 02 08 01 5A 05 08", "08 02 15 01 02 03 04"}) {
+        const byte_vector input = bytes_of(wire);
+        stopping never{0};
+        mava_tum_inspect_explain("session_context", input.data(), input.size(), stop_at, &never, nullptr);
+        EXPECT_GT(never.seen, 4u);
+        for (uint64_t line = 1; line <= never.seen; ++line) {
+            stopping stop{line};
+            mava_tum_inspect_verdict verdict{77, 0, "", ""};
+            EXPECT_EQ(mava_tum_inspect_explain("session_context", input.data(), input.size(), stop_at, &stop, &verdict),
+                MAVA_TUM_INSPECT_STOPPED);
+            EXPECT_EQ(stop.seen, line);
+            EXPECT_EQ(verdict.result, 77);
+        }
+    }
+}
+
 TEST(inspect_explain, of_nothing_has_no_lines)
 {
     EXPECT_EQ(lines_of("session_context", ""), "");
@@ -196,7 +231,10 @@ TEST(inspect_explain, of_nothing_has_no_lines)
 TEST(inspect_explain, knows_no_message_of_another_name)
 {
     mava_tum_inspect_verdict verdict;
-    const auto never = [](const mava_tum_inspect_line *, void *) { FAIL(); };
+    const auto never = [](const mava_tum_inspect_line *, void *) {
+        ADD_FAILURE();
+        return 0;
+    };
     EXPECT_EQ(mava_tum_inspect_explain("session", nullptr, 0, never, nullptr, &verdict), MAVA_TUM_INSPECT_NO_SUCH_NAME);
     EXPECT_EQ(mava_tum_inspect_judge("", nullptr, 0, &verdict), MAVA_TUM_INSPECT_NO_SUCH_NAME);
 }

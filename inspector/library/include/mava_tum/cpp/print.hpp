@@ -26,15 +26,16 @@ namespace mava_tum::cpp
 {
 
 // Adds a value to the std::string at `context`; the callback of the inspector.
-inline void append_value(const mava_tum_inspect_line *line, void *context)
+inline std::int32_t append_value(const mava_tum_inspect_line *line, void *context)
 {
     const bool is_empty = line->kind == MAVA_TUM_INSPECT_LINE_LENGTH && std::string_view(line->text) == "length 0";
     if (line->kind != MAVA_TUM_INSPECT_LINE_VALUE && !is_empty)
-        return;
+        return 0;
     std::string &printed = *static_cast<std::string *>(context);
     printed.append(printed.size() == 1 ? "" : ", ").append(line->path).append(": ").append(is_empty ? "" : line->text);
     if (is_empty)
         printed.append("empty");
+    return 0;
 }
 
 // The values that are present, each with its path. An absent record: "absent".
