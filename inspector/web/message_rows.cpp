@@ -2,7 +2,7 @@
 
 #include "inspector/library/wire_walk.h"
 #include "message/verdict.h"
-#include "json/json_writer.h"
+#include "inspector/library/json_writer.h"
 
 #include <array>
 #include <vector>

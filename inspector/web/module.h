@@ -3,8 +3,8 @@
 #pragma once
 
 #include "inspector/library/message_table.h"
-#include "message/field_value.h"
-#include "output/text_output.h"
+#include "inspector/library/field_value.h"
+#include "inspector/library/text_output.h"
 
 #include <cstddef>
 #include <cstdint>

@@ -1,6 +1,6 @@
 #include "capture/capture_messages.h"
 
-#include "output/text_output.h"
+#include "inspector/library/text_output.h"
 
 #include <algorithm>
 #include <fmt/format.h>

@@ -2,10 +2,10 @@
 #include "commands/all_commands.h"
 #include "commands/decode_verdict.h"
 #include "commands/find_by_name.h"
-#include "message/field_difference.h"
+#include "inspector/library/compare.h"
 #include "message/verdict.h"
 #include "output/output_file.h"
-#include "output/text_output.h"
+#include "inspector/library/text_output.h"
 
 #include <algorithm>
 

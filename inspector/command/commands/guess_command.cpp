@@ -5,7 +5,7 @@
 #include "mava_tum_inspect.h"
 #include "message/message_head.h"
 #include "output/output_file.h"
-#include "output/text_output.h"
+#include "inspector/library/text_output.h"
 
 #include <algorithm>
 #include <tuple>

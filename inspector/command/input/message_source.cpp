@@ -5,7 +5,7 @@
 #include "input/digit_text.h"
 #include "input/dump_text.h"
 #include "input/frame_reader.h"
-#include "output/text_output.h"
+#include "inspector/library/text_output.h"
 
 #include <fmt/format.h>
 

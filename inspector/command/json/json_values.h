@@ -8,7 +8,7 @@
 #pragma once
 
 #include "input/input_stream.h"
-#include "json/json_writer.h"
+#include "inspector/library/json_writer.h"
 
 #include <cstdint>
 #include <nlohmann/json.hpp>

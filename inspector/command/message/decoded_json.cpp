@@ -1,7 +1,7 @@
 #include "message/decoded_json.h"
 
 #include "inspector/library/wire_walk.h"
-#include "message/last_occurrences.h"
+#include "inspector/library/print.h"
 #include "message/message_head.h"
 #include "message/verdict.h"
 #include "json/json_values.h"

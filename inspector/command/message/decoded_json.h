@@ -9,7 +9,7 @@
 #pragma once
 
 #include "input/message_source.h"
-#include "message/field_value.h"
+#include "inspector/library/field_value.h"
 
 #include <optional>
 

@@ -2,7 +2,7 @@
 
 #include "inspector/library/wire_walk.h"
 #include "message/verdict.h"
-#include "output/text_output.h"
+#include "inspector/library/text_output.h"
 
 #include <fmt/format.h>
 

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "inspector/library/message_table.h"
-#include "message/field_value.h"
+#include "inspector/library/field_value.h"
 #include "output/colours.h"
 
 #include <array>

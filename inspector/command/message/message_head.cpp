@@ -1,6 +1,6 @@
 #include "message/message_head.h"
 
-#include "output/text_output.h"
+#include "inspector/library/text_output.h"
 
 #include <fmt/format.h>
 

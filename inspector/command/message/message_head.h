@@ -2,7 +2,7 @@
 #pragma once
 
 #include "input/message_source.h"
-#include "json/json_writer.h"
+#include "inspector/library/json_writer.h"
 
 #include <string>
 

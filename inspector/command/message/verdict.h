@@ -2,7 +2,7 @@
 #pragma once
 
 #include "inspector/library/wire_event.h"
-#include "message/field_value.h"
+#include "inspector/library/field_value.h"
 
 #include <optional>
 #include <string>

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "output/pending_file.h"
-#include "output/text_output.h"
+#include "inspector/library/text_output.h"
 
 #include <optional>
 

@@ -2,7 +2,7 @@
 #include "bad_use.h"
 #include "input/digit_text.h"
 #include "input/input_format.h"
-#include "json/utf8_text.h"
+#include "inspector/library/utf8_text.h"
 
 #include <gtest/gtest.h>
 

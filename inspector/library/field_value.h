@@ -2,7 +2,7 @@
 #pragma once
 
 #include "inspector/library/wire_event.h"
-#include "json/json_writer.h"
+#include "inspector/library/json_writer.h"
 
 #include <cstdint>
 #include <span>

@@ -1,4 +1,4 @@
-#include "message/field_value.h"
+#include "inspector/library/field_value.h"
 
 #include "inspector/library/payload_notes.h"
 #include "json/json_values.h"

@@ -1,4 +1,4 @@
-#include "json/utf8_text.h"
+#include "inspector/library/utf8_text.h"
 
 namespace mava_tum_cli
 {

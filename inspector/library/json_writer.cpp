@@ -1,6 +1,6 @@
-#include "json/json_writer.h"
+#include "inspector/library/json_writer.h"
 
-#include "json/utf8_text.h"
+#include "inspector/library/utf8_text.h"
 
 namespace mava_tum_cli
 {

@@ -1,7 +1,7 @@
 // JSON that is written as it goes: nothing of it is kept but which brackets are open.
 #pragma once
 
-#include "output/text_output.h"
+#include "inspector/library/text_output.h"
 
 #include <cstdint>
 #include <string_view>

@@ -1,4 +1,4 @@
-#include "message/last_occurrences.h"
+#include "inspector/library/print.h"
 
 namespace mava_tum_cli
 {

@@ -1,4 +1,4 @@
-#include "message/field_difference.h"
+#include "inspector/library/compare.h"
 
 #include "inspector/library/wire_walk.h"
 

@@ -1,7 +1,7 @@
 // What two messages have in different ways, field by field.
 #pragma once
 
-#include "message/field_value.h"
+#include "inspector/library/field_value.h"
 
 #include <optional>
 #include <string>

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "inspector/library/wire_walk.h"
-#include "message/field_value.h"
+#include "inspector/library/field_value.h"
 
 #include <array>
 #include <vector>
