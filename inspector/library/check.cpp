@@ -124,8 +124,7 @@ private:
     // A zero or empty value arrives as zero, also without a member.
     static bool has_content(const occurrence &at)
     {
-        const bool is_number = at.field->kind == field_kind::varint || at.field->kind == field_kind::fixed32;
-        return is_number ? at.number_value != 0 : at.value.bytes != 0;
+        return is_length_delimited(at.field->kind) ? at.value.bytes != 0 : at.number_value != 0;
     }
 
     static void note_content(frame &inside, const occurrence &at)

@@ -27,6 +27,9 @@ using path_text = text_builder<MAVA_TUM_INSPECT_PATH_BYTES>;
 // `step` may be null: the empty path of the message itself.
 void append_path(path_text &text, const path_step *step);
 
+// The path as a JSON pointer: "/qos/3/field_2", "/session_data/#99" for a number that the record does not know.
+void append_pointer(path_text &text, const path_step &step);
+
 // The last step alone.
 void append_step(path_text &text, const path_step &step);
 

@@ -1,17 +1,12 @@
 #include "inspector/library/field_value.h"
 
 #include "inspector/library/payload_notes.h"
-#include "json/json_values.h"
 
-#include <fmt/format.h>
+#include <arpa/inet.h>
+#include <cstring>
 
-namespace mava_tum_cli
+namespace mava_tum_inspect
 {
-
-using mava_tum_inspect::address_kind;
-using mava_tum_inspect::field_kind;
-using mava_tum_inspect::occurrence;
-using mava_tum_inspect::path_step;
 
 namespace
 {
@@ -24,12 +19,13 @@ uint32_t address_of(const occurrence &at)
 
 bool is_ipv6(const occurrence &at)
 {
-    return at.field->address == address_kind::ipv6 && at.value.bytes == mava_tum_inspect::ipv6_bytes;
+    return at.field->address == address_kind::ipv6 && at.value.bytes == ipv6_bytes;
 }
 
-std::string_view text_in(wire_bytes value)
+std::string_view text_in(const occurrence &at, wire_bytes wire)
 {
-    return {reinterpret_cast<const char *>(value.data()), mava_tum_inspect::text_bytes(value.data(), value.size())};
+    const wire_bytes content = content_bytes(at, wire);
+    return {reinterpret_cast<const char *>(content.data()), content.size()};
 }
 
 void write_hex_or_nothing(text_output &output, wire_bytes value)
@@ -48,20 +44,19 @@ void write_unknown(text_output &output, const occurrence &at, wire_bytes value)
         write_hex_or_nothing(output, value);
 }
 
-void write_ipv4(text_output &output, uint32_t host_order)
-{
-    for (const unsigned shift : {24u, 16u, 8u, 0u}) {
-        output.write_number(host_order >> shift & 0xFF);
-        if (shift != 0)
-            output.put('.');
-    }
-}
-
 } // namespace
 
 wire_bytes value_bytes(const occurrence &at, wire_bytes wire)
 {
     return wire.subspan(at.value.offset, at.value.bytes);
+}
+
+wire_bytes content_bytes(const occurrence &at, wire_bytes wire)
+{
+    const wire_bytes value = value_bytes(at, wire);
+    const bool is_text =
+        at.field != nullptr && (at.field->kind == field_kind::text || at.field->kind == field_kind::text_array);
+    return is_text ? value.first(text_bytes(value.data(), value.size())) : value;
 }
 
 void write_value(json_writer &writer, const occurrence &at, wire_bytes wire)
@@ -71,11 +66,11 @@ void write_value(json_writer &writer, const occurrence &at, wire_bytes wire)
     case field_kind::varint:
         return writer.number(at.number_value);
     case field_kind::fixed32:
-        return writer.string(dotted_ipv4(address_of(at)));
+        return writer.address(address_text::ipv4(address_of(at)).view());
     case field_kind::bytes:
-        return is_ipv6(at) ? writer.string(colon_ipv6(value.first<16>())) : writer.hex(value);
+        return is_ipv6(at) ? writer.address(address_text::ipv6(value.data()).view()) : writer.hex(value);
     default:
-        return write_json_text(writer, text_in(value));
+        return write_json_text(writer, text_in(at, wire));
     }
 }
 
@@ -91,46 +86,47 @@ void write_value(text_output &output, const occurrence &at, wire_bytes wire)
     case field_kind::fixed32:
         output.write_hex(value);
         output.write(" = ");
-        return write_ipv4(output, address_of(at));
+        return output.write(address_text::ipv4(address_of(at)).view());
     case field_kind::bytes:
         write_hex_or_nothing(output, value);
-        if (is_ipv6(at))
-            output.write(" = " + colon_ipv6(value.first<16>()));
+        if (is_ipv6(at)) {
+            output.write(" = ");
+            output.write(address_text::ipv6(value.data()).view());
+        }
         return;
     default:
         json_writer quoted(output, json_writer::layout::one_line);
-        return write_json_text(quoted, text_in(value));
+        return write_json_text(quoted, text_in(at, wire));
     }
-}
-
-std::string text_of_value(const occurrence &at, wire_bytes wire)
-{
-    text_in_memory text;
-    write_value(text, at, wire);
-    return text.take();
 }
 
 std::string_view kind_of(const occurrence &at)
 {
     if (at.field != nullptr)
-        return mava_tum_inspect::kind_name(at.field->kind);
+        return kind_name(at.field->kind);
     constexpr std::string_view kinds[] = {
         "varint", "fixed64", "bytes", "wire type 3", "wire type 4", "fixed32", "wire type 6", "wire type 7"};
     return kinds[at.wire_type];
 }
 
-bool is_array_element(const path_step &step)
+address_text address_text::ipv4(uint32_t host_order)
 {
-    return step.index != path_step::no_index;
+    address_text address;
+    char *end = address.m_text;
+    for (const unsigned shift : {24u, 16u, 8u, 0u}) {
+        end = std::to_chars(end, end + 3, host_order >> shift & 0xFF).ptr;
+        *end++ = '.';
+    }
+    address.m_length = static_cast<std::size_t>(end - address.m_text) - 1;
+    return address;
 }
 
-std::string json_pointer_of(const path_step &step)
+address_text address_text::ipv6(const uint8_t *bytes)
 {
-    std::string pointer = step.parent != nullptr ? json_pointer_of(*step.parent) : "";
-    pointer += step.field != nullptr ? fmt::format("/{}", step.field->name) : fmt::format("/#{}", step.number);
-    if (is_array_element(step))
-        pointer += fmt::format("/{}", step.index);
-    return pointer;
+    address_text address;
+    if (inet_ntop(AF_INET6, bytes, address.m_text, sizeof address.m_text) != nullptr)
+        address.m_length = std::strlen(address.m_text);
+    return address;
 }
 
-} // namespace mava_tum_cli
+} // namespace mava_tum_inspect

@@ -1,9 +1,11 @@
 // The functions of mava_tum_inspect.h, by what they call.
 #include "inspector/library/check.h"
+#include "inspector/library/compare.h"
 #include "inspector/library/decode_memory.h"
 #include "inspector/library/explain.h"
 #include "inspector/library/guess.h"
 #include "inspector/library/message_table.h"
+#include "inspector/library/print.h"
 #include "inspector/library/similar_names.h"
 
 #include <algorithm>
@@ -31,17 +33,14 @@ bool is_missing(const void *array, uint64_t count)
     return array == nullptr && count != 0;
 }
 
-// Calls `use` with the message that `name` is. `are_missing`: of the other arguments.
+// Returns what `use` returns for the message that `name` is. `are_missing`: of the other arguments.
 template <class Use>
 int32_t with_message(const char *name, bool are_missing, Use use)
 {
     if (name == nullptr || are_missing)
         return MAVA_TUM_INSPECT_NULL_ARGUMENT;
     const message_description *found = find_message(name);
-    if (found == nullptr)
-        return MAVA_TUM_INSPECT_NO_SUCH_NAME;
-    use(*found);
-    return MAVA_TUM_OK;
+    return found == nullptr ? int32_t{MAVA_TUM_INSPECT_NO_SUCH_NAME} : use(*found);
 }
 
 // ---- visitors ----
@@ -119,6 +118,7 @@ extern "C" int32_t mava_tum_inspect_describe(const char *message, mava_tum_inspe
     return with_message(message, description == nullptr, [description](const message_description &found) {
         *description = {found.name, static_cast<uint32_t>(found.fields.size()), found.record_bytes, found.mask_offset,
             static_cast<uint32_t>(found.mask_bytes), found.holds_bytes};
+        return int32_t{MAVA_TUM_OK};
     });
 }
 
@@ -146,18 +146,16 @@ extern "C" int32_t mava_tum_inspect_judge(
         fill_success(*verdict, length);
         judge visitor(*verdict);
         walk_message(found, data, length, visitor);
+        return int32_t{MAVA_TUM_OK};
     });
 }
 
 extern "C" int32_t mava_tum_inspect_explain(const char *message, const uint8_t *data, uint64_t length,
     mava_tum_inspect_line_fn line_fn, void *context, mava_tum_inspect_verdict *verdict)
 {
-    int32_t result = MAVA_TUM_OK;
-    const bool are_missing = is_missing(data, length) || line_fn == nullptr;
-    const int32_t refused = with_message(message, are_missing, [&](const message_description &found) {
-        result = explain_message(found, data, length, line_fn, context, verdict);
+    return with_message(message, is_missing(data, length) || line_fn == nullptr, [&](const message_description &found) {
+        return explain_message(found, data, length, line_fn, context, verdict);
     });
-    return refused != MAVA_TUM_OK ? refused : result;
 }
 
 extern "C" int32_t mava_tum_inspect_memory(const char *message, const uint8_t *data, uint64_t length, uint32_t flags,
@@ -169,6 +167,7 @@ extern "C" int32_t mava_tum_inspect_memory(const char *message, const uint8_t *d
         walk_message(found, data, length, memory);
         *block_count = memory.asked().blocks;
         *block_bytes = memory.asked().bytes;
+        return int32_t{MAVA_TUM_OK};
     });
 }
 
@@ -190,4 +189,26 @@ extern "C" uint32_t mava_tum_inspect_guess(
     if (is_missing(data, length) || is_missing(candidates, capacity))
         return 0;
     return guess_messages(data, length, {candidates, capacity});
+}
+
+extern "C" int32_t mava_tum_inspect_print(const char *message, const uint8_t *data, uint64_t length, int32_t form,
+    mava_tum_inspect_redact_fn redact_fn, void *context, char *buffer, uint64_t capacity)
+{
+    return with_message(
+        message, is_missing(data, length) || is_missing(buffer, capacity), [&](const message_description &found) {
+            if (capacity == 0)
+                return int32_t{MAVA_TUM_INSPECT_CUT};
+            return print_message(found, {data, length}, form, {redact_fn, context}, buffer, capacity);
+        });
+}
+
+extern "C" int32_t mava_tum_inspect_compare(const char *message, const uint8_t *first, uint64_t first_length,
+    const uint8_t *second, uint64_t second_length, mava_tum_inspect_difference_fn difference_fn, void *context,
+    uint64_t *difference_count)
+{
+    const bool are_missing = is_missing(first, first_length) || is_missing(second, second_length);
+    return with_message(message, are_missing, [&](const message_description &found) {
+        return compare_messages(
+            found, {first, first_length}, {second, second_length}, difference_fn, context, difference_count);
+    });
 }

@@ -38,4 +38,9 @@ const char *kind_name(field_kind kind);
 // The wire type of the kind: 0, 2 or 5.
 uint32_t wire_type_number(field_kind kind);
 
+inline bool is_length_delimited(field_kind kind)
+{
+    return kind != field_kind::varint && kind != field_kind::fixed32;
+}
+
 } // namespace mava_tum_inspect

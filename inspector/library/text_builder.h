@@ -15,6 +15,11 @@ template <std::size_t Size>
 class text_builder
 {
 public:
+    text_builder()
+    {
+        text_[0] = '\0';
+    }
+
     text_builder &add(std::string_view text)
     {
         const std::size_t kept = std::min(text.size(), Size - 1 - used_);
@@ -63,7 +68,7 @@ public:
 
 private:
     static_assert(Size > 4);
-    char text_[Size] = {};
+    char text_[Size];
     std::size_t used_ = 0;
 };
 

@@ -1,63 +1,69 @@
-// Text on its way out: it is appended here, and handed on in large pieces.
+// Text on its way out: written into a buffer, which is handed on when it is full. Allocates nothing.
 #pragma once
 
 #include <charconv>
+#include <cstddef>
 #include <cstdint>
-#include <fmt/format.h>
+#include <cstring>
 #include <span>
-#include <string>
 #include <string_view>
 
-namespace mava_tum_cli
+namespace mava_tum_inspect
 {
-
-// "1 byte", "7 bytes".
-inline std::string counted(uint64_t count, std::string_view thing)
-{
-    return fmt::format("{} {}{}", count, thing, count == 1 ? "" : "s");
-}
 
 class text_output
 {
 public:
     void write(std::string_view text)
     {
-        m_waiting += text;
-        if (m_waiting.size() >= enough_bytes)
-            hand_on(m_waiting);
+        while (text.size() > room()) {
+            const std::size_t part = room();
+            append(text.data(), part);
+            text = {text.data() + part, text.size() - part};
+            make_room();
+        }
+        append(text.data(), text.size());
     }
 
     void put(char character)
     {
-        m_waiting += character;
+        if (m_at == m_end)
+            make_room();
+        *m_at++ = character;
     }
 
-    void fill(size_t count, char character = ' ')
+    void fill(std::size_t count, char character = ' ')
     {
-        m_waiting.append(count, character);
+        for (; count > room(); make_room()) {
+            count -= room();
+            std::memset(m_at, character, room());
+            m_at = m_end;
+        }
+        std::memset(m_at, character, count);
+        m_at += count;
     }
 
     // Returns how many digits there are.
-    size_t write_number(uint64_t number)
+    std::size_t write_number(uint64_t number)
     {
-        char digits[20];
-        const std::string_view text(digits, std::to_chars(digits, digits + sizeof digits, number).ptr);
+        char digits[most_digits];
+        const std::string_view text = decimal(digits, number);
         write(text);
         return text.size();
     }
 
     // With blanks behind it, up to a width.
-    void write_padded(std::string_view text, size_t width)
+    void write_padded(std::string_view text, std::size_t width)
     {
         write(text);
         fill(text.size() < width ? width - text.size() : 0);
     }
 
     // With blanks before it.
-    void write_right_aligned(uint64_t number, size_t width)
+    void write_right_aligned(uint64_t number, std::size_t width)
     {
-        char digits[20];
-        const std::string_view text(digits, std::to_chars(digits, digits + sizeof digits, number).ptr);
+        char digits[most_digits];
+        const std::string_view text = decimal(digits, number);
         fill(text.size() < width ? width - text.size() : 0);
         write(text);
     }
@@ -72,29 +78,52 @@ public:
     }
 
 protected:
-    text_output() = default;
+    text_output(char *buffer, std::size_t size_bytes)
+    {
+        use(buffer, size_bytes);
+    }
+
     ~text_output() = default;
 
-    // Takes what waits, or leaves it.
-    virtual void hand_on(std::string &waiting) = 0;
+    // Takes what is written, and gives a buffer with room again. Not abstract: that would call the C++ runtime library.
+    virtual void make_room() {}
 
-    std::string m_waiting;
-
-private:
-    static constexpr size_t enough_bytes = 64 * 1024;
-};
-
-// All of it stays here.
-class text_in_memory final : public text_output
-{
-public:
-    std::string take()
+    void use(char *buffer, std::size_t size_bytes)
     {
-        return std::move(m_waiting);
+        m_begin = buffer;
+        m_at = buffer;
+        m_end = buffer + size_bytes;
+    }
+
+    // In the present buffer.
+    std::string_view written() const
+    {
+        return {m_begin, static_cast<std::size_t>(m_at - m_begin)};
     }
 
 private:
-    void hand_on(std::string &) override {}
+    static constexpr std::size_t most_digits = 20;
+
+    static std::string_view decimal(char (&digits)[most_digits], uint64_t number)
+    {
+        const char *end = std::to_chars(digits, digits + most_digits, number).ptr;
+        return {digits, static_cast<std::size_t>(end - digits)};
+    }
+
+    std::size_t room() const
+    {
+        return static_cast<std::size_t>(m_end - m_at);
+    }
+
+    void append(const char *text, std::size_t size_bytes)
+    {
+        std::memcpy(m_at, text, size_bytes);
+        m_at += size_bytes;
+    }
+
+    char *m_begin;
+    char *m_at;
+    char *m_end;
 };
 
-} // namespace mava_tum_cli
+} // namespace mava_tum_inspect

@@ -1,6 +1,6 @@
 #include "inspector/library/utf8_text.h"
 
-namespace mava_tum_cli
+namespace mava_tum_inspect
 {
 
 namespace
@@ -77,4 +77,4 @@ bool is_plain_utf8(std::string_view text)
     return true;
 }
 
-} // namespace mava_tum_cli
+} // namespace mava_tum_inspect

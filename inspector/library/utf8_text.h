@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <string_view>
 
-namespace mava_tum_cli
+namespace mava_tum_inspect
 {
 
 // Well-formed UTF-8 without a zero byte, and without what only a terminal would understand.
@@ -21,4 +21,4 @@ struct direction_control {
 // Of the character that begins at `position` in well-formed UTF-8.
 direction_control direction_control_at(std::string_view text, size_t position);
 
-} // namespace mava_tum_cli
+} // namespace mava_tum_inspect

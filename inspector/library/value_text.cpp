@@ -1,9 +1,8 @@
 #include "inspector/library/value_text.h"
 
 #include "codec/wire_types.h"
+#include "inspector/library/field_value.h"
 #include "inspector/library/payload_notes.h"
-
-#include <arpa/inet.h>
 
 namespace mava_tum_inspect
 {
@@ -49,14 +48,12 @@ void describe_unknown(sentence &text, const occurrence &at)
 
 void add_ipv4(sentence &text, uint32_t network_order)
 {
-    for (uint32_t shift = 0; shift < 32; shift += 8)
-        text.add(shift == 0 ? "" : ".").add_number(network_order >> shift & 0xFF);
+    text.add(address_text::ipv4(__builtin_bswap32(network_order)).view());
 }
 
 void add_ipv6(sentence &text, const uint8_t *address)
 {
-    char printed[INET6_ADDRSTRLEN];
-    text.add(inet_ntop(AF_INET6, address, printed, sizeof(printed)) != nullptr ? printed : "");
+    text.add(address_text::ipv6(address).view());
 }
 
 void add_quoted(sentence &text, const uint8_t *bytes, uint64_t length)

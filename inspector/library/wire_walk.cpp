@@ -23,14 +23,14 @@ uint32_t presence_bit(const field_description &field)
 class walker
 {
 public:
-    walker(const uint8_t *data, uint64_t length, wire_visitor &visitor)
-        : cursor_{data, 0, length}, length_(length), visitor_(visitor)
+    walker(const uint8_t *data, const extent &place, wire_visitor &visitor)
+        : cursor_{data, place.offset, place.offset + place.bytes}, length_(cursor_.end), visitor_(visitor)
     {
     }
 
-    walk_result walk(const message_description &message)
+    walk_result walk(const message_description &message, const path_step *parent)
     {
-        const record_frame frame{message, nullptr, 0};
+        const record_frame frame{message, parent, 0};
         if (!walk_fields(frame, result_.present) && goes_on() && cursor_.position < length_)
             visitor_.on_unread({cursor_.position, length_ - cursor_.position});
         return result_;
@@ -391,7 +391,13 @@ int32_t result_of(fault_rule rule)
 walk_result walk_message(
     const message_description &message, const uint8_t *data, uint64_t length, wire_visitor &visitor)
 {
-    return walker(data, length, visitor).walk(message);
+    return walk_record(message, nullptr, data, {0, length}, visitor);
+}
+
+walk_result walk_record(const message_description &record, const path_step *parent, const uint8_t *data,
+    const extent &place, wire_visitor &visitor)
+{
+    return walker(data, place, visitor).walk(record, parent);
 }
 
 } // namespace mava_tum_inspect

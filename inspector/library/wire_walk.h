@@ -53,4 +53,9 @@ struct walk_result {
 walk_result walk_message(
     const message_description &message, const uint8_t *data, uint64_t length, wire_visitor &visitor);
 
+// The same for a record at `place`, as if it were a message: `depth` begins at 0, and `present` is its own. `parent` is
+// the step into it; null: none.
+walk_result walk_record(const message_description &record, const path_step *parent, const uint8_t *data,
+    const extent &place, wire_visitor &visitor);
+
 } // namespace mava_tum_inspect

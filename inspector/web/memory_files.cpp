@@ -42,14 +42,16 @@ void progress_line::allow() {}
 
 // ---- output ------------------------------------------------------------------------------------------------------
 
-output_file::output_file(std::string path) : m_path(std::move(path)), m_fd(-1) {}
+output_file::output_file(std::string path) : text_output(m_buffer, sizeof m_buffer), m_path(std::move(path)), m_fd(-1)
+{
+}
 
 output_file::~output_file() = default;
 
-void output_file::hand_on(std::string &waiting)
+void output_file::make_room()
 {
-    host_write(host_channel::output, waiting.data(), waiting.size());
-    waiting.clear();
+    host_write(host_channel::output, written().data(), written().size());
+    use(m_buffer, sizeof m_buffer);
 }
 
 void output_file::commit()

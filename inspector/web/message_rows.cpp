@@ -2,7 +2,6 @@
 
 #include "inspector/library/wire_walk.h"
 #include "message/verdict.h"
-#include "inspector/library/json_writer.h"
 
 #include <array>
 #include <vector>

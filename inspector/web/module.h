@@ -2,9 +2,9 @@
 // tree.
 #pragma once
 
-#include "inspector/library/message_table.h"
 #include "inspector/library/field_value.h"
-#include "inspector/library/text_output.h"
+#include "inspector/library/message_table.h"
+#include "output/output_file.h"
 
 #include <cstddef>
 #include <cstdint>

@@ -1,6 +1,6 @@
 #include "capture/capture_messages.h"
 
-#include "inspector/library/text_output.h"
+#include "output/output_file.h"
 
 #include <algorithm>
 #include <fmt/format.h>

@@ -4,7 +4,6 @@
 #include "mava_tum_inspect.h"
 #include "message/message_head.h"
 #include "output/output_file.h"
-#include "inspector/library/text_output.h"
 
 namespace mava_tum_cli
 {

@@ -5,7 +5,6 @@
 #include "inspector/library/compare.h"
 #include "message/verdict.h"
 #include "output/output_file.h"
-#include "inspector/library/text_output.h"
 
 #include <algorithm>
 
@@ -15,7 +14,44 @@ namespace mava_tum_cli
 namespace
 {
 
-using mava_tum_inspect::message_description;
+struct field_difference {
+    std::string path;
+    std::optional<std::string> first; // the value, as people read it; nothing: only the second message has the field
+    std::optional<std::string> second;
+};
+
+class difference_list final : public difference_visitor
+{
+public:
+    difference_list(wire_bytes first, wire_bytes second) : m_first(first), m_second(second) {}
+
+    void on_difference(const occurrence *first, const occurrence *second) override
+    {
+        path_text path;
+        append_path(path, first != nullptr ? &first->path : &second->path);
+        found.push_back({std::string(path.view()), text_of(first, m_first), text_of(second, m_second)});
+    }
+
+    std::vector<field_difference> found;
+
+private:
+    static std::optional<std::string> text_of(const occurrence *at, wire_bytes wire)
+    {
+        if (at == nullptr)
+            return std::nullopt;
+        return at->field != nullptr && at->field->nested != nullptr ? "a record" : text_of_value(*at, wire);
+    }
+
+    wire_bytes m_first;
+    wire_bytes m_second;
+};
+
+std::vector<field_difference> differences_of(const message_description &message, wire_bytes first, wire_bytes second)
+{
+    difference_list list(first, second);
+    compare_messages(message, first, second, list);
+    return std::move(list.found);
+}
 
 // Two messages with the same number.
 struct message_pair {

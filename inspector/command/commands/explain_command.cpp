@@ -1,6 +1,7 @@
 #include "commands/all_commands.h"
 #include "commands/decode_verdict.h"
 #include "commands/find_by_name.h"
+#include "inspector/library/print.h"
 #include "mava_tum_inspect.h"
 #include "message/message_head.h"
 #include "output/output_file.h"

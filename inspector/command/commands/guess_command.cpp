@@ -5,7 +5,6 @@
 #include "mava_tum_inspect.h"
 #include "message/message_head.h"
 #include "output/output_file.h"
-#include "inspector/library/text_output.h"
 
 #include <algorithm>
 #include <tuple>

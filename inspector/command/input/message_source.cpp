@@ -5,7 +5,6 @@
 #include "input/digit_text.h"
 #include "input/dump_text.h"
 #include "input/frame_reader.h"
-#include "inspector/library/text_output.h"
 
 #include <fmt/format.h>
 

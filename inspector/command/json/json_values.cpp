@@ -2,6 +2,7 @@
 
 #include "bad_use.h"
 #include "input/digit_text.h"
+#include "inspector/library/field_value.h"
 #include "inspector/library/utf8_text.h"
 
 #include <arpa/inet.h>
@@ -152,28 +153,15 @@ std::string text_of_json(const json &value, const std::string &path)
     return text;
 }
 
-std::string dotted_ipv4(uint32_t host_order)
-{
-    return fmt::format(
-        "{}.{}.{}.{}", host_order >> 24, host_order >> 16 & 0xFF, host_order >> 8 & 0xFF, host_order & 0xFF);
-}
-
-std::string colon_ipv6(std::span<const uint8_t, 16> address)
-{
-    std::array<char, INET6_ADDRSTRLEN> text{};
-    inet_ntop(AF_INET6, address.data(), text.data(), text.size());
-    return text.data();
-}
-
 json json_of_ipv4(uint32_t host_order)
 {
-    return dotted_ipv4(host_order);
+    return std::string(address_text::ipv4(host_order).view());
 }
 
 json json_of_bytes(std::span<const uint8_t> bytes, bool is_ipv6)
 {
     if (is_ipv6 && bytes.size() == 16)
-        return colon_ipv6(bytes.first<16>());
+        return std::string(address_text::ipv6(bytes.data()).view());
     return hex_of_bytes(bytes);
 }
 

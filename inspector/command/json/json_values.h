@@ -8,7 +8,7 @@
 #pragma once
 
 #include "input/input_stream.h"
-#include "inspector/library/json_writer.h"
+#include "output/output_file.h"
 
 #include <cstdint>
 #include <nlohmann/json.hpp>
@@ -34,9 +34,6 @@ uint32_t ipv4_of_json(const json &value, const std::string &path); // in host by
 byte_vector bytes_of_json(const json &value, const std::string &path);
 // Refuses a zero byte, which would end the text.
 std::string text_of_json(const json &value, const std::string &path);
-
-std::string dotted_ipv4(uint32_t host_order);
-std::string colon_ipv6(std::span<const uint8_t, 16> address);
 
 json json_of_ipv4(uint32_t host_order);
 json json_of_bytes(std::span<const uint8_t> bytes, bool is_ipv6);

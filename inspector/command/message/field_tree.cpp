@@ -1,8 +1,9 @@
 #include "message/field_tree.h"
 
+#include "output/output_file.h"
+
 #include "inspector/library/wire_walk.h"
 #include "message/verdict.h"
-#include "inspector/library/text_output.h"
 
 #include <fmt/format.h>
 

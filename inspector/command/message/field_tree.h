@@ -1,9 +1,10 @@
 // A message as a tree of lines: where each field begins, its number and name, its kind, its value.
 #pragma once
 
-#include "inspector/library/message_table.h"
 #include "inspector/library/field_value.h"
+#include "inspector/library/message_table.h"
 #include "output/colours.h"
+#include "output/output_file.h"
 
 #include <array>
 #include <optional>

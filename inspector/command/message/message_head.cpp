@@ -1,7 +1,5 @@
 #include "message/message_head.h"
 
-#include "inspector/library/text_output.h"
-
 #include <fmt/format.h>
 
 namespace mava_tum_cli
@@ -42,23 +40,6 @@ void open_message(json_writer &writer, const message_place &place, std::string_v
     }
     writer.name("bytes");
     writer.number(bytes);
-}
-
-void write_verdict(json_writer &writer, int32_t result, std::string_view path, uint64_t offset, std::string_view rule)
-{
-    writer.name("result");
-    writer.signed_number(result);
-    if (result == 0)
-        return;
-    writer.name("fault");
-    writer.open_object();
-    writer.name("path");
-    writer.string(path);
-    writer.name("offset");
-    writer.number(offset);
-    writer.name("rule");
-    writer.string(rule);
-    writer.close();
 }
 
 } // namespace mava_tum_cli

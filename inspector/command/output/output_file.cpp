@@ -107,7 +107,8 @@ output_place place_of(const std::string &path)
 
 } // namespace
 
-output_file::output_file(std::string path) : m_path(std::move(path)), m_fd(open_place())
+output_file::output_file(std::string path)
+    : text_output(m_buffer, sizeof m_buffer), m_path(std::move(path)), m_fd(open_place())
 {
     if (m_fd < 0)
         refuse("cannot write", errno);
@@ -144,17 +145,17 @@ void output_file::refuse(const char *what, int error) const
     throw bad_use(fmt::format("{}: {}: {}; give another place with -o", m_path, what, std::strerror(error)));
 }
 
-void output_file::hand_on(std::string &waiting)
+void output_file::make_room()
 {
-    size_t written = 0;
-    while (written < waiting.size()) {
-        const ssize_t count = ::write(m_fd, waiting.data() + written, waiting.size() - written);
+    std::string_view waiting = written();
+    while (!waiting.empty()) {
+        const ssize_t count = ::write(m_fd, waiting.data(), waiting.size());
         if (count >= 0)
-            written += static_cast<size_t>(count);
+            waiting.remove_prefix(static_cast<size_t>(count));
         else if (errno != EINTR)
             refuse("cannot write", errno);
     }
-    waiting.clear();
+    use(m_buffer, sizeof m_buffer);
 }
 
 void output_file::commit()

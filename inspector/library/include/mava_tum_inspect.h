@@ -5,6 +5,8 @@
  *     explain    wire bytes in annotated lines, and the verdict: result, byte, field, rule in words
  *     check      the parts of a message that do not arrive in an adapter's record
  *     guess      the messages of the 40 that given bytes can be
+ *     print      a message on one line, for a log; without the values that a log must not have
+ *     compare    the fields that two messages have in different ways
  *
  * It is a separate library, libmava_tum_inspect; the codec library contains no names. The functions keep no
  * state, log nothing, allocate nothing, and any number of threads may call them. Input of any length is read in
@@ -32,7 +34,9 @@ extern "C" {
 enum {
     MAVA_TUM_INSPECT_NO_SUCH_NAME = 1,  /* no such message, field or adapter */
     MAVA_TUM_INSPECT_NULL_ARGUMENT = 2, /* a pointer is null that may not be. Functions that count return 0. */
-    MAVA_TUM_INSPECT_STOPPED = 3        /* a callback returned another value than 0: the rest was not read */
+    MAVA_TUM_INSPECT_STOPPED = 3,       /* a callback returned another value than 0: the rest was not read */
+    MAVA_TUM_INSPECT_CUT = 4,           /* the buffer is too small: the rest was not printed */
+    MAVA_TUM_INSPECT_MALFORMED = 5      /* a message does not decode; nothing was compared */
 };
 
 /* Sizes, in bytes with the NUL: no path and no sentence is longer. */
@@ -225,6 +229,58 @@ typedef struct mava_tum_inspect_candidate {
  * above `capacity`; 40 at most. */
 MAVA_TUM_API uint32_t mava_tum_inspect_guess(
     const uint8_t *data, uint64_t length, mava_tum_inspect_candidate *candidates, uint32_t capacity);
+
+/* ---- print ----------------------------------------------------------------------------------------------- */
+
+/* Forms. */
+enum {
+    MAVA_TUM_INSPECT_WORDS = 0, /* names and values without quotes and commas */
+    MAVA_TUM_INSPECT_JSON = 1   /* as `mava-tum decode --json` prints many messages */
+};
+
+/* A value that is about to be printed. */
+typedef struct mava_tum_inspect_value {
+    const char *record;  /* the message that has the field: "session_data" */
+    const char *path;    /* "session_data.field_5", "qos[2].field_3" */
+    uint32_t number;     /* of the field */
+    int32_t kind;        /* MAVA_TUM_INSPECT_VARINT to _TEXT; _TEXT_ARRAY: one text of the array */
+    int32_t address;     /* MAVA_TUM_INSPECT_NO_ADDRESS, _IPV4 or _IPV6 */
+    const uint8_t *data; /* the value on the wire */
+    uint64_t length;     /* of it, in bytes */
+} mava_tum_inspect_value;
+
+/* Returns a NUL-terminated text to print instead of the value, or null for the value itself. The text is copied before
+ * the next call. */
+typedef const char *(*mava_tum_inspect_redact_fn)(const mava_tum_inspect_value *value, void *context);
+
+/* Prints a message on one line into `buffer`, of `capacity` bytes, NUL included, without a line end: the verdict, and
+ * the fields that are present, up to a fault. `form` is MAVA_TUM_INSPECT_WORDS or _JSON. `redact_fn` may be null.
+ * Control characters are escaped. Unknown fields are left out. Returns MAVA_TUM_OK, MAVA_TUM_INSPECT_NO_SUCH_NAME or
+ * MAVA_TUM_INSPECT_CUT. A line that is cut ends before a value, with " ..."; JSON is complete and has a member "cut".
+ * If not even the verdict fits, the line is empty. */
+MAVA_TUM_API int32_t mava_tum_inspect_print(const char *message, const uint8_t *data, uint64_t length, int32_t form,
+    mava_tum_inspect_redact_fn redact_fn, void *context, char *buffer, uint64_t capacity);
+
+/* ---- compare --------------------------------------------------------------------------------------------- */
+
+/* A field that two messages have in different ways. */
+typedef struct mava_tum_inspect_difference {
+    const char *path;   /* "session_data.field_5", "qos[2]"; of an unknown field "#99" */
+    const char *first;  /* its value as text, which may be truncated; null: only the second message has it */
+    const char *second; /* null: only the first has it */
+} mava_tum_inspect_difference;
+
+/* Receives a difference. Its pointers are valid until the callback returns. A return value other than 0 stops. */
+typedef int32_t (*mava_tum_inspect_difference_fn)(const mava_tum_inspect_difference *difference, void *context);
+
+/* Compares two messages by the values that a decode keeps: other bytes for the same values are no difference. Calls
+ * `difference_fn`, which may be null, in the order of the first message; fields that only the second has come last. A
+ * record that only one message has is a difference, and so is each of its fields. Unknown fields are compared if both
+ * have them in the same order. `difference_count` may be null. Returns MAVA_TUM_OK, also with differences,
+ * MAVA_TUM_INSPECT_STOPPED, MAVA_TUM_INSPECT_MALFORMED or MAVA_TUM_INSPECT_NO_SUCH_NAME. */
+MAVA_TUM_API int32_t mava_tum_inspect_compare(const char *message, const uint8_t *first, uint64_t first_length,
+    const uint8_t *second, uint64_t second_length, mava_tum_inspect_difference_fn difference_fn, void *context,
+    uint64_t *difference_count);
 
 #ifdef __cplusplus
 }

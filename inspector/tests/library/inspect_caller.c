@@ -79,11 +79,41 @@ static void check_and_guess(void)
     expect(candidate.unknown_fields == 0, "the likeliest knows the field");
 }
 
+static const char *no_name(const mava_tum_inspect_value *value, void *context)
+{
+    (void)context;
+    return value->kind == MAVA_TUM_INSPECT_TEXT ? "***" : NULL;
+}
+
+static int32_t count_difference(const mava_tum_inspect_difference *difference, void *context)
+{
+    expect(difference->first != NULL || difference->second != NULL, "a difference has a value");
+    ++*(int *)context;
+    return 0;
+}
+
+static void print_and_compare(void)
+{
+    static const uint8_t named[] = {0x2A, 0x01, 0x61};
+    char line[200];
+    uint64_t count = 0;
+    int differences = 0;
+    expect(mava_tum_inspect_print("session_data", named, sizeof named, MAVA_TUM_INSPECT_WORDS, no_name, NULL, line,
+               sizeof line) == MAVA_TUM_OK,
+        "it is printed");
+    expect(strstr(line, "{field_5=\"***\"}") != NULL, "without the name");
+    expect(mava_tum_inspect_compare(
+               "session_data", named, sizeof named, input, 2, count_difference, &differences, &count) == MAVA_TUM_OK,
+        "it is compared");
+    expect(differences == 2 && count == 2, "each has a field that the other lacks");
+}
+
 int main(void)
 {
     describe();
     find_names();
     explain();
     check_and_guess();
+    print_and_compare();
     return failures == 0 ? 0 : 1;
 }

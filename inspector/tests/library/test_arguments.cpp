@@ -31,6 +31,9 @@ TEST(arguments, a_null_name_is_refused)
     EXPECT_EQ(mava_tum_inspect_explain(nullptr, input.data(), 2, no_line, nullptr, &verdict), refused);
     EXPECT_EQ(mava_tum_inspect_memory(nullptr, input.data(), 2, 0, &blocks, &bytes), refused);
     EXPECT_EQ(mava_tum_inspect_check(nullptr, input.data(), 2, 0, nullptr, nullptr, &result), refused);
+    char line[80];
+    EXPECT_EQ(mava_tum_inspect_print(nullptr, input.data(), 2, 0, nullptr, nullptr, line, sizeof line), refused);
+    EXPECT_EQ(mava_tum_inspect_compare(nullptr, input.data(), 2, input.data(), 2, nullptr, nullptr, nullptr), refused);
     const char *name = nullptr;
     EXPECT_EQ(mava_tum_inspect_similar_messages(nullptr, &name, 1), 0u);
     EXPECT_EQ(mava_tum_inspect_similar_adapters(nullptr, &name, 1), 0u);
@@ -50,6 +53,11 @@ TEST(arguments, data_may_be_null_only_without_a_length)
         EXPECT_EQ(mava_tum_inspect_memory("vlan_info", nullptr, length, 0, &blocks, &bytes), expected);
         EXPECT_EQ(mava_tum_inspect_check("sub_route", nullptr, length, 0, nullptr, nullptr, &result), expected);
         EXPECT_EQ(mava_tum_inspect_guess(nullptr, length, &candidate, 1), length == 0 ? 40u : 0u);
+        char line[80];
+        EXPECT_EQ(
+            mava_tum_inspect_print("vlan_info", nullptr, length, 0, nullptr, nullptr, line, sizeof line), expected);
+        EXPECT_EQ(mava_tum_inspect_compare("vlan_info", nullptr, length, nullptr, length, nullptr, nullptr, nullptr),
+            expected);
     }
 }
 
@@ -71,6 +79,10 @@ TEST(arguments, an_array_may_be_null_only_without_a_capacity)
     EXPECT_EQ(mava_tum_inspect_similar_messages("vlan_inf", nullptr, 1), 0u);
     EXPECT_EQ(mava_tum_inspect_similar_adapters("sub_rout", nullptr, 1), 0u);
     EXPECT_EQ(mava_tum_inspect_guess(input.data(), 2, nullptr, 1), 0u);
+    EXPECT_EQ(mava_tum_inspect_print("vlan_info", input.data(), 2, 0, nullptr, nullptr, nullptr, 1),
+        MAVA_TUM_INSPECT_NULL_ARGUMENT);
+    EXPECT_EQ(
+        mava_tum_inspect_print("vlan_info", input.data(), 2, 0, nullptr, nullptr, nullptr, 0), MAVA_TUM_INSPECT_CUT);
     EXPECT_GT(mava_tum_inspect_guess(input.data(), 2, nullptr, 0), 1u);
     mava_tum_inspect_line line{MAVA_TUM_INSPECT_LINE_TAG, 0, 0, 1, "", "a tag"};
     char text[80] = "";
