@@ -48,7 +48,7 @@ void write_unknown(text_output &output, const occurrence &at, wire_bytes value)
 
 wire_bytes value_bytes(const occurrence &at, wire_bytes wire)
 {
-    return wire.subspan(at.value.offset, at.value.bytes);
+    return wire.subspan(static_cast<std::size_t>(at.value.offset), static_cast<std::size_t>(at.value.bytes));
 }
 
 wire_bytes content_bytes(const occurrence &at, wire_bytes wire)
@@ -56,7 +56,7 @@ wire_bytes content_bytes(const occurrence &at, wire_bytes wire)
     const wire_bytes value = value_bytes(at, wire);
     const bool is_text =
         at.field != nullptr && (at.field->kind == field_kind::text || at.field->kind == field_kind::text_array);
-    return is_text ? value.first(text_bytes(value.data(), value.size())) : value;
+    return is_text ? value.first(static_cast<std::size_t>(text_bytes(value.data(), value.size()))) : value;
 }
 
 void write_value(json_writer &writer, const occurrence &at, wire_bytes wire)

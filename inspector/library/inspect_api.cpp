@@ -33,6 +33,11 @@ bool is_missing(const void *array, uint64_t count)
     return array == nullptr && count != 0;
 }
 
+wire_bytes bytes_at(const uint8_t *data, uint64_t length)
+{
+    return {data, static_cast<std::size_t>(length)};
+}
+
 // Returns what `use` returns for the message that `name` is. `are_missing`: of the other arguments.
 template <class Use>
 int32_t with_message(const char *name, bool are_missing, Use use)
@@ -198,7 +203,7 @@ extern "C" int32_t mava_tum_inspect_print(const char *message, const uint8_t *da
         message, is_missing(data, length) || is_missing(buffer, capacity), [&](const message_description &found) {
             if (capacity == 0)
                 return int32_t{MAVA_TUM_INSPECT_CUT};
-            return print_message(found, {data, length}, form, {redact_fn, context}, buffer, capacity);
+            return print_message(found, bytes_at(data, length), form, {redact_fn, context}, buffer, capacity);
         });
 }
 
@@ -208,7 +213,7 @@ extern "C" int32_t mava_tum_inspect_compare(const char *message, const uint8_t *
 {
     const bool are_missing = is_missing(first, first_length) || is_missing(second, second_length);
     return with_message(message, are_missing, [&](const message_description &found) {
-        return compare_messages(
-            found, {first, first_length}, {second, second_length}, difference_fn, context, difference_count);
+        return compare_messages(found, bytes_at(first, first_length), bytes_at(second, second_length), difference_fn,
+            context, difference_count);
     });
 }

@@ -18,11 +18,6 @@ bool carries_alone(const adapter_description &adapter)
 
 } // namespace
 
-const field_description *find_field(const message_description &message, uint32_t number)
-{
-    return number >= 1 && number <= message.fields.size() ? &message.fields[number - 1] : nullptr;
-}
-
 const field_description *find_field(const message_description &message, std::string_view name)
 {
     for (const field_description &field : message.fields)

@@ -23,7 +23,11 @@ using field_description = mava_tum_catalogue::field;
 using message_description = mava_tum_catalogue::message;
 
 // Null if the message has no such field.
-const field_description *find_field(const message_description &message, uint32_t number);
+inline const field_description *find_field(const message_description &message, uint32_t number)
+{
+    return number != 0 && number <= message.fields.size() ? &message.fields[number - 1] : nullptr;
+}
+
 const field_description *find_field(const message_description &message, std::string_view name);
 
 // By the adapter's name, or by the message's name if only one adapter carries it. Null if there is none.

@@ -8,8 +8,8 @@ namespace mava_tum_inspect
 namespace
 {
 
-// A sequence by its first byte: the number of bytes that follow, and the payload bits of the first. The other rules (no
-// over-long forms, no surrogates, nothing above U+10FFFF) are ranges of the code point.
+// A sequence by its first byte, which is no ASCII: the number of bytes that follow, and the payload bits of the first.
+// The other rules (no over-long forms, no surrogates, nothing above U+10FFFF) are ranges of the code point.
 struct utf8_sequence {
     uint32_t following;
     uint32_t first_payload;
@@ -18,8 +18,6 @@ struct utf8_sequence {
 
 utf8_sequence sequence_of(uint8_t first)
 {
-    if (first < 0x80)
-        return {0, first, 0};
     if (first >> 5 == 0x06)
         return {1, first & 0x1Fu, 0x80};
     if (first >> 4 == 0x0E)
@@ -51,6 +49,10 @@ bool is_first(uint8_t byte)
 bool is_utf8(const uint8_t *text, uint64_t length)
 {
     for (uint64_t i = 0; i < length;) {
+        if (text[i] < 0x80) {
+            ++i;
+            continue;
+        }
         if (!is_first(text[i]))
             return false;
         const utf8_sequence sequence = sequence_of(text[i++]);

@@ -166,7 +166,7 @@ namespace
 class bounded_output final : public text_output
 {
 public:
-    bounded_output(char *buffer, uint64_t capacity) : text_output(buffer, capacity) {}
+    bounded_output(char *buffer, uint64_t capacity) : text_output(buffer, static_cast<std::size_t>(capacity)) {}
 
     bool is_full() const
     {

@@ -16,13 +16,10 @@ class text_output
 public:
     void write(std::string_view text)
     {
-        while (text.size() > room()) {
-            const std::size_t part = room();
-            append(text.data(), part);
-            text = {text.data() + part, text.size() - part};
-            make_room();
-        }
-        append(text.data(), text.size());
+        while (text.size() > room())
+            text = write_part(text);
+        if (!text.empty())
+            append(text.data(), text.size());
     }
 
     void put(char character)
@@ -46,6 +43,10 @@ public:
     // Returns how many digits there are.
     std::size_t write_number(uint64_t number)
     {
+        if (number < 10) {
+            put(static_cast<char>('0' + number));
+            return 1;
+        }
         char digits[most_digits];
         const std::string_view text = decimal(digits, number);
         write(text);
@@ -108,6 +109,15 @@ private:
     {
         const char *end = std::to_chars(digits, digits + most_digits, number).ptr;
         return {digits, static_cast<std::size_t>(end - digits)};
+    }
+
+    // Fills the buffer. Returns the rest of the text.
+    [[gnu::noinline]] std::string_view write_part(std::string_view text)
+    {
+        const std::size_t part = room();
+        append(text.data(), part);
+        make_room();
+        return {text.data() + part, text.size() - part};
     }
 
     std::size_t room() const

@@ -35,7 +35,9 @@ uint64_t varint_bytes(uint64_t value)
     return bytes;
 }
 
-varint_read read_varint(wire_cursor &cursor, uint32_t value_bits)
+static_assert(varint_continuation == mava_tum::varint_continues);
+
+varint_read read_long_varint(wire_cursor &cursor, uint32_t value_bits)
 {
     varint_read varint;
     varint.place.offset = cursor.position;

@@ -38,8 +38,22 @@ struct fixed32_read {
     bool is_whole = false;
 };
 
-// Seven bits per byte, of which the low `value_bits` (32 or 64) count; any number of bytes.
-varint_read read_varint(wire_cursor &cursor, uint32_t value_bits);
+// The bit of a byte of a varint after which another byte follows.
+inline constexpr uint8_t varint_continuation = 0x80;
+
+varint_read read_long_varint(wire_cursor &cursor, uint32_t value_bits);
+
+// Seven bits per byte, of which the low `value_bits` (32 or 64) count; any number of bytes, but nearly always one.
+inline varint_read read_varint(wire_cursor &cursor, uint32_t value_bits)
+{
+    if (cursor.position == cursor.end || cursor.data[cursor.position] >= varint_continuation)
+        return read_long_varint(cursor, value_bits);
+    varint_read varint;
+    varint.place = {cursor.position, 1};
+    varint.value = cursor.data[cursor.position++];
+    varint.is_whole = true;
+    return varint;
+}
 
 fixed32_read read_fixed32(wire_cursor &cursor);
 

@@ -46,16 +46,16 @@ struct note_set {
 
 // A tag and its value.
 struct occurrence {
-    path_step path;                    // valid during the call that it comes with
-    const message_description *record; // around the field
-    const field_description *field;    // null: unknown to the record
-    uint32_t depth;                    // 0: in the message itself
-    uint32_t wire_type;
+    path_step path;                              // valid during the call that it comes with
+    const message_description *record = nullptr; // around the field
+    const field_description *field = nullptr;    // null: unknown to the record
+    uint32_t depth = 0;                          // 0: in the message itself
+    uint32_t wire_type = 0;
     extent tag;
-    extent length;         // no bytes: there is none
-    extent value;          // the part inside the record
-    uint64_t stated_bytes; // of the value; more than value.bytes for an unknown field that ends behind its record
-    uint64_t number_value; // of a varint or a fixed32
+    extent length;             // no bytes: there is none
+    extent value;              // the part inside the record
+    uint64_t stated_bytes = 0; // of the value; more than value.bytes for an unknown field that ends behind its record
+    uint64_t number_value = 0; // of a varint or a fixed32
     note_set notes;
 };
 

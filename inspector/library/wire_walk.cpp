@@ -310,7 +310,7 @@ private:
 
     occurrence started(const record_frame &frame) const
     {
-        occurrence at{};
+        occurrence at;
         at.record = &frame.record;
         at.depth = frame.depth;
         at.path.parent = frame.parent;

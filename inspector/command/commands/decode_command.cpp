@@ -27,7 +27,7 @@ exit_status run_decode(const command_options &options)
     source.read_beside(output);
     const colours colour(options.colour, output.is_terminal());
     const json_style style = style_of(options, source);
-    absent_fields absent(colour);
+    tree_texts texts(colour, !options.without_absent);
     fault_report report("decode", message);
     while (source.next()) {
         if (options.as_json) {
@@ -35,8 +35,7 @@ exit_status run_decode(const command_options &options)
             continue;
         }
         output.write(frame_heading(source, message.name));
-        report.add(
-            source, print_tree(message, source.message(), options.without_absent ? nullptr : &absent, colour, output));
+        report.add(source, print_tree(message, source.message(), texts, output));
     }
     output.commit();
     return report.finish();

@@ -1,7 +1,5 @@
 #include "message/field_tree.h"
 
-#include "output/output_file.h"
-
 #include "inspector/library/wire_walk.h"
 #include "message/verdict.h"
 
@@ -13,12 +11,6 @@ namespace mava_tum_cli
 namespace
 {
 
-using mava_tum_inspect::extent;
-using mava_tum_inspect::field_description;
-using mava_tum_inspect::message_description;
-using mava_tum_inspect::occurrence;
-using mava_tum_inspect::wire_fault;
-
 constexpr size_t offset_width = 6;
 constexpr size_t name_width = 26;
 constexpr size_t kind_width = 18;
@@ -26,11 +18,49 @@ constexpr size_t tree_indent_width = 2;
 constexpr size_t longest_line = 96; // of absent fields
 constexpr std::string_view absent_label = "absent: ";
 
-class tree_visitor : public mava_tum_inspect::wire_visitor
+std::string_view short_kind_of(const occurrence &at)
+{
+    // One element is one record or one text.
+    return !is_array_element(at.path) ? kind_of(at) : at.field->nested != nullptr ? "record" : "text";
+}
+
+void print_name(const occurrence &at, size_t width, const colours &colour, text_output &output)
+{
+    const std::string_view name = at.field == nullptr ? "(unknown)" : at.field->name;
+    output.write(colour.start(ink::name));
+    size_t written = output.write_number(at.path.number) + 1 + name.size();
+    output.put(' ');
+    output.write(name);
+    if (is_array_element(at.path)) {
+        output.put('[');
+        written += output.write_number(at.path.index) + 2;
+        output.put(']');
+    }
+    output.fill(written < width ? width - written : 0);
+    output.write(colour.end(ink::name));
+}
+
+// All between the offset and the value.
+void print_head(const occurrence &at, const colours &colour, text_output &output)
+{
+    const size_t indent = tree_indent_width * at.depth;
+    output.fill(2 + indent);
+    print_name(at, name_width - std::min(indent, name_width), colour, output);
+    output.put(' ');
+    output.write_padded(short_kind_of(at), kind_width);
+}
+
+// Of 256 places.
+size_t place_of(const void *of, uint64_t more)
+{
+    return ((reinterpret_cast<uintptr_t>(of) >> 4) + more) * 0x9E3779B97F4A7C15 >> 56;
+}
+
+class tree_visitor final : public wire_visitor
 {
 public:
-    tree_visitor(wire_bytes wire, absent_fields *absent, const colours &colour, text_output &output)
-        : m_wire(wire), m_absent(absent), m_colour(colour), m_output(output)
+    tree_visitor(wire_bytes wire, tree_texts &texts, text_output &output)
+        : m_wire(wire), m_texts(texts), m_colour(texts.colour()), m_output(output)
     {
     }
 
@@ -89,8 +119,7 @@ public:
 
     void print_absent(const message_description &message, uint32_t present, size_t depth)
     {
-        if (m_absent != nullptr)
-            m_output.write(m_absent->lines(message, present, offset_width + 2 + tree_indent_width * depth));
+        m_output.write(m_texts.absent(message, present, offset_width + 2 + tree_indent_width * depth));
     }
 
     std::optional<std::string> fault;
@@ -102,33 +131,10 @@ private:
         m_output.write(m_colour.start(ink::faint));
         m_output.write_right_aligned(at.tag.offset, offset_width);
         m_output.write(m_colour.end(ink::faint));
-        const size_t indent = tree_indent_width * at.depth;
-        m_output.fill(2 + indent);
-        print_name(at, name_width - std::min(indent, name_width));
-        m_output.put(' ');
-        m_output.write_padded(short_kind_of(at), kind_width);
-    }
-
-    void print_name(const occurrence &at, size_t width)
-    {
-        const std::string_view name = at.field == nullptr ? "(unknown)" : at.field->name;
-        m_output.write(m_colour.start(ink::name));
-        size_t written = m_output.write_number(at.path.number) + 1 + name.size();
-        m_output.put(' ');
-        m_output.write(name);
-        if (is_array_element(at.path)) {
-            m_output.put('[');
-            written += m_output.write_number(at.path.index) + 2;
-            m_output.put(']');
-        }
-        m_output.fill(written < width ? width - written : 0);
-        m_output.write(m_colour.end(ink::name));
-    }
-
-    static std::string_view short_kind_of(const occurrence &at)
-    {
-        // One element is one record or one text.
-        return !is_array_element(at.path) ? kind_of(at) : at.field->nested != nullptr ? "record" : "text";
+        if (at.field == nullptr || is_array_element(at.path))
+            print_head(at, m_colour, m_output);
+        else
+            m_output.write(m_texts.head(at));
     }
 
     void print_size(uint64_t bytes)
@@ -147,24 +153,34 @@ private:
     }
 
     wire_bytes m_wire;
-    absent_fields *m_absent; // null: they are left out
+    tree_texts &m_texts;
     const colours &m_colour;
     text_output &m_output;
 };
 
 } // namespace
 
-const std::string &absent_fields::lines(const message_description &message, uint32_t present, size_t indent)
+const std::string &tree_texts::absent(const message_description &message, uint32_t present, size_t indent)
 {
-    const uint64_t mixed = (present + (reinterpret_cast<uintptr_t>(&message) >> 4) + indent) * 0x9E3779B97F4A7C15;
-    kept_lines &kept = m_kept[mixed >> 56];
+    absent_lines &kept = m_absent[place_of(&message, present + indent)];
     if (kept.message != &message || kept.present != present || kept.indent != indent)
-        kept = {&message, present, indent, made(message, present, indent)};
+        kept = {&message, present, indent, m_has_absent ? made_absent(message, present, indent) : ""};
+    return kept.text;
+}
+
+const std::string &tree_texts::head(const occurrence &at)
+{
+    field_head &kept = m_heads[place_of(at.field, at.depth)];
+    if (kept.field != at.field || kept.depth != at.depth) {
+        text_in_memory text;
+        print_head(at, m_colour, text);
+        kept = {at.field, at.depth, text.take()};
+    }
     return kept.text;
 }
 
 // In lines of a bearable length.
-std::string absent_fields::made(const message_description &message, uint32_t present, size_t indent) const
+std::string tree_texts::made_absent(const message_description &message, uint32_t present, size_t indent) const
 {
     std::string text;
     std::string line;
@@ -187,12 +203,11 @@ std::string absent_fields::made(const message_description &message, uint32_t pre
     return text;
 }
 
-std::optional<std::string> print_tree(const message_description &message, wire_bytes wire, absent_fields *absent,
-    const colours &colour, text_output &output)
+std::optional<std::string> print_tree(
+    const message_description &message, wire_bytes wire, tree_texts &texts, text_output &output)
 {
-    tree_visitor visitor(wire, absent, colour, output);
-    const mava_tum_inspect::walk_result result =
-        mava_tum_inspect::walk_message(message, wire.data(), wire.size(), visitor);
+    tree_visitor visitor(wire, texts, output);
+    const walk_result result = walk_message(message, wire.data(), wire.size(), visitor);
     visitor.print_absent(message, result.present, 0);
     return visitor.fault;
 }
