@@ -16,6 +16,4 @@ void add_payload_notes(occurrence &at, const uint8_t *data);
 // Bytes of the text up to its NUL, if it has one.
 uint64_t text_bytes(const uint8_t *text, uint64_t length);
 
-bool is_utf8(const uint8_t *text, uint64_t length);
-
 } // namespace mava_tum_inspect

@@ -15,7 +15,7 @@ struct sequence_kind {
 sequence_kind sequence_of(unsigned char first)
 {
     if (first < 0x80)
-        return {1, first, 1};
+        return {1, first, 0};
     if (first >= 0xC0 && first < 0xE0)
         return {2, first & 0x1Fu, 0x80};
     if (first >= 0xE0 && first < 0xF0)
@@ -31,9 +31,28 @@ bool is_control(uint32_t code)
     return code >= 0x7F && code < 0xA0;
 }
 
-bool is_character(uint32_t code)
+bool is_code_point(uint32_t code)
 {
-    return code <= 0x10FFFF && (code < 0xD800 || code > 0xDFFF) && !is_control(code);
+    return code <= 0x10FFFF && (code < 0xD800 || code > 0xDFFF);
+}
+
+constexpr uint32_t no_character = UINT32_MAX;
+
+// Of the character that begins at `at`, which is then behind it; no_character: it is not well-formed.
+uint32_t next_character(std::string_view text, size_t &at)
+{
+    const sequence_kind kind = sequence_of(static_cast<unsigned char>(text[at]));
+    if (kind.length == 0 || kind.length > text.size() - at)
+        return no_character;
+    uint32_t code = kind.first_bits;
+    for (size_t i = 1; i < kind.length; ++i) {
+        const auto byte = static_cast<unsigned char>(text[at + i]);
+        if ((byte & 0xC0) != 0x80)
+            return no_character;
+        code = code << 6 | (byte & 0x3Fu);
+    }
+    at += kind.length;
+    return code < kind.smallest || !is_code_point(code) ? no_character : code;
 }
 
 // U+061C, U+200E, U+200F, U+202A to U+202E, U+2066 to U+2069.
@@ -57,22 +76,23 @@ direction_control direction_control_at(std::string_view text, size_t position)
     return changes_direction(code) ? direction_control{code, bytes} : direction_control{0, 0};
 }
 
+bool is_utf8(std::string_view text)
+{
+    for (size_t at = 0; at < text.size();) {
+        if (static_cast<unsigned char>(text[at]) < 0x80)
+            ++at;
+        else if (next_character(text, at) == no_character)
+            return false;
+    }
+    return true;
+}
+
 bool is_plain_utf8(std::string_view text)
 {
     for (size_t at = 0; at < text.size();) {
-        const sequence_kind kind = sequence_of(static_cast<unsigned char>(text[at]));
-        if (kind.length == 0 || kind.length > text.size() - at)
+        const uint32_t code = next_character(text, at);
+        if (code == no_character || code == 0 || is_control(code))
             return false;
-        uint32_t code = kind.first_bits;
-        for (size_t i = 1; i < kind.length; ++i) {
-            const auto byte = static_cast<unsigned char>(text[at + i]);
-            if ((byte & 0xC0) != 0x80)
-                return false;
-            code = code << 6 | (byte & 0x3Fu);
-        }
-        if (code < kind.smallest || !is_character(code))
-            return false;
-        at += kind.length;
     }
     return true;
 }

@@ -1,4 +1,4 @@
-// Whether a text can stand in JSON, or on a terminal, as it is.
+// Whether a text is UTF-8, and can stand in JSON or on a terminal as it is.
 #pragma once
 
 #include <cstddef>
@@ -7,6 +7,9 @@
 
 namespace mava_tum_inspect
 {
+
+// Well-formed.
+bool is_utf8(std::string_view text);
 
 // Well-formed UTF-8 without a zero byte, and without what only a terminal would understand.
 bool is_plain_utf8(std::string_view text);
