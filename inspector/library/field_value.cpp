@@ -112,12 +112,13 @@ std::string_view kind_of(const occurrence &at)
 address_text address_text::ipv4(uint32_t host_order)
 {
     address_text address;
-    char *end = address.m_text;
     for (const unsigned shift : {24u, 16u, 8u, 0u}) {
-        end = std::to_chars(end, end + 3, host_order >> shift & 0xFF).ptr;
-        *end++ = '.';
+        const decimal_text part(host_order >> shift & 0xFF);
+        std::memcpy(address.m_text + address.m_length, part.view().data(), part.view().size());
+        address.m_length += part.view().size() + 1;
+        address.m_text[address.m_length - 1] = '.';
     }
-    address.m_length = static_cast<std::size_t>(end - address.m_text) - 1;
+    --address.m_length;
     return address;
 }
 

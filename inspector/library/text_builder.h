@@ -10,6 +10,28 @@
 namespace mava_tum_inspect
 {
 
+// std::to_chars would leave functions of its own in the static library, which a plugin with it inside exports.
+class decimal_text
+{
+public:
+    explicit decimal_text(uint64_t number)
+    {
+        do {
+            digits_[--first_] = static_cast<char>('0' + number % 10);
+            number /= 10;
+        } while (number != 0);
+    }
+
+    std::string_view view() const
+    {
+        return {digits_ + first_, sizeof digits_ - first_};
+    }
+
+private:
+    char digits_[20];
+    std::size_t first_ = sizeof digits_;
+};
+
 // At most Size - 1 characters and a NUL.
 template <std::size_t Size>
 class text_builder
@@ -33,13 +55,7 @@ public:
 
     text_builder &add_number(uint64_t number)
     {
-        char digits[20] = {};
-        std::size_t first = sizeof(digits);
-        do {
-            digits[--first] = static_cast<char>('0' + number % 10);
-            number /= 10;
-        } while (number != 0);
-        return add({digits + first, sizeof(digits) - first});
+        return add(decimal_text(number).view());
     }
 
     text_builder &add_signed(int64_t number)

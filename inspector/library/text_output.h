@@ -1,7 +1,8 @@
 // Text on its way out: written into a buffer, which is handed on when it is full. Allocates nothing.
 #pragma once
 
-#include <charconv>
+#include "inspector/library/text_builder.h"
+
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
@@ -47,10 +48,9 @@ public:
             put(static_cast<char>('0' + number));
             return 1;
         }
-        char digits[most_digits];
-        const std::string_view text = decimal(digits, number);
-        write(text);
-        return text.size();
+        const decimal_text digits(number);
+        write(digits.view());
+        return digits.view().size();
     }
 
     // With blanks behind it, up to a width.
@@ -63,10 +63,9 @@ public:
     // With blanks before it.
     void write_right_aligned(uint64_t number, std::size_t width)
     {
-        char digits[most_digits];
-        const std::string_view text = decimal(digits, number);
-        fill(text.size() < width ? width - text.size() : 0);
-        write(text);
+        const decimal_text digits(number);
+        fill(digits.view().size() < width ? width - digits.view().size() : 0);
+        write(digits.view());
     }
 
     void write_hex(std::span<const uint8_t> bytes)
@@ -103,14 +102,6 @@ protected:
     }
 
 private:
-    static constexpr std::size_t most_digits = 20;
-
-    static std::string_view decimal(char (&digits)[most_digits], uint64_t number)
-    {
-        const char *end = std::to_chars(digits, digits + most_digits, number).ptr;
-        return {digits, static_cast<std::size_t>(end - digits)};
-    }
-
     // Fills the buffer. Returns the rest of the text.
     [[gnu::noinline]] std::string_view write_part(std::string_view text)
     {

@@ -83,22 +83,22 @@ TEST(base64_text, that_is_cut_or_goes_on_behind_its_end_is_refused)
 
 TEST(utf8_text, longer_forms_and_halves_of_pairs_are_none)
 {
-    EXPECT_TRUE(mava_tum_cli::is_plain_utf8("plain \xC3\xA9 \xE2\x82\xAC \xF0\x9F\x98\x80"));
+    EXPECT_TRUE(mava_tum_inspect::is_plain_utf8("plain \xC3\xA9 \xE2\x82\xAC \xF0\x9F\x98\x80"));
     for (const std::string_view text :
         {"\xFF", "\xC3", "\xC0\xAF", "\xE0\x80\xAF", "\xED\xA0\x80", "\xF4\x90\x80\x80", "\x80", "\xE2\x82"})
-        EXPECT_FALSE(mava_tum_cli::is_plain_utf8(text));
-    EXPECT_FALSE(mava_tum_cli::is_plain_utf8(std::string_view("\0", 1)));
-    EXPECT_FALSE(mava_tum_cli::is_plain_utf8("\xC2\x9B"));
+        EXPECT_FALSE(mava_tum_inspect::is_plain_utf8(text));
+    EXPECT_FALSE(mava_tum_inspect::is_plain_utf8(std::string_view("\0", 1)));
+    EXPECT_FALSE(mava_tum_inspect::is_plain_utf8("\xC2\x9B"));
 }
 
 TEST(utf8_text, characters_that_change_the_direction_are_told_from_their_neighbours)
 {
     for (const auto &[text, code] : {std::pair{"\xD8\x9C", 0x061Cu}, {"\xE2\x80\x8E", 0x200E}, {"\xE2\x80\x8F", 0x200F},
              {"\xE2\x80\xAA", 0x202A}, {"\xE2\x80\xAE", 0x202E}, {"\xE2\x81\xA6", 0x2066}, {"\xE2\x81\xA9", 0x2069}})
-        EXPECT_EQ(mava_tum_cli::direction_control_at(text, 0).code, code);
+        EXPECT_EQ(mava_tum_inspect::direction_control_at(text, 0).code, code);
     for (const std::string_view text : {"\xD8\x9B", "\xD8\x9D", "\xE2\x80\x8D", "\xE2\x80\x90", "\xE2\x80\xA9",
              "\xE2\x80\xAF", "\xE2\x81\xA5", "\xE2\x81\xAA", "a"})
-        EXPECT_EQ(mava_tum_cli::direction_control_at(text, 0).bytes, 0u);
+        EXPECT_EQ(mava_tum_inspect::direction_control_at(text, 0).bytes, 0u);
 }
 
 } // namespace
