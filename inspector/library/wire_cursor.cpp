@@ -14,12 +14,13 @@ void add_byte(varint_read &varint, uint64_t index, uint8_t byte, uint32_t value_
     const uint64_t payload = byte & mava_tum::varint_payload;
     const uint64_t shift = 7 * index;
     if (shift >= value_bits) {
-        varint.lost_bits |= payload != 0;
+        if (payload != 0)
+            varint.lost_bits = true;
         return;
     }
     const uint64_t room = value_bits - shift;
-    if (room < 7)
-        varint.lost_bits |= payload >> room != 0;
+    if (room < 7 && payload >> room != 0)
+        varint.lost_bits = true;
     varint.value |= payload << shift;
 }
 
@@ -40,10 +41,10 @@ static_assert(varint_continuation == mava_tum::varint_continues);
 varint_read read_long_varint(wire_cursor &cursor, uint32_t value_bits)
 {
     varint_read varint;
-    varint.place.offset = cursor.position;
     while (cursor.position != cursor.end) {
         const uint8_t byte = cursor.data[cursor.position++];
-        add_byte(varint, varint.place.bytes++, byte, value_bits);
+        add_byte(varint, varint.bytes, byte, value_bits);
+        varint.bytes = varint.bytes + 1;
         if (byte < mava_tum::varint_continues) {
             varint.is_whole = true;
             break;
@@ -51,7 +52,7 @@ varint_read read_long_varint(wire_cursor &cursor, uint32_t value_bits)
     }
     if (value_bits == 32)
         varint.value = static_cast<uint32_t>(varint.value);
-    varint.is_over_long = varint.place.bytes > varint_bytes(varint.value);
+    varint.is_over_long = varint.bytes > varint_bytes(varint.value);
     return varint;
 }
 

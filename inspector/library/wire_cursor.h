@@ -24,12 +24,13 @@ struct wire_cursor {
     }
 };
 
+// Of 16 bytes, so that a function returns it in registers.
 struct varint_read {
-    extent place; // the part inside the record
     uint64_t value = 0;
-    bool is_whole = false;
-    bool is_over_long = false; // in more bytes than the value needs
-    bool lost_bits = false;    // bits that are set were dropped
+    uint64_t bytes : 61 = 0; // inside the record
+    bool is_whole : 1 = false;
+    bool is_over_long : 1 = false; // in more bytes than the value needs
+    bool lost_bits : 1 = false;    // bits that are set were dropped
 };
 
 struct fixed32_read {
@@ -49,8 +50,8 @@ inline varint_read read_varint(wire_cursor &cursor, uint32_t value_bits)
     if (cursor.position == cursor.end || cursor.data[cursor.position] >= varint_continuation)
         return read_long_varint(cursor, value_bits);
     varint_read varint;
-    varint.place = {cursor.position, 1};
     varint.value = cursor.data[cursor.position++];
+    varint.bytes = 1;
     varint.is_whole = true;
     return varint;
 }

@@ -46,6 +46,15 @@ struct note_set {
 
 // A tag and its value.
 struct occurrence {
+    occurrence() = default;
+
+    // Not constexpr: a compiler would clear the whole block first, which takes longer than the members.
+    occurrence(const message_description &around, const path_step *parent, uint32_t levels)
+        : record(&around), depth(levels)
+    {
+        path.parent = parent;
+    }
+
     path_step path;                              // valid during the call that it comes with
     const message_description *record = nullptr; // around the field
     const field_description *field = nullptr;    // null: unknown to the record

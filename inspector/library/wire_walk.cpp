@@ -96,10 +96,11 @@ private:
 
     bool walk_varint(occurrence &at, bool seen)
     {
+        at.value.offset = cursor_.position;
         const varint_read varint = read_varint(cursor_, at.field->value_bits);
-        at.value = varint.place;
+        at.value.bytes = varint.bytes;
         if (!varint.is_whole)
-            return fail(at, fault_rule::varint_cut, varint.place.offset);
+            return fail(at, fault_rule::varint_cut, at.value.offset);
         at.number_value = varint.value;
         at.notes.add_if(varint.is_over_long, note::over_long_value);
         at.notes.add_if(varint.lost_bits, note::cut_value);
@@ -277,12 +278,13 @@ private:
 
     bool skip_varint(occurrence &at)
     {
+        at.value.offset = cursor_.position;
         const varint_read varint = read_varint(cursor_, 64);
-        at.value = varint.place;
+        at.value.bytes = varint.bytes;
         if (!varint.is_whole)
-            return fail(at, fault_rule::unknown_varint_cut, varint.place.offset);
+            return fail(at, fault_rule::unknown_varint_cut, at.value.offset);
         at.number_value = varint.value;
-        at.stated_bytes = varint.place.bytes;
+        at.stated_bytes = varint.bytes;
         visitor_.on_unknown(at);
         return goes_on();
     }
@@ -310,17 +312,14 @@ private:
 
     occurrence started(const record_frame &frame) const
     {
-        occurrence at;
-        at.record = &frame.record;
-        at.depth = frame.depth;
-        at.path.parent = frame.parent;
-        return at;
+        return occurrence(frame.record, frame.parent, frame.depth);
     }
 
     bool read_tag(occurrence &at)
     {
+        at.tag.offset = cursor_.position;
         const varint_read tag = read_varint(cursor_, tag_bits);
-        at.tag = tag.place;
+        at.tag.bytes = tag.bytes;
         at.path.number = mava_tum::field_number_of(static_cast<uint32_t>(tag.value));
         at.wire_type = static_cast<uint32_t>(tag.value) & mava_tum::wire_type_mask;
         at.notes.add_if(tag.is_over_long, note::over_long_tag);
@@ -330,8 +329,9 @@ private:
 
     varint_read read_length(occurrence &at)
     {
+        at.length.offset = cursor_.position;
         const varint_read length = read_varint(cursor_, length_bits);
-        at.length = length.place;
+        at.length.bytes = length.bytes;
         at.notes.add_if(length.is_whole && length.is_over_long, note::over_long_length);
         at.notes.add_if(length.is_whole && length.lost_bits, note::cut_length);
         return length;
