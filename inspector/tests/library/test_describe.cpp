@@ -1,5 +1,6 @@
+// Descriptions, and the pointers that may be null.
+#include "inspect_calls.h"
 #include "mava_tum.h"
-#include "mava_tum_inspect.h"
 
 #include <gtest/gtest.h>
 
@@ -7,6 +8,8 @@
 
 namespace
 {
+
+using namespace mava_tum_test;
 
 TEST(inspect_describe, tells_what_a_message_is)
 {
@@ -56,6 +59,91 @@ TEST(inspect_describe, knows_no_other_names_and_numbers)
     EXPECT_EQ(mava_tum_inspect_describe_field("stats", 0, &field), MAVA_TUM_INSPECT_NO_SUCH_NAME);
     EXPECT_EQ(mava_tum_inspect_describe_field("stats", 19, &field), MAVA_TUM_INSPECT_NO_SUCH_NAME);
     EXPECT_EQ(mava_tum_inspect_describe_field("stat", 1, &field), MAVA_TUM_INSPECT_NO_SUCH_NAME);
+}
+
+// ---- arguments ----
+
+const byte_vector input = bytes_of("08 07");
+
+int32_t no_line(const mava_tum_inspect_line *, void *)
+{
+    return 0;
+}
+
+TEST(inspect_arguments, a_null_name_is_refused)
+{
+    mava_tum_inspect_message message;
+    mava_tum_inspect_field field;
+    mava_tum_inspect_verdict verdict;
+    mava_tum_inspect_check_result result;
+    uint64_t blocks = 0;
+    uint64_t bytes = 0;
+    const int32_t refused = MAVA_TUM_INSPECT_NULL_ARGUMENT;
+    EXPECT_EQ(mava_tum_inspect_describe(nullptr, &message), refused);
+    EXPECT_EQ(mava_tum_inspect_describe_field(nullptr, 1, &field), refused);
+    EXPECT_EQ(mava_tum_inspect_judge(nullptr, input.data(), 2, &verdict), refused);
+    EXPECT_EQ(mava_tum_inspect_explain(nullptr, input.data(), 2, no_line, nullptr, &verdict), refused);
+    EXPECT_EQ(mava_tum_inspect_memory(nullptr, input.data(), 2, 0, &blocks, &bytes), refused);
+    EXPECT_EQ(mava_tum_inspect_check(nullptr, input.data(), 2, 0, nullptr, nullptr, &result), refused);
+    char line[80];
+    EXPECT_EQ(mava_tum_inspect_print(nullptr, input.data(), 2, 0, nullptr, nullptr, line, sizeof line), refused);
+    EXPECT_EQ(mava_tum_inspect_compare(nullptr, input.data(), 2, input.data(), 2, nullptr, nullptr, nullptr), refused);
+    const char *name = nullptr;
+    EXPECT_EQ(mava_tum_inspect_similar_messages(nullptr, &name, 1), 0u);
+    EXPECT_EQ(mava_tum_inspect_similar_adapters(nullptr, &name, 1), 0u);
+}
+
+TEST(inspect_arguments, data_may_be_null_only_without_a_length)
+{
+    mava_tum_inspect_verdict verdict;
+    mava_tum_inspect_check_result result;
+    mava_tum_inspect_candidate candidate;
+    uint64_t blocks = 0;
+    uint64_t bytes = 0;
+    for (const uint64_t length : {0, 1}) {
+        const int32_t expected = length == 0 ? int32_t{MAVA_TUM_OK} : int32_t{MAVA_TUM_INSPECT_NULL_ARGUMENT};
+        EXPECT_EQ(mava_tum_inspect_judge("vlan_info", nullptr, length, &verdict), expected);
+        EXPECT_EQ(mava_tum_inspect_explain("vlan_info", nullptr, length, no_line, nullptr, nullptr), expected);
+        EXPECT_EQ(mava_tum_inspect_memory("vlan_info", nullptr, length, 0, &blocks, &bytes), expected);
+        EXPECT_EQ(mava_tum_inspect_check("sub_route", nullptr, length, 0, nullptr, nullptr, &result), expected);
+        EXPECT_EQ(mava_tum_inspect_guess(nullptr, length, &candidate, 1), length == 0 ? 40u : 0u);
+        char line[80];
+        EXPECT_EQ(
+            mava_tum_inspect_print("vlan_info", nullptr, length, 0, nullptr, nullptr, line, sizeof line), expected);
+        EXPECT_EQ(mava_tum_inspect_compare("vlan_info", nullptr, length, nullptr, length, nullptr, nullptr, nullptr),
+            expected);
+    }
+}
+
+TEST(inspect_arguments, a_null_place_for_a_result_is_refused)
+{
+    uint64_t number = 0;
+    const int32_t refused = MAVA_TUM_INSPECT_NULL_ARGUMENT;
+    EXPECT_EQ(mava_tum_inspect_describe("vlan_info", nullptr), refused);
+    EXPECT_EQ(mava_tum_inspect_describe_field("vlan_info", 1, nullptr), refused);
+    EXPECT_EQ(mava_tum_inspect_judge("vlan_info", input.data(), 2, nullptr), refused);
+    EXPECT_EQ(mava_tum_inspect_explain("vlan_info", input.data(), 2, nullptr, nullptr, nullptr), refused);
+    EXPECT_EQ(mava_tum_inspect_memory("vlan_info", input.data(), 2, 0, nullptr, &number), refused);
+    EXPECT_EQ(mava_tum_inspect_memory("vlan_info", input.data(), 2, 0, &number, nullptr), refused);
+    EXPECT_EQ(mava_tum_inspect_check("sub_route", input.data(), 2, 0, nullptr, nullptr, nullptr), refused);
+}
+
+TEST(inspect_arguments, an_array_may_be_null_only_without_a_capacity)
+{
+    EXPECT_EQ(mava_tum_inspect_similar_messages("vlan_inf", nullptr, 1), 0u);
+    EXPECT_EQ(mava_tum_inspect_similar_adapters("sub_rout", nullptr, 1), 0u);
+    EXPECT_EQ(mava_tum_inspect_guess(input.data(), 2, nullptr, 1), 0u);
+    EXPECT_EQ(mava_tum_inspect_print("vlan_info", input.data(), 2, 0, nullptr, nullptr, nullptr, 1),
+        MAVA_TUM_INSPECT_NULL_ARGUMENT);
+    EXPECT_EQ(
+        mava_tum_inspect_print("vlan_info", input.data(), 2, 0, nullptr, nullptr, nullptr, 0), MAVA_TUM_INSPECT_CUT);
+    EXPECT_GT(mava_tum_inspect_guess(input.data(), 2, nullptr, 0), 1u);
+    mava_tum_inspect_line line{MAVA_TUM_INSPECT_LINE_TAG, 0, 0, 1, "", "a tag"};
+    char text[80] = "";
+    EXPECT_EQ(mava_tum_inspect_format_line(nullptr, input.data(), text, sizeof(text)), 0u);
+    EXPECT_EQ(mava_tum_inspect_format_line(&line, nullptr, text, sizeof(text)), 0u);
+    EXPECT_EQ(mava_tum_inspect_format_line(&line, input.data(), nullptr, 1), 0u);
+    EXPECT_GT(mava_tum_inspect_format_line(&line, input.data(), nullptr, 0), 8u);
 }
 
 } // namespace
