@@ -95,7 +95,7 @@ run_clang16() {
 platform_i686() {
     packages=(g++-i686-linux-gnu)
     local model="the model's tables hold the offsets of machines with 64-bit pointers"
-    configure=(-DCMAKE_TOOLCHAIN_FILE="$PWD/cmake/toolchains/i686-linux-gnu.cmake")
+    configure=(--toolchain "$PWD/cmake/debian_cross.cmake" -DDEBIAN_TRIPLET=i686-linux-gnu)
     left_out=("tests/interop: there is no protobuf runtime among the cross compiler's packages" "tests/injection: $model"
         "tests/amplification: $model" "tests/docs: its pictures show records with 64-bit pointers")
     not_run=("test_model: $model" "test_adapter_agreement: likewise" "replay_messages: likewise"
@@ -113,7 +113,7 @@ platform_s390x() {
 
 emulated() {
     packages=("g++-$1-linux-gnu" qemu-user)
-    configure=(-DCMAKE_TOOLCHAIN_FILE="$PWD/cmake/toolchains/$1-linux-gnu.cmake")
+    configure=(--toolchain "$PWD/cmake/debian_cross.cmake" -DDEBIAN_TRIPLET="$1-linux-gnu")
     runner=("qemu-$1" -L "/usr/$1-linux-gnu")
     left_out=("tests/interop: there is no protobuf runtime among the cross compiler's packages"
         "tests/examples: their tests start other programs, and the emulator would not start with these")
