@@ -18,8 +18,7 @@ constexpr codec_calls calls_of_message()
     using row = message_row<Record>;
     return {[](void *record, const uint8_t *data, uint64_t length, mava_tum_alloc_fn alloc_fn, void *alloc_ctx,
                 uint32_t flags) {
-                return call_codec(
-                    row::decode, static_cast<Record *>(record), data, length, alloc_fn, alloc_ctx, flags);
+                return call_codec(row::decode, static_cast<Record *>(record), data, length, alloc_fn, alloc_ctx, flags);
             },
         [](const void *record, uint8_t *buffer, uint64_t length, mava_tum_segment *segments, uint32_t *segment_count,
             uint32_t flags) {
@@ -66,12 +65,12 @@ constexpr auto all_adapter_calls = calls_of_adapters(adapter_rows());
 
 const codec_calls &message::calls() const
 {
-    return message_calls[static_cast<std::size_t>(this - tables::messages)];
+    return message_calls[place];
 }
 
 const adapter_calls &adapter::calls() const
 {
-    return all_adapter_calls[static_cast<std::size_t>(this - tables::adapters)];
+    return all_adapter_calls[place];
 }
 
 } // namespace mava_tum_catalogue

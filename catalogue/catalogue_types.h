@@ -45,7 +45,8 @@ struct codec_calls {
 };
 
 struct message {
-    const char *name; // as in mava_tum_<name>
+    const char *name;  // as in mava_tum_<name>
+    std::size_t place; // in tables::messages
     std::size_t record_bytes;
     std::size_t mask_offset;
     std::size_t mask_bytes;        // 1, 2 or 4
@@ -87,8 +88,8 @@ struct message_row;
 template <class Record>
 constexpr message describe_message(const char *name, std::span<const field> fields, bool holds_bytes, bool allocates)
 {
-    return {name, sizeof(Record), offsetof(Record, presence_mask), sizeof(Record::presence_mask), holds_bytes,
-        allocates, fields};
+    return {name, message_row<Record>::place, sizeof(Record), offsetof(Record, presence_mask),
+        sizeof(Record::presence_mask), holds_bytes, allocates, fields};
 }
 
 // ---- application records ----
@@ -169,7 +170,8 @@ struct adapter_calls {
 };
 
 struct adapter {
-    const char *name; // as in tum_nal_data_gpb_encode_tum_<name>
+    const char *name;  // as in tum_nal_data_gpb_encode_tum_<name>
+    std::size_t place; // in tables::adapters
     const message *carried;
     const record_layout *sent; // one record has another layout for each direction
     const record_layout *received;

@@ -114,10 +114,11 @@ class CppWriter:
                 "};"]
 
     def adapters_table(self) -> list[str]:
-        rows = [f'    {{"{each.name}", '
+        rows = [f'    {{"{each.name}", {place}, '
                 f"&tables::messages[{self.message_places[each.message]}], "
                 f"&tables::records[{self.record_places[each.sent]}], "
-                f"&tables::records[{self.record_places[each.received]}], {each.name}_adapter::max_size}}," for each in self.adapters]
+                f"&tables::records[{self.record_places[each.received]}], {each.name}_adapter::max_size}},"
+                for place, each in enumerate(self.adapters)]
         types = ",\n    ".join(f"{each.name}_adapter" for each in self.adapters)
         return ["", f"inline constexpr adapter tables::adapters[{len(rows)}] = {{", *rows, "};", "",
                 "using adapter_rows = type_list<", f"    {types}>;"]
