@@ -68,7 +68,7 @@ platform_valgrind() {
         --child-silent-after-fork=yes --log-file="$results/valgrind.%p.log")
 }
 
-# The older compilers of Debian 12. The other platforms run the whole suite with newer ones.
+# Older compilers of Debian 12. The other platforms run the whole suite, with clang 19 and g++ 12.
 platform_clang15() {
     core_programs clang-15 clang++-15
 }
