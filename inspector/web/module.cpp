@@ -5,8 +5,9 @@
 //
 // list, decode, encode, explain, check, guess, diff and app are the program's own. The others are the page's:
 //
-//     message   the bytes of message `number`; text: whether there can be several
-//     frames    all messages: for each four doubles: offset, bytes, result of a decode as `name`, offset of its fault
+//     message   the bytes of message `number`; text: whether it was found, there can be several, and it is a capture
+//     frames    all messages: for each five doubles: offset (of captures: number of the packet), bytes, result of a
+//               decode as `name`, offset of its fault, number of its direction; text: the directions
 //     look      what is wrong with a message, what it needs, and its adapters
 //     rows      the rows of its tree (module.h)
 //     texts     the texts of `count` rows from `first`
@@ -29,6 +30,7 @@
 #include <array>
 #include <cstdlib>
 #include <fmt/format.h>
+#include <map>
 #include <memory>
 #include <new>
 
@@ -53,10 +55,22 @@ std::string text_in(const json &request, const char *name, const char *otherwise
 input_format format_named(const std::string &name)
 {
     for (const input_format format : {input_format::raw, input_format::hex, input_format::base64, input_format::frames,
-             input_format::dump, input_format::c})
+             input_format::dump, input_format::c, input_format::capture})
         if (name == name_of(format))
             return format;
     return input_format::automatic;
+}
+
+capture_choice packets_of(const json &request)
+{
+    const std::string side = text_in(request, "side");
+    const std::string protocol = text_in(request, "transport");
+    capture_choice choice;
+    choice.ports = request.value("ports", choice.ports);
+    choice.side = side == "from" ? port_side::from : side == "both" ? port_side::both : port_side::to;
+    if (protocol == "udp" || protocol == "tcp")
+        choice.protocol = protocol == "udp" ? transport::udp : transport::tcp;
+    return choice;
 }
 
 command_options options_of(const json &request)
@@ -66,6 +80,7 @@ command_options options_of(const json &request)
     options.direction = text_in(request, "direction", "decode");
     options.input.files = {text_in(request, "input", "-")};
     options.input.format = format_named(text_in(request, "format"));
+    options.input.packets = packets_of(request);
     options.input.number = request.value("number", uint64_t{0});
     options.second_file = text_in(request, "second");
     options.as_json = request.value("json", false);
@@ -109,9 +124,10 @@ void send_bytes(std::span<const uint8_t> bytes)
 exit_status run_message(const json &request)
 {
     message_source source(options_of(request).input, plausibility_for(request));
-    source.next();
-    send_bytes(source.message());
-    send_json({{"several", source.has_several()}});
+    const bool is_there = source.next(); // a capture may have none
+    if (is_there)
+        send_bytes(source.message());
+    send_json({{"several", source.has_several()}, {"capture", source.is_capture()}, {"found", is_there}});
     return exit_ok;
 }
 
@@ -120,8 +136,10 @@ class frame_rows
 public:
     void add(const message_source &source, const mava_tum_inspect_verdict &verdict)
     {
-        const double row[] = {static_cast<double>(source.place().offset), static_cast<double>(source.message().size()),
-            static_cast<double>(verdict.result), static_cast<double>(verdict.offset)};
+        const message_place place = source.place();
+        const double row[] = {static_cast<double>(source.is_capture() ? place.packet : place.offset),
+            static_cast<double>(source.message().size()), static_cast<double>(verdict.result),
+            static_cast<double>(verdict.offset), direction_number(place.direction)};
         m_rows.insert(m_rows.end(), std::begin(row), std::end(row));
         if (m_rows.size() >= 16384)
             flush();
@@ -133,8 +151,23 @@ public:
         m_rows.clear();
     }
 
+    const json &directions() const
+    {
+        return m_directions;
+    }
+
 private:
+    double direction_number(std::string_view direction)
+    {
+        const auto [found, is_new] = m_numbers.try_emplace(std::string(direction), m_directions.size());
+        if (is_new)
+            m_directions.push_back(direction);
+        return static_cast<double>(found->second);
+    }
+
     std::vector<double> m_rows;
+    std::map<std::string, size_t> m_numbers;
+    json m_directions = json::array();
 };
 
 exit_status run_frames(const json &request)
@@ -153,6 +186,7 @@ exit_status run_frames(const json &request)
         throw; // what was read before is shown with the reason
     }
     rows.flush();
+    send_json(rows.directions());
     return exit_ok;
 }
 

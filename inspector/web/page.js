@@ -6,9 +6,15 @@
 
 const EXAMPLE = {name: 'session_context',
     hex: '08 02 18 07 52 10 10 2a 2a 05 61 6c 69 63 65 52 05 08 64 10 90 4e'};
-const FRAME_NUMBERS = 4; // doubles of each message in a list, see module.cpp
+const FRAME_NUMBERS = 5; // doubles of each message in a list, see module.cpp
 /** @type {Record<number, string>} */
 const NO_FIELDS = {[ROW.fault]: 'Decoding ends here', [ROW.unread]: 'Not read', [ROW.absent]: 'Absent fields'};
+/** What the program says to people who type a command line, and what it is here. */
+const OF_COMMAND_LINE = [['say which with --format', 'choose its form'], ['say -f raw', 'choose raw bytes'],
+    ['say --format frames', 'choose length-prefixed messages'], ['name the format with --format', 'choose its form'],
+    [' (JSON is read by mava-tum encode)', ''],
+    ['--port, --side and --transport leave out', 'the choice below leaves out'],
+    ['--port and --transport choose packets', 'ports choose packets'], ['; mava-tum list has all names', '']];
 
 /** @param {string} id @returns {any} */
 function part(id) {
@@ -118,11 +124,16 @@ const state = {
     source: '', // of the kept file that the input is
     format: 'auto',
     /** @type {Uint8Array} */ bytes: new Uint8Array(0),
+    guessed: '', // the name, if it was not chosen
+    isCapture: false,
+    /** @type {object} */ packets: {}, // of a capture: the choice
+    /** @type {string[]} */ directions: [], // of a capture
     /** @type {Float64Array} */ frames: new Float64Array(0),
     /** @type {number[]} */ framesShown: [],
     frame: 0,
     /** @type {{bytes: Uint8Array, name: string}[]} */ before: [],
     /** @type {{bytes: Uint8Array, name: string}[]} */ after: [],
+    reading: 0, // of inputs: as `turn`
     turn: 0, // of showing: an answer that comes late is dropped
     half: -1, // the byte of which one hex digit was typed
     /** @type {any} */ look: null,
@@ -174,6 +185,16 @@ function say(id, sentence) {
     part(id).replaceChildren(...withRules(sentence));
 }
 
+/**
+ * Beside the input, a line each.
+ * @param {string} sentences
+ */
+function sayRefusal(sentences) {
+    const text = OF_COMMAND_LINE.reduce((all, [theirs, ours]) => all.replaceAll(theirs, ours), sentences);
+    part('refusal').replaceChildren(...text.split('\n').flatMap((line) => ['\n', ...withRules(line)]).slice(1));
+    part('refusal').hidden = text === '';
+}
+
 // ---- from an input to a message ----------------------------------------------------------------------------------
 
 /** @param {string} name @param {Uint8Array | Blob} content */
@@ -186,45 +207,76 @@ function takeInput(name, content) {
 function readPaste() {
     const text = part('input').value;
     if (text.trim() === '' && part('format').value === 'auto')
-        return say('refusal', 'There is nothing to inspect yet: paste a message, or open a file.');
+        return sayRefusal('There is nothing to inspect yet: paste a message, or open a file.');
     return takeInput('the input', new TextEncoder().encode(text));
 }
 
-async function readInput() {
-    say('refusal', '');
-    state.format = part('format').value;
-    state.name = part('message').value.trim();
-    const turn = ++state.turn;
-    showBusy('reading');
-    const answer = await inspector.run(
-        {command: 'message', name: state.name, input: state.source, format: state.format, number: 1});
-    showBusy('');
-    if (turn !== state.turn)
+/**
+ * Of the input that is open.
+ * @param {object} more
+ * @returns {object}
+ */
+function requestOfInput(more) {
+    return {name: state.name, input: state.source, format: state.format, ...state.packets, ...more};
+}
+
+function choosePackets() {
+    const words = part('ports').value.split(/[\s,;]+/).filter((/** @type {string} */ word) => word !== '');
+    const isPort = (/** @type {string} */ word) => /^\d+$/.test(word) && Number(word) >= 1 && Number(word) <= 65535;
+    const wrong = words.find((/** @type {string} */ word) => !isPort(word));
+    say('packets-refusal', wrong === undefined ? '' : `"${wrong}" is no port: ports are numbers from 1 to 65535.`);
+    if (wrong !== undefined)
         return;
+    state.packets = {ports: words.map(Number), side: part('side').value, transport: part('transport').value};
+    return readInput();
+}
+
+async function readInput() {
+    sayRefusal('');
+    state.format = part('format').value;
+    const name = part('message').value.trim();
+    state.name = name === state.guessed ? '' : name;
+    part('candidates').replaceChildren();
+    const reading = ++state.reading;
+    showBusy('reading');
+    const answer = await inspector.run(requestOfInput({command: 'message', number: 1}));
+    if (reading !== state.reading)
+        return;
+    showBusy('');
     if (answer.status === 2)
-        return say('refusal', answer.errors.replace('say which with --format', 'choose its form')
-            .replace('say -f raw', 'choose raw bytes').replace('or name the format with --format', 'or choose its form')
-            .replace('name the format with --format', 'choose its form').replace('(JSON is read by mava-tum encode)', ''));
+        return sayRefusal(answer.errors);
+    const {several, capture, found} = JSON.parse(answer.text);
+    state.isCapture = capture;
+    part('packets').hidden = !capture;
+    part('frames-part').hidden = !several;
+    setFrames(new Float64Array(0), []);
+    if (!found)
+        return sayRefusal(answer.errors);
     state.before = [];
     state.after = [];
     state.frame = 1;
     view.row = -1;
     view.offset = 0;
     await show(answer.bytes);
-    if (JSON.parse(answer.text).several)
+    if (several)
         await listFrames();
-    else
-        part('frames-part').hidden = true;
 }
 
 async function listFrames() {
+    const {reading} = state;
     showBusy('reading the messages', 0);
-    const answer = await inspector.run(
-        {command: 'frames', name: state.name, input: state.source, format: state.format});
+    const answer = await inspector.run(requestOfInput({command: 'frames', number: 0}));
+    if (reading !== state.reading)
+        return;
     showBusy('');
-    state.frames = new Float64Array(answer.bytes.buffer);
-    say('refusal', answer.errors);
-    part('frames-part').hidden = false;
+    sayRefusal(answer.errors);
+    setFrames(new Float64Array(answer.bytes.buffer), answer.text === '' ? [] : JSON.parse(answer.text));
+}
+
+/** @param {Float64Array} frames @param {string[]} directions */
+function setFrames(frames, directions) {
+    state.frames = frames;
+    state.directions = directions;
     filterFrames();
 }
 
@@ -245,31 +297,55 @@ function filterFrames() {
 
 const frameList = new LineList(part('frames'), 26, (line) => {
     const i = state.framesShown[line];
-    const [offset, size, result, fault] = state.frames.subarray(i * FRAME_NUMBERS, (i + 1) * FRAME_NUMBERS);
+    const [place, size, result, fault, direction] = state.frames.subarray(i * FRAME_NUMBERS, (i + 1) * FRAME_NUMBERS);
     const isShown = i + 1 === state.frame;
+    const where = state.isCapture ? `packet ${place}, ${state.directions[direction]}` : `at byte ${place}`;
     const made = element('div', {role: 'option', class: `line${isShown ? ' selected' : ''}`, id: `frame-${i}`,
-        'data-frame': `${i + 1}`, 'aria-selected': `${isShown}`},
-        `${i + 1}  at byte ${offset}, ${size} bytes  `,
-        element('span', {class: result === 0 ? 'kind' : 'wrong'}, result === 0 ? 'decodes' : `result ${result} at byte ${fault}`));
+        'data-frame': `${i + 1}`, 'aria-selected': `${isShown}`}, `${i + 1}  ${where}, ${size} bytes  `,
+        element('span', {class: result === 0 ? 'kind' : 'wrong'},
+            result === 0 ? 'decodes' : `result ${result} at byte ${fault}`));
     if (isShown)
         part('frames').setAttribute('aria-activedescendant', made.id);
     return made;
 });
 
+/**
+ * The bytes of a message of the list; of a capture, it is read again up to the message. Nothing: it was cancelled.
+ * @param {number} number from 1
+ * @returns {Promise<Uint8Array | undefined>}
+ */
+async function bytesOfFrame(number) {
+    if (state.isCapture) {
+        showBusy('reading');
+        const answer = await inspector.run(requestOfInput({command: 'message', number}));
+        showBusy('');
+        if (answer.status === 2)
+            sayRefusal(answer.errors);
+        return answer.status === 2 ? undefined : answer.bytes;
+    }
+    const [offset, size] = state.frames.subarray((number - 1) * FRAME_NUMBERS);
+    const kept = inspector.kept.get(state.source) ?? new Uint8Array(0);
+    const bytes = kept.slice(offset + 4, offset + 4 + size);
+    try {
+        return bytes instanceof Blob ? new Uint8Array(await bytes.arrayBuffer()) : bytes;
+    } catch {
+        return void sayRefusal('The file cannot be read any more: it was moved, removed or changed. Open it again.');
+    }
+}
+
 /** @param {number} number from 1 */
 async function showFrame(number) {
     if (!(number >= 1 && number <= state.frames.length / FRAME_NUMBERS))
         return;
-    const offset = state.frames[(number - 1) * FRAME_NUMBERS];
-    const size = state.frames[(number - 1) * FRAME_NUMBERS + 1];
-    const kept = inspector.kept.get(state.source) ?? new Uint8Array(0);
-    const bytes = kept instanceof Blob ? new Uint8Array(await kept.slice(offset + 4, offset + 4 + size).arrayBuffer())
-        : kept.slice(offset + 4, offset + 4 + size);
+    const turn = ++state.turn;
     state.frame = number;
+    frameList.draw();
+    const bytes = await bytesOfFrame(number);
+    if (turn !== state.turn || bytes === undefined)
+        return;
     state.before = [];
     state.after = [];
     view.row = -1;
-    frameList.draw();
     await show(bytes);
 }
 
@@ -288,7 +364,7 @@ async function show(bytes) {
     if (turn !== state.turn)
         return;
     if (look.status === 2 || rows.status === 2)
-        return say('refusal', look.errors || rows.errors);
+        return sayRefusal(look.errors || rows.errors);
     state.bytes = bytes;
     state.look = JSON.parse(look.text);
     state.name = state.look.message;
@@ -310,6 +386,7 @@ async function guess() {
     if (candidates.length === 0)
         return chooseFurthest();
     state.name = candidates[0].message;
+    state.guessed = state.name;
     offer('It can be: ', candidates.map((/** @type {any} */ one) => ({
         name: one.message,
         words: one.unknown_bytes === 0 ? `${one.odd_forms} odd forms` : `${one.unknown_bytes} bytes unknown`})));
@@ -323,10 +400,11 @@ async function chooseFurthest() {
     const reached = looks.filter((answer) => answer.text !== '').map((answer) => JSON.parse(answer.text))
         .sort((one, other) => other.fault.offset - one.fault.offset);
     if (reached.length === 0) {
-        say('refusal', looks[0].errors);
+        sayRefusal(looks[0].errors);
         return false;
     }
     state.name = reached[0].message;
+    state.guessed = state.name;
     offer('None of the messages decodes; read furthest: ', reached.slice(0, 8).map((look) => ({
         name: look.message,
         words: `result ${look.result} at byte ${look.fault.offset}`})));
@@ -339,7 +417,8 @@ function offer(words, candidates) {
         const button = element('button', {type: 'button'}, `${one.name} (${one.words})`);
         button.addEventListener('click', () => {
             state.name = one.name;
-            show(state.bytes);
+            state.guessed = '';
+            show(state.bytes).then(() => part('frames-part').hidden || listFrames());
         });
         return button;
     }));
@@ -427,9 +506,12 @@ function listen() {
         if (event.key === 'Enter' && (event.ctrlKey || event.metaKey))
             readPaste();
     });
+    part('packets').addEventListener('submit', (/** @type {Event} */ event) => {
+        event.preventDefault();
+        choosePackets();
+    });
     part('message').addEventListener('change', () => {
-        part('candidates').replaceChildren();
-        state.name = part('message').value.trim();
+        state.guessed = '';
         if (state.source !== '')
             readInput();
     });
@@ -479,12 +561,15 @@ function listen() {
     part('frames-number').addEventListener('change', () => showFrame(Number(part('frames-number').value)));
     part('frames').addEventListener('click', (/** @type {Event} */ event) => showFrame(numberAt(event, 'frame')));
     part('frames').addEventListener('keydown', (/** @type {KeyboardEvent} */ event) => {
-        const by = {ArrowDown: 1, ArrowUp: -1}[event.key];
-        if (by === undefined)
+        const page = frameList.fitting() - 1;
+        const by = {ArrowDown: 1, ArrowUp: -1, PageDown: page, PageUp: -page, Home: -Infinity,
+            End: Infinity}[event.key];
+        if (by === undefined || state.framesShown.length === 0)
             return;
         event.preventDefault();
-        const line = state.framesShown.indexOf(state.frame - 1) + by;
-        if (line < 0 || line >= state.framesShown.length)
+        const last = state.framesShown.indexOf(state.frame - 1);
+        const line = Math.max(0, Math.min(state.framesShown.length - 1, last + by));
+        if (line === last)
             return;
         frameList.show(line);
         showFrame(state.framesShown[line] + 1);
@@ -525,4 +610,4 @@ async function start() {
     document.body.dataset.ready = '1';
 }
 
-start().catch((error) => say('refusal', `This browser cannot run the inspector: ${error}`));
+start().catch((error) => sayRefusal(`This browser cannot run the inspector: ${error}`));

@@ -99,7 +99,7 @@ class InspectorModule {
             this.start();
         return {
             status, crashed: crashed !== '', text: this.textOf(CHANNELS.output),
-            errors: crashed || this.textOf(CHANNELS.errors), bytes: this.bytesOf(CHANNELS.bytes),
+            errors: crashed || this.linesOf(CHANNELS.errors), bytes: this.bytesOf(CHANNELS.bytes),
         };
     }
 
@@ -113,6 +113,14 @@ class InspectorModule {
             at += part.length;
         }
         return whole;
+    }
+
+    /**
+     * Each write is a line.
+     * @param {number} channel
+     */
+    linesOf(channel) {
+        return this.written[channel].map((line) => new TextDecoder().decode(line)).join('\n');
     }
 
     /** @param {number} channel */

@@ -74,6 +74,11 @@ public:
         return is_stream() || m_input.files.size() > 1;
     }
 
+    bool is_capture() const
+    {
+        return m_capture.has_value();
+    }
+
     // Whether a message came before the present one.
     bool is_first() const
     {

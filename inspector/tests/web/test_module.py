@@ -66,6 +66,21 @@ def messages_of_this_release():
     return {message["name"]: message["fields"] for message in listed}
 
 
+def forms_of(wire):
+    """Texts that stand for a message."""
+    hexed = wire.hex()
+    return {
+        "hex": hexed, "hex with colons": ":".join(f"{byte:02x}" for byte in wire),
+        "base64": base64.b64encode(wire).decode(),
+        "xxd": "\n".join(f"{at:08x}: {wire[at:at + 16].hex(' ', 2)}  " + "." * len(wire[at:at + 16])
+                         for at in range(0, len(wire), 16)),
+        "hexdump": "\n".join(f"{at:08x}  {wire[at:at + 16].hex(' ')}  |{'.' * len(wire[at:at + 16])}|"
+                             for at in range(0, len(wire), 16)),
+        "c": "uint8_t m[] = {" + ", ".join(f"0x{byte:02x}" for byte in wire) + "};",
+        "escapes": '"' + "".join(f"\\x{byte:02x}" for byte in wire) + '"',
+    }
+
+
 class ModuleTest(unittest.TestCase):
     @classmethod
     def setUpClass(cls):
@@ -124,23 +139,13 @@ class ModuleTest(unittest.TestCase):
                       command="app", name="session_context", format="raw")
 
     def test_reads_every_form_of_input(self):
-        hexed = SESSION.hex()
-        forms = {
-            "hex": hexed, "hex with colons": ":".join(f"{byte:02x}" for byte in SESSION),
-            "base64": base64.b64encode(SESSION).decode(),
-            "xxd": "\n".join(f"{at:08x}: {SESSION[at:at + 16].hex(' ', 2)}  " + "." * len(SESSION[at:at + 16])
-                             for at in range(0, len(SESSION), 16)),
-            "hexdump": "\n".join(f"{at:08x}  {SESSION[at:at + 16].hex(' ')}  |{'.' * len(SESSION[at:at + 16])}|"
-                                 for at in range(0, len(SESSION), 16)),
-            "c": "uint8_t m[] = {" + ", ".join(f"0x{byte:02x}" for byte in SESSION) + "};",
-            "escapes": '"' + "".join(f"\\x{byte:02x}" for byte in SESSION) + '"',
-        }
-        for form, text in forms.items():
+        for form, text in forms_of(SESSION).items():
             answer = self.module.run(text.encode(), command="message", name="session_context")
             self.assertEqual((form, answer["bytes"]), (form, SESSION), answer["errors"])
         self.assertEqual(self.module.run(SESSION, command="message", name="session_context")["bytes"], SESSION)
         several = self.module.run(frames(BROKEN, SESSION), command="message", name="session_context", number=2)
-        self.assertEqual((several["bytes"], json.loads(several["text"])), (SESSION, {"several": True}))
+        self.assertEqual((several["bytes"], json.loads(several["text"])),
+                         (SESSION, {"several": True, "capture": False, "found": True}))
 
     def test_refuses_input_as_the_program_does(self):
         for text in (b"", b"08 0g", b"hello, world", b"\x00\x00\x00\x09\x08"):
@@ -151,8 +156,31 @@ class ModuleTest(unittest.TestCase):
 
     def test_lists_messages_with_their_verdicts(self):
         answer = self.module.run(frames(SESSION, BROKEN, b""), command="frames", name="session_context")
-        rows = list(struct.iter_unpack("<4d", answer["bytes"]))
-        self.assertEqual(rows, [(0, len(SESSION), 0, 0), (4 + len(SESSION), 7, -1, 3), (15 + len(SESSION), 0, 0, 0)])
+        rows = list(struct.iter_unpack("<5d", answer["bytes"]))
+        self.assertEqual(rows, [(0, len(SESSION), 0, 0, 0), (4 + len(SESSION), 7, -1, 3, 0),
+                                (15 + len(SESSION), 0, 0, 0, 0)])
+
+    def test_lists_messages_of_a_capture_with_packet_and_direction(self):
+        capture = pcapng([packet(b"\x08\x01", source=53, destination=4000), packet(BROKEN),
+                          packet(frames(SESSION, b""), "tcp")])
+        shown = []
+        for choice in ({}, {"ports": [6000]}, {"ports": [53], "side": "from"}, {"transport": "tcp"}):
+            answer = self.module.run(capture, command="frames", name="session_context", **choice)
+            directions = json.loads(answer["text"])
+            shown.append([(*row[:4], directions[int(row[4])]) for row in struct.iter_unpack("<5d", answer["bytes"])])
+            first = self.module.run(capture, command="message", number=1, **choice)
+            self.assertEqual((len(first["bytes"]), json.loads(first["text"])["capture"]), (shown[-1][0][1], True))
+        other, ours = "192.0.2.1:53 > 192.0.2.2:4000", "192.0.2.1:5000 > 192.0.2.2:6000"
+        stream = [(3, len(SESSION), 0, 0, ours), (3, 0, 0, 0, ours)]
+        broken, foreign = (2, len(BROKEN), -1, 3, ours), (1, 2, 0, 0, other)
+        self.assertEqual(shown, [[foreign, broken, *stream], [broken, *stream], [foreign], stream])
+
+    def test_a_capture_without_messages_says_what_it_has(self):
+        answer = self.module.run(pcap([packet(BROKEN, fragment=3), packet(SESSION)]), command="message", ports=[1])
+        self.assertEqual((answer["status"], json.loads(answer["text"])["found"]), (0, False))
+        fragment, nothing = answer["errors"].split("\n")
+        self.assertIn("packet 1 is a fragment", fragment)
+        self.assertIn("no message in 2 packets;", nothing)
 
     def test_an_edit_is_what_the_program_encodes(self):
         name = "session_context"
@@ -232,7 +260,8 @@ class ModuleTest(unittest.TestCase):
         packets = [ethernet(packet(wire)) for wire in (SESSION, BROKEN)] + [ethernet(packet(frames(SESSION), "tcp"))]
         for capture in (pcap(packets, ETHERNET), pcapng(packets, ETHERNET), pcapng(packets, ETHERNET, ">"),
                         pcapng(packets, ETHERNET) + pcap(packets, ETHERNET)):
-            self.same(("decode", "--json", "session_context"), capture, command="decode", name="session_context", json=True)
+            self.same(("decode", "--json", "session_context"), capture,
+                      command="decode", name="session_context", json=True)
         for cut in range(len(packets[0])):
             self.same(("guess", "--json"), capture[:-cut], command="guess", json=True)
 

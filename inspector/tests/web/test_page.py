@@ -2,6 +2,7 @@
 import json
 import os
 import pathlib
+import re
 import tempfile
 import time
 import unittest
@@ -11,14 +12,16 @@ from selenium.webdriver.common.by import By
 from selenium.webdriver.common.keys import Keys
 from selenium.webdriver.support.ui import Select, WebDriverWait
 
-from inspector import frames
+from inspector import SOURCES, frames
 from random_messages import RandomMessages
-from test_module import BROKEN, INPUTS, SESSION, messages_of_this_release, native
+from test_captures import packet, pcap, pcapng
+from test_module import BROKEN, INPUTS, SESSION, forms_of, messages_of_this_release, native
 
 PAGE = pathlib.Path(os.environ["MAVA_TUM_PAGE"]).resolve()
 ARTEFACTS = pathlib.Path(os.environ.get("MAVA_TUM_WEB_ARTEFACTS", tempfile.gettempdir()))
 AXE = os.environ.get("MAVA_TUM_AXE", "")
 SECONDS = 30
+LONG_MEGABYTES = int(os.environ.get("MAVA_TUM_WEB_MEGABYTES", "20"))
 # From a terminal in a log: markup, and a name whose letters run the other way.
 TEXT = "<img src=x onerror=alert(1)>\u202egnp.exe\u202c<b>x</b>".encode()
 INERT = bytes((0x52, len(TEXT) + 2, 0x2A, len(TEXT))) + TEXT
@@ -154,6 +157,35 @@ class PageTest(unittest.TestCase):
         self.find("copy").click()
         self.wait(lambda: self.find("copied").get_property("value") == "52 05 2a 03 61 6c 69")
 
+    def test_the_malformed_message_of_the_documentation_is_explained_repaired_and_copied(self):
+        """From a file, without a network: the wrong byte and why, its removal, and the copy."""
+        text = pathlib.Path(SOURCES, "docs/inspector.md").read_text(encoding="utf-8")
+        shown, name = re.search(r'^echo "([0-9a-f ]+)" \| mava-tum explain (\w+)$', text, re.MULTILINE).groups()
+        why, offset = re.search(r"^ +fault: (.* at byte (\d+): result -1)$", text, re.MULTILINE).groups()
+        self.driver.execute_cdp_cmd("Network.enable", {})
+        self.driver.execute_cdp_cmd("Network.emulateNetworkConditions",
+                                    {"offline": True, "latency": 0, "downloadThroughput": 0, "uploadThroughput": 0})
+        self.open()
+        begin = time.monotonic()
+        self.find("message").send_keys(Keys.CONTROL, "a")
+        self.find("message").send_keys(name)
+        self.find("input").send_keys(Keys.CONTROL, "a")
+        self.find("input").send_keys(shown)
+        self.changes(self.find("inspect").click)
+        verdict = f"{name}, {len(bytes.fromhex(shown))} bytes: malformed at byte {offset}"
+        self.wait(lambda: verdict in self.text("verdict"))
+        self.assertIn(why, self.text("explanation"))
+        self.assertEqual(self.js("return document.querySelector('.byte.wrong').dataset.offset"), offset)
+        print(f"the malformed message of the documentation is explained after {time.monotonic() - begin:.2f} s")
+        self.driver.find_element(By.CSS_SELECTOR, "#explanation > button").click()
+        for _ in bytes.fromhex(shown)[int(offset):]:
+            self.changes(lambda: self.find("bytes").send_keys(Keys.DELETE))
+        self.assertIn("decodes", self.text("verdict"))
+        self.find("copy").click()
+        expected = bytes.fromhex(shown)[:int(offset)].hex(" ")
+        self.wait(lambda: self.find("copied").get_property("value") == expected)
+        self.assertEqual(native("decode", name, data=expected.encode()).returncode, 0)
+
     def test_a_rule_is_explained(self):
         self.paste(BROKEN.hex())
         self.driver.find_element(By.CSS_SELECTOR, "#explanation button.rule").click()
@@ -166,6 +198,19 @@ class PageTest(unittest.TestCase):
         self.find("inspect").click()
         self.wait(lambda: "line 1, column 5" in self.text("refusal"))
         self.assertEqual(self.find("input").get_property("value"), "08 0g")
+
+    def test_every_form_of_text_is_read(self):
+        for text in forms_of(SESSION).values():
+            self.paste(BROKEN.hex())
+            self.paste(text)
+            self.assertEqual((text, self.bytes_shown()), (text, SESSION))
+
+    def test_a_file_may_be_dropped(self):
+        self.js("part('message').value = 'session_context'")
+        self.changes(lambda: self.js(
+            "const files = new DataTransfer(); files.items.add(new File([Uint8Array.from(arguments[0])], 'a.bin'));"
+            "document.body.dispatchEvent(new DragEvent('drop', {dataTransfer: files, bubbles: true}))", list(BROKEN)))
+        self.assertEqual(self.bytes_shown(), BROKEN)
 
     def test_the_message_is_guessed(self):
         self.paste("080115c0000201", "")
@@ -186,6 +231,45 @@ class PageTest(unittest.TestCase):
         self.assertIn("malformed at byte 3", self.text("verdict"))
         self.assertEqual(self.bytes_shown(), BROKEN)
 
+    def test_a_capture_is_listed_and_its_packets_are_chosen(self):
+        packets = [packet(b"\x08\x01", source=4000, destination=53), packet(BROKEN), packet(frames(SESSION), "tcp")]
+        for capture in (pcap(packets), pcapng(packets, order=">")):
+            self.open()
+            self.js("part('message').value = 'session_context'")
+            self.changes(lambda content=capture: self.find("file").send_keys(self.keep_file(content, "input.pcap")))
+            self.wait(lambda: "3 as session_context, 1 malformed" in self.text("frames-sum"))
+            self.assertIn("2  packet 2, 192.0.2.1:5000 > 192.0.2.2:6000, 7 bytes  result -1 at byte 3",
+                          self.text("frames"))
+            self.changes(self.driver.find_elements(By.CSS_SELECTOR, "#frames .line")[2].click)
+            self.assertEqual(self.bytes_shown(), SESSION)
+            self.find("ports").send_keys("6000, 70000", Keys.ENTER)
+            self.wait(lambda: '"70000" is no port' in self.text("packets-refusal"))
+            self.assertEqual(self.find("ports").get_property("value"), "6000, 70000")
+            self.find("ports").clear()
+            self.changes(lambda: self.find("ports").send_keys("6000", Keys.ENTER))
+            self.wait(lambda: "2 as session_context, 1 malformed" in self.text("frames-sum"))
+            self.assertEqual((self.text("packets-refusal"), self.bytes_shown()), ("", BROKEN))
+            self.find("ports").clear()
+            self.find("ports").send_keys("7", Keys.ENTER)
+            self.wait(lambda: "no message in 3 packets; the choice below leaves out packets" in self.text("refusal"))
+
+    def test_a_name_that_was_guessed_is_guessed_again(self):
+        self.paste("080115c0000201", "")
+        self.assertIn("subscriber_v4, 7 bytes: decodes", self.text("verdict"))
+        likeliest = json.loads(native("guess", "--json", "-f", "raw", data=SESSION).stdout)["candidates"][0]["message"]
+        self.assertNotEqual(likeliest, "subscriber_v4")
+        self.js("part('input').value = arguments[0]", SESSION.hex())
+        self.changes(self.find("inspect").click)
+        self.assertIn(f"{likeliest}, {len(SESSION)} bytes", self.text("verdict"))
+
+    def test_a_name_that_was_chosen_stays(self):
+        self.paste("080115c0000201", "")
+        self.changes(lambda: self.driver.find_elements(By.CSS_SELECTOR, "#candidates button")[1].click())
+        self.js("part('input').value = arguments[0]", SESSION.hex())
+        self.changes(self.find("inspect").click)
+        self.assertIn(f"l2tp_data, {len(SESSION)} bytes", self.text("verdict"))
+        self.assertEqual(self.text("candidates"), "")
+
     def test_a_raw_file_is_read(self):
         self.js("part('message').value = 'session_context'")
         self.changes(lambda: self.find("file").send_keys(self.keep_file(SESSION)))
@@ -196,8 +280,10 @@ class PageTest(unittest.TestCase):
         self.assertIn("subscriber_v4, 7 bytes: decodes", self.text("verdict"))
 
     def test_a_page_that_the_program_made_shows_its_input(self):
-        for form in ((), ("--name", "session_context"), ("-f", "frames", "--name", "session_context")):
-            content = frames(BROKEN, SESSION) if "frames" in form else BROKEN
+        named = ("--name", "session_context")
+        for form, content in (((), BROKEN), (named, BROKEN), (("-f", "frames", *named), frames(BROKEN, SESSION)),
+                              (named, pcapng([packet(BROKEN), packet(SESSION)])),
+                              (("-f", "capture", *named), pcap([packet(BROKEN)]))):
             made = native("web", "--page", str(PAGE), *form, data=content)
             self.assertEqual(made.returncode, 0, made.stderr)
             page = ARTEFACTS / "made.html"
@@ -311,6 +397,32 @@ class PageTest(unittest.TestCase):
         self.wait(lambda: self.js("return view.tree.first + view.tree.shown") == self.js("return view.rows.count"))
         self.find("bytes").send_keys(Keys.END)
         self.assertEqual(self.js("return view.offset"), 999_999)
+
+    def test_a_long_file_is_listed_with_progress_while_the_page_answers(self):
+        block = frames(SESSION) * 999 + frames(BROKEN)
+        blocks = (LONG_MEGABYTES * 1_000_000 + len(block) - 1) // len(block)
+        path = self.keep_file(block * blocks, "long.frames")
+        self.js("part('message').value = 'session_context'; window.shares = []; window.longest = 0;"
+                "new MutationObserver(() => shares.push(part('progress').value)).observe(part('progress'),"
+                " {attributes: true});"
+                "let last = performance.now(); setInterval(() => { const now = performance.now();"
+                " longest = Math.max(longest, now - last); last = now; }, 10);")
+        begin = time.monotonic()
+        self.changes(lambda: self.find("file").send_keys(path))
+        listed = f"{blocks}000 as"
+        WebDriverWait(self.driver, 20 * SECONDS, 0.05).until(lambda _: self.text("frames-sum").startswith(listed))
+        longest, shares = self.js("return [longest, shares]")
+        print(f"{os.path.getsize(path) // 1_000_000} MB of length-prefixed messages, {blocks * 1000}, are listed after "
+              f"{time.monotonic() - begin:.1f} s; the page was busy for at most {longest:.0f} ms")
+        self.assertIn(f", {blocks} malformed", self.text("frames-sum"))
+        self.assertGreater(len([share for share in shares if 0 < share < 1]), 0)
+        self.find("frames").send_keys(Keys.END)
+        self.wait(lambda: self.bytes_shown() == BROKEN)
+        self.find("frames-number").send_keys("2", Keys.ENTER)
+        self.wait(lambda: self.bytes_shown() == SESSION)
+        os.remove(path)
+        self.find("frames").send_keys(Keys.DOWN)
+        self.wait(lambda: "cannot be read any more" in self.text("refusal"))
 
     def test_reading_a_long_file_can_be_cancelled(self):
         path = self.keep_file(frames(SESSION) * 3_000_000, "long.frames")
