@@ -7,7 +7,7 @@ Comments become Doxygen's: a comment on its own lines belongs to the code below,
 of members have no comment in the headers; here they get a sentence:
 
     begin(), size(), operator bool, value_type, ...    as in the standard library
-    set_field_5(), edit_field_5(), make_field_5(), ...   the functions of all editors
+    set_field_5(), edit_field_5(), add_field_5(), ...   the functions of all editors
 
 Every line keeps its number.
 """
@@ -21,7 +21,7 @@ BEHIND_CODE = re.compile(r"^(.*\S) +// (.*)$")
 
 CONTAINER = "As in a container of the standard library."
 OPTIONAL = "As std::optional has it: whether the field is present, and what it holds."
-ITERATOR = "As an input iterator has it."
+ITERATOR = "As a random-access iterator has it."
 KEPT = " When a block is refused, the field stays as it is."
 MEANINGS = [(re.compile(pattern), meaning) for pattern, meaning in (
     (r"^    using (element_type|value_type|iterator) = ", CONTAINER),
@@ -30,12 +30,15 @@ MEANINGS = [(re.compile(pattern), meaning) for pattern, meaning in (
     (r"^    (explicit operator bool|bool has_value)\(\) const noexcept$", OPTIONAL),
     (r"^    (const )?Derived [&*]?operator(\*|->)\(\) const ?&{0,2} ?noexcept$", OPTIONAL),
     (r"^    \w.* && noexcept \{ return access::lasting<", "The same, refused for a record that ends with the statement."),
-    (r"^        (friend bool|value_type|iterator &?) ?operator(==|!=|\+\+|\*)\(", ITERATOR),
+    (r"^        (friend |)(bool|value_type|iterator|difference_type) &?operator\S+\(", ITERATOR),
+    (r"^    friend bool operator!=\(", "The opposite of operator==()."),
     (r"^    void set_\w+\(exact_number<", "Sets `{}`; without a value, makes it absent."),
     (r"^    result set_\w+\(std::optional<", "Sets `{}` to a copy; without a value, makes it absent." + KEPT),
     (r"^    result set_\w+\(argument_span<", "Sets `{}` to copies; without any, makes it absent." + KEPT),
     (r"^    \w+ edit_\w+\(\)", "Makes `{}` present, and lets it be changed."),
     (r"^    void clear_\w+\(\)", "Empties `{}` and makes it absent."),
+    (r"^    std::optional<\w+> add_\w+\(\)", "Adds an element without content to `{}`; nothing when a block is refused."),
+    (r"^    result resize_\w+\(", "Keeps so many elements of `{}`; new ones have no content." + KEPT),
     (r"^    \w+ make_\w+\(exact_number<std::uint64_t> count\)",
      "Gives `{}` so many elements without content, and lets them be changed; none make it absent. When the block is "
      "refused, the field stays as it is and the list is empty."),
@@ -49,7 +52,7 @@ def escaped(text):
 def meaning_of(line):
     for pattern, meaning in MEANINGS:
         if pattern.match(line):
-            field = re.search(r"\b(?:set|edit|clear|make)_(\w+)\(", line)
+            field = re.search(r"\b(?:set|edit|clear|add|resize|make)_(\w+)\(", line)
             return meaning.format(field.group(1) if field else "")
     return None
 

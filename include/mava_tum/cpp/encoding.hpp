@@ -163,6 +163,7 @@ bool operator==(const encoding<Left> &left, const encoding<Right> &right) noexce
     return first.has_value() == second.has_value() && first.has_fields_of(second);
 }
 
+// The opposite of operator==().
 template <class Left, class Right, class = std::enable_if_t<std::is_same_v<view_of<Left>, view_of<Right>>>>
 bool operator!=(const encoding<Left> &left, const encoding<Right> &right) noexcept
 {

@@ -51,6 +51,7 @@ std::string to_string(const encoding<Derived> &record)
     return printed += '}';
 }
 
+// Writes the line that to_string() returns.
 template <class Derived>
 std::ostream &operator<<(std::ostream &stream, const encoding<Derived> &record)
 {
