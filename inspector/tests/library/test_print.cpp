@@ -27,7 +27,7 @@ printed print(int32_t form, const byte_vector &input, uint64_t capacity = 4096,
     const int32_t result = mava_tum_inspect_print(
         "session_context", input.data(), input.size(), form, redact_fn, context, buffer.data(), capacity);
     EXPECT_EQ(buffer[capacity], '#');
-    return {result, buffer.data()};
+    return {result, capacity == 0 ? "" : buffer.data()};
 }
 
 TEST(inspect_print, writes_a_message_on_one_line)
