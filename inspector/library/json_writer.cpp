@@ -35,7 +35,7 @@ bool is_escaped(char character)
     return static_cast<unsigned char>(character) < ' ' || character == '"' || character == '\\';
 }
 
-// How many characters at the beginning of the text stand in JSON, and on a terminal, as they are.
+// Counts the leading characters that need no escape in JSON and on a terminal: printable ASCII without " and \\.
 size_t plain_characters(std::string_view text)
 {
     size_t count = 0;

@@ -1,4 +1,4 @@
-// Whether a text is UTF-8, and can stand in JSON or on a terminal as it is.
+// Checks that a text is valid UTF-8 without characters that control a terminal.
 #pragma once
 
 #include <cstddef>
