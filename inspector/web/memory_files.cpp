@@ -21,18 +21,9 @@ input_stream::input_stream(const std::string &path) : m_name(path)
 
 input_stream::~input_stream() = default;
 
-void input_stream::refill(size_t wanted)
+size_t input_stream::read_block(uint64_t offset, std::span<uint8_t> block)
 {
-    m_buffer.erase(m_buffer.begin(), m_buffer.begin() + static_cast<ptrdiff_t>(m_taken));
-    m_taken = 0;
-    while (m_buffer.size() < wanted && !m_at_end) {
-        const size_t filled = m_buffer.size();
-        m_buffer.resize(filled + block_bytes);
-        const auto at = static_cast<double>(m_position + filled);
-        const uint32_t received = host_read_file(m_fd, at, m_buffer.data() + filled, block_bytes);
-        m_buffer.resize(filled + received);
-        m_at_end = received == 0;
-    }
+    return host_read_file(m_fd, static_cast<double>(offset), block.data(), block.size());
 }
 
 // The host knows how far an input is read.

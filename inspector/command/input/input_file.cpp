@@ -3,7 +3,6 @@
 
 #include "bad_use.h"
 
-#include <algorithm>
 #include <cerrno>
 #include <cstring>
 #include <fcntl.h>
@@ -70,25 +69,19 @@ input_stream::~input_stream()
         close(m_fd);
 }
 
-void input_stream::refill(size_t wanted)
+size_t input_stream::read_block(uint64_t offset, std::span<uint8_t> block)
 {
-    m_buffer.erase(m_buffer.begin(), m_buffer.begin() + static_cast<ptrdiff_t>(m_taken));
-    m_taken = 0;
-    while (m_buffer.size() < wanted && !m_at_end) {
-        const size_t filled = m_buffer.size();
-        m_buffer.resize(filled + block_bytes);
+    ssize_t received = -1;
+    do {
         if (m_before_waiting && would_wait(m_fd))
             m_before_waiting();
-        const ssize_t received = ::read(m_fd, m_buffer.data() + filled, block_bytes);
-        const int error = errno;
-        m_buffer.resize(filled + static_cast<size_t>(std::max<ssize_t>(received, 0)));
-        m_progress.update(m_position, m_size_bytes);
-        if (received == 0)
-            m_at_end = true;
-        else if (received < 0 && error != EINTR)
-            throw bad_use(fmt::format(
-                "{}: cannot read at byte {}: {}; try a copy of it", m_name, m_position + filled, std::strerror(error)));
-    }
+        received = ::read(m_fd, block.data(), block.size());
+    } while (received < 0 && errno == EINTR);
+    if (received < 0)
+        throw bad_use(
+            fmt::format("{}: cannot read at byte {}: {}; try a copy of it", m_name, offset, std::strerror(errno)));
+    m_progress.update(m_position, m_size_bytes);
+    return static_cast<size_t>(received);
 }
 
 } // namespace mava_tum_cli

@@ -58,4 +58,17 @@ byte_vector input_stream::read_all()
     return all;
 }
 
+void input_stream::refill(size_t wanted)
+{
+    m_buffer.erase(m_buffer.begin(), m_buffer.begin() + static_cast<ptrdiff_t>(m_taken));
+    m_taken = 0;
+    while (m_buffer.size() < wanted && !m_at_end) {
+        const size_t filled = m_buffer.size();
+        m_buffer.resize(filled + block_bytes);
+        const size_t received = read_block(m_position + filled, std::span(m_buffer).subspan(filled));
+        m_buffer.resize(filled + received);
+        m_at_end = received == 0;
+    }
+}
+
 } // namespace mava_tum_cli

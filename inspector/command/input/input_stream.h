@@ -73,6 +73,10 @@ private:
     // Reads until `wanted` bytes wait in the buffer, or the file ends.
     void refill(size_t wanted);
 
+    // Reads into `block` from `offset` on, which follows the last byte read; waits for at least one byte. Returns how
+    // many came, 0 at the end. A file and an input of the web page do this differently.
+    size_t read_block(uint64_t offset, std::span<uint8_t> block);
+
     std::string m_name;
     int m_fd = -1;
     uint64_t m_size_bytes = 0;
