@@ -13,8 +13,19 @@ import os
 import re
 from dataclasses import dataclass
 
-from mutant_operators import BINARY, LOGICAL
-
+# operator -> (function of mutant_switch.h, description of each of its mutants)
+BINARY = {
+    "==": ("equal", ["!="]), "!=": ("unequal", ["=="]),
+    "<": ("less", [">=", "<="]), "<=": ("less_or_equal", [">", "<"]),
+    ">": ("greater", ["<=", ">="]), ">=": ("greater_or_equal", ["<", ">"]),
+    "+": ("plus", ["-"]), "-": ("minus", ["+"]), "*": ("times", ["/"]),
+    "/": ("divided", ["*"]), "%": ("remainder", ["*"]),
+    "&": ("both_bits", ["|"]), "|": ("any_bits", ["&"]), "^": ("other_bits", ["&"]),
+    "<<": ("shifted_left", [">>"]), ">>": ("shifted_right", ["<<"]),
+    "+=": ("add", ["-="]), "-=": ("subtract", ["+="]), "|=": ("set_bits", ["&="]), "&=": ("keep_bits", ["|="]),
+    "<<=": ("shift_left", [">>="]), ">>=": ("shift_right", ["<<="]),
+}
+LOGICAL = {"&&": "||", "||": "&&"}
 # Evaluated while a constant, a type or an array is made.
 COMPILED_FUNCTIONS = {
     "all_scalar", "any_asks_for_room", "any_holds_bytes", "asks_for_room", "holds_bytes", "make_field_tag",

@@ -12,9 +12,10 @@ from dataclasses import dataclass
 
 from clang.cindex import CursorKind, Index, TypeKind
 
-from find_constants import COMPILED_FUNCTIONS
-from mutant_operators import BINARY, COMPARISONS, LOGICAL, STEPS
+from find_constants import BINARY, COMPILED_FUNCTIONS, LOGICAL
 
+COMPARISONS = {"==", "!=", "<", "<=", ">", ">="}
+STEPS = {"++": ("step_up", "--"), "--": ("step_down", "++")}
 FUNCTIONS = {CursorKind.FUNCTION_DECL, CursorKind.FUNCTION_TEMPLATE, CursorKind.CXX_METHOD,
              CursorKind.CONSTRUCTOR, CursorKind.DESTRUCTOR}
 RECORDS = {CursorKind.STRUCT_DECL, CursorKind.CLASS_DECL, CursorKind.CLASS_TEMPLATE,
