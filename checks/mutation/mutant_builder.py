@@ -19,8 +19,10 @@ from concurrent.futures import ThreadPoolExecutor
 from test_programs import programs_of
 
 DOES_NOT_COMPILE = "the compiler"
-# Mutants make constants variable, which is narrowing in braces. Not optimised: compiling takes longer than running.
-COMPILER, FLAGS = "clang++-19", ["-O0", "-g0", "-w", "-Wno-c++11-narrowing"]
+# Mutants make constants variable, which is narrowing in braces.
+COMPILER, FLAGS = "clang++-19", ["-g0", "-w", "-Wno-c++11-narrowing"]
+# A mutant that is built: compiling takes longer than the fast programs, and less time than the slow ones.
+NOT_OPTIMISED, OPTIMISED = "-O0", "-O1"
 LINKER = "-fuse-ld=lld"
 STATIC_LIBRARY = "src/libmava_tum.a"
 SHARED_LIBRARY = re.compile(r"src/libmava_tum\.so\S*")
@@ -133,7 +135,7 @@ class Builder:
     def prepare(self):
         """Builds everything without a mutant, unless it exists."""
         os.makedirs(self.folder, exist_ok=True)
-        folder = Folder(self.commands, self.tree, self.folder, self.flags)
+        folder = Folder(self.commands, self.tree, self.folder, [OPTIMISED, *self.flags])
         stale = {*self.library, *(each for program in self.programs for each in self.stale_objects(program))}
         with ThreadPoolExecutor(int(os.environ.get("MUTATION_JOBS", os.cpu_count()))) as pool:
             folder.objects = dict(zip(stale, pool.map(folder.compile, stale)))
@@ -149,7 +151,7 @@ class Builder:
     def order(self, files):
         """First the programs that need only the library compiled, and have killed mutants of the same folder."""
         folder = os.path.dirname(min(files))
-        return sorted(self.programs, key=lambda program: (program.is_slow, len(self.stale_objects(program, files)),
+        return sorted(self.programs, key=lambda program: (len(self.stale_objects(program, files)),
                                                           -self.kills[program.name, folder]))
 
     def killer(self, mutant):
@@ -161,12 +163,18 @@ class Builder:
     def killer_of(self, changed):
         """The name of the program that fails, or does not build, with the changed files (path -> text);
         DOES_NOT_COMPILE if the library does not compile; otherwise None."""
+        ordered = self.order(set(changed))
+        fast = [program for program in ordered if not program.is_slow]
+        slow = [program for program in ordered if program.is_slow]
+        return self.killer_among(fast, changed, NOT_OPTIMISED) or self.killer_among(slow, changed, OPTIMISED)
+
+    def killer_among(self, programs, changed, level):
         files = set(changed)
         with tempfile.TemporaryDirectory() as path:
-            folder = Folder(self.commands, self.tree, path, [*self.flags, *self.overlay(changed, path)])
+            folder = Folder(self.commands, self.tree, path, [level, *self.flags, *self.overlay(changed, path)])
             if not folder.compile_library([each for each in self.library if self.is_made_from(each, files)]):
                 return DOES_NOT_COMPILE
-            for program in self.order(files):
+            for program in programs:
                 if self.is_killed_by(program, files, folder):
                     self.kills[program.name, os.path.dirname(min(files))] += 1
                     return program.name
