@@ -157,7 +157,8 @@ TEST(proof_reads, the_proved_reads_are_those_of_the_library_for_every_input_of_u
 {
     input given;
     for (std::size_t length = 0; length <= 3; ++length) {
-        for (uint32_t number = 0; number < 1u << 8 * length; ++number) {
+        const uint32_t step = length == 3 ? MAVA_TUM_WORK_DIVISOR : 1;
+        for (uint32_t number = 0; number < 1u << 8 * length; number += step) {
             given.assign(number, length);
             ASSERT_TRUE(same_reads(given.begin(), given.end())) << given.hex();
         }

@@ -14,14 +14,6 @@
 namespace mava_tum_test
 {
 
-// In scripts/test asan, which is not optimised either, a step takes many times as long: the sweeps divide the number of
-// their steps by this. scripts/check/matrix address takes them all.
-#if defined(MAVA_TUM_SHORT_SWEEPS)
-constexpr uint64_t work_divisor = 30;
-#else
-constexpr uint64_t work_divisor = 1;
-#endif
-
 // Name, record size and exported functions come from the catalogue, the fields from message_fields.h.
 struct message : mava_tum_catalogue::message {
     const record_value *skeleton = nullptr;

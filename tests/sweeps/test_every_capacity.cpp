@@ -65,7 +65,7 @@ void check_every_capacity(const message &tested, const named_record &seed, uint3
     const expected_wire wire = wire_of(seed.value, wire_mode_of(tested, flags));
     // The last one is one more than needed.
     const std::size_t end = wire.bytes.size() + 2;
-    const std::size_t step = end > 2000 ? work_divisor : 1;
+    const std::size_t step = end > 2000 ? MAVA_TUM_WORK_DIVISOR : 1;
     for (std::size_t capacity = (end - 1) % step; capacity < end; capacity += step) {
         SCOPED_TRACE(
             seed.name + " record of " + std::to_string(wire.bytes.size()) + " bytes into " + std::to_string(capacity));

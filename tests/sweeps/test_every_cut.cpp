@@ -49,7 +49,7 @@ void check_every_cut(const message &tested, bool alias)
     for (const named_record &seed : seeds_of(*tested.skeleton)) {
         const byte_vector wire = wire_of(seed.value).bytes;
         page_end_buffer page(wire.size());
-        const std::size_t step = wire.size() > 300 ? work_divisor : 1;
+        const std::size_t step = wire.size() > 300 ? MAVA_TUM_WORK_DIVISOR : 1;
         for (std::size_t cut = wire.size() % step; cut <= wire.size(); cut += step) {
             SCOPED_TRACE(
                 seed.name + " record of " + std::to_string(wire.size()) + " bytes, cut after " + std::to_string(cut));

@@ -19,7 +19,7 @@ namespace
 {
 
 constexpr uint64_t first_seed = 104729;
-constexpr uint64_t input_count = 20000 / work_divisor;
+constexpr uint64_t input_count = 20000 / MAVA_TUM_WORK_DIVISOR;
 
 class hostile_input : public testing::TestWithParam<message>
 {

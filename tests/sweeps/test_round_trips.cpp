@@ -12,7 +12,7 @@ namespace
 {
 
 constexpr uint64_t round_trip_seed = 20240229;
-constexpr uint64_t record_count = 2000 / work_divisor;
+constexpr uint64_t record_count = 2000 / MAVA_TUM_WORK_DIVISOR;
 
 class round_trips : public testing::TestWithParam<message>
 {

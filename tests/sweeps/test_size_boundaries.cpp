@@ -103,7 +103,7 @@ struct length_range {
 // A few bytes of tags and length prefixes are added at each level: each range crosses its boundary at every depth.
 constexpr length_range lengths_near_boundaries[] = {{118, 130}, {2030, 2050}, {8174, 8194}, {16366, 16386}};
 
-constexpr std::size_t length_step = work_divisor == 1 ? 1 : 4;
+constexpr std::size_t length_step = MAVA_TUM_WORK_DIVISOR == 1 ? 1 : 4;
 
 TEST_P(size_boundaries, of_every_enclosing_record_are_crossed_by_a_field_that_grows_alone)
 {
@@ -149,7 +149,7 @@ TEST_P(size_boundaries, of_the_whole_message_are_crossed_by_a_field_of_a_full_re
 bool is_affordable(const field_value &list, std::size_t count)
 {
     const std::size_t field_count = list.element_skeleton == nullptr ? 1 : field_count_of(*list.element_skeleton);
-    return count * field_count <= 200'000 / work_divisor;
+    return count * field_count <= 200'000 / MAVA_TUM_WORK_DIVISOR;
 }
 
 TEST_P(list_boundaries, are_crossed_by_the_count)
