@@ -1,4 +1,4 @@
-# shellcheck shell=bash disable=SC2154
+# shellcheck shell=bash disable=SC2034,SC2154
 # Sourced by mutation_score and planted_bugs: copies of the last commit, and the ordinary build of one. They set $root,
 # the project, and $work, the folder of the copies.
 require_packages cmake ninja-build python3 libgtest-dev pkg-config protobuf-compiler libprotobuf-dev clang-19 lld \
