@@ -21,6 +21,7 @@ if(NOT Python3_Interpreter_FOUND)
 endif()
 
 enable_testing()
+add_compile_definitions(MAVA_TUM_WORK_DIVISOR=${MAVA_TUM_WORK_DIVISOR})
 add_subdirectory(tests)
 add_subdirectory(fuzz)
 mava_tum_is_built("tests")
