@@ -16,6 +16,8 @@ from find_constants import BINARY, COMPILED_FUNCTIONS, LOGICAL
 
 COMPARISONS = {"==", "!=", "<", "<=", ">", ">="}
 STEPS = {"++": ("step_up", "--"), "--": ("step_down", "++")}
+# Only assertions call them.
+ASSERTED_FUNCTIONS = {"is_well_formed"}
 FUNCTIONS = {CursorKind.FUNCTION_DECL, CursorKind.FUNCTION_TEMPLATE, CursorKind.CXX_METHOD,
              CursorKind.CONSTRUCTOR, CursorKind.DESTRUCTOR}
 RECORDS = {CursorKind.STRUCT_DECL, CursorKind.CLASS_DECL, CursorKind.CLASS_TEMPLATE,
@@ -71,7 +73,7 @@ class Finder:
     def visit(self, cursor):
         """Dispatches on the kind of the cursor; for other kinds, only visits the children."""
         kind = cursor.kind
-        if kind in SKIPPED or (kind in FUNCTIONS and cursor.spelling in COMPILED_FUNCTIONS):
+        if kind in SKIPPED or (kind in FUNCTIONS and cursor.spelling in COMPILED_FUNCTIONS | ASSERTED_FUNCTIONS):
             return
         if kind in FUNCTIONS or kind in RECORDS:
             self.visit_named(cursor)
