@@ -50,6 +50,7 @@ TEST(cpp_block_list, refuses_a_size_that_has_no_room_for_its_header)
     block_list list{memory(&resource)};
     EXPECT_EQ(list.take(std::numeric_limits<std::uint64_t>::max()), nullptr);
     EXPECT_EQ(list.take(std::numeric_limits<std::uint64_t>::max() - 15), nullptr);
+    EXPECT_EQ(list.take_growing(std::numeric_limits<std::uint64_t>::max()), nullptr);
     EXPECT_EQ(resource.asked(), 0U);
 }
 

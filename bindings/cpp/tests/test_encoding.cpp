@@ -165,6 +165,13 @@ TEST(cpp_adapters, report_a_small_buffer)
     EXPECT_EQ(outcome.size, tum::encode(session).size());
 }
 
+TEST(cpp_adapters, leave_nothing_in_the_container_for_a_record_without_content)
+{
+    std::string text = "before";
+    tum::encode_to(tum_nal_data_srg_group_rec_resp{}, text);
+    EXPECT_EQ(text, "");
+}
+
 TEST(cpp_adapters, of_one_record_and_two_messages_do_the_same)
 {
     tum_nal_data_rec_res response;

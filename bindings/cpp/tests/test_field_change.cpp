@@ -228,6 +228,8 @@ TEST(cpp_field_change_of_counts, refuses_more_elements_than_can_be_counted)
     EXPECT_TRUE(session.make_qos((std::uint64_t{1} << 32) + 1).empty());
     EXPECT_TRUE(session.make_qos(~std::uint64_t{0}).empty());
     EXPECT_EQ(session.qos().size(), 2U);
+    EXPECT_TRUE(session.make_qos(0).empty());
+    EXPECT_EQ(session.c_record().presence_mask, 0U);
 
     const std::string_view text = "a";
     tum::sess_svc_start start;
