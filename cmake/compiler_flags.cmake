@@ -15,6 +15,10 @@ endfunction()
 # For tests, examples and benchmarks.
 function(mava_tum_program_warnings target)
     target_compile_options(${target} PRIVATE -Wall -Wextra)
+    # clang does not know an attribute of src/, and warns of what the standard library itself uses.
+    target_compile_options(${target} PRIVATE
+        $<$<COMPILE_LANG_AND_ID:CXX,Clang>:-Wno-unknown-attributes>
+        $<$<COMPILE_LANG_AND_ID:CXX,Clang>:-Wno-deprecated-declarations>)
     mava_tum_warnings_as_errors(${target})
 endfunction()
 

@@ -168,7 +168,7 @@ TEST(cpp_adapters, report_a_small_buffer)
 TEST(cpp_adapters, leave_nothing_in_the_container_for_a_record_without_content)
 {
     std::string text = "before";
-    tum::encode_to(tum_nal_data_srg_group_rec_resp{}, text);
+    tum::encode_to(tum_nal_data_subscriber_stats{}, text);
     EXPECT_EQ(text, "");
 }
 

@@ -10,7 +10,9 @@ import pytest
 from mava_tum.library import ffi
 from mava_tum.schema import APPLICATION_RECORDS, MESSAGES
 
-LAYOUT = subprocess.run([os.environ["MAVA_TUM_LAYOUT"]], capture_output=True, text=True, check=True).stdout.split("\n")
+# A program of the build has its own sanitizer, not the one that this interpreter has preloaded.
+LAYOUT = subprocess.run(["env", "-u", "LD_PRELOAD", os.environ["MAVA_TUM_LAYOUT"]], capture_output=True, text=True,
+                        check=True).stdout.split("\n")
 ROWS = {name: (int(first), int(second)) for name, first, second in (line.split() for line in LAYOUT if line)}
 SIZES = {name: size for name, (size, _) in ROWS.items() if "." not in name}
 MEMBERS = {tuple(name.split(".")): place for name, place in ROWS.items() if "." in name}
