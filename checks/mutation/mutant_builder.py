@@ -30,6 +30,13 @@ SOURCE = re.compile(r"/(src/(?:codec|messages|nal)/\S+)$")
 PRECOMPILED = re.compile(r"-Winvalid-pch|-include \S+\.hxx")
 
 
+def sources_of(copy):
+    """Names the state of all that the programs are built from, in a copy of the project."""
+    folders = [f"HEAD:{folder}" for folder in ("src", "include", "tests", "fuzz", "catalogue")]
+    return subprocess.run(["git", "-C", copy, "rev-parse", *folders], capture_output=True, text=True,
+                          check=True).stdout
+
+
 class Commands:
     """The ordinary build of `source` as ninja describes it: the commands, and the files of src/ that each object
     depends on."""

@@ -5,6 +5,7 @@
 
 The work folder has `plain`, a copy of the project, built in `build`. Exits with 1 unless every bug is found.
 """
+import hashlib
 import os
 import re
 import subprocess
@@ -12,7 +13,7 @@ import sys
 import tempfile
 from concurrent.futures import ThreadPoolExecutor
 
-from mutant_builder import DOES_NOT_COMPILE, Builder
+from mutant_builder import DOES_NOT_COMPILE, Builder, sources_of
 
 
 def read_patches(path):
@@ -60,8 +61,7 @@ def main():
     if unknown:
         sys.exit(f"no such bug: {', '.join(unknown)}; {sys.argv[2]} has their names")
     plain = os.path.join(work, "plain")
-    version = subprocess.run(["git", "-C", plain, "rev-parse", "HEAD"], capture_output=True, text=True,
-                             check=True).stdout.strip()
+    version = hashlib.sha1(sources_of(plain).encode()).hexdigest()
     builder = Builder(work, "plain", os.path.join(plain, "fuzz", "corpus"), version)
     builder.prepare()
     with ThreadPoolExecutor(os.cpu_count()) as pool:

@@ -27,13 +27,12 @@ import hashlib
 import json
 import os
 import re
-import subprocess
 import sys
 import threading
 import time
 from concurrent.futures import ThreadPoolExecutor
 
-from mutant_builder import DOES_NOT_COMPILE, Builder
+from mutant_builder import DOES_NOT_COMPILE, Builder, sources_of
 
 LEAST_SHARE = 0.95
 
@@ -213,10 +212,7 @@ def sanitize(options, results):
 def read_results(options):
     with open(os.path.join(options.work, "mutants.json"), encoding="utf-8") as stream:
         mutants = {int(number): {**mutant, "number": int(number)} for number, mutant in json.load(stream).items()}
-    of_what = [f"HEAD:{folder}" for folder in ("src", "include", "tests", "fuzz", "catalogue")]
-    trees = subprocess.run(["git", "-C", options.plain, "rev-parse", *of_what], capture_output=True, text=True,
-                           check=True).stdout
-    version = hashlib.sha1((trees + json.dumps(list(mutants.values()))).encode()).hexdigest()
+    version = hashlib.sha1((sources_of(options.plain) + json.dumps(list(mutants.values()))).encode()).hexdigest()
     results = Results(os.path.join(options.work, "results.json"), mutants, version)
     if options.again:
         results.take_over()
