@@ -162,6 +162,8 @@ TEST(cpp_field_change_of_lists, leaves_a_list_as_it_is_when_the_block_is_refused
     resource.refuse_block(1);
     EXPECT_FALSE(session.add_qos());
     resource.refuse_block(1);
+    EXPECT_TRUE(session.make_qos(2).empty());
+    resource.refuse_block(1);
     EXPECT_EQ(session.resize_qos(5), tum::result::no_memory);
     EXPECT_EQ(session.resize_qos(std::uint64_t{1} << 32), tum::result::no_memory);
     EXPECT_EQ(session.encode(), bytes_of("5A 02 08 05"));
