@@ -26,4 +26,4 @@ set(MAVA_TUM_SANITIZE OFF CACHE STRING "Build everything with these sanitizers; 
 set(MAVA_TUM_PYTHON_INSTALL_DIR "lib/python3/dist-packages" CACHE STRING "Where the Python module is installed")
 set(MAVA_TUM_PYTHON_TEST_SECONDS 300 CACHE STRING "After how long a test of the Python module is stopped")
 set(MAVA_TUM_TESTS_LEFT_OUT "" CACHE STRING "Folders of tests that this platform cannot build or run")
-set(MAVA_TUM_WORK_DIVISOR 1 CACHE STRING "Long tests take one step in this number; a prime one misses no bit")
+set(MAVA_TUM_WORK_DIVISOR 1 CACHE STRING "Long tests take one step in this number")
