@@ -46,10 +46,10 @@ ROW_CONDITION = re.compile(r"if_\w+(?:<.*>)?|always", re.S)
 
 @dataclass
 class Edit:
-    """Replaces [start, end) of the file."""
+    """Replaces a text of the file."""
     file: str
     start: int
-    end: int
+    replaced: str
     text: str
     key: str
     within: str  # of the declaration's text, to detect changes
@@ -211,5 +211,5 @@ def find_edits(path, name):
             seen[key] = seen.get(key, 0) + 1
             key += f" #{seen[key]}" if seen[key] > 1 else ""
             edits[first, last, replacement] = Edit(
-                name, first, last, replacement, key, within, text.count("\n", 0, first) + 1)
+                name, first, original[first:last], replacement, key, within, text.count("\n", 0, first) + 1)
     return list(edits.values())

@@ -165,7 +165,10 @@ class Builder:
         edit = mutant["edit"]
         with open(os.path.join(self.tree, edit["file"]), encoding="latin-1") as stream:
             text = stream.read()
-        return self.killer_of({edit["file"]: text[:edit["start"]] + edit["text"] + text[edit["end"]:]})
+        before, rest = text[:edit["start"]], text[edit["start"]:]
+        if not rest.startswith(edit["replaced"]):
+            raise SystemExit(f"{edit['file']} is not the file that was mutated")
+        return self.killer_of({edit["file"]: before + edit["text"] + rest[len(edit["replaced"]):]})
 
     def killer_of(self, changed):
         """The name of the program that fails, or does not build, with the changed files (path -> text);

@@ -166,7 +166,7 @@ def describe_built(files, first):
     """The same for the mutants that are built one at a time, with the edit."""
     edits = [edit for path, name in files.items() for edit in find_constants.find_edits(path, name)]
     return {number: {"key": edit.key, "file": edit.file, "line": edit.line, "within": edit.within,
-                     "edit": {"file": edit.file, "start": edit.start, "end": edit.end, "text": edit.text}}
+                     "edit": {"file": edit.file, "start": edit.start, "replaced": edit.replaced, "text": edit.text}}
             for number, edit in enumerate(edits, first)}
 
 
@@ -181,9 +181,9 @@ def main():
     found = find_all(root, files)
     built = {path: name for path, name in files.items() if not name.startswith("src/messages/")}
     count = number_sites(found)
+    edits = describe_built(built, count + 1)  # while the files are as they were
     drop_what_does_not_compile(root, found, texts)
     mutants = describe(found, texts)
-    edits = describe_built(built, count + 1)
     print(f"{count} mutants to be chosen, {count - len(mutants)} of them do not compile; {len(edits)} to be built")
     mutants.update(edits)
     keys = [mutant["key"] for mutant in mutants.values()]
