@@ -1,7 +1,7 @@
 """Finds compile-time code, each mutant of which needs a build: constants, the functions that compute them
 (COMPILED_FUNCTIONS), and template arguments.
 
-In an expression: a whole number one higher or lower, an operator exchanged for its counterpart, a truth value or a
+In an expression: a whole number one higher or lower (zero only higher), an operator exchanged for its counterpart, a truth value or a
 condition negated. In the rows of src/nal: a field number one higher, a limit one higher or lower, a condition left out,
 one of several conditions or values left out, a condition added where zeros and empty texts are sent, one direction made
 both.
@@ -56,6 +56,11 @@ class Edit:
     line: int
 
 
+def changes_of_number(text):
+    """Zero is most often a start, a lower bound or no flags: another number is one mutant, in either direction."""
+    return ["+ 1"] if re.fullmatch(r"0[uUlL]*", text) else ["+ 1", "- 1"]
+
+
 def blanked(found):
     return re.sub(r"[^\n]", " ", found.group())
 
@@ -92,7 +97,7 @@ def end_of_statement(text, start):
 def mutants_of_expression(text, start, end):
     """(from, to, text, change) of an expression."""
     for found in NUMBER.finditer(text, start, end):
-        for change in ("+ 1", "- 1"):
+        for change in changes_of_number(found.group()):
             yield found.start(), found.end(), f"({found.group()} {change})", change
     for found in OPERATOR.finditer(text, start, end):
         spelling, around = found.group(), text[max(start, found.start() - 4):found.end() + 4]

@@ -1,10 +1,10 @@
 """Finds the places of a C++ source that can be mutated, in clang's syntax tree.
 
 A mutant is one small change: a comparison inverted or moved by one, an operator exchanged for its counterpart, a whole
-number one higher or lower, a condition or truth value negated, a call or an assignment left out, a return of the empty
-value. Only run-time code is changed. find_constants.py has constants, their computation and template arguments. Array
-bounds, static_assert and `if constexpr` stay, and so does the number in `return {nullptr, 0}`, because a null position
-has no value. A template is one place for all its instantiations.
+number one higher or lower (zero only higher), a condition or truth value negated, a call or an assignment left out, a
+return of the empty value. Only run-time code is changed. find_constants.py has constants, their computation and
+template arguments. Array bounds, operands of sizeof, static_assert and `if constexpr` stay, and so does the number in
+`return {nullptr, 0}`, because a null position has no value. A template is one place for all its instantiations.
 """
 import hashlib
 import re
@@ -12,7 +12,7 @@ from dataclasses import dataclass
 
 from clang.cindex import CursorKind, Index, TypeKind
 
-from find_constants import BINARY, COMPILED_FUNCTIONS, LOGICAL
+from find_constants import BINARY, COMPILED_FUNCTIONS, LOGICAL, changes_of_number
 
 COMPARISONS = {"==", "!=", "<", "<=", ">", ">="}
 STEPS = {"++": ("step_up", "--"), "--": ("step_down", "++")}
@@ -24,7 +24,8 @@ RECORDS = {CursorKind.STRUCT_DECL, CursorKind.CLASS_DECL, CursorKind.CLASS_TEMPL
            CursorKind.CLASS_TEMPLATE_PARTIAL_SPECIALIZATION}
 SKIPPED = {CursorKind.STATIC_ASSERT, CursorKind.ENUM_DECL, CursorKind.PARM_DECL, CursorKind.TYPE_ALIAS_DECL,
            CursorKind.TYPEDEF_DECL, CursorKind.TEMPLATE_NON_TYPE_PARAMETER, CursorKind.TEMPLATE_TYPE_PARAMETER,
-           CursorKind.DECL_REF_EXPR, CursorKind.TYPE_REF, CursorKind.TEMPLATE_REF, CursorKind.TYPE_ALIAS_TEMPLATE_DECL}
+           CursorKind.DECL_REF_EXPR, CursorKind.TYPE_REF, CursorKind.TEMPLATE_REF, CursorKind.TYPE_ALIAS_TEMPLATE_DECL,
+           CursorKind.CXX_UNARY_EXPR}  # the last is sizeof
 VARIABLES = {CursorKind.VAR_DECL, CursorKind.FIELD_DECL}
 LOOPS = {CursorKind.FOR_STMT, CursorKind.WHILE_STMT, CursorKind.CXX_FOR_RANGE_STMT, CursorKind.DO_STMT}
 OPERATORS = {CursorKind.BINARY_OPERATOR, CursorKind.COMPOUND_ASSIGNMENT_OPERATOR}
@@ -241,7 +242,8 @@ class Finder:
     def mutate_number(self, cursor):
         is_template_argument = self.text[cursor.extent.start.offset - 1] == "<"
         if self.text_of(cursor)[:1].isdigit() and not is_template_argument:  # nor one from a macro
-            self.add(cursor, "mut::literal({0}, ", ")", ["+ 1", "- 1"])
+            changes = changes_of_number(self.text_of(cursor))
+            self.add(cursor, "mut::literal({0}, " if len(changes) > 1 else "mut::zero({0}, ", ")", changes)
 
 
 def find_sites(source, files, arguments):

@@ -67,6 +67,12 @@ constexpr Value literal(unsigned first, Value value)
     return is(first) ? static_cast<Value>(value + 1) : is(first + 1) ? static_cast<Value>(value - 1) : value;
 }
 
+template <class Value>
+constexpr Value zero(unsigned mutant, Value value)
+{
+    return is(mutant) ? static_cast<Value>(value + 1) : value;
+}
+
 // Comparisons: mutant `first` is the opposite; `first + 1` moves the boundary by one, if there is one.
 template <class A, class B>
 constexpr bool equal(unsigned first, A a, B b)
