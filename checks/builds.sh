@@ -1,14 +1,18 @@
 # shellcheck shell=bash
 # Sourced by the checks that build the library for themselves, after scripts/packages.sh and logged.sh.
 
-# The library as it is released. build_release <folder> <target>...: its output is in <folder>.log.
+# The library as it is released, with g++'s call graph and assembly beside each object: they do not change it, as
+# `hardening` compares with a build without them. A compiler cache would not keep them, and g++ cannot make them with a
+# precompiled header.
+# build_release <folder> <target>...: its output is in <folder>.log.
 build_release() {
     local folder=$1
     shift
     mkdir -p "$folder"
     cmake -C checks/library_only.cmake -G Ninja -S . -B "$folder" -DCMAKE_BUILD_TYPE=Release \
-        -DCMAKE_CXX_COMPILER=g++ -DMAVA_TUM_BUILD_EXAMPLES=OFF -DMAVA_TUM_BUILD_BENCH=ON \
-        -DCMAKE_EXPORT_COMPILE_COMMANDS=ON >"$folder.log"
+        -DCMAKE_CXX_COMPILER="g++;-fcallgraph-info=su;-save-temps=obj" -DCMAKE_CXX_COMPILER_LAUNCHER= \
+        -DCMAKE_DISABLE_PRECOMPILE_HEADERS=ON \
+        -DMAVA_TUM_BUILD_EXAMPLES=OFF -DMAVA_TUM_BUILD_BENCH=ON -DCMAKE_EXPORT_COMPILE_COMMANDS=ON >"$folder.log"
     logged "$folder.log" timeout 600 cmake --build "$folder" --parallel "$(nproc)" --target "$@"
 }
 
