@@ -22,7 +22,7 @@ struct block_source {
 struct block_sink {
     mava_tum_release_fn release_fn;
     void *release_ctx;
-    uint32_t flags;
+    uint32_t flags = 0;
 
     bool owns_bytes() const
     {

@@ -12,7 +12,7 @@ int32_t mava_tum_subscriber_qos_decode_ext(
 uint64_t mava_tum_subscriber_qos_encode_ext(const mava_tum_subscriber_qos *record, uint8_t *buffer, uint64_t length,
     mava_tum_segment *segments, uint32_t *segment_count)
 {
-    return encode_message(*record, {buffer, length, segments, segment_count, 0});
+    return encode_message(*record, {buffer, length, segments, segment_count});
 }
 
 int32_t mava_tum_subscriber_qos_duplicate(mava_tum_subscriber_qos *destination, const mava_tum_subscriber_qos *source,
@@ -24,7 +24,7 @@ int32_t mava_tum_subscriber_qos_duplicate(mava_tum_subscriber_qos *destination, 
 void mava_tum_subscriber_qos_free_ext(
     mava_tum_subscriber_qos *record, mava_tum_release_fn release_fn, void *release_ctx)
 {
-    release_record(*record, {release_fn, release_ctx, 0});
+    release_record(*record, {release_fn, release_ctx});
 }
 
 int32_t mava_tum_subscriber_acl_decode_ext(
@@ -36,7 +36,7 @@ int32_t mava_tum_subscriber_acl_decode_ext(
 uint64_t mava_tum_subscriber_acl_encode_ext(const mava_tum_subscriber_acl *record, uint8_t *buffer, uint64_t length,
     mava_tum_segment *segments, uint32_t *segment_count)
 {
-    return encode_message(*record, {buffer, length, segments, segment_count, 0});
+    return encode_message(*record, {buffer, length, segments, segment_count});
 }
 
 int32_t mava_tum_subscriber_acl_duplicate(mava_tum_subscriber_acl *destination, const mava_tum_subscriber_acl *source,
@@ -48,7 +48,7 @@ int32_t mava_tum_subscriber_acl_duplicate(mava_tum_subscriber_acl *destination, 
 void mava_tum_subscriber_acl_free_ext(
     mava_tum_subscriber_acl *record, mava_tum_release_fn release_fn, void *release_ctx)
 {
-    release_record(*record, {release_fn, release_ctx, 0});
+    release_record(*record, {release_fn, release_ctx});
 }
 
 int32_t mava_tum_subscriber_httpr_decode_ext(mava_tum_subscriber_httpr *record, const uint8_t *data, uint64_t length,
@@ -60,7 +60,7 @@ int32_t mava_tum_subscriber_httpr_decode_ext(mava_tum_subscriber_httpr *record, 
 uint64_t mava_tum_subscriber_httpr_encode_ext(const mava_tum_subscriber_httpr *record, uint8_t *buffer, uint64_t length,
     mava_tum_segment *segments, uint32_t *segment_count)
 {
-    return encode_message(*record, {buffer, length, segments, segment_count, 0});
+    return encode_message(*record, {buffer, length, segments, segment_count});
 }
 
 int32_t mava_tum_subscriber_httpr_duplicate(mava_tum_subscriber_httpr *destination,
@@ -72,7 +72,7 @@ int32_t mava_tum_subscriber_httpr_duplicate(mava_tum_subscriber_httpr *destinati
 void mava_tum_subscriber_httpr_free_ext(
     mava_tum_subscriber_httpr *record, mava_tum_release_fn release_fn, void *release_ctx)
 {
-    release_record(*record, {release_fn, release_ctx, 0});
+    release_record(*record, {release_fn, release_ctx});
 }
 
 int32_t mava_tum_subscriber_li_decode_ext(mava_tum_subscriber_li *record, const uint8_t *data, uint64_t length,
@@ -107,7 +107,7 @@ int32_t mava_tum_subscriber_urpf_decode_ext(mava_tum_subscriber_urpf *record, co
 uint64_t mava_tum_subscriber_urpf_encode_ext(const mava_tum_subscriber_urpf *record, uint8_t *buffer, uint64_t length,
     mava_tum_segment *segments, uint32_t *segment_count)
 {
-    return encode_message(*record, {buffer, length, segments, segment_count, 0});
+    return encode_message(*record, {buffer, length, segments, segment_count});
 }
 
 int32_t mava_tum_subscriber_urpf_duplicate(
@@ -126,7 +126,7 @@ int32_t mava_tum_subscriber_icmp_decode_ext(mava_tum_subscriber_icmp *record, co
 uint64_t mava_tum_subscriber_icmp_encode_ext(const mava_tum_subscriber_icmp *record, uint8_t *buffer, uint64_t length,
     mava_tum_segment *segments, uint32_t *segment_count)
 {
-    return encode_message(*record, {buffer, length, segments, segment_count, 0});
+    return encode_message(*record, {buffer, length, segments, segment_count});
 }
 
 int32_t mava_tum_subscriber_icmp_duplicate(
@@ -145,7 +145,7 @@ int32_t mava_tum_subscriber_mtu_decode_ext(mava_tum_subscriber_mtu *record, cons
 uint64_t mava_tum_subscriber_mtu_encode_ext(const mava_tum_subscriber_mtu *record, uint8_t *buffer, uint64_t length,
     mava_tum_segment *segments, uint32_t *segment_count)
 {
-    return encode_message(*record, {buffer, length, segments, segment_count, 0});
+    return encode_message(*record, {buffer, length, segments, segment_count});
 }
 
 int32_t mava_tum_subscriber_mtu_duplicate(mava_tum_subscriber_mtu *destination, const mava_tum_subscriber_mtu *source)
@@ -163,7 +163,7 @@ int32_t mava_tum_subscriber_acct_decode_ext(mava_tum_subscriber_acct *record, co
 uint64_t mava_tum_subscriber_acct_encode_ext(const mava_tum_subscriber_acct *record, uint8_t *buffer, uint64_t length,
     mava_tum_segment *segments, uint32_t *segment_count)
 {
-    return encode_message(*record, {buffer, length, segments, segment_count, 0});
+    return encode_message(*record, {buffer, length, segments, segment_count});
 }
 
 int32_t mava_tum_subscriber_acct_duplicate(
@@ -183,7 +183,7 @@ int32_t mava_tum_subscriber_route_ipv4_decode_ext(mava_tum_subscriber_route_ipv4
 uint64_t mava_tum_subscriber_route_ipv4_encode_ext(const mava_tum_subscriber_route_ipv4 *record, uint8_t *buffer,
     uint64_t length, mava_tum_segment *segments, uint32_t *segment_count)
 {
-    return encode_message(*record, {buffer, length, segments, segment_count, 0});
+    return encode_message(*record, {buffer, length, segments, segment_count});
 }
 
 int32_t mava_tum_subscriber_route_ipv4_duplicate(mava_tum_subscriber_route_ipv4 *destination,
@@ -195,7 +195,7 @@ int32_t mava_tum_subscriber_route_ipv4_duplicate(mava_tum_subscriber_route_ipv4 
 void mava_tum_subscriber_route_ipv4_free_ext(
     mava_tum_subscriber_route_ipv4 *record, mava_tum_release_fn release_fn, void *release_ctx)
 {
-    release_record(*record, {release_fn, release_ctx, 0});
+    release_record(*record, {release_fn, release_ctx});
 }
 
 int32_t mava_tum_subscriber_route_ipv6_decode_ext(mava_tum_subscriber_route_ipv6 *record, const uint8_t *data,

@@ -13,7 +13,7 @@ int32_t mava_tum_rec_start_req_decode_ext(mava_tum_rec_start_req *record, const 
 uint64_t mava_tum_rec_start_req_encode_ext(const mava_tum_rec_start_req *record, uint8_t *buffer, uint64_t length,
     mava_tum_segment *segments, uint32_t *segment_count)
 {
-    return encode_message(*record, {buffer, length, segments, segment_count, 0});
+    return encode_message(*record, {buffer, length, segments, segment_count});
 }
 
 int32_t mava_tum_rec_start_req_duplicate(mava_tum_rec_start_req *destination, const mava_tum_rec_start_req *source,
@@ -37,7 +37,7 @@ int32_t mava_tum_rec_complete_req_decode_ext(mava_tum_rec_complete_req *record, 
 uint64_t mava_tum_rec_complete_req_encode_ext(const mava_tum_rec_complete_req *record, uint8_t *buffer, uint64_t length,
     mava_tum_segment *segments, uint32_t *segment_count)
 {
-    return encode_message(*record, {buffer, length, segments, segment_count, 0});
+    return encode_message(*record, {buffer, length, segments, segment_count});
 }
 
 int32_t mava_tum_rec_complete_req_duplicate(mava_tum_rec_complete_req *destination,
@@ -61,7 +61,7 @@ int32_t mava_tum_rec_resp_decode_ext(mava_tum_rec_resp *record, const uint8_t *d
 uint64_t mava_tum_rec_resp_encode_ext(const mava_tum_rec_resp *record, uint8_t *buffer, uint64_t length,
     mava_tum_segment *segments, uint32_t *segment_count)
 {
-    return encode_message(*record, {buffer, length, segments, segment_count, 0});
+    return encode_message(*record, {buffer, length, segments, segment_count});
 }
 
 int32_t mava_tum_rec_resp_duplicate(
@@ -84,7 +84,7 @@ int32_t mava_tum_rec_session_state_decode_ext(mava_tum_rec_session_state *record
 uint64_t mava_tum_rec_session_state_encode_ext(const mava_tum_rec_session_state *record, uint8_t *buffer,
     uint64_t length, mava_tum_segment *segments, uint32_t *segment_count)
 {
-    return encode_message(*record, {buffer, length, segments, segment_count, 0});
+    return encode_message(*record, {buffer, length, segments, segment_count});
 }
 
 int32_t mava_tum_rec_session_state_duplicate(
@@ -104,7 +104,7 @@ int32_t mava_tum_rec_sess_req_decode_ext(mava_tum_rec_sess_req *record, const ui
 uint64_t mava_tum_rec_sess_req_encode_ext(const mava_tum_rec_sess_req *record, uint8_t *buffer, uint64_t length,
     mava_tum_segment *segments, uint32_t *segment_count)
 {
-    return encode_message(*record, {buffer, length, segments, segment_count, 0});
+    return encode_message(*record, {buffer, length, segments, segment_count});
 }
 
 int32_t mava_tum_rec_sess_req_duplicate(mava_tum_rec_sess_req *destination, const mava_tum_rec_sess_req *source,
@@ -128,7 +128,7 @@ int32_t mava_tum_rec_sess_resp_decode_ext(mava_tum_rec_sess_resp *record, const 
 uint64_t mava_tum_rec_sess_resp_encode_ext(const mava_tum_rec_sess_resp *record, uint8_t *buffer, uint64_t length,
     mava_tum_segment *segments, uint32_t *segment_count)
 {
-    return encode_message(*record, {buffer, length, segments, segment_count, 0});
+    return encode_message(*record, {buffer, length, segments, segment_count});
 }
 
 int32_t mava_tum_rec_sess_resp_duplicate(mava_tum_rec_sess_resp *destination, const mava_tum_rec_sess_resp *source,
@@ -176,7 +176,7 @@ int32_t mava_tum_rec_sess_replay_fail_decode_ext(mava_tum_rec_sess_replay_fail *
 uint64_t mava_tum_rec_sess_replay_fail_encode_ext(const mava_tum_rec_sess_replay_fail *record, uint8_t *buffer,
     uint64_t length, mava_tum_segment *segments, uint32_t *segment_count)
 {
-    return encode_message(*record, {buffer, length, segments, segment_count, 0});
+    return encode_message(*record, {buffer, length, segments, segment_count});
 }
 
 int32_t mava_tum_rec_sess_replay_fail_duplicate(mava_tum_rec_sess_replay_fail *destination,
@@ -188,7 +188,7 @@ int32_t mava_tum_rec_sess_replay_fail_duplicate(mava_tum_rec_sess_replay_fail *d
 void mava_tum_rec_sess_replay_fail_free_ext(
     mava_tum_rec_sess_replay_fail *record, mava_tum_release_fn release_fn, void *release_ctx)
 {
-    release_record(*record, {release_fn, release_ctx, 0});
+    release_record(*record, {release_fn, release_ctx});
 }
 
 int32_t mava_tum_sess_svc_start_decode_ext(mava_tum_sess_svc_start *record, const uint8_t *data, uint64_t length,
@@ -200,7 +200,7 @@ int32_t mava_tum_sess_svc_start_decode_ext(mava_tum_sess_svc_start *record, cons
 uint64_t mava_tum_sess_svc_start_encode_ext(const mava_tum_sess_svc_start *record, uint8_t *buffer, uint64_t length,
     mava_tum_segment *segments, uint32_t *segment_count)
 {
-    return encode_message(*record, {buffer, length, segments, segment_count, 0});
+    return encode_message(*record, {buffer, length, segments, segment_count});
 }
 
 int32_t mava_tum_sess_svc_start_duplicate(mava_tum_sess_svc_start *destination, const mava_tum_sess_svc_start *source,
@@ -212,7 +212,7 @@ int32_t mava_tum_sess_svc_start_duplicate(mava_tum_sess_svc_start *destination, 
 void mava_tum_sess_svc_start_free_ext(
     mava_tum_sess_svc_start *record, mava_tum_release_fn release_fn, void *release_ctx)
 {
-    release_record(*record, {release_fn, release_ctx, 0});
+    release_record(*record, {release_fn, release_ctx});
 }
 
 int32_t mava_tum_rec_sess_replay_resp_decode_ext(mava_tum_rec_sess_replay_resp *record, const uint8_t *data,
@@ -224,7 +224,7 @@ int32_t mava_tum_rec_sess_replay_resp_decode_ext(mava_tum_rec_sess_replay_resp *
 uint64_t mava_tum_rec_sess_replay_resp_encode_ext(const mava_tum_rec_sess_replay_resp *record, uint8_t *buffer,
     uint64_t length, mava_tum_segment *segments, uint32_t *segment_count)
 {
-    return encode_message(*record, {buffer, length, segments, segment_count, 0});
+    return encode_message(*record, {buffer, length, segments, segment_count});
 }
 
 int32_t mava_tum_rec_sess_replay_resp_duplicate(mava_tum_rec_sess_replay_resp *destination,
@@ -236,5 +236,5 @@ int32_t mava_tum_rec_sess_replay_resp_duplicate(mava_tum_rec_sess_replay_resp *d
 void mava_tum_rec_sess_replay_resp_free_ext(
     mava_tum_rec_sess_replay_resp *record, mava_tum_release_fn release_fn, void *release_ctx)
 {
-    release_record(*record, {release_fn, release_ctx, 0});
+    release_record(*record, {release_fn, release_ctx});
 }

@@ -13,7 +13,7 @@ int32_t mava_tum_srg_group_rec_start_req_decode_ext(
 uint64_t mava_tum_srg_group_rec_start_req_encode_ext(const mava_tum_srg_group_rec_start_req *record, uint8_t *buffer,
     uint64_t length, mava_tum_segment *segments, uint32_t *segment_count)
 {
-    return encode_message(*record, {buffer, length, segments, segment_count, 0});
+    return encode_message(*record, {buffer, length, segments, segment_count});
 }
 
 int32_t mava_tum_srg_group_rec_start_req_duplicate(
@@ -33,7 +33,7 @@ int32_t mava_tum_srg_group_rec_resp_decode_ext(
 uint64_t mava_tum_srg_group_rec_resp_encode_ext(const mava_tum_srg_group_rec_resp *record, uint8_t *buffer,
     uint64_t length, mava_tum_segment *segments, uint32_t *segment_count)
 {
-    return encode_message(*record, {buffer, length, segments, segment_count, 0});
+    return encode_message(*record, {buffer, length, segments, segment_count});
 }
 
 int32_t mava_tum_srg_group_rec_resp_duplicate(
@@ -53,7 +53,7 @@ int32_t mava_tum_srg_group_rec_complete_req_decode_ext(
 uint64_t mava_tum_srg_group_rec_complete_req_encode_ext(const mava_tum_srg_group_rec_complete_req *record,
     uint8_t *buffer, uint64_t length, mava_tum_segment *segments, uint32_t *segment_count)
 {
-    return encode_message(*record, {buffer, length, segments, segment_count, 0});
+    return encode_message(*record, {buffer, length, segments, segment_count});
 }
 
 int32_t mava_tum_srg_group_rec_complete_req_duplicate(
@@ -73,7 +73,7 @@ int32_t mava_tum_srg_group_data_decode_ext(mava_tum_srg_group_data *record, cons
 uint64_t mava_tum_srg_group_data_encode_ext(const mava_tum_srg_group_data *record, uint8_t *buffer, uint64_t length,
     mava_tum_segment *segments, uint32_t *segment_count)
 {
-    return encode_message(*record, {buffer, length, segments, segment_count, 0});
+    return encode_message(*record, {buffer, length, segments, segment_count});
 }
 
 int32_t mava_tum_srg_group_data_duplicate(mava_tum_srg_group_data *destination, const mava_tum_srg_group_data *source,
@@ -85,7 +85,7 @@ int32_t mava_tum_srg_group_data_duplicate(mava_tum_srg_group_data *destination, 
 void mava_tum_srg_group_data_free_ext(
     mava_tum_srg_group_data *record, mava_tum_release_fn release_fn, void *release_ctx)
 {
-    release_record(*record, {release_fn, release_ctx, 0});
+    release_record(*record, {release_fn, release_ctx});
 }
 
 int32_t mava_tum_srg_group_rec_replay_req_decode_ext(mava_tum_srg_group_rec_replay_req *record, const uint8_t *data,
@@ -97,7 +97,7 @@ int32_t mava_tum_srg_group_rec_replay_req_decode_ext(mava_tum_srg_group_rec_repl
 uint64_t mava_tum_srg_group_rec_replay_req_encode_ext(const mava_tum_srg_group_rec_replay_req *record, uint8_t *buffer,
     uint64_t length, mava_tum_segment *segments, uint32_t *segment_count)
 {
-    return encode_message(*record, {buffer, length, segments, segment_count, 0});
+    return encode_message(*record, {buffer, length, segments, segment_count});
 }
 
 int32_t mava_tum_srg_group_rec_replay_req_duplicate(mava_tum_srg_group_rec_replay_req *destination,
@@ -109,7 +109,7 @@ int32_t mava_tum_srg_group_rec_replay_req_duplicate(mava_tum_srg_group_rec_repla
 void mava_tum_srg_group_rec_replay_req_free_ext(
     mava_tum_srg_group_rec_replay_req *record, mava_tum_release_fn release_fn, void *release_ctx)
 {
-    release_record(*record, {release_fn, release_ctx, 0});
+    release_record(*record, {release_fn, release_ctx});
 }
 
 int32_t mava_tum_srg_group_rec_replay_resp_decode_ext(mava_tum_srg_group_rec_replay_resp *record, const uint8_t *data,
@@ -121,7 +121,7 @@ int32_t mava_tum_srg_group_rec_replay_resp_decode_ext(mava_tum_srg_group_rec_rep
 uint64_t mava_tum_srg_group_rec_replay_resp_encode_ext(const mava_tum_srg_group_rec_replay_resp *record,
     uint8_t *buffer, uint64_t length, mava_tum_segment *segments, uint32_t *segment_count)
 {
-    return encode_message(*record, {buffer, length, segments, segment_count, 0});
+    return encode_message(*record, {buffer, length, segments, segment_count});
 }
 
 int32_t mava_tum_srg_group_rec_replay_resp_duplicate(mava_tum_srg_group_rec_replay_resp *destination,
@@ -133,5 +133,5 @@ int32_t mava_tum_srg_group_rec_replay_resp_duplicate(mava_tum_srg_group_rec_repl
 void mava_tum_srg_group_rec_replay_resp_free_ext(
     mava_tum_srg_group_rec_replay_resp *record, mava_tum_release_fn release_fn, void *release_ctx)
 {
-    release_record(*record, {release_fn, release_ctx, 0});
+    release_record(*record, {release_fn, release_ctx});
 }

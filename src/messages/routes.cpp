@@ -37,7 +37,7 @@ int32_t mava_tum_subscriber_route_resp_decode_ext(mava_tum_subscriber_route_resp
 uint64_t mava_tum_subscriber_route_resp_encode_ext(const mava_tum_subscriber_route_resp *record, uint8_t *buffer,
     uint64_t length, mava_tum_segment *segments, uint32_t *segment_count)
 {
-    return encode_message(*record, {buffer, length, segments, segment_count, 0});
+    return encode_message(*record, {buffer, length, segments, segment_count});
 }
 
 int32_t mava_tum_subscriber_route_resp_duplicate(mava_tum_subscriber_route_resp *destination,
@@ -49,5 +49,5 @@ int32_t mava_tum_subscriber_route_resp_duplicate(mava_tum_subscriber_route_resp 
 void mava_tum_subscriber_route_resp_free_ext(
     mava_tum_subscriber_route_resp *record, mava_tum_release_fn release_fn, void *release_ctx)
 {
-    release_record(*record, {release_fn, release_ctx, 0});
+    release_record(*record, {release_fn, release_ctx});
 }

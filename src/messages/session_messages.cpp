@@ -36,7 +36,7 @@ int32_t mava_tum_session_delete_decode_ext(
 uint64_t mava_tum_session_delete_encode_ext(const mava_tum_session_delete *record, uint8_t *buffer, uint64_t length,
     mava_tum_segment *segments, uint32_t *segment_count)
 {
-    return encode_message(*record, {buffer, length, segments, segment_count, 0});
+    return encode_message(*record, {buffer, length, segments, segment_count});
 }
 
 int32_t mava_tum_session_delete_duplicate(mava_tum_session_delete *destination, const mava_tum_session_delete *source)

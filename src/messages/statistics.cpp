@@ -11,7 +11,7 @@ int32_t mava_tum_stats_decode_ext(mava_tum_stats *record, const uint8_t *data, u
 uint64_t mava_tum_stats_encode_ext(
     const mava_tum_stats *record, uint8_t *buffer, uint64_t length, mava_tum_segment *segments, uint32_t *segment_count)
 {
-    return encode_message(*record, {buffer, length, segments, segment_count, 0});
+    return encode_message(*record, {buffer, length, segments, segment_count});
 }
 
 int32_t mava_tum_stats_duplicate(mava_tum_stats *destination, const mava_tum_stats *source)
@@ -30,7 +30,7 @@ int32_t mava_tum_service_stats_decode_ext(
 uint64_t mava_tum_service_stats_encode_ext(const mava_tum_service_stats *record, uint8_t *buffer, uint64_t length,
     mava_tum_segment *segments, uint32_t *segment_count)
 {
-    return encode_message(*record, {buffer, length, segments, segment_count, 0});
+    return encode_message(*record, {buffer, length, segments, segment_count});
 }
 
 int32_t mava_tum_service_stats_duplicate(mava_tum_service_stats *destination, const mava_tum_service_stats *source,
@@ -41,7 +41,7 @@ int32_t mava_tum_service_stats_duplicate(mava_tum_service_stats *destination, co
 
 void mava_tum_service_stats_free_ext(mava_tum_service_stats *record, mava_tum_release_fn release_fn, void *release_ctx)
 {
-    release_record(*record, {release_fn, release_ctx, 0});
+    release_record(*record, {release_fn, release_ctx});
 }
 
 int32_t mava_tum_subscriber_stats_decode_ext(mava_tum_subscriber_stats *record, const uint8_t *data, uint64_t length,
@@ -53,7 +53,7 @@ int32_t mava_tum_subscriber_stats_decode_ext(mava_tum_subscriber_stats *record, 
 uint64_t mava_tum_subscriber_stats_encode_ext(const mava_tum_subscriber_stats *record, uint8_t *buffer, uint64_t length,
     mava_tum_segment *segments, uint32_t *segment_count)
 {
-    return encode_message(*record, {buffer, length, segments, segment_count, 0});
+    return encode_message(*record, {buffer, length, segments, segment_count});
 }
 
 int32_t mava_tum_subscriber_stats_duplicate(mava_tum_subscriber_stats *destination,
@@ -65,5 +65,5 @@ int32_t mava_tum_subscriber_stats_duplicate(mava_tum_subscriber_stats *destinati
 void mava_tum_subscriber_stats_free_ext(
     mava_tum_subscriber_stats *record, mava_tum_release_fn release_fn, void *release_ctx)
 {
-    release_record(*record, {release_fn, release_ctx, 0});
+    release_record(*record, {release_fn, release_ctx});
 }

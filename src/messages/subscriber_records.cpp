@@ -11,7 +11,7 @@ int32_t mava_tum_subscriber_v4_decode_ext(mava_tum_subscriber_v4 *record, const 
 uint64_t mava_tum_subscriber_v4_encode_ext(const mava_tum_subscriber_v4 *record, uint8_t *buffer, uint64_t length,
     mava_tum_segment *segments, uint32_t *segment_count)
 {
-    return encode_message(*record, {buffer, length, segments, segment_count, 0});
+    return encode_message(*record, {buffer, length, segments, segment_count});
 }
 
 int32_t mava_tum_subscriber_v4_duplicate(mava_tum_subscriber_v4 *destination, const mava_tum_subscriber_v4 *source)
@@ -101,7 +101,7 @@ int32_t mava_tum_vlan_info_decode_ext(mava_tum_vlan_info *record, const uint8_t 
 uint64_t mava_tum_vlan_info_encode_ext(const mava_tum_vlan_info *record, uint8_t *buffer, uint64_t length,
     mava_tum_segment *segments, uint32_t *segment_count)
 {
-    return encode_message(*record, {buffer, length, segments, segment_count, 0});
+    return encode_message(*record, {buffer, length, segments, segment_count});
 }
 
 int32_t mava_tum_vlan_info_duplicate(mava_tum_vlan_info *destination, const mava_tum_vlan_info *source)
