@@ -21,8 +21,8 @@ from test_programs import programs_of
 DOES_NOT_COMPILE = "the compiler"
 # Mutants make constants variable, which is narrowing in braces.
 COMPILER, FLAGS = "clang++-19", ["-g0", "-w", "-Wno-c++11-narrowing"]
-# A mutant that is built: compiling takes longer than the fast programs, and less time than the slow ones.
-NOT_OPTIMISED, OPTIMISED = "-O0", "-O1"
+# What many mutants run is optimised; what is compiled for one mutant is not.
+OPTIMISED, NOT_OPTIMISED = "-O1", "-O0"
 LINKER = "-fuse-ld=lld"
 STATIC_LIBRARY = "src/libmava_tum.a"
 SHARED_LIBRARY = re.compile(r"src/libmava_tum\.so\S*")
@@ -116,19 +116,19 @@ class Folder:
 
 
 class Builder:
-    """The programs with the sources of the copy `name`, and with its mutants."""
+    """The programs of one stage, with the sources of the copy `name`, and with its mutants."""
 
-    def __init__(self, work, name, corpus, version, sanitized=False):
+    def __init__(self, work, name, corpus, version, stage):
         """`version` is that of the sources: objects of another version are built again."""
         build = os.path.join(work, "build")
         self.commands = Commands(build, os.path.join(work, "plain"))
         self.tree = os.path.join(work, name)
-        self.flags = FLAGS + (["-fsanitize=address"] if sanitized else [])
-        self.programs = programs_of(build, corpus, sanitized)
+        self.flags = FLAGS + (["-fsanitize=address"] if stage == "sanitized" else [])
+        self.programs = programs_of(build, corpus, stage)
         self.library = self.commands.objects_of(STATIC_LIBRARY)
         self.kills = Counter()
-        self.unmutated = {}
-        self.folder = os.path.join(work, f"{name}.{'address' if sanitized else 'objects'}.{version[:12]}")
+        self.folder = os.path.join(work, f"{name}.{'address' if stage == 'sanitized' else 'objects'}.{version[:12]}")
+        self.unmutated = self.prepare()
 
     def stale_objects(self, program, files=None):
         """A program's objects (not the library's) that depend on one of the files, or on any of src/."""
@@ -140,7 +140,7 @@ class Builder:
         return bool(sources & files if files is not None else sources)
 
     def prepare(self):
-        """Builds everything without a mutant, unless it exists."""
+        """Builds everything without a mutant, unless it exists. Returns the objects."""
         os.makedirs(self.folder, exist_ok=True)
         folder = Folder(self.commands, self.tree, self.folder, [OPTIMISED, *self.flags])
         stale = {*self.library, *(each for program in self.programs for each in self.stale_objects(program))}
@@ -148,12 +148,12 @@ class Builder:
             folder.objects = dict(zip(stale, pool.map(folder.compile, stale)))
         if None in folder.objects.values():
             raise SystemExit(f"a source does not compile with nothing mutated: see {self.folder}/log")
-        self.unmutated = folder.objects
         for program in self.programs:
             path = folder.link(program.target, {})
             if path is None:
                 raise SystemExit(f"{program.target} does not link with nothing mutated: see {self.folder}/log")
             program.command[0] = path
+        return folder.objects
 
     def order(self, files):
         """First the programs that need only the library compiled, and have killed mutants of the same folder."""
@@ -162,6 +162,12 @@ class Builder:
                                                           -self.kills[program.name, folder]))
 
     def killer(self, mutant):
+        """The name of the program that fails, or does not build; DOES_NOT_COMPILE if the library does not compile;
+        otherwise None."""
+        if "edit" not in mutant:
+            number = mutant["number"]
+            return next((program.name for program in self.programs
+                         if program.reaches(number) and program.fails({"MUTANT": str(number)})), None)
         edit = mutant["edit"]
         with open(os.path.join(self.tree, edit["file"]), encoding="latin-1") as stream:
             text = stream.read()
@@ -171,20 +177,13 @@ class Builder:
         return self.killer_of({edit["file"]: before + edit["text"] + rest[len(edit["replaced"]):]})
 
     def killer_of(self, changed):
-        """The name of the program that fails, or does not build, with the changed files (path -> text);
-        DOES_NOT_COMPILE if the library does not compile; otherwise None."""
-        ordered = self.order(set(changed))
-        fast = [program for program in ordered if not program.is_slow]
-        slow = [program for program in ordered if program.is_slow]
-        return self.killer_among(fast, changed, NOT_OPTIMISED) or self.killer_among(slow, changed, OPTIMISED)
-
-    def killer_among(self, programs, changed, level):
+        """The same for the changed files (path -> text)."""
         files = set(changed)
         with tempfile.TemporaryDirectory() as path:
-            folder = Folder(self.commands, self.tree, path, [level, *self.flags, *self.overlay(changed, path)])
+            folder = Folder(self.commands, self.tree, path, [NOT_OPTIMISED, *self.flags, *self.overlay(changed, path)])
             if not folder.compile_library([each for each in self.library if self.is_made_from(each, files)]):
                 return DOES_NOT_COMPILE
-            for program in programs:
+            for program in self.order(files):
                 if self.is_killed_by(program, files, folder):
                     self.kills[program.name, os.path.dirname(min(files))] += 1
                     return program.name

@@ -41,10 +41,10 @@ def patched_files(source, patch):
         return texts
 
 
-def try_bug(builder, name, patch):
+def try_bug(builders, name, patch):
     """Returns whether a test program found it."""
-    changed = patched_files(builder.tree, patch)
-    finder = builder.killer_of(changed) if changed else None
+    changed = patched_files(builders[0].tree, patch)
+    finder = next(filter(None, (builder.killer_of(changed) for builder in builders)), None) if changed else None
     if not changed:
         print(f"{name}: does not apply", flush=True)
     elif finder == DOES_NOT_COMPILE:
@@ -62,10 +62,10 @@ def main():
         sys.exit(f"no such bug: {', '.join(unknown)}; {sys.argv[2]} has their names")
     plain = os.path.join(work, "plain")
     version = hashlib.sha1(sources_of(plain).encode()).hexdigest()
-    builder = Builder(work, "plain", os.path.join(plain, "fuzz", "corpus"), version)
-    builder.prepare()
+    corpus = os.path.join(plain, "fuzz", "corpus")
+    builders = [Builder(work, "plain", corpus, version, stage) for stage in ("fast", "slow")]
     with ThreadPoolExecutor(os.cpu_count()) as pool:
-        found = sum(pool.map(lambda name: try_bug(builder, name, patches[name]), names))
+        found = sum(pool.map(lambda name: try_bug(builders, name, patches[name]), names))
     print(f"found / planted: {found} / {len(names)}")
     sys.exit(0 if found == len(names) else 1)
 

@@ -2,21 +2,18 @@
 """Runs the ordinary test programs against every mutant and prints the score.
 
     run_mutants.py run <work folder> [--again] [--only <pattern>]
-    run_mutants.py sanitize <work folder>
     run_mutants.py report <work folder> <survivors.md>
 
 The work folder has the files of scripts/check/mutation_score: mutants.json, and two copies of the project: `source`,
 with the switched mutants, and `plain`, without mutants, built in `build`.
 
 run: each program runs once without a mutant, and records which mutants it reaches. For each mutant, the programs that
-reach it run, the fast ones first, until one fails: the mutant is killed. A mutant of compile-time code is built
-(mutant_builder.py) and all programs run; what does not compile is no mutant. A program that takes much longer than
-usual counts as failed. A mutant for which no program fails is a survivor.
+reach it run until one fails: the mutant is killed. They run in three stages: first the fast programs, for what is left
+the slow ones, and then some under the address sanitizer (test_programs.py). A mutant of compile-time code is built
+(mutant_builder.py); what does not compile is no mutant. A program that takes much longer than usual counts as failed. A
+mutant for which no program fails is a survivor.
 
-sanitize: for every survivor, the same programs run once more under the address sanitizer. If one fails, the mutant
-needs a test.
-
-report: every other survivor must be listed with a reason.
+report: every survivor must be listed with a reason.
 
 --again keeps results of earlier runs: all results for the same sources and tests, and from other sources the killed
 mutants whose function has not changed. No mutant is started after MUTATION_END (seconds since 1970); continue with
@@ -24,35 +21,20 @@ mutants whose function has not changed. No mutant is started after MUTATION_END 
 """
 import argparse
 import hashlib
+import itertools
 import json
 import os
 import re
 import sys
 import threading
 import time
+from collections import Counter
 from concurrent.futures import ThreadPoolExecutor
 
 from mutant_builder import DOES_NOT_COMPILE, Builder, sources_of
+from test_programs import STAGES
 
 LEAST_SHARE = 0.95
-
-
-class Switched:
-    """The mutants of one build, selected by the environment."""
-
-    def __init__(self, builder):
-        builder.prepare()
-        self.programs = builder.programs
-
-    def killer_among(self, programs, mutant):
-        number = mutant["number"]
-        for program in programs:
-            if program.reaches(number) and program.fails({"MUTANT": str(number)}):
-                return program.name
-        return None
-
-    def killer(self, mutant):
-        return self.killer_among(self.programs, mutant)
 
 
 class Results:
@@ -76,21 +58,11 @@ class Results:
             if earlier.get("within") == mutant["within"] and (is_of_now or earlier["killer"]):
                 self.known[number] = earlier
 
-    def add(self, number, killer):
-        mutant = self.mutants[number]
+    def add(self, number, killer, stage):
+        """`stage`: the last one that the mutant went through."""
         with self.lock:
-            self.known[number] = {"killer": killer, "within": mutant["within"], "version": self.version}
-        if len(self.known) % 20 == 0:
-            self.save()
-            print(f"{len(self.known)} of {len(self.mutants)}", flush=True)
-
-    def add_sanitized(self, number, killer):
-        with self.lock:
-            self.known[number]["unsafe"] = killer
-        self.save()
-
-    def save(self):
-        with self.lock:
+            self.known[number] = {"killer": killer, "stage": stage,
+                                  "within": self.mutants[number]["within"], "version": self.version}
             known = {self.mutants[number]["key"]: result for number, result in self.known.items()}
             with open(f"{self.path}.new", "w", encoding="utf-8") as stream:
                 json.dump({**self.left_over, **known}, stream, indent=1)
@@ -99,114 +71,90 @@ class Results:
     def is_over(self):
         return time.time() > self.end
 
+    def alive_after(self, stage):
+        """None: before the first stage."""
+        def is_alive(result):
+            return result["killer"] is None and result["stage"] == stage
+
+        return [number for number in self.mutants if is_alive(self.known.get(number, {"killer": None, "stage": None}))]
+
     def survivors(self):
-        return [number for number, result in self.known.items() if result["killer"] is None]
+        return self.alive_after(list(STAGES)[-1])
 
-    def compiled(self):
-        return {number: result for number, result in self.known.items() if result["killer"] != DOES_NOT_COMPILE}
+    def undecided(self):
+        return [number for stage in [None, *STAGES][:-1] for number in self.alive_after(stage)]
 
 
-def run_all(killer, numbers, add, results):
-    """Calls `killer` with each mutant, and `add` with its result, until the time is over."""
+def run_all(builder, numbers, results, stage):
+    """Saves the killer of each mutant, until the time is over."""
     def run_one(number):
         if not results.is_over():
-            add(number, killer(results.mutants[number]))
+            results.add(number, builder.killer(results.mutants[number]), stage)
 
     with ThreadPoolExecutor(int(os.environ.get("MUTATION_JOBS", os.cpu_count()))) as pool:
-        for _ in pool.map(run_one, numbers):
-            pass
-    results.save()
+        for done, _ in enumerate(pool.map(run_one, numbers), 1):
+            if done % 20 == 0:
+                print(f"{done} of {len(numbers)}", flush=True)
+
+
+def alternatives(text):
+    """a{b,c}d -> abd, acd"""
+    braces = re.search(r"\{([^{}]*,[^{}]*)\}", text)
+    if not braces:
+        return {text}
+    return {each for choice in braces.group(1).split(",")
+            for each in alternatives(text[:braces.start()] + choice + text[braces.end():])}
 
 
 def read_survivors(path):
-    """The descriptions in the list: each in its own line, as an item in backquotes."""
+    """The descriptions in the list: each in its own line, as an item in backquotes. {a,b} stands for a and for b."""
     with open(path, encoding="utf-8") as stream:
-        return set(re.findall(r"^- `(.*)`$", stream.read(), re.M))
+        return {each for line in re.findall(r"^- `(.*)`$", stream.read(), re.M) for each in alternatives(line)}
 
 
 def print_survivors(results, listed):
     """Returns whether the list has the same survivors; compares only mutants that have run."""
-    survivors = {results.mutants[number]["key"]: number for number in results.survivors()}
-    unsafe = {key for key, number in survivors.items() if results.known[number].get("unsafe")}
-    unlisted = sorted(set(survivors) - listed - unsafe)
-    stale = sorted(key for key in listed - set(survivors) if len(results.known) == len(results.mutants)
-                   or key in {results.mutants[number]["key"] for number in results.known})
-    for key in unlisted + sorted(unsafe):
-        where, sanitized = results.mutants[survivors[key]], results.known[survivors[key]].get("unsafe")
-        what = f"unsafe ({sanitized}), needs a test" if sanitized else "survived, not listed"
-        print(f"{what}: {where['file']}:{where['line']}\n- `{key}`")
+    survivors = {results.mutants[number]["key"]: results.mutants[number] for number in results.survivors()}
+    undecided = {results.mutants[number]["key"] for number in results.undecided()}
+    unlisted = sorted(set(survivors) - listed)
+    stale = sorted(listed - set(survivors) - undecided)
+    for key in unlisted:
+        print(f"survived, not listed: {survivors[key]['file']}:{survivors[key]['line']}\n- `{key}`")
     for key in stale:
         print(f"listed, but killed or gone:\n- `{key}`")
-    print(f"{len(survivors)} survivors, {len(unlisted)} of them not listed, {len(unsafe)} unsafe; {len(stale)} listed "
-          "that are none")
-    return not unlisted and not stale and not unsafe
+    print(f"{len(survivors)} survivors, {len(unlisted)} of them not listed; {len(stale)} listed that are none")
+    return not unlisted and not stale
 
 
 def report(results, listed):
     """Prints the survivors and the score. Returns whether the check passes."""
-    counted = results.compiled()
-    killers = [result["killer"] for result in counted.values() if result["killer"]]
-    for name in sorted(set(killers)):
-        print(f"killed by {name}: {killers.count(name)}")
+    ends = Counter(result["killer"] for result in results.known.values() if result["killer"])
+    print(f"do not compile: {ends.pop(DOES_NOT_COMPILE, 0)}")
+    for name, count in sorted(ends.items()):
+        print(f"killed by {name}: {count}")
     is_listed = print_survivors(results, listed)
-    not_sanitized = sum("unsafe" not in results.known[number] for number in results.survivors())
-    missing = len(results.mutants) - len(results.known)
-    if missing or not_sanitized:
-        print(f"{missing} of {len(results.mutants)} mutants were not run, and {not_sanitized} survivors not under the "
-              "sanitizer; --again goes on")
-    of_what = "" if missing == 0 else " that were run"
-    share = len(killers) / max(len(counted), 1)
-    print(f"mutation score: {len(killers)} of {len(counted)} mutants{of_what} killed, {100 * share:.2f} %")
-    return is_listed and missing == 0 and not_sanitized == 0 and share >= LEAST_SHARE
-
-
-def run_switched(switched, numbers, results):
-    """Fast programs kill most mutants: only the others need the slow programs."""
-    quick = [program for program in switched.programs if not program.is_slow]
-    slow = [program for program in switched.programs if program.is_slow]
-    left = []
-
-    def add(number, killer):
-        if killer:
-            results.add(number, killer)
-        else:
-            left.append(number)
-
-    run_all(lambda mutant: switched.killer_among(quick, mutant), numbers, add, results)
-    print(f"{len(left)} left for {', '.join(program.name for program in slow)}", flush=True)
-    run_all(lambda mutant: switched.killer_among(slow, mutant), left, results.add, results)
-
-
-def split(results, numbers):
-    """The switched mutants, and those to be built."""
-    return ([number for number in numbers if "edit" not in results.mutants[number]],
-            [number for number in numbers if "edit" in results.mutants[number]])
+    undecided = results.undecided()
+    if undecided:
+        print(f"{len(undecided)} of {len(results.mutants)} mutants are not decided; --again goes on")
+    of_what = " that were decided" if undecided else ""
+    killed = sum(ends.values())
+    counted = killed + len(results.survivors())
+    share = killed / max(counted, 1)
+    print(f"mutation score: {killed} of {counted} mutants{of_what} killed, {100 * share:.2f} %")
+    return is_listed and not undecided and share >= LEAST_SHARE
 
 
 def run(options, results):
-    left = [number for number, mutant in results.mutants.items()
-            if number not in results.known and re.search(options.only, mutant["key"])]
-    print(f"{len(results.known)} of {len(results.mutants)} mutants taken over, {len(left)} to run", flush=True)
-    chosen, built = split(results, left)
-    if chosen and not results.is_over():
-        switched = Switched(Builder(options.work, "source", options.corpus, results.version))
-        run_switched(switched, chosen, results)
-    if built and not results.is_over():
-        builder = Builder(options.work, "plain", options.corpus, results.version)
-        builder.prepare()
-        run_all(builder.killer, built, results.add, results)
-
-
-def sanitize(options, results):
-    """Every survivor that has not run on these sources."""
-    chosen, built = split(results, [n for n in results.survivors() if "unsafe" not in results.known[n]])
-    if chosen and not results.is_over():
-        switched = Switched(Builder(options.work, "source", options.corpus, results.version, sanitized=True))
-        run_all(switched.killer, chosen, results.add_sanitized, results)
-    if built and not results.is_over():
-        builder = Builder(options.work, "plain", options.corpus, results.version, sanitized=True)
-        builder.prepare()
-        run_all(builder.killer, built, results.add_sanitized, results)
+    print(f"{len(results.mutants)} mutants, {len(results.undecided())} to decide", flush=True)
+    for before, stage in itertools.pairwise([None, *STAGES]):
+        for name in ("source", "plain"):
+            numbers = [number for number in results.alive_after(before)
+                       if ("edit" in results.mutants[number]) == (name == "plain")
+                       and re.search(options.only, results.mutants[number]["key"])]
+            if numbers and not results.is_over():
+                print(f"{len(numbers)} of {name}, {stage} programs", flush=True)
+                builder = Builder(options.work, name, options.corpus, results.version, stage)
+                run_all(builder, numbers, results, stage)
 
 
 def read_results(options):
@@ -221,7 +169,7 @@ def read_results(options):
 
 def main():
     parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
-    parser.add_argument("what", choices=["run", "sanitize", "report"])
+    parser.add_argument("what", choices=["run", "report"])
     parser.add_argument("work")
     parser.add_argument("survivors", nargs="?")
     parser.add_argument("--again", action="store_true")
@@ -233,8 +181,6 @@ def main():
     results = read_results(options)
     if options.what == "run":
         run(options, results)
-    elif options.what == "sanitize":
-        sanitize(options, results)
     elif not report(results, read_survivors(options.survivors)):
         sys.exit(1)
 

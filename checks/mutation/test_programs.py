@@ -4,27 +4,31 @@ import resource
 import subprocess
 import threading
 
-# A filter names a part of a program.
-QUICK = ["fuzz/replay_messages", "fuzz/replay_adapters", "tests/test_codec", "tests/test_messages",
-         "tests/test_leniency", "tests/nal/test_nal -*_sweeps.*:*_bad_input.*", "tests/interop/test_interop"]
+# One set of programs after the other, until one program fails. A filter names a part of a program.
+FAST = ["fuzz/replay_messages", "fuzz/replay_adapters", "tests/test_codec", "tests/test_messages",
+        "tests/test_leniency", "tests/nal/test_nal -*_sweeps.*:*_bad_input.*", "tests/interop/test_interop"]
 SLOW = ["fuzz/test_adapter_agreement", "tests/model/test_model", "tests/nal/test_nal *_sweeps.*:*_bad_input.*",
         "tests/sweeps/test_sweeps"]
+# These call exported functions only, so that nothing but the library is compiled for the sanitizer.
+SANITIZED = ["fuzz/replay_messages", "fuzz/replay_adapters", "tests/test_messages", "tests/test_leniency",
+             "tests/interop/test_interop", "fuzz/test_adapter_agreement",
+             "tests/sweeps/test_sweeps *_boundaries.*/rec_sess_replay_req"]
+STAGES = {"fast": FAST, "slow": SLOW, "sanitized": SANITIZED}
 MEMORY_BYTES = 8 << 30
 
 
 class Program:
     """A test program of one build."""
 
-    def __init__(self, build, name, corpus, sanitized=False):
+    def __init__(self, build, name, corpus, sanitized):
         path, _, selected = name.partition(" ")
-        self.name = os.path.basename(name)
         self.target = os.path.basename(path)
+        self.name = f"{self.target} {selected}".strip()
         if self.name.startswith("replay_"):
             arguments = [os.path.join(corpus, self.name[len("replay_"):] + ".packed")]
         else:
             arguments = ["--gtest_fail_fast", "--gtest_brief=1", f"--gtest_filter={selected or '*'}"]
         self.command = [os.path.join(build, path), *arguments]
-        self.is_slow = name in SLOW
         self.sanitized = sanitized
         self.seconds = None
         self.reached = None  # all that there is
@@ -47,7 +51,7 @@ class Program:
     def measure(self):
         """Records the time without a mutant and the switched mutants that the program reaches, unless the file
         exists."""
-        notes = f"{self.command[0]}.{self.name.replace('*', 'all')}"
+        notes = f"{self.command[0]}.{self.name.replace('*', 'all').replace('/', '_')}"
         with self.lock:
             if self.seconds is not None:
                 return
@@ -80,5 +84,5 @@ class Program:
         return self.run(variables, int(3 * self.seconds) + 3, path) != 0
 
 
-def programs_of(build, corpus, sanitized=False):
-    return [Program(build, name, corpus, sanitized) for name in QUICK + SLOW]
+def programs_of(build, corpus, stage):
+    return [Program(build, name, corpus, stage == "sanitized") for name in STAGES[stage]]
