@@ -1,10 +1,10 @@
 """Finds compile-time code, each mutant of which needs a build: constants, the functions that compute them
 (COMPILED_FUNCTIONS), and template arguments.
 
-In an expression: a whole number one higher or lower (zero only higher), an operator exchanged for its counterpart, a truth value or a
-condition negated. In the rows of src/nal: a field number one higher, a limit one higher or lower, a condition left out,
-one of several conditions or values left out, a condition added where zeros and empty texts are sent, one direction made
-both.
+In an expression: a whole number one higher or lower (zero only higher), an operator exchanged for its counterpart, a
+truth value or a condition negated. In the rows of src/nal: a field number one higher, a limit one higher or lower, a
+condition left out, one of several conditions or values left out, a condition added where zeros and empty texts are
+sent, one direction made both.
 
 Without mutants: assertions and the numbers in field lists, because a change does not compile.
 """
